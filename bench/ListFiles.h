@@ -1,0 +1,22 @@
+// Loading and saving a large list file.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "bench/Report.h"
+#include "terminal/StandIn.h"
+
+namespace bench {
+
+struct ListFileSize {
+  std::size_t lists;
+  std::size_t symbols; // of each list
+};
+
+// `market` is the one that the services have at the moment; the ids are its. `directory` exists;
+// the files that are made in it are deleted.
+void MeasureListFiles(Report& report, const standin::Market& market, ListFileSize size,
+                      const std::string& directory, std::size_t repetitions);
+
+} // namespace bench

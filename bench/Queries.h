@@ -1,0 +1,28 @@
+// What is looked up: every symbol of a market once, in random order, the same order for all.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/framework/CString.h"
+#include "terminal/StandIn.h"
+
+namespace bench {
+
+// The same texts for the library and for a peer.
+struct Query {
+  std::vector<CString> ids;
+  std::vector<std::string> texts;
+};
+
+struct Queries {
+  Query full;                        // full ids of all symbols
+  Query bare;                        // bare codes of the symbols of the default exchanges
+  Query missing;                     // full ids that no exchange has
+  std::vector<int> defaults;         // the default exchanges' ids
+  std::vector<std::string> suffixes; // "." and the name of each
+};
+
+Queries MakeQueries(const standin::Market& market);
+
+} // namespace bench

@@ -1,0 +1,29 @@
+// The markets that are measured.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "terminal/StandIn.h"
+
+namespace bench {
+
+struct Universe {
+  std::string title;
+  standin::Market market;
+};
+
+// A real market's listing file: UTF-8, tab-separated, a first line of column names, then one line
+// for each listing with exchange, code, name, type and industry. False with a reason when it cannot
+// be read.
+bool ReadListings(const std::string& path, Universe& universe, std::string& error);
+
+// `count` symbols, spread evenly over 20 exchanges of which three are the user's default ones:
+// shares, warrants and options by the shape of their codes, each code once in the whole market.
+Universe GenerateUniverse(std::size_t count);
+
+// Full ids ("2330.TW") in the service's order.
+std::vector<std::string> FullIds(const standin::Market& market);
+
+} // namespace bench

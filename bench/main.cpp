@@ -1,0 +1,73 @@
+// Measures the library against what the same work costs elsewhere and prints one table of ratios.
+// docs/benchmarks.md says what stands behind each row.
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include "bench/ListFiles.h"
+#include "bench/LookUp.h"
+#include "bench/Options.h"
+#include "bench/Report.h"
+#include "bench/StartUp.h"
+#include "bench/Universe.h"
+#include "terminal/StandIn.h"
+
+namespace {
+
+bool IsLarge(std::size_t symbols) {
+  return symbols > 500'000;
+}
+
+void MeasureUniverse(bench::Report& report, bench::Universe universe, bool quick) {
+  const std::size_t symbols = universe.market.instruments.size();
+  const std::size_t startUps = quick ? 3 : IsLarge(symbols) ? 7 : 21;
+  const std::size_t lookUps = quick ? 3 : IsLarge(symbols) ? 5 : 21;
+  report.Section(universe.title + ", " + std::to_string(symbols) + " symbols");
+  standin::SetMarket(std::move(universe.market));
+  bench::MeasureStartUp(report, symbols, startUps);
+  bench::MeasureLookUps(report, standin::CurrentMarket(), lookUps);
+}
+
+void MeasureGenerated(bench::Report& report, const bench::Options& options,
+                      const std::string& directory) {
+  const std::size_t middle = options.quick ? 10'000 : 100'000;
+  const std::size_t repetitions = options.quick ? 3 : 21;
+  const bench::ListFileSize size =
+      options.quick ? bench::ListFileSize{20, 500} : bench::ListFileSize{1000, 500};
+  MeasureUniverse(report, bench::GenerateUniverse(middle), options.quick);
+  report.Section("list file of " + std::to_string(size.lists) + " lists of " +
+                 std::to_string(size.symbols) + " symbols of that universe");
+  bench::MeasureListFiles(report, standin::CurrentMarket(), size, directory, repetitions);
+  if (!options.quick)
+    MeasureUniverse(report, bench::GenerateUniverse(1'000'000), options.quick);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  bench::Options options;
+  std::string error;
+  if (!bench::ParseOptions(argc, argv, options, error)) {
+    std::fprintf(stderr, "%s\n", error.c_str());
+    return 2;
+  }
+  bench::Universe listings;
+  if (!options.listings.empty() && !bench::ReadListings(options.listings, listings, error)) {
+    std::fprintf(stderr, "tqBench: %s\n", error.c_str());
+    return 1;
+  }
+  standin::RecordCalls(false);
+  standin::SetTraditional(true);
+  std::filesystem::path directory = options.directory;
+  if (directory.empty())
+    directory = std::filesystem::absolute(argv[0]).parent_path() / "bench-data";
+  std::filesystem::create_directories(directory);
+  bench::Report report;
+  if (options.listings.empty())
+    std::printf("No --listings FILE: a real market's listing file is not measured.\n");
+  else
+    MeasureUniverse(report, std::move(listings), options.quick);
+  MeasureGenerated(report, options, directory.string());
+  return report.Finish();
+}

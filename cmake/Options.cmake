@@ -1,0 +1,32 @@
+# What every target of this tree is compiled with.
+find_program(TQ_CCACHE ccache)
+if(TQ_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TQ_CCACHE})
+endif()
+
+# The folder of platform/ whose bodies this build takes.
+if(WIN32)
+  set(TQ_PLATFORM win32)
+else()
+  set(TQ_PLATFORM posix)
+endif()
+
+add_library(tqOptions INTERFACE)
+target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+  -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Werror
+  # GCC 12 sees overlapping copies in every optimised assignment of a literal to a std::string.
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(TQ_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+  # A terminal ships our DLLs alone: the compiler's runtime goes into them. Nothing that one module
+  # allocates is freed by another, so each may have its own.
+  add_link_options(-static-libgcc -static-libstdc++ -Wl,-Bstatic,--whole-archive -lwinpthread
+    -Wl,--no-whole-archive,-Bdynamic)
+  add_compile_definitions(_WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX WIN32_LEAN_AND_MEAN)
+endif()

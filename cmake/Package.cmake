@@ -1,0 +1,49 @@
+# What `cmake --install` gives a terminal's programmers: the two libraries, the public headers in this
+# tree's folders, and the files by which CMake and pkg-config find them.
+include(CMakePackageConfigHelpers)
+
+# Every header that a terminal may include, and what those include. Nothing else is installed.
+set(TQ_FRAMEWORK_HEADERS
+  platform/CodePage.h
+  platform/framework/FrameworkApi.h)
+set(TQ_SYMBOL_HEADERS
+  tqSymbol.h
+  tqSymbolApi.h
+  platform/services/VLProxy.h
+  symbollist/IDList.h
+  symbollist/SymbolList.h
+  symbollist/TQSymbolListInfo.h
+  symbollist/TQSymbolListMgr.h
+  symboltable/SymbolTableMgr.h)
+
+set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
+file(RELATIVE_PATH TQ_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+
+# The headers come with the target. The number in the name of the .so is the
+# interface's: it changes when a terminal has to be compiled anew.
+function(tq_package_library target)
+  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/)
+  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
+  set_target_properties(${target} PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "\$ORIGIN")
+  target_compile_features(${target} INTERFACE cxx_std_20)
+  install(TARGETS ${target} EXPORT tqSymbolTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    FILE_SET HEADERS DESTINATION ${TQ_INCLUDE_DIR})
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${target}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+
+tq_package_library(tqFramework ${TQ_FRAMEWORK_HEADERS})
+tq_package_library(tqSymbol ${TQ_SYMBOL_HEADERS})
+
+set(TQ_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tqSymbol)
+install(EXPORT tqSymbolTargets NAMESPACE tqSymbol:: DESTINATION ${TQ_PACKAGE_DIR})
+configure_package_config_file(cmake/tqSymbolConfig.cmake.in tqSymbolConfig.cmake
+  INSTALL_DESTINATION ${TQ_PACKAGE_DIR} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(tqSymbolConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfigVersion.cmake DESTINATION ${TQ_PACKAGE_DIR})

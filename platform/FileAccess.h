@@ -1,0 +1,102 @@
+// Files of the library: whole-file reading and crash-safe saving.
+//
+// Conventions that hold for every operation of this header
+//  1. A path is narrow text in the process's ANSI code page: the directory as the terminal gave it,
+//     joined with one backslash to a file name of the library's own, which is plain ASCII
+//     ("<directory>\SymbolList.xml"). Everything before that backslash belongs to the user and is
+//     taken byte for byte: it may end in a double-byte character whose trail byte is 0x5C, and on
+//     POSIX it may be in any encoding. Only the body turns that one backslash into the system's
+//     separator; see SeparatorOf.
+//  2. A directory path carries no trailing separator and is used as it stands.
+//  3. Nothing throws and nothing is shown to the user: the caller reports failures.
+//  4. Calls come from the terminal's user-interface thread and are synchronous. Files() may be asked
+//     from any thread.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tq {
+
+enum class ReadResult {
+  Ok,
+  Missing,  // no such file, or no such directory
+  TooLarge, // the file is longer than the caller's limit; nothing was read
+  Failed,   // it is there and cannot be read (rights, a directory, an error of the disk)
+};
+
+enum class SaveResult {
+  Saved,     // the new bytes are in place and have reached the disk
+  NotOpened, // the file cannot be opened for writing; nothing was tried
+  Failed,    // it could not be written; the old file is as it was
+};
+
+class FileAccess {
+public:
+  virtual ~FileAccess() = default;
+
+  // Reads the whole file into `bytes`, which is replaced when the result is Ok and emptied otherwise.
+  // `limit` is the largest size accepted, in bytes. A file that grows while it is read gives Failed.
+  virtual ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) = 0;
+
+  // Makes the file hold exactly these bytes, creating it when it is missing. True when the new bytes
+  // are in place and have reached the disk; false leaves the old file as it was (unless the disk breaks
+  // while a file is written in place).
+  //
+  // - A file that cannot be opened for writing (read-only, or on Windows held by another program
+  //   without share-write) is refused, although its directory might let us replace it.
+  // - The bytes go in one write to "<path>.tmp", are flushed, and that file takes the target's place:
+  //   whatever kills the process or fills the disk, the target is the old file or the new one. What a
+  //   killed save left in "<path>.tmp" is overwritten by the next save, so leftovers never pile up.
+  // - Where the system refuses to replace (no rights on the directory, a mount point, on Windows a
+  //   target held without share-delete), the bytes are written over the target in place, after the
+  //   room for them has been reserved. Only this way is not safe against a kill in mid-write.
+  // - A symbolic link stays one: the file that it names is replaced. On POSIX mode, owner and group
+  //   are kept; another hard link to the file keeps the old bytes. On Windows file attributes are kept
+  //   and the access list is the directory's.
+  // - Two processes that save the same file at once do not mix: the later one waits up to half a
+  //   second and then fails.
+  virtual SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) = 0;
+
+  // True for an existing directory (a link to one too).
+  virtual bool DirectoryExists(const char* directory) = 0;
+  // True for an existing file of any kind that is not a directory.
+  virtual bool FileExists(const char* path) = 0;
+};
+
+// Hands every operation on to another object, so that a test overrides the one that it wants to fail.
+class FileAccessWrapper : public FileAccess {
+public:
+  // `target` is not owned and must outlive the wrapper.
+  explicit FileAccessWrapper(FileAccess& target) : target_(target) {}
+
+  ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
+    return target_.ReadWholeFile(path, limit, bytes);
+  }
+  SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
+    return target_.SaveWholeFile(path, bytes, size);
+  }
+  bool DirectoryExists(const char* directory) override {
+    return target_.DirectoryExists(directory);
+  }
+  bool FileExists(const char* path) override { return target_.FileExists(path); }
+
+private:
+  FileAccess& target_;
+};
+
+// The file access that the library uses: the operating system's unless SetFiles gave another.
+FileAccess& Files();
+
+// Puts `files` in its place and returns the one before, for giving it back. Null stands for the
+// operating system's. `files` is not owned and must outlive its use.
+FileAccess* SetFiles(FileAccess* files);
+
+// The position of the library's own separator in `path` (convention 1): the last backslash, when a
+// plain ASCII file name follows it and no other separator; npos otherwise. Any backslash further left
+// is part of the user's directory. Since the library's file names are ASCII, this finds the separator
+// without knowing the encoding of the directory, so it can neither split a double-byte character nor
+// take a separator for a trail byte.
+std::size_t SeparatorOf(const char* path);
+
+} // namespace tq

@@ -1,0 +1,7 @@
+#include "platform/ModulePath.h"
+
+namespace tq {
+
+std::string OwnModuleDirectory() { return DirectoryOf(OwnModulePath()); }
+
+} // namespace tq

@@ -1,0 +1,39 @@
+// The system's character tables: between Unicode and the double-byte code pages.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tq {
+
+// Code pages that text of the library's files may be in, by their Windows numbers.
+inline constexpr unsigned CodePageBig5 = 950;
+inline constexpr unsigned CodePageGbk = 936;
+
+// The process's ANSI code page: GetACP() on Windows; elsewhere 950 while the terminal runs in
+// Traditional Chinese and 936 while it does not. Any thread.
+unsigned AnsiCodePage();
+
+// Decodes text of CodePageBig5 or CodePageGbk into `utf8`, which is replaced. False when a byte or
+// character is none of the code page's, or when the system has no table for it.
+bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8);
+
+// Encodes single characters into one code page. Create one for a text, not for a character.
+class CharacterEncoder {
+public:
+  explicit CharacterEncoder(unsigned codePage);
+  ~CharacterEncoder();
+  CharacterEncoder(const CharacterEncoder&) = delete;
+  CharacterEncoder& operator=(const CharacterEncoder&) = delete;
+
+  // Writes the bytes of `character` (a Unicode scalar value) and returns their number, 1 or 2. A
+  // character that the code page lacks is "?"; none is replaced by one that only looks like it.
+  std::size_t Encode(char32_t character, char (&bytes)[2]);
+
+private:
+  unsigned codePage_;
+  void* table_; // the body's own
+};
+
+} // namespace tq

@@ -1,0 +1,78 @@
+#include "platform/XmlCharacters.h"
+
+#include "platform/CodePage.h"
+#include "platform/TextTables.h"
+
+namespace tq {
+namespace {
+
+unsigned Byte(const char* at) { return static_cast<unsigned char>(*at); }
+
+bool IsContinuation(const char* at) { return (Byte(at) & 0xC0) == 0x80; }
+
+bool Within(unsigned byte, unsigned first, unsigned last) { return byte >= first && byte <= last; }
+
+std::size_t LengthByFirstByte(unsigned first) {
+  if (Within(first, 0xC2, 0xDF))
+    return 2;
+  if (Within(first, 0xE0, 0xEF))
+    return 3;
+  return Within(first, 0xF0, 0xF4) ? 4 : 0;
+}
+
+bool IsAllowed(char32_t character, std::size_t length) {
+  constexpr char32_t shortest[] = {0, 0, 0x80, 0x800, 0x10000};
+  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+  const bool noCharacter = character == 0xFFFE || character == 0xFFFF;
+  return character >= shortest[length] && character <= 0x10FFFF && !surrogate && !noCharacter;
+}
+
+bool IsTrail(unsigned codePage, unsigned byte) {
+  if (codePage == CodePageBig5)
+    return Within(byte, 0x40, 0x7E) || Within(byte, 0xA1, 0xFE);
+  if (codePage == CodePageGbk)
+    return Within(byte, 0x40, 0x7E) || Within(byte, 0x80, 0xFE);
+  return byte >= 0x40;
+}
+
+} // namespace
+
+std::size_t Utf8CharLength(const char* at, const char* end) {
+  const std::size_t length = LengthByFirstByte(Byte(at));
+  if (length == 0 || static_cast<std::size_t>(end - at) < length)
+    return 0;
+  for (std::size_t i = 1; i < length; ++i) {
+    if (!IsContinuation(at + i))
+      return 0;
+  }
+  return IsAllowed(TakeUtf8Char(at), length) ? length : 0;
+}
+
+char32_t TakeUtf8Char(const char*& at) {
+  const unsigned first = Byte(at);
+  const std::size_t length = first < 0x80 ? 1 : LengthByFirstByte(first);
+  char32_t character = length < 2 ? first : first & (0x7FU >> length);
+  ++at;
+  for (std::size_t i = 1; i < length; ++i, ++at)
+    character = character << 6 | (Byte(at) & 0x3F);
+  return character;
+}
+
+void PutUtf8Char(char32_t character, char (&bytes)[4]) {
+  bytes[0] = static_cast<char>(0xF0 | character >> 18);
+  bytes[1] = static_cast<char>(0x80 | (character >> 12 & 0x3F));
+  bytes[2] = static_cast<char>(0x80 | (character >> 6 & 0x3F));
+  bytes[3] = static_cast<char>(0x80 | (character & 0x3F));
+}
+
+std::size_t AnsiCharLength(unsigned codePage, const char* at, const char* end) {
+  const bool chinese = codePage == CodePageBig5 || codePage == CodePageGbk;
+  const unsigned first = Byte(at);
+  const bool lead = chinese ? Within(first, 0x81, 0xFE) : IsLeadByte(*at);
+  if (lead)
+    return end - at > 1 && IsTrail(codePage, Byte(at + 1)) ? 2 : 0;
+  const bool single = !chinese || (codePage == CodePageGbk && first == 0x80); // the euro sign
+  return single ? 1 : 0;
+}
+
+} // namespace tq

@@ -1,0 +1,19 @@
+// The start of an XML file: byte-order mark and XML declaration.
+#pragma once
+
+#include "platform/XmlText.h"
+
+namespace tq {
+
+enum class XmlEncoding { Utf8, Ascii, Big5, Gbk };
+
+struct XmlDeclaration {
+  XmlEncoding encoding = XmlEncoding::Utf8; // what the recommendation says of a file that names none
+  std::size_t length = 0;                   // bytes before the text proper
+};
+
+// Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without declaration
+// is Ok.
+XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration);
+
+} // namespace tq

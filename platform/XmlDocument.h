@@ -1,0 +1,92 @@
+// Strict, closed reading of small XML files through the platform's DOM.
+//
+// Conventions that hold for all of it
+//  1. Strict: the text must be well-formed, namespace prefixes declared. A stray apostrophe,
+//     ampersand or angle bracket, a character that the declared encoding does not have, or anything
+//     after the root element refuses the whole document. There is no repair.
+//  2. Closed: a document type declaration is refused before the DOM sees the text, so there are no
+//     entities beyond the five predefined ones and character references. Nothing is fetched. Size is
+//     bounded by XmlSizeLimit and nesting by XmlDepthLimit (platform/XmlText.h).
+//  3. Text comes out in the process's ANSI code page. From a file in that code page every character
+//     comes out as the very bytes that stand in the file, user-defined characters included. From a
+//     file in another encoding, and from a character reference, a character that the code page lacks
+//     comes out as "?". Element and attribute names are ASCII.
+//  4. Both bodies (MSXML 3.0's free-threaded DOM on Windows, libxml2 elsewhere) give the same answer.
+//  5. Paths are element names joined with "/" from the root, "/Result/SymbolList/List". A name in a
+//     path stands for elements without a namespace. Letter case counts.
+//  6. Nothing throws. A failure of the platform's DOM reads as "not there".
+//  7. One thread at a time for a document and its elements.
+//     On Windows COM is initialised while a document lives, whichever apartment the thread is in.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+class CString;
+
+namespace tq {
+
+// A borrowed view of one element. Cheap to copy. It must not outlive its document or that document's
+// next Load.
+class XmlElement {
+public:
+  // No element: every question is answered with "not there".
+  XmlElement() = default;
+  XmlElement(const XmlElement& other);
+  XmlElement(XmlElement&& other) noexcept;
+  XmlElement& operator=(XmlElement other) noexcept;
+  ~XmlElement();
+
+  bool IsNull() const { return node_ == nullptr; }
+
+  // True when the element bears at least one attribute, namespace declarations not counted.
+  bool HasAttributes() const;
+
+  // The value of the attribute with that name and no namespace. Present: true, `value` assigned once
+  // (perhaps to empty). Absent: false, `value` untouched.
+  bool Attribute(const char* name, CString& value) const;
+
+  // The element's name without a namespace prefix. False, `name` untouched, for no element.
+  bool Name(CString& name) const;
+
+  // The element's own text: its text and CDATA pieces joined, those of child elements left out, white
+  // space kept. False, `text` untouched, for no element.
+  bool Text(CString& text) const;
+
+  // The child elements in document order; with a name only those of that name without a namespace.
+  std::vector<XmlElement> Children(const char* name = nullptr) const;
+
+private:
+  friend class XmlDocument;
+  XmlElement(void* node, bool carried) : node_(node), carried_(carried) {}
+
+  void* node_ = nullptr;  // the DOM's: a counted interface on Windows, a plain pointer elsewhere
+  bool carried_ = false;  // see XmlText::carried
+};
+
+class XmlDocument {
+public:
+  XmlDocument();
+  ~XmlDocument();
+  XmlDocument(const XmlDocument&) = delete;
+  XmlDocument& operator=(const XmlDocument&) = delete;
+
+  // Reads a whole file's bytes, declaration and all. `data` is not needed after the call. False when
+  // they are refused; the document is then empty. May be called again; the document before is dropped.
+  bool Load(const char* data, std::size_t size);
+
+  // The document element; null for an empty document.
+  XmlElement Root() const;
+
+  // The first element at `path` in document order; null when there is none.
+  XmlElement SelectSingle(const char* path) const;
+
+  // All elements at `path`, whichever parents they have, in document order.
+  std::vector<XmlElement> Select(const char* path) const;
+
+private:
+  void* state_ = nullptr; // the body's own
+  bool carried_ = false;
+};
+
+} // namespace tq

@@ -1,0 +1,269 @@
+#include "platform/XmlScan.h"
+
+#include "platform/XmlCharacters.h"
+
+#include <array>
+#include <cstdint>
+
+namespace tq {
+namespace {
+
+// Classes of bytes, as bits, so that one look-up tells whether a byte ends a run.
+enum ByteClass : std::uint8_t {
+  NotAscii = 1,
+  Forbidden = 2, // control characters
+  Less = 4,
+  Ampersand = 8,
+  Apostrophe = 16,
+  Quotation = 32,
+  Greater = 64,
+  Closer = 128, // '-', ']' and '?', which begin the end of comment, CDATA section and instruction
+};
+
+constexpr std::array<std::uint8_t, 256> BuildClasses() {
+  std::array<std::uint8_t, 256> classes{};
+  for (unsigned byte = 0; byte < 0x20; ++byte)
+    classes[byte] = Forbidden;
+  classes['\t'] = classes['\n'] = classes['\r'] = 0;
+  for (unsigned byte = 0x80; byte < 0x100; ++byte)
+    classes[byte] = NotAscii;
+  classes['<'] = Less;
+  classes['&'] = Ampersand;
+  classes['\''] = Apostrophe;
+  classes['"'] = Quotation;
+  classes['>'] = Greater;
+  classes['-'] = classes[']'] = classes['?'] = Closer;
+  return classes;
+}
+
+constexpr auto Classes = BuildClasses();
+
+unsigned ClassOf(char byte) { return Classes[static_cast<unsigned char>(byte)]; }
+
+class Scanner {
+public:
+  Scanner(std::string_view text, XmlCharset charset, unsigned codePage, std::string& rewritten)
+      : at_(text.data()), end_(at_ + text.size()), run_(at_), charset_(charset),
+        codePage_(codePage), out_(rewritten) {}
+
+  XmlVerdict Scan();
+
+private:
+  bool Refuse(XmlVerdict why) {
+    verdict_ = why;
+    return false;
+  }
+  bool StartsWith(std::string_view wanted) const {
+    return std::string_view(at_, static_cast<std::size_t>(end_ - at_)).starts_with(wanted);
+  }
+
+  bool SkipTo(unsigned stops);
+  bool SkipBehind(std::string_view closing);
+  bool TakeWideCharacter();
+  void Replace(std::size_t length, std::string_view with);
+  void TakeReference();
+  bool TakeMarkup();
+  bool TakeInstruction();
+  bool TakeEndTag();
+  bool TakeStartTag();
+  bool TakeQuoted();
+
+  const char* at_;
+  const char* const end_;
+  const char* run_; // what stands between here and at_ is yet to be copied into out_, unchanged
+  const XmlCharset charset_;
+  const unsigned codePage_;
+  std::string& out_;
+  int depth_ = 0;
+  bool anyElement_ = false;
+  XmlVerdict verdict_ = XmlVerdict::Ok;
+};
+
+// Moves to the next byte of a class in `stops`, or to the end. False when a character is refused.
+bool Scanner::SkipTo(unsigned stops) {
+  stops |= NotAscii | Forbidden;
+  for (;;) {
+    while (at_ != end_ && (ClassOf(*at_) & stops) == 0)
+      ++at_;
+    if (at_ == end_)
+      return true;
+    const unsigned found = ClassOf(*at_);
+    if ((found & Forbidden) != 0)
+      return Refuse(XmlVerdict::BadCharacters);
+    if ((found & NotAscii) == 0)
+      return true;
+    if (!TakeWideCharacter())
+      return Refuse(XmlVerdict::BadCharacters);
+  }
+}
+
+// Moves behind the next `closing`, whose first byte is of class Closer or Greater.
+bool Scanner::SkipBehind(std::string_view closing) {
+  while (SkipTo(ClassOf(closing.front()))) {
+    if (at_ == end_)
+      return Refuse(XmlVerdict::Malformed);
+    if (StartsWith(closing)) {
+      at_ += closing.size();
+      return true;
+    }
+    ++at_;
+  }
+  return false;
+}
+
+bool Scanner::TakeWideCharacter() {
+  if (charset_ == XmlCharset::Utf8) {
+    const std::size_t length = Utf8CharLength(at_, end_);
+    at_ += length;
+    return length != 0;
+  }
+  const std::size_t length =
+      charset_ == XmlCharset::Carried ? AnsiCharLength(codePage_, at_, end_) : 0;
+  if (length == 0)
+    return false;
+  char32_t carried = CarriedBase;
+  carried |= static_cast<unsigned char>(at_[0]);
+  if (length == 2)
+    carried = CarriedBase | (carried & 0xFF) << 8 | static_cast<unsigned char>(at_[1]);
+  char bytes[4];
+  PutUtf8Char(carried, bytes);
+  Replace(length, {bytes, sizeof bytes});
+  return true;
+}
+
+void Scanner::Replace(std::size_t length, std::string_view with) {
+  out_.append(run_, at_);
+  out_.append(with);
+  at_ += length;
+  run_ = at_;
+}
+
+// At an ampersand. Looks only for numbers of the private plane; the DOM judges references.
+void Scanner::TakeReference() {
+  const char* p = at_ + 1;
+  if (p == end_ || *p != '#')
+    return;
+  ++p;
+  const bool hexadecimal = p != end_ && *p == 'x';
+  if (hexadecimal)
+    ++p;
+  constexpr char32_t plane = 0x10000;
+  char32_t value = 0;
+  for (; p != end_ && *p != ';'; ++p) {
+    const char letter = static_cast<char>(*p | 0x20);
+    const bool digit = *p >= '0' && *p <= '9';
+    if (!digit && !(hexadecimal && letter >= 'a' && letter <= 'f'))
+      return;
+    const auto number = static_cast<char32_t>(digit ? *p - '0' : letter - 'a' + 10);
+    if (value < CarriedBase + plane) // beyond it stays beyond it
+      value = value * (hexadecimal ? 16 : 10) + number;
+  }
+  if (p != end_ && value >= CarriedBase && value < CarriedBase + plane)
+    Replace(static_cast<std::size_t>(p + 1 - at_), "?");
+}
+
+bool Scanner::TakeInstruction() {
+  // "<?xml ...?>" is for the start of a file only, and that one has been taken off.
+  const bool reserved = end_ - at_ > 5 && (at_[2] | 0x20) == 'x' && (at_[3] | 0x20) == 'm' &&
+                        (at_[4] | 0x20) == 'l' && (ClassOf(at_[5]) == Closer || at_[5] <= ' ');
+  if (reserved)
+    return Refuse(XmlVerdict::BadDeclaration);
+  at_ += 2;
+  return SkipBehind("?>");
+}
+
+bool Scanner::TakeEndTag() {
+  at_ += 2;
+  --depth_;
+  return depth_ < 0 ? Refuse(XmlVerdict::Malformed) : SkipBehind(">");
+}
+
+// At a quotation mark of either kind: moves behind the next of its kind.
+bool Scanner::TakeQuoted() {
+  const unsigned mark = ClassOf(*at_);
+  ++at_;
+  while (SkipTo(mark | Ampersand)) {
+    if (at_ == end_)
+      return Refuse(XmlVerdict::Malformed);
+    if ((ClassOf(*at_) & mark) != 0) {
+      ++at_;
+      return true;
+    }
+    const char* before = at_;
+    if (charset_ == XmlCharset::Carried)
+      TakeReference();
+    if (at_ == before)
+      ++at_;
+  }
+  return false;
+}
+
+bool Scanner::TakeStartTag() {
+  anyElement_ = true;
+  if (depth_ == XmlDepthLimit)
+    return Refuse(XmlVerdict::TooDeep);
+  ++at_;
+  while (SkipTo(Greater | Apostrophe | Quotation)) {
+    if (at_ == end_)
+      return Refuse(XmlVerdict::Malformed);
+    if (ClassOf(*at_) == Greater) {
+      if (at_[-1] != '/')
+        ++depth_;
+      ++at_;
+      return true;
+    }
+    if (!TakeQuoted())
+      return false;
+  }
+  return false;
+}
+
+// At "<".
+bool Scanner::TakeMarkup() {
+  if (StartsWith("<!--")) {
+    at_ += 4;
+    return SkipBehind("-->");
+  }
+  if (StartsWith("<![CDATA[")) {
+    at_ += 9;
+    return SkipBehind("]]>");
+  }
+  if (StartsWith("<!"))
+    return Refuse(XmlVerdict::DocumentType);
+  if (StartsWith("<?"))
+    return TakeInstruction();
+  return StartsWith("</") ? TakeEndTag() : TakeStartTag();
+}
+
+XmlVerdict Scanner::Scan() {
+  while (SkipTo(Less | Ampersand)) {
+    if (at_ == end_) {
+      if (depth_ != 0 || !anyElement_)
+        Refuse(XmlVerdict::Malformed);
+      break;
+    }
+    if (*at_ == '<') {
+      if (!TakeMarkup())
+        break;
+      continue;
+    }
+    const char* before = at_;
+    if (charset_ == XmlCharset::Carried)
+      TakeReference();
+    if (at_ == before)
+      ++at_;
+  }
+  if (!out_.empty())
+    out_.append(run_, at_);
+  return verdict_;
+}
+
+} // namespace
+
+XmlVerdict ScanXml(std::string_view text, XmlCharset charset, unsigned codePage,
+                   std::string& rewritten) {
+  rewritten.clear();
+  return Scanner(text, charset, codePage, rewritten).Scan();
+}
+
+} // namespace tq

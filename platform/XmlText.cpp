@@ -1,0 +1,122 @@
+#include "platform/XmlText.h"
+
+#include "platform/TextTables.h"
+#include "platform/XmlCharacters.h"
+#include "platform/XmlDeclaration.h"
+#include "platform/XmlScan.h"
+#include "platform/framework/CString.h"
+#include "platform/services/tqCommon.h"
+
+#include <algorithm>
+
+namespace tq {
+namespace {
+
+constexpr std::size_t ShortText = 512; // bytes; list names and ids are far shorter
+
+// A list file holds text of the process's code page whatever its declaration says: the writer names big5
+// or gb2312 by the interface language, and on Windows the code page does not follow that. So a
+// declaration that this process would write now stands for the code page, as does the code page's own.
+bool IsProcessText(unsigned declared) {
+  const unsigned written = ::IsTraditionChinese() != 0 ? CodePageBig5 : CodePageGbk;
+  return declared == written || declared == AnsiCodePage();
+}
+
+bool IsStructured(unsigned codePage, std::string_view text) {
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end;) {
+    const bool ascii = static_cast<unsigned char>(*at) < 0x80;
+    const std::size_t length = ascii ? 1 : AnsiCharLength(codePage, at, end);
+    if (length == 0)
+      return false;
+    at += length;
+  }
+  return true;
+}
+
+// Text of the other Chinese code page. The structure is checked by us, so that all platforms refuse the
+// same bytes whatever their tables make of them.
+XmlVerdict PrepareForeign(unsigned codePage, std::string_view body, XmlText& text) {
+  if (!IsStructured(codePage, body) || !DecodeText(codePage, body, text.buffer))
+    return XmlVerdict::BadCharacters;
+  std::string none;
+  text.utf8 = text.buffer;
+  return ScanXml(text.utf8, XmlCharset::Utf8, codePage, none);
+}
+
+XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& text) {
+  const unsigned declared = encoding == XmlEncoding::Big5 ? CodePageBig5 : CodePageGbk;
+  const bool chinese = encoding == XmlEncoding::Big5 || encoding == XmlEncoding::Gbk;
+  if (chinese && !IsProcessText(declared))
+    return PrepareForeign(declared, body, text);
+  text.carried = chinese;
+  XmlCharset charset = chinese ? XmlCharset::Carried : XmlCharset::Utf8;
+  if (encoding == XmlEncoding::Ascii)
+    charset = XmlCharset::Ascii;
+  const XmlVerdict verdict = ScanXml(body, charset, AnsiCodePage(), text.buffer);
+  text.utf8 = text.buffer.empty() ? body : std::string_view(text.buffer);
+  return verdict;
+}
+
+// Writes the text's bytes; `out` has room for as many as `utf8` has, and there are never more.
+std::size_t EncodeText(std::string_view utf8, bool carried, char* out) {
+  CharacterEncoder encoder(AnsiCodePage());
+  const char* at = utf8.data();
+  const char* const end = at + utf8.size();
+  char* const start = out;
+  while (at != end) {
+    if (static_cast<unsigned char>(*at) < 0x80) {
+      *out++ = *at++;
+      continue;
+    }
+    const char32_t character = TakeUtf8Char(at);
+    if (carried && character >= CarriedBase && character <= CarriedBase + 0xFFFF) {
+      if ((character & 0xFF00) != 0)
+        *out++ = static_cast<char>(character >> 8 & 0xFF);
+      *out++ = static_cast<char>(character & 0xFF);
+      continue;
+    }
+    char bytes[2];
+    out = std::copy_n(bytes, encoder.Encode(character, bytes), out);
+  }
+  return static_cast<std::size_t>(out - start);
+}
+
+bool IsAscii(std::string_view text) {
+  return std::none_of(text.begin(), text.end(),
+                      [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
+
+} // namespace
+
+XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text) {
+  text.utf8 = {};
+  text.buffer.clear();
+  text.carried = false;
+  if (size > XmlSizeLimit)
+    return XmlVerdict::TooLarge;
+  const std::string_view file(data, size);
+  XmlDeclaration declaration;
+  const XmlVerdict verdict = ReadXmlDeclaration(file, declaration);
+  if (verdict != XmlVerdict::Ok)
+    return verdict;
+  return PrepareBody(declaration.encoding, file.substr(declaration.length), text);
+}
+
+void AssignXmlText(std::string_view utf8, bool carried, CString& value) {
+  if (IsAscii(utf8)) {
+    value.SetString(utf8.data(), static_cast<int>(utf8.size()));
+    return;
+  }
+  char local[ShortText];
+  std::string large;
+  char* out = local;
+  if (utf8.size() > sizeof local) {
+    large.resize(utf8.size());
+    out = large.data();
+  }
+  const std::size_t length = EncodeText(utf8, carried, out);
+  value.SetString(out, static_cast<int>(length));
+}
+
+} // namespace tq

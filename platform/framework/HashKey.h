@@ -1,0 +1,55 @@
+// Hash values for the keys of a CMap. They serve one run of a process and are never stored.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <type_traits>
+
+namespace tq {
+
+// Spreads a number over all bits of the result, the low ones too, which pick the bucket.
+inline size_t MixBits(uint64_t value) {
+  constexpr uint64_t odd = 0x9E3779B97F4A7C15u;
+  value = (value ^ (value >> 32)) * odd;
+  value = (value ^ (value >> 29)) * odd;
+  return static_cast<size_t>(value ^ (value >> 32));
+}
+
+// Hash of `length` bytes, eight at a time: ids are short, and most take two steps.
+inline size_t HashBytes(const char* bytes, size_t length) {
+  constexpr uint64_t odd = 0xD6E8FEB86659FD93u;
+  uint64_t hash = length * odd;
+  for (; length >= sizeof hash; bytes += sizeof hash, length -= sizeof hash) {
+    uint64_t word;
+    std::memcpy(&word, bytes, sizeof word);
+    hash = (hash ^ word) * odd;
+    hash ^= hash >> 32;
+  }
+  uint64_t rest = 0;
+  for (size_t i = 0; i < length; ++i)
+    rest = rest << 8 | static_cast<unsigned char>(bytes[i]);
+  return MixBits(hash ^ rest);
+}
+
+// Characters up to their NUL, not the address; null counts as empty, as everywhere in the
+// framework.
+inline size_t HashKey(const char* text) {
+  return text == nullptr ? HashBytes("", 0) : HashBytes(text, std::strlen(text));
+}
+inline size_t HashKey(char* text) {
+  return HashKey(static_cast<const char*>(text));
+}
+
+// Numbers and named constants by value, other pointers by address, the rest by std::hash.
+template <class KEY> size_t HashKey(const KEY& key) {
+  if constexpr (std::is_integral_v<KEY> || std::is_enum_v<KEY>)
+    return MixBits(static_cast<uint64_t>(key));
+  else if constexpr (std::is_pointer_v<KEY>)
+    return MixBits(reinterpret_cast<uintptr_t>(key));
+  else
+    return std::hash<KEY>()(key);
+}
+
+} // namespace tq

@@ -1,0 +1,32 @@
+// Lengths of the framework's strings are int; this keeps arithmetic with them inside its bounds.
+// Internal.
+#pragma once
+
+#include <climits>
+#include <cstring>
+
+#include "platform/framework/Storage.h"
+
+namespace tq {
+
+// The length of a NUL-terminated text, 0 for null. Stops the program where an int cannot hold it.
+inline int LengthOf(const char* text) {
+  const size_t length = text == nullptr ? 0 : std::strlen(text);
+  if (length > INT_MAX)
+    OutOfMemory();
+  return static_cast<int>(length);
+}
+
+// The sum of two lengths; stops the program where an int cannot hold it.
+inline int SumOf(int left, int right) {
+  if (left > INT_MAX - right)
+    OutOfMemory();
+  return left + right;
+}
+
+inline void CopyBytes(char* to, const char* from, int length) {
+  if (length > 0)
+    std::memmove(to, from, static_cast<size_t>(length));
+}
+
+} // namespace tq

@@ -1,0 +1,85 @@
+#include "platform/TextTables.h"
+
+#include "platform/services/tqCommon.h"
+
+#include <cerrno>
+#include <iconv.h>
+
+namespace tq {
+namespace {
+
+constexpr char EuroInGbk = '\x80'; // Windows' code page has it, iconv's table does not
+constexpr char32_t EuroSign = 0x20AC;
+constexpr char EuroInUtf8[] = "\xE2\x82\xAC";
+constexpr std::size_t Utf8PerByte = 2; // a double-byte character takes three or four
+
+const iconv_t NoTable = reinterpret_cast<iconv_t>(-1);
+
+const char* TableName(unsigned codePage) { return codePage == CodePageBig5 ? "CP950" : "CP936"; }
+
+// Runs the table over `text`; returns the bytes taken. `utf8` grows by what came out.
+std::size_t DecodeRun(iconv_t table, std::string_view text, std::string& utf8) {
+  const std::size_t start = utf8.size();
+  utf8.resize(start + text.size() * Utf8PerByte);
+  char* in = const_cast<char*>(text.data());
+  char* out = utf8.data() + start;
+  std::size_t inLeft = text.size();
+  std::size_t outLeft = utf8.size() - start;
+  ::iconv(table, &in, &inLeft, &out, &outLeft);
+  utf8.resize(utf8.size() - outLeft);
+  return text.size() - inLeft;
+}
+
+bool DecodeAll(iconv_t table, unsigned codePage, std::string_view text, std::string& utf8) {
+  for (;;) {
+    text.remove_prefix(DecodeRun(table, text, utf8));
+    if (text.empty())
+      return true;
+    if (codePage != CodePageGbk || text.front() != EuroInGbk)
+      return false;
+    utf8 += EuroInUtf8;
+    text.remove_prefix(1);
+  }
+}
+
+} // namespace
+
+unsigned AnsiCodePage() { return ::IsTraditionChinese() != 0 ? CodePageBig5 : CodePageGbk; }
+
+bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
+  utf8.clear();
+  const iconv_t table = ::iconv_open("UTF-8", TableName(codePage));
+  if (table == NoTable)
+    return false;
+  const bool whole = DecodeAll(table, codePage, text, utf8);
+  ::iconv_close(table);
+  return whole;
+}
+
+CharacterEncoder::CharacterEncoder(unsigned codePage)
+    : codePage_(codePage), table_(::iconv_open(TableName(codePage), "UTF-32LE")) {}
+
+CharacterEncoder::~CharacterEncoder() {
+  if (table_ != NoTable)
+    ::iconv_close(table_);
+}
+
+std::size_t CharacterEncoder::Encode(char32_t character, char (&bytes)[2]) {
+  if (codePage_ == CodePageGbk && character == EuroSign) {
+    bytes[0] = EuroInGbk;
+    return 1;
+  }
+  char source[4];
+  for (unsigned i = 0; i < sizeof source; ++i)
+    source[i] = static_cast<char>(character >> (8 * i) & 0xFF);
+  char* in = source;
+  char* out = bytes;
+  std::size_t inLeft = sizeof source;
+  std::size_t outLeft = sizeof bytes;
+  if (table_ != NoTable && ::iconv(table_, &in, &inLeft, &out, &outLeft) == 0)
+    return sizeof bytes - outLeft;
+  bytes[0] = '?';
+  return 1;
+}
+
+} // namespace tq

@@ -1,0 +1,39 @@
+// TQLog: the terminal's logging library. One logger writes one file of a directory.
+//
+// A line is written as logger(level).write(format, ...). A logger belongs to the thread that made
+// it.
+#pragma once
+
+class TQLog {
+public:
+  TQLog();
+  // Closes the file.
+  ~TQLog();
+  TQLog(const TQLog&) = delete;
+  TQLog& operator=(const TQLog&) = delete;
+
+  // Opens the log for appending and closes the one that was open: `directory` in the process's ANSI
+  // code page, joined by backslashes without one at the end, its last level created when missing;
+  // `base` is the file's name without extension; `prefix` opens every line. With `daily` the file
+  // is
+  // "<base>_<yyyymmdd>.log", of the day on which it was opened, else "<base>.log". With `flush`
+  // each line is on its way to the disk when its write returns. Returns non-zero on success.
+  // Without a success every write is dropped.
+  int storage(const char* directory, const char* base, const char* prefix, bool daily, bool flush);
+
+  // Sets the level that the next lines carry (64 changes of lists, 256 start and stop ...).
+  TQLog& operator()(int level);
+
+  // One line, printf-style; the line feed is the logger's. User text is an argument, never the
+  // format. Returns non-zero when the line was written.
+  int write(const char* format, ...)
+#if defined(__MINGW32__)
+      __attribute__((format(gnu_printf, 2, 3)))
+#elif defined(__GNUC__)
+      __attribute__((format(printf, 2, 3)))
+#endif
+      ;
+
+private:
+  void* impl_; // the logging library's own
+};

@@ -1,0 +1,86 @@
+// TQSProxy: the terminal's trading-system proxy. Login information, trading systems with their
+// accounts and holdings, and change notifications.
+//
+// Conventions that hold for every operation of this header
+//  1. Results are int: non-zero for success, 0 for failure. A null text or a null output is a
+//  failure.
+//     Nothing throws.
+//  2. Text is NUL-terminated, in the process's ANSI code page, and cut at a whole character.
+//  3. Every call is synchronous, on the terminal's user-interface thread.
+//  4. Records are packed; their sizes and the offsets named here are the service's and do not
+//  change.
+#pragma once
+
+#include <cstddef>
+
+// What TQSGetUserInfo is asked for.
+enum LoginInfoFlag : int {
+  LoginInfoEntitledExchanges = 0, // exchange ids, comma-separated decimal numbers
+  LoginInfoDefaultExchanges = 6,  // the user's default exchange ids, comma-separated, best first
+};
+
+// The size of the buffer that TQSGetUserInfo fills, with the NUL.
+enum { TQSUserInfoSize = 256 };
+
+// The kind of a trading account: stock, futures ... The numbers are the trading system's; the
+// library carries them and writes them as integers.
+enum TqsAccType : int {};
+
+#pragma pack(push, 1)
+
+// One trading system that the user is logged in to.
+struct TQS_TSINFO {
+  char id[32];    // the key of every look-up
+  char name[256]; // display name and, after its NUL, the service's own
+};
+
+// One account of a trading system.
+struct TQS_ACCOUNTINFO {
+  TqsAccType type;     // 4 bytes
+  char id[32];         // account id
+  char displayId[768]; // what the user sees (a masked number) and, after its NUL, the service's own
+};
+
+#pragma pack(pop)
+
+static_assert(sizeof(TQS_TSINFO) == 288);
+static_assert(offsetof(TQS_TSINFO, id) == 0 && offsetof(TQS_TSINFO, name) == 32);
+static_assert(sizeof(TqsAccType) == 4 && sizeof(TQS_ACCOUNTINFO) == 804);
+static_assert(offsetof(TQS_ACCOUNTINFO, type) == 0 && offsetof(TQS_ACCOUNTINFO, id) == 4);
+static_assert(offsetof(TQS_ACCOUNTINFO, displayId) == 36);
+
+extern "C" {
+
+// Writes one piece of the login information into `buffer` (256 bytes). The third argument is "".
+// Fails when nobody is logged in or the flag is unknown; a user without the information is a
+// success with "".
+int TQSGetUserInfo(LoginInfoFlag flag, char* buffer, const char* reserved);
+
+// Tells the terminal that something changed: target "", -1, a code (4 symbols or names of lists, 40
+// user lists, 41 cloud lists) and a reason text ("ListCntChange", "ListNameChange", "TSSymbolList"
+// or ""). The terminal has acted on it when the call returns.
+void TQSCall(const char* target, long reserved, long code, const char* reason);
+
+// The number of trading systems that the user is logged in to.
+int TQSGetTSCount(void);
+
+// One of them, 0 <= index < TQSGetTSCount().
+int TQSGetTSInfo(int index, TQS_TSINFO* info);
+
+// 0 while the trading system is not available: not logged in, or unknown.
+int TQSGetTSStatus(const char* tsId);
+
+// The number of accounts of a trading system; 0 for an unknown one.
+int TQSGetTSAccountCount(const char* tsId);
+
+// One of them, 0 <= index < TQSGetTSAccountCount(tsId). A failed index is skipped, not the end.
+int TQSGetTSAccount(const char* tsId, int index, TQS_ACCOUNTINFO* account);
+
+// The stocks that an account holds: *holdings becomes a text of full symbol ids joined by ",",
+// which the caller releases with TQSFree. *holdings is null after a failure.
+int TQSGetTSAccountHolding(const char* tsId, const char* accountId, TqsAccType type,
+                           char** holdings);
+
+// Releases a text that TQSGetTSAccountHolding handed out. Null is allowed.
+void TQSFree(void* text);
+}

@@ -1,0 +1,49 @@
+// An open file. For bodies in this folder only.
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+#include <limits>
+#include <string>
+
+namespace tq {
+
+// No program is to be kept from reading, writing or replacing a file while this library uses it.
+inline constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+class FileHandle {
+public:
+  FileHandle() = default;
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+  ~FileHandle() { Close(); }
+
+  bool Open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition,
+            DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
+    Close();
+    handle_ =
+        ::CreateFileW(path.c_str(), access, share, nullptr, disposition, attributes, nullptr);
+    return IsOpen();
+  }
+  bool Close() {
+    const HANDLE handle = handle_;
+    handle_ = INVALID_HANDLE_VALUE;
+    return handle == INVALID_HANDLE_VALUE || ::CloseHandle(handle) != 0;
+  }
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  HANDLE Get() const { return handle_; }
+
+  // One call; what does not fit in it counts as not written. Returns the bytes written.
+  std::size_t WriteOnce(const void* bytes, std::size_t size) {
+    constexpr std::size_t most = std::numeric_limits<DWORD>::max();
+    DWORD written = 0;
+    const auto part = static_cast<DWORD>(size < most ? size : most);
+    return ::WriteFile(handle_, bytes, part, &written, nullptr) != 0 ? written : 0;
+  }
+
+private:
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+} // namespace tq

@@ -1,0 +1,165 @@
+#include "platform/SaveSteps.h"
+
+#include "platform/win32/FileHandle.h"
+#include "platform/win32/SystemPath.h"
+
+namespace tq {
+namespace {
+
+constexpr int SharingTries = 50;
+constexpr DWORD SharingPause = 10; // milliseconds; together the half second of FileAccess.h
+// What the temporary file takes over from the target.
+constexpr DWORD KeptAttributes =
+    FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+
+// Errors that concern the way of replacing (rights on the directory, somebody who holds the target or
+// has mapped it), not the disk.
+StepResult WhyNotReplaced() {
+  switch (::GetLastError()) {
+  case ERROR_ACCESS_DENIED:
+  case ERROR_SHARING_VIOLATION:
+  case ERROR_LOCK_VIOLATION:
+  case ERROR_USER_MAPPED_FILE:
+  case ERROR_NOT_SAME_DEVICE:
+  case ERROR_FILENAME_EXCED_RANGE:
+  case ERROR_CANT_ACCESS_FILE:
+    return StepResult::Refused;
+  default:
+    return StepResult::Failed;
+  }
+}
+
+class WindowsSaveSteps : public SaveSteps {
+public:
+  explicit WindowsSaveSteps(const char* path) : target_(SystemPath(path)) {}
+
+  StepResult OpenTarget() override;
+  StepResult OpenTemporary() override;
+  std::size_t WriteTemporary(const void* bytes, std::size_t size) override {
+    return temporaryFile_.WriteOnce(bytes, size);
+  }
+  bool FlushTemporary() override { return ::FlushFileBuffers(temporaryFile_.Get()) != 0; }
+  StepResult ReplaceTarget() override;
+  void FlushDirectory() override {} // MOVEFILE_WRITE_THROUGH has done it
+  void RemoveTemporary() override;
+  bool ReserveTarget(std::size_t size) override;
+  std::size_t WriteTarget(const void* bytes, std::size_t size) override {
+    return targetFile_.WriteOnce(bytes, size);
+  }
+  bool FlushTarget(std::size_t size) override;
+  bool CloseTarget() override { return targetFile_.Close(); }
+  void RemoveNewTarget() override;
+
+private:
+  void FollowLink();
+  bool SetTargetLength(LONGLONG length);
+
+  std::wstring target_;
+  std::wstring temporary_;
+  FileHandle targetFile_;
+  FileHandle temporaryFile_;
+  DWORD attributes_ = 0; // the target's before the save, when existed_
+  bool existed_ = false;
+  bool created_ = false; // in place, by this save
+};
+
+StepResult WindowsSaveSteps::OpenTarget() {
+  const bool opened = targetFile_.Open(target_, GENERIC_WRITE, ShareAll, OPEN_EXISTING);
+  if (!opened && ::GetLastError() != ERROR_FILE_NOT_FOUND)
+    return StepResult::Failed;
+  existed_ = opened;
+  if (opened) {
+    attributes_ = ::GetFileAttributesW(target_.c_str());
+    if (attributes_ == INVALID_FILE_ATTRIBUTES)
+      return StepResult::Failed;
+    if ((attributes_ & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
+      FollowLink();
+    // The system replaces no file that is open, not even by us.
+    targetFile_.Close();
+  }
+  for (const char* c = TemporarySuffix; *c != '\0'; ++c)
+    temporary_.push_back(static_cast<wchar_t>(*c));
+  temporary_.insert(0, target_);
+  return opened ? StepResult::Ok : StepResult::Missing;
+}
+
+// The file that a symbolic link names is replaced, not the link.
+void WindowsSaveSteps::FollowLink() {
+  std::wstring real(32'768, L'\0'); // the longest path there is
+  const DWORD length = ::GetFinalPathNameByHandleW(
+      targetFile_.Get(), real.data(), static_cast<DWORD>(real.size()), FILE_NAME_NORMALIZED);
+  if (length == 0 || length >= real.size())
+    return;
+  real.resize(length);
+  target_ = real;
+}
+
+StepResult WindowsSaveSteps::OpenTemporary() {
+  // Shared for deletion alone, so that it can be renamed while it is open: from its creation until it
+  // bears the target's name no other save can write into it.
+  for (int i = 0; i < SharingTries; ++i) {
+    if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, CREATE_ALWAYS,
+                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes)))
+      return StepResult::Ok;
+    if (::GetLastError() != ERROR_SHARING_VIOLATION)
+      return WhyNotReplaced();
+    ::Sleep(SharingPause);
+  }
+  return StepResult::Failed;
+}
+
+StepResult WindowsSaveSteps::ReplaceTarget() {
+  if (::MoveFileExW(temporary_.c_str(), target_.c_str(),
+                    MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == 0)
+    return WhyNotReplaced();
+  temporaryFile_.Close();
+  return StepResult::Ok;
+}
+
+void WindowsSaveSteps::RemoveTemporary() {
+  if (!temporaryFile_.IsOpen())
+    return;
+  ::DeleteFileW(temporary_.c_str());
+  temporaryFile_.Close();
+}
+
+bool WindowsSaveSteps::SetTargetLength(LONGLONG length) {
+  LARGE_INTEGER position;
+  position.QuadPart = length;
+  return ::SetFilePointerEx(targetFile_.Get(), position, nullptr, FILE_BEGIN) != 0 &&
+         ::SetEndOfFile(targetFile_.Get()) != 0;
+}
+
+bool WindowsSaveSteps::ReserveTarget(std::size_t size) {
+  if (!targetFile_.Open(target_, GENERIC_WRITE, ShareAll, existed_ ? OPEN_EXISTING : CREATE_NEW))
+    return false;
+  created_ = !existed_;
+  LARGE_INTEGER old;
+  LARGE_INTEGER start = {};
+  if (::GetFileSizeEx(targetFile_.Get(), &old) == 0)
+    return false;
+  const auto wanted = static_cast<LONGLONG>(size);
+  if (wanted > old.QuadPart && !SetTargetLength(wanted)) {
+    SetTargetLength(old.QuadPart);
+    return false;
+  }
+  return ::SetFilePointerEx(targetFile_.Get(), start, nullptr, FILE_BEGIN) != 0;
+}
+
+bool WindowsSaveSteps::FlushTarget(std::size_t size) {
+  return SetTargetLength(static_cast<LONGLONG>(size)) &&
+         ::FlushFileBuffers(targetFile_.Get()) != 0;
+}
+
+void WindowsSaveSteps::RemoveNewTarget() {
+  if (created_)
+    ::DeleteFileW(target_.c_str());
+}
+
+} // namespace
+
+std::unique_ptr<SaveSteps> MakeSaveSteps(const char* path) {
+  return std::make_unique<WindowsSaveSteps>(path);
+}
+
+} // namespace tq

@@ -1,0 +1,144 @@
+#include "symbollist/IDList.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "symbollist/IdString.h"
+#include "symbollist/RecordIndex.h"
+
+namespace {
+
+// A resolved list has an array even when it has no rows: that is how it knows not to ask again.
+SymbolInfo* NewRecords(int count) { return new SymbolInfo[static_cast<size_t>(std::max(count, 1))](); }
+
+// The service's answer, released on every way out.
+class ServiceRecords {
+public:
+  ServiceRecords() = default;
+  ServiceRecords(const ServiceRecords&) = delete;
+  ServiceRecords& operator=(const ServiceRecords&) = delete;
+  ~ServiceRecords() {
+    if (list != nullptr)
+      VLFree(list);
+  }
+  SymbolInfo* list = nullptr;
+  int count = 0;
+};
+
+} // namespace
+
+CIDList::CIDList() : records_(nullptr), count_(0), modified_(0) {}
+
+CIDList::CIDList(const CIDList& other)
+    : ids_(other.ids_), records_(nullptr), count_(other.count_), modified_(other.modified_) {
+  tokens_.Copy(other.tokens_);
+  if (other.records_ == nullptr)
+    return;
+  records_ = NewRecords(count_);
+  std::memcpy(records_, other.records_, static_cast<size_t>(count_) * sizeof(SymbolInfo));
+}
+
+CIDList::~CIDList() { delete[] records_; }
+
+int CIDList::GetCount() {
+  ResolveIfDue();
+  return count_;
+}
+
+bool CIDList::GetAt(int index, SymbolInfo* out) {
+  if (!ResolveIfDue() || out == nullptr || index < 0 || index >= count_)
+    return false;
+  std::memcpy(out, &records_[index], sizeof(SymbolInfo));
+  return true;
+}
+
+int CIDList::Update3() {
+  DiscardRecords();
+  Resolve();
+  return 1;
+}
+
+int CIDList::Update2(SymbolInfo* records, int count) {
+  const int taken = records == nullptr ? 0 : std::max(count, 0);
+  DiscardRecords();
+  records_ = NewRecords(taken);
+  count_ = taken;
+  if (taken > 0)
+    std::memcpy(records_, records, static_cast<size_t>(taken) * sizeof(SymbolInfo));
+  if (records != nullptr)
+    VLFree(records);
+  RebuildFromRecords();
+  return 1;
+}
+
+int CIDList::Update1(const CString& ids) {
+  if (ids == ids_)
+    return 0;
+  modified_ = 1;
+  DiscardRecords();
+  ids_ = ids;
+  Resolve();
+  return 1;
+}
+
+const CString& CIDList::GetIDs() { return ids_; }
+
+void CIDList::DiscardRecords() {
+  delete[] records_;
+  records_ = nullptr;
+  count_ = 0;
+}
+
+// A list whose string was never replaced has nothing to ask for; one whose look-up failed asks again.
+bool CIDList::ResolveIfDue() {
+  if (records_ == nullptr && modified_ != 0)
+    return Resolve();
+  return records_ != nullptr;
+}
+
+// Fills the records from the string. False when the service failed: the list then has no rows, and the
+// next question asks the service again.
+bool CIDList::Resolve() {
+  const tq::SplitIds split = tq::SplitIdString(ids_, tokens_);
+  if (ids_.IsEmpty()) {
+    count_ = 0;
+    return false;
+  }
+  ServiceRecords answer;
+  if (tokens_.GetSize() > split.headings) {
+    const CString lookup = split.plain ? ids_ : tq::LookupString(tokens_);
+    if (VLGetSymbolInfos(lookup, &answer.list, &answer.count) == 0)
+      return false;
+    if (answer.list == nullptr || answer.count < 0)
+      answer.count = 0;
+  }
+  const int capacity = answer.count + split.headings;
+  records_ = NewRecords(capacity);
+  tq::RecordIndex index(answer.list, answer.count);
+  int row = 0;
+  for (int i = 0; i < tokens_.GetSize() && row < capacity; ++i) {
+    CString& token = tokens_[i];
+    if (tq::IsHeading(token.GetString(), token.GetLength())) {
+      std::memcpy(records_[row++].id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
+      continue;
+    }
+    tq::NormaliseId(token);
+    if (const SymbolInfo* found = index.Find(token))
+      std::memcpy(&records_[row++], found, sizeof(SymbolInfo));
+  }
+  // A record that belongs to no token (the service answered with another id) gets no row: an empty
+  // row would be a symbol that the user never asked for.
+  count_ = row;
+  return true;
+}
+
+void CIDList::RebuildFromRecords() {
+  CString ids;
+  for (int i = 0; i < count_; ++i) {
+    if (i > 0)
+      ids += ',';
+    ids.Append(records_[i].id, static_cast<int>(strnlen(records_[i].id, sizeof(records_[i].id))));
+  }
+  ids_ = ids;
+  tq::SplitIdString(ids_, tokens_);
+}

@@ -1,0 +1,42 @@
+#include "symbollist/ListFile.h"
+
+#include "platform/services/tqCommon.h"
+#include "symbollist/SymbolList.h"
+
+namespace tq {
+namespace {
+
+constexpr char kBig5Declaration[] = "<?xml version='1.0' encoding='big5' ?>\n";
+constexpr char kGb2312Declaration[] = "<?xml version='1.0' encoding='gb2312' ?>\n";
+constexpr char kTail[] = "</SymbolList>\n</Result>";
+
+CSymbolList& ListAt(const CPtrArray& lists, int index) {
+  return *static_cast<CSymbolList*>(lists.GetAt(index));
+}
+
+size_t Length(const CPtrArray& lists) {
+  constexpr size_t kFrame = 160; // declaration, root, default index and tail
+  size_t length = kFrame;
+  for (int i = 0; i < lists.GetSize(); ++i)
+    length += 1 + ListAt(lists, i).XmlLength();
+  return length;
+}
+
+} // namespace
+
+std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
+  std::string text;
+  text.reserve(Length(lists));
+  text += IsTraditionChinese() ? kBig5Declaration : kGb2312Declaration;
+  text += "<Result>\n<SymbolList DefaultIdx='";
+  text += std::to_string(defaultIndex);
+  text += "'>\n";
+  for (int i = 0; defaultIndex >= 0 && i < lists.GetSize(); ++i) {
+    text += '\t';
+    ListAt(lists, i).AppendXml(text);
+  }
+  text += kTail;
+  return text;
+}
+
+} // namespace tq

@@ -1,0 +1,26 @@
+// The process-wide log of the library.
+#pragma once
+
+#include "platform/services/TQLog.h"
+
+namespace tq {
+
+// Levels of the lines that the library writes. Terminals filter by them: do not change.
+inline constexpr int kLogChange = 64;  // lists and groups changed or were found odd
+inline constexpr int kLogGeneral = 256;
+
+// The logger, or null before OpenLog. It is created once and lives until the library is unloaded.
+TQLog* Log();
+
+// Creates the logger in the subdirectory "Log" of the directory that holds this library, unless there
+// is one, and writes its first line. When it cannot be allocated it stays absent.
+void OpenLog();
+
+// Writes one line when there is a logger. User text is an argument, never the format.
+template <typename... Arguments>
+void LogLine(int level, const char* format, Arguments... arguments) {
+  if (TQLog* log = Log())
+    (*log)(level).write(format, arguments...);
+}
+
+} // namespace tq

@@ -1,0 +1,31 @@
+// Finds the record that the symbol-data service returned for an id.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/services/VLProxy.h"
+
+namespace tq {
+
+// Refers to the service's array, which must outlive it. The service answers in the order of the
+// request, so the next record is nearly always the one wanted; only when it is not (an unknown id, a
+// repeated one, another order) is a hash index over all records built.
+class RecordIndex {
+public:
+  RecordIndex(const SymbolInfo* records, int count) : records_(records), count_(count) {}
+
+  // The record whose id is `id`, or null. Of several with one id, the last.
+  const SymbolInfo* Find(const char* id);
+
+private:
+  void Build();
+  uint32_t Slot(const char* id) const;
+
+  const SymbolInfo* records_;
+  int count_;
+  int next_ = 0;
+  std::vector<uint32_t> slots_; // 0: free, else record number + 1
+};
+
+} // namespace tq

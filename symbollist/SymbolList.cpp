@@ -1,0 +1,66 @@
+#include "symbollist/SymbolList.h"
+
+#include <cstring>
+
+#include "platform/CodePage.h"
+#include "platform/XmlDocument.h"
+#include "symbollist/SystemListId.h"
+
+CSymbolList::CSymbolList() : info_(), flag_(0) {}
+
+CSymbolList::CSymbolList(const CSymbolList& other)
+    : CIDList(other), info_(other.info_), flag_(0) {
+  UpdateFlag();
+}
+
+CSymbolList::~CSymbolList() = default;
+
+void CSymbolList::SetID(const char* id) {
+  tq::CopyCut(info_.ID, sizeof(info_.ID), id);
+  UpdateFlag();
+}
+
+void CSymbolList::SetName(const char* name) {
+  tq::CopyCut(info_.Name, sizeof(info_.Name), name);
+}
+
+void CSymbolList::ToXml(CString& out) {
+  std::string element;
+  element.reserve(XmlLength());
+  AppendXml(element);
+  out.SetString(element.data(), static_cast<int>(element.size()));
+}
+
+void CSymbolList::AppendXml(std::string& document) {
+  const CString& ids = GetIDs();
+  document += "<List ID='";
+  document += info_.ID;
+  document += "' Name='";
+  document += info_.Name;
+  document += "' Value='";
+  document.append(ids.GetString(), static_cast<size_t>(ids.GetLength()));
+  document += tq::IsSystemListId(info_.ID) ? "' Flag='1'/>\n" : "' Flag='0'/>\n";
+}
+
+size_t CSymbolList::XmlLength() {
+  constexpr size_t kFixed = sizeof("<List ID='' Name='' Value='' Flag='0'/>\n");
+  return kFixed + std::strlen(info_.ID) + std::strlen(info_.Name) +
+         static_cast<size_t>(GetIDs().GetLength());
+}
+
+void CSymbolList::UpdateFlag() { flag_ = tq::IsSystemListIdNoCase(info_.ID) ? 1 : 0; }
+
+int CSymbolList::FillFromElement(const tq::XmlElement& element) {
+  SetID("");
+  SetName("");
+  if (!element.HasAttributes())
+    return 0;
+  CString text;
+  if (element.Attribute("ID", text))
+    SetID(text);
+  if (element.Attribute("Name", text))
+    SetName(text);
+  if (element.Attribute("Value", text))
+    Update1(text);
+  return 1;
+}

@@ -1,0 +1,61 @@
+// One watch list: ids with an identifier, a display name and the mark of a system list.
+#pragma once
+
+#include <string>
+
+#include "platform/CodePage.h"
+#include "symbollist/IDList.h"
+#include "symbollist/TQSymbolListInfo.h"
+
+namespace tq {
+class XmlElement;
+}
+
+// The terminal gets lists from CTQSymbolListMgr: live ones, which stay the manager's, or copies, which
+// it deletes.
+class TQSYMBOL_API CSymbolList : public CIDList {
+public:
+  CSymbolList();
+  // Copies everything and works the system flag out anew. The service is not asked.
+  CSymbolList(const CSymbolList& other);
+  CSymbolList& operator=(const CSymbolList&) = delete;
+  ~CSymbolList() override;
+
+  // Copies identifier and name into `*out`. Null is allowed and does nothing.
+  void GetListInfo(TQSymbolListInfo* out) const {
+    if (out != nullptr)
+      *out = info_;
+  }
+  CString GetID() const { return CString(info_.ID); }
+  CString GetName() const { return CString(info_.Name); }
+  // Whether `id` is this list's identifier, ignoring letter case. A null id is no list's.
+  bool IsSameID(const char* id) const {
+    return id != nullptr && tq::CompareNoCase(id, info_.ID) == 0;
+  }
+  // 1 when the identifier is one of the six system ids, ignoring letter case, else 0.
+  int GetFlag() const { return flag_; }
+
+  // Reads the list from a List element of the list file: the attributes ID, Name and Value; Flag is
+  // worked out from the identifier, whatever the file says. Returns 0, with the list empty, when the
+  // element carries no attributes at all, else 1. The ids are resolved at once.
+  int FillFromElement(const tq::XmlElement& element);
+
+  // Identifiers are kept up to 36 bytes and names up to 64, both cut at a whole character. Setting
+  // the identifier works the system flag out anew.
+  void SetID(const char* id);
+  void SetName(const char* name);
+
+  // The list as one element of the list file:
+  // <List ID='%s' Name='%s' Value='%s' Flag='%d'/> and a line feed. Nothing is escaped: names are
+  // screened where they are entered, and the file must come back as it was.
+  void ToXml(CString& out);
+  // The same, put behind what `document` holds, and the room that it needs there.
+  void AppendXml(std::string& document);
+  size_t XmlLength();
+
+private:
+  void UpdateFlag();
+
+  TQSymbolListInfo info_;
+  int flag_;
+};

@@ -1,0 +1,54 @@
+// The manager's life: construction, Init, destruction and the switches.
+#include "symbollist/TQSymbolListMgr.h"
+
+#include "platform/FileAccess.h"
+#include "symbollist/ListFile.h"
+#include "symbollist/Log.h"
+#include "symboltable/SymbolTableMgr.h"
+
+CTQSymbolListMgr::CTQSymbolListMgr()
+    : symbolTables_(nullptr), defaultIndex_(0), systemListsWanted_(0), tradingListsWanted_(0),
+      useUserDefExch_(0), bCN_(0) {}
+
+CTQSymbolListMgr::~CTQSymbolListMgr() {
+  ClearSymbolList();
+  ClearTSSymbolList();
+  ClearCloudSymbolList();
+  delete symbolTables_;
+}
+
+int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
+                           int loadSystemLists, CStringArray* /*systemListNames*/,
+                           int useUserDefExch, int loadTradingLists) {
+  dataDirectory_ = dataDirectory;
+  systemListsWanted_ = loadSystemLists;
+  tradingListsWanted_ = loadTradingLists;
+  useUserDefExch_ = useUserDefExch;
+  bCN_ = bCN;
+
+  delete symbolTables_;
+  symbolTables_ = nullptr;
+  tq::OpenLog();
+  symbolTables_ = new CSymbolTableMgr;
+  if (initSymbolTables != 0 && BuildSymbolTables() == 0)
+    return 0;
+
+  const CString listFile = FilePath(tq::kListFileName);
+  if (tq::Files().DirectoryExists(dataDirectory_) && !tq::Files().FileExists(listFile))
+    CreateEmptySymbolListFile();
+  LoadSymbolList();
+  return 1;
+}
+
+int CTQSymbolListMgr::BuildSymbolTables() {
+  return symbolTables_->Init() != 0 && symbolTables_->InitAllSymbolTable() != 0 &&
+         symbolTables_->InitAuthorizedExch() != 0;
+}
+
+void CTQSymbolListMgr::SetDefaultIndex(int index) { defaultIndex_ = index; }
+
+int CTQSymbolListMgr::GetDefaultListIdx(int& out) {
+  out = defaultIndex_;
+  // The upper bound is not tested: a default index beyond the last list is reported as it stands.
+  return defaultIndex_ >= 0 && !lists_.IsEmpty();
+}

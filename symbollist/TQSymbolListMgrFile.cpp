@@ -1,0 +1,75 @@
+// The manager's list file: loading, saving, backup.
+#include <string>
+
+#include "platform/FileAccess.h"
+#include "platform/ModulePath.h"
+#include "platform/services/tqCommon.h"
+#include "symbollist/ListFile.h"
+#include "symbollist/TQSymbolListMgr.h"
+#include "symbollist/XMLDOMParser.h"
+
+namespace {
+
+constexpr unsigned kMessageSaveFailed = 48026;
+constexpr unsigned kButtonOk = 0;
+
+void ShowSaveFailed() { tqShowDllMessage(tq::OwnModule(), kMessageSaveFailed, kButtonOk); }
+
+} // namespace
+
+// Joined as it stands: the directory carries no trailing backslash. Without a directory there is no
+// file, for the bare name would be one in the root of the drive.
+CString CTQSymbolListMgr::FilePath(const char* name) const {
+  return dataDirectory_.IsEmpty() ? CString() : dataDirectory_ + name;
+}
+
+int CTQSymbolListMgr::LoadSymbolList() { return DoLoadSymbolList(FilePath(tq::kListFileName)); }
+
+int CTQSymbolListMgr::SaveSymbolList() { return DoSaveSymbolList(FilePath(tq::kListFileName)); }
+
+int CTQSymbolListMgr::BackupSymbolList() { return DoSaveSymbolList(FilePath(tq::kBackupFileName)); }
+
+int CTQSymbolListMgr::RestorSymbolList() { return DoLoadSymbolList(FilePath(tq::kBackupFileName)); }
+
+CString CTQSymbolListMgr::GetBackSymbolListPath() { return dataDirectory_ + tq::kBackupFileName; }
+
+int CTQSymbolListMgr::UpdateTQSymbolList() { return LoadSymbolList(); }
+
+void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
+  dataDirectory_ = dataDirectory;
+  LoadSymbolList();
+}
+
+int CTQSymbolListMgr::CreateEmptySymbolListFile() {
+  const CString path = FilePath(tq::kListFileName);
+  if (path.IsEmpty())
+    return 0;
+  const std::string text = tq::ListFileText(CPtrArray(), defaultIndex_);
+  if (tq::Files().SaveWholeFile(path, text.data(), text.size()) == tq::SaveResult::Saved)
+    return 1;
+  ShowSaveFailed();
+  return 0;
+}
+
+int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
+  if (path.IsEmpty())
+    return 0;
+  const int index = defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_;
+  const std::string text = tq::ListFileText(lists_, index);
+  const tq::SaveResult result = tq::Files().SaveWholeFile(path, text.data(), text.size());
+  if (result != tq::SaveResult::NotOpened)
+    defaultIndex_ = index;
+  if (result == tq::SaveResult::Saved)
+    return 1;
+  ShowSaveFailed();
+  return 0;
+}
+
+int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) {
+  // Before the file is even opened: a file that cannot be read leaves no lists.
+  ClearSymbolList();
+  if (path.IsEmpty())
+    return 1;
+  CXMLDOMParser(*this).LoadSymbolList(path);
+  return 1;
+}

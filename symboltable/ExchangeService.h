@@ -1,0 +1,49 @@
+// What the terminal's services say of exchanges and of the user's entitlements.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "platform/framework/CString.h"
+#include "symboltable/ServiceArray.h"
+
+namespace tq {
+
+// Only exchanges 1 to 127 can be entitled.
+constexpr int LastEntitledExchange = 127;
+constexpr bool CanBeEntitled(int exchId) {
+  return exchId >= 1 && exchId <= LastEntitledExchange;
+}
+
+// These three are one family: supported together, and hidden together without a full menu.
+constexpr std::array<int, 3> FamilyExchanges = {10, 11, 12};
+
+// The service's list of exchanges, read when constructed.
+class ExchangeList {
+public:
+  ExchangeList() { result_ = VLGetExch(exchanges_.List(), exchanges_.Count(), 1); }
+
+  // The service's own result, 0 for failure.
+  int Result() const { return result_; }
+  // In the service's order; none after a failure.
+  std::span<const ExchInfo> Records() const {
+    return result_ ? exchanges_.Records() : std::span<const ExchInfo>();
+  }
+
+private:
+  ServiceArray<ExchInfo> exchanges_;
+  int result_;
+};
+
+// The name in a record, ended by its field when the service left the NUL out.
+std::string_view NameOf(const ExchInfo& exchange);
+
+// Sets mask[n] to 1 for each exchange n that the user is entitled to. 0, and nothing set, when the
+// service fails.
+int ReadEntitlements(std::span<int, LastEntitledExchange + 1> mask);
+
+// Whether the user has the full menu. The service is asked each time.
+bool HasFullMenu();
+
+} // namespace tq

@@ -1,0 +1,35 @@
+#include "symboltable/ItemArena.h"
+
+namespace tq {
+
+void ItemArena::Reset(std::size_t count) {
+  later_.clear();
+  later_.shrink_to_fit();
+  returned_.clear();
+  returned_.shrink_to_fit();
+  taken_ = 0;
+  firstCount_ = static_cast<std::uint32_t>(count);
+  first_ = count != 0 ? std::make_unique_for_overwrite<Place[]>(count) : nullptr;
+}
+
+std::uint32_t ItemArena::TakePlace() {
+  if (!returned_.empty()) {
+    const std::uint32_t number = returned_.back();
+    returned_.pop_back();
+    return number;
+  }
+  if (taken_ >= firstCount_ && (taken_ - firstCount_) / LaterCount == later_.size())
+    later_.push_back(std::make_unique_for_overwrite<Place[]>(LaterCount));
+  return taken_++;
+}
+
+void ItemArena::ReturnPlace(std::uint32_t number) {
+  returned_.push_back(number);
+}
+
+std::size_t ItemArena::Footprint() const {
+  return (firstCount_ + later_.size() * LaterCount) * sizeof(Place) +
+         later_.capacity() * sizeof(Block) + returned_.capacity() * sizeof(std::uint32_t);
+}
+
+} // namespace tq

@@ -1,0 +1,65 @@
+#include "symboltable/ItemTexts.h"
+
+#include <algorithm>
+
+#include "platform/services/tqStock.h"
+#include "symboltable/SymbolKey.h"
+#include "symboltable/UpperText.h"
+
+namespace tq {
+namespace {
+
+constexpr int TextFields[ItemTextCount] = {FieldLegExchange,   FieldIndustry, FieldUnderlying,
+                                           FieldContractMonth, FieldCurrency, FieldExchangeCode};
+static_assert(TextFields[ExchangeCodeText] == FieldExchangeCode);
+constexpr std::size_t RecentCount = 1024; // a power of two
+
+} // namespace
+
+int ItemTextIndex(int field) {
+  const int* const end = TextFields + ItemTextCount;
+  const int* const at = std::find(TextFields, end, field);
+  return at == end ? -1 : static_cast<int>(at - TextFields);
+}
+
+std::shared_ptr<const ItemTexts> ItemTextReader::Read(const CStaticKey& key,
+                                                      std::string_view symbol, bool& codeIsSymbol) {
+  std::uint32_t hash = 0;
+  bool any = false;
+  codeIsSymbol = false;
+  for (int i = 0; i < ItemTextCount; ++i) {
+    CString& text = read_.texts[i];
+    if (!key.GetFieldString(TextFields[i], text) || text.IsEmpty()) {
+      text.Truncate(0);
+      continue;
+    }
+    if (i == ExchangeCodeText && ViewOf(text) == symbol) {
+      codeIsSymbol = true;
+      text.Truncate(0);
+      continue;
+    }
+    any = true;
+    hash = hash * 31 + MakeKey(ViewOf(text)).hash + static_cast<std::uint32_t>(i);
+  }
+  return any ? Shared(hash) : nullptr;
+}
+
+bool ItemTextReader::Matches(const ItemTexts& known) const {
+  return std::equal(read_.texts, read_.texts + ItemTextCount, known.texts);
+}
+
+std::shared_ptr<const ItemTexts> ItemTextReader::Shared(std::uint32_t hash) {
+  if (recent_.empty())
+    recent_.resize(RecentCount);
+  std::shared_ptr<const ItemTexts>& known = recent_[hash % RecentCount];
+  if (!known || !Matches(*known)) {
+    // Characters of its own, as those just read are written over by the next symbol.
+    auto texts = std::make_shared<ItemTexts>();
+    for (int i = 0; i < ItemTextCount; ++i)
+      texts->texts[i].SetString(read_.texts[i].GetString(), read_.texts[i].GetLength());
+    known = std::move(texts);
+  }
+  return known;
+}
+
+} // namespace tq

@@ -1,0 +1,111 @@
+// One symbol of one exchange's table: its id, name and static attributes, and its place in the
+// chain.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "platform/framework/CString.h"
+#include "symboltable/ItemTexts.h"
+#include "symboltable/SymbolKey.h"
+#include "symboltable/UpperText.h"
+
+class CStaticKey;
+
+namespace tq {
+
+// Numbers that an item holds as the service gives them; SymbolItem.cpp has their field codes.
+constexpr int HeldNumberCount = 6;
+
+// What field 1 answers: "2330.TW", or "2330".
+enum class IdPart { Full, Symbol };
+
+// What an item is made with, beside the service's key object.
+struct ItemPlace {
+  CString id;              // full id in upper case
+  std::uint32_t keyLength; // bytes of it that are the key in the item's table
+  std::uint32_t number;    // the table's number for the item
+  int exchId;              // stands in for an exchange number that the service does not give
+};
+
+} // namespace tq
+
+// The members that a look-up compares and the common answers need stand in the first of the item's
+// two cache lines, the links in the second.
+class alignas(64) CSymbolItem final {
+public:
+  // Copies the attributes out of `key`, which was set up.
+  CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place, tq::ItemTextReader& reader);
+  virtual ~CSymbolItem();
+  CSymbolItem(const CSymbolItem&) = delete;
+  CSymbolItem& operator=(const CSymbolItem&) = delete;
+
+  // The key under which the table holds it: the start of the id, and never changed.
+  std::string_view Key() const { return {id_.GetString(), keyLength_}; }
+  // Whether the key is this one, letter case included.
+  bool HasKey(const tq::SymbolKey& key) const {
+    return head_ == key.head && keyLength_ == key.text.size() &&
+           (keyLength_ <= sizeof head_ || Key() == key.text);
+  }
+  const CString& Name() const { return name_; }
+  std::uint32_t Number() const { return number_; }
+
+  // Takes over the attributes of `key`, which was set up for the same symbol. Id and place stay.
+  void UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader);
+
+  // The attribute with a field code of tqStock as a number; non-zero when the item or the service
+  // has it. Otherwise `value` is -1, for field 186 1. A number that an int cannot hold is the
+  // nearest one.
+  int GetNumber(int field, int& value) const;
+  // The same as text; `part` matters for field 1 alone. A held text that the service did not give
+  // is empty, which is an answer. A field that is unknown, or that the service fails to give, is 0
+  // with `value` empty, "--" for fields 170, 171 and 179.
+  int GetText(int field, CString& value, tq::IdPart part = tq::IdPart::Full) const;
+
+  // ---- Chain. The owner keeps its head and tail in step.
+  // -----------------------------------------
+  CSymbolItem* Next() const { return next_; }
+  CSymbolItem* Previous() const { return previous_; }
+  // Puts `item` behind this one, which is the last of its chain.
+  void Append(CSymbolItem* item);
+  // Takes `item`, a later one of the chain that this one heads, out of it.
+  void RemoveFromChain(CSymbolItem* item);
+  // Takes this one, the first of its chain, out of it; returns the new first.
+  CSymbolItem* LeaveAsHead();
+
+  // ---- Items with the same key, in chain order. Only the first of them is ever asked.
+  // --------------- Puts `item` behind all items with this one's key, which is the first of them.
+  void AppendSame(CSymbolItem* item);
+  // Takes this one, the first, out; returns the new first or null.
+  CSymbolItem* LeaveSame();
+
+private:
+  std::string_view Symbol() const { return tq::SymbolOf(tq::ViewOf(id_)); }
+  void ReadNumbers(const CStaticKey& key);
+  void GetHeldText(int index, CString& value) const;
+  int AskNumber(int field, int& value) const;
+  int AskText(int field, CString& value) const;
+  int AskService(int field, CString& value) const;
+  int AskTradeCode(CString& value) const;
+
+  std::uint64_t head_; // the key's first bytes, see SymbolKey
+  std::uint32_t keyLength_;
+  std::int32_t exchId_;
+  CString id_;
+  CString name_;
+  std::int32_t numbers_[tq::HeldNumberCount];
+
+  CSymbolItem* next_ = nullptr;
+  CSymbolItem* previous_ = nullptr;
+  CSymbolItem* nextSame_ = nullptr;
+  CSymbolItem* lastSame_ = nullptr; // kept in the first item of a key, when there are more
+  std::shared_ptr<const tq::ItemTexts> texts_;
+  std::uint32_t number_;
+  std::int32_t decimals_ = 0;
+  std::uint8_t present_ = 0;  // a bit for each held number that the service gave, decimals last
+  char mark_ = ' ';           // FieldMark
+  bool codeIsSymbol_ = false; // FieldExchangeCode is the symbol
+};
+
+static_assert(sizeof(CSymbolItem) == 128);

@@ -1,0 +1,108 @@
+// The attributes that an item does not hold: each answer asks the service anew, for they change
+// while the market trades.
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/services/tqStock.h"
+#include "symboltable/LeadingInt.h"
+#include "symboltable/SymbolItem.h"
+
+namespace {
+
+constexpr int Absent = -1;
+constexpr char NoPrice[] = "--"; // what a person reads where there is no price
+
+int NearestInt(double number) {
+  constexpr double lowest = std::numeric_limits<int>::min();
+  constexpr double highest = std::numeric_limits<int>::max();
+  if (std::isnan(number))
+    return 0;
+  if (number <= lowest)
+    return std::numeric_limits<int>::min();
+  return number >= highest ? std::numeric_limits<int>::max() : static_cast<int>(number);
+}
+
+// The number that a text begins with, 0 when there is none; with a point in every locale.
+double LeadingNumber(const CString& text) {
+  const char* at = text.GetString();
+  const char* const end = at + text.GetLength();
+  while (at != end && std::isspace(static_cast<unsigned char>(*at)))
+    ++at;
+  if (at != end && *at == '+')
+    ++at;
+  double number = 0;
+  std::from_chars(at, end, number);
+  return number;
+}
+
+// A price as a whole number of its smallest step: "12.5" with two decimals is 1250. The thousandth
+// makes up for decimal fractions that binary ones fall short of, before the rest is cut off.
+int ScaledPrice(const CString& text, int decimals) {
+  return NearestInt(LeadingNumber(text) * std::pow(10.0, decimals) + 0.001);
+}
+
+} // namespace
+
+int CSymbolItem::AskService(int field, CString& value) const {
+  return tqStockGetFieldString(field, exchId_, tq::ToCString(Symbol()), value);
+}
+
+int CSymbolItem::AskTradeCode(CString& value) const {
+  CStaticKey key;
+  if (key.SetUpTrade(exchId_, tq::ToCString(Symbol())) && key.GetFieldString(FieldTradeCode, value))
+    return 1;
+  value.Empty();
+  return 0;
+}
+
+int CSymbolItem::AskNumber(int field, int& value) const {
+  value = field == FieldContractSize ? 1 : Absent;
+  CString text;
+  switch (field) {
+  case FieldTradingStatus:
+  case FieldOddLot:
+    if (!AskService(field, text))
+      return 0;
+    value = tq::LeadingInt(tq::ViewOf(text));
+    return 1;
+  case FieldReferencePrice:
+  case FieldPreviousClose:
+    if (!AskService(field, text))
+      return 0;
+    value = ScaledPrice(text, decimals_);
+    return 1;
+  case FieldContractSize:
+    if (!AskService(field, text))
+      return 0;
+    if (const int size = tq::LeadingInt(tq::ViewOf(text)); size > 0)
+      value = size;
+    return 1;
+  default:
+    return 0;
+  }
+}
+
+int CSymbolItem::AskText(int field, CString& value) const {
+  switch (field) {
+  case FieldTradeCode:
+    return AskTradeCode(value);
+  case FieldReferencePrice:
+  case FieldPreviousClose:
+  case FieldOpeningReference:
+    if (AskService(field, value))
+      return 1;
+    value = NoPrice;
+    return 0;
+  case FieldExchangeTitle:
+  case FieldTradingSession:
+  case FieldTradingNote:
+  case FieldSettlementMonth:
+  case FieldMarginNote:
+    return AskService(field, value);
+  default:
+    value.Empty();
+    return 0;
+  }
+}

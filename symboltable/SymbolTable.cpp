@@ -1,0 +1,115 @@
+#include "symboltable/SymbolTable.h"
+
+#include <new>
+
+#include "platform/services/tqStock.h"
+#include "symboltable/UpperText.h"
+
+CSymbolTable::CSymbolTable(const CString& exchName, int exchId)
+    : exchName_(exchName), exchId_(exchId), chains_(tq::BucketCount) {}
+
+CSymbolTable::~CSymbolTable() {
+  Clear();
+}
+
+void CSymbolTable::Clear() {
+  for (Chain& chain : chains_) {
+    for (CSymbolItem* item = chain.head; item != nullptr;) {
+      CSymbolItem* const next = item->Next();
+      item->~CSymbolItem();
+      item = next;
+    }
+    chain = {};
+  }
+  index_.Reset(0);
+  arena_.Reset(0);
+}
+
+// The full id, in upper case. A service that leaves the suffix out gets this exchange's. 0 for no
+// id.
+int CSymbolTable::ReadId(const CStaticKey& key, CString& id) const {
+  if (!key.GetID(id, 1) || id.IsEmpty())
+    return 0;
+  if (tq::ViewOf(id).find('.') == std::string_view::npos) {
+    id += '.';
+    id += exchName_;
+  }
+  tq::MakeUpper(id);
+  return 1;
+}
+
+void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
+  tq::ItemPlace place;
+  if (!ReadId(key, place.id))
+    return;
+  place.keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(place.id)).size());
+  place.exchId = exchId_;
+  place.number = arena_.TakePlace();
+  Append(new (arena_.PlaceAt(place.number)) CSymbolItem(key, place, reader));
+}
+
+void CSymbolTable::Append(CSymbolItem* item) {
+  Chain& chain = ChainOf(item->Key());
+  if (chain.head == nullptr)
+    chain.head = item;
+  else
+    chain.tail->Append(item);
+  chain.tail = item;
+  const tq::SymbolKey key = tq::MakeKey(item->Key());
+  if (CSymbolItem* const first = FindItem(key))
+    first->AppendSame(item);
+  else
+    index_.Add(key.hash, item->Number());
+}
+
+void CSymbolTable::Destroy(CSymbolItem* item) {
+  const std::uint32_t number = item->Number();
+  item->~CSymbolItem();
+  arena_.ReturnPlace(number);
+}
+
+void CSymbolTable::Unchain(CSymbolItem* item) {
+  Chain& chain = ChainOf(item->Key());
+  CSymbolItem* const previous = item->Previous();
+  if (item == chain.head)
+    chain.head = item->LeaveAsHead();
+  else
+    chain.head->RemoveFromChain(item);
+  if (item == chain.tail)
+    chain.tail = previous;
+}
+
+// The chain is chosen by the id as it is written, and only there is it compared without regard to
+// letter case. So "aapl" finds nothing where the chain goes by the sum of the letters, but "1234a"
+// finds "1234A" where it goes by the number. The service depends on neither; do not choose the
+// chain by the upper-cased id, or a removal takes out what it did not before.
+void CSymbolTable::Remove(std::string_view id) {
+  const std::string_view asked = KeyOf(id);
+  CString copy = tq::ToCString(asked);
+  tq::UpperBuffer buffer;
+  // Held keys are in upper case, so the one that equals the asked key but for letter case is this.
+  const tq::SymbolKey key = tq::MakeKey(tq::UpperCased(copy, buffer));
+  if (&ChainOf(asked) != &ChainOf(key.text))
+    return;
+  CSymbolItem* const item = FindItem(key);
+  if (item == nullptr)
+    return;
+  if (CSymbolItem* const next = item->LeaveSame())
+    index_.Replace(key.hash, item->Number(), next->Number());
+  else
+    index_.Remove(key.hash, item->Number());
+  Unchain(item);
+  Destroy(item);
+}
+
+const CSymbolItem* CSymbolTable::FindName(const CString& name) const {
+  for (const Chain& chain : chains_)
+    for (const CSymbolItem* item = chain.head; item != nullptr; item = item->Next())
+      if (item->Name() == name)
+        return item;
+  return nullptr;
+}
+
+std::size_t CSymbolTable::Footprint() const {
+  return arena_.Footprint() + index_.Footprint() + chains_.capacity() * sizeof(Chain);
+}

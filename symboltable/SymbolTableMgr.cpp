@@ -1,0 +1,78 @@
+// The symbol tables' life cycle.
+#include "symboltable/SymbolTableMgr.h"
+
+#include <vector>
+
+#include "platform/framework/CUIntArray.h"
+#include "symboltable/ExchangeService.h"
+#include "symboltable/TableSlots.h"
+
+CSymbolTableMgr::CSymbolTableMgr() : slots_(std::make_unique<tq::TableSlots>()) {}
+
+CSymbolTableMgr::~CSymbolTableMgr() {
+  CleanALL();
+}
+
+int CSymbolTableMgr::Init() {
+  // Forgotten, not deleted: callers hand tables over by this, and delete them through CleanALL.
+  slots_->Forget();
+  slots_->SetDefaults({});
+  return 1;
+}
+
+int CSymbolTableMgr::InitAllSymbolTable() {
+  const tq::ExchangeList exchanges;
+  int result = exchanges.Result();
+  int slot = 0;
+  for (const ExchInfo& exchange : exchanges.Records()) {
+    if (slot == tq::TableSlots::Count)
+      break;
+    auto table = std::make_unique<CSymbolTable>(tq::ToCString(tq::NameOf(exchange)), exchange.id);
+    if (!table->Load())
+      result = 0;
+    slots_->Put(slot++, std::move(table));
+  }
+  return result;
+}
+
+int CSymbolTableMgr::InitAuthorizedExch() {
+  int mask[tq::TableSlots::Count] = {};
+  if (!GetAuthMask(mask))
+    return 0;
+  for (int slot = 0; slot < tq::TableSlots::Count; ++slot)
+    if (CSymbolTable* const table = slots_->At(slot))
+      table->SetAuthorized(tq::CanBeEntitled(table->ExchId()) && mask[table->ExchId()] != 0);
+  return 1;
+}
+
+int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) {
+  std::vector<int> exchIds;
+  for (int i = 0; i < ids.GetSize(); ++i)
+    exchIds.push_back(static_cast<int>(ids[i]));
+  slots_->SetDefaults(std::move(exchIds));
+  return 1;
+}
+
+void CSymbolTableMgr::CleanALL() {
+  slots_->Clear();
+}
+
+CSymbolTable* CSymbolTableMgr::TableAt(int slot) const {
+  return slots_->At(slot);
+}
+
+int CSymbolTableMgr::MakeTable(int slot, const CString& exchName, int exchId) {
+  auto table = std::make_unique<CSymbolTable>(exchName, exchId);
+  table->SetAuthorized(IsAuthExch(exchId) != 0);
+  const int loaded = table->Load();
+  slots_->Put(slot, std::move(table));
+  return loaded;
+}
+
+int CSymbolTableMgr::MakeTable(const CString& exchName, int exchId) {
+  const int slot = slots_->FirstFree();
+  CString name = exchName;
+  if (slot == tq::TableSlots::None || (name.IsEmpty() && !FindExchID(exchId, name)))
+    return 0;
+  return MakeTable(slot, name, exchId);
+}

@@ -1,0 +1,117 @@
+// What the symbol tables know of exchanges.
+#include <algorithm>
+
+#include "symboltable/ExchangeService.h"
+#include "symboltable/LeadingInt.h"
+#include "symboltable/SymbolTableMgr.h"
+#include "symboltable/TableSlots.h"
+
+using tq::TableSlots;
+
+int CSymbolTableMgr::FindExchID(int exchId, CString& name) {
+  const tq::ExchangeList exchanges;
+  for (const ExchInfo& exchange : exchanges.Records()) {
+    if (exchange.id != exchId)
+      continue;
+    name = tq::ToCString(tq::NameOf(exchange));
+    return 1;
+  }
+  return 0;
+}
+
+int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) {
+  if (exchName.IsEmpty())
+    return 0;
+  const int slot = slots_->FindName(tq::ViewOf(exchName));
+  return slot != TableSlots::None && slots_->At(slot)->IsAuthorized();
+}
+
+int CSymbolTableMgr::IsSupportUJKExch() {
+  int mask[TableSlots::Count] = {};
+  return GetAuthMask(mask) &&
+         std::ranges::all_of(tq::FamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
+}
+
+CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
+  enum class FamilyShown { NotAsked, No, Yes };
+  FamilyShown family = FamilyShown::NotAsked;
+  const auto isLeftOut = [&](int exchId) {
+    if (std::ranges::find(tq::FamilyExchanges, exchId) == tq::FamilyExchanges.end())
+      return false;
+    if (family == FamilyShown::NotAsked)
+      family = tq::HasFullMenu() ? FamilyShown::Yes : FamilyShown::No;
+    return family == FamilyShown::No;
+  };
+  CString names;
+  tq::ForEachNumber(tq::ViewOf(exchIds), [&](int position, int exchId) {
+    const int slot = isLeftOut(exchId) ? TableSlots::None : slots_->FindId(exchId);
+    if (slot == TableSlots::None)
+      return;
+    // By the position in the input: a first id that is left out leaves its comma behind, and
+    // callers count on that. Do not make it depend on what was written.
+    if (position > 0)
+      names += ',';
+    names += slots_->At(slot)->ExchName();
+  });
+  return names;
+}
+
+std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) {
+  const std::string_view suffix = tq::SuffixOf(tq::ViewOf(id));
+  if (suffix.empty() || !slots_->HasNameNoCase(suffix))
+    return {id, CString()};
+  return {tq::ToCString(tq::SymbolOf(tq::ViewOf(id))), tq::ToCString(suffix)};
+}
+
+CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {
+  const auto [symbol, exchName] = GetSymbolAndExchID(id);
+  if (exchName.IsEmpty())
+    return id;
+  for (const CSymbolTable* table : slots_->Defaults())
+    if (table->ExchName() == exchName)
+      return symbol;
+  return id;
+}
+
+int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) {
+  int count = 0;
+  for (const CSymbolTable* table : slots_->Defaults()) {
+    if (table->FindId(tq::ViewOf(symbol)) == nullptr)
+      continue;
+    exchName = table->ExchName();
+    ++count;
+  }
+  return count;
+}
+
+int CSymbolTableMgr::IsGetDefaultExchange(const CString& symbol, CString& exchName) {
+  for (const CSymbolTable* table : slots_->Defaults()) {
+    if (table->FindId(tq::ViewOf(symbol)) == nullptr)
+      continue;
+    exchName = table->ExchName();
+    return 1;
+  }
+  return 0;
+}
+
+int CSymbolTableMgr::GetExch(const CString& id, CString& exchName) {
+  exchName = GetSymbolAndExchID(id).second;
+  return !exchName.IsEmpty();
+}
+
+int CSymbolTableMgr::FindSymbolTableIndex(const CString& exchName, int exchId) {
+  return slots_->Find(tq::ViewOf(exchName), exchId);
+}
+
+int CSymbolTableMgr::MapToSymbolTableIndex(int exchId) {
+  return slots_->FindId(exchId);
+}
+
+int CSymbolTableMgr::GetAuthMask(int mask[128]) {
+  return tq::ReadEntitlements(std::span<int, TableSlots::Count>(mask, TableSlots::Count));
+}
+
+int CSymbolTableMgr::IsAuthExch(int exchId) {
+  int mask[TableSlots::Count] = {};
+  return tq::CanBeEntitled(exchId) && GetAuthMask(mask) && mask[exchId] != 0;
+}

@@ -1,0 +1,87 @@
+// Look-ups of symbols, by id and by name.
+#include "platform/services/tqStockFields.h"
+#include "symboltable/SymbolLookUp.h"
+#include "symboltable/SymbolTableMgr.h"
+#include "symboltable/TableSlots.h"
+#include "symboltable/UpperText.h"
+
+namespace {
+
+// The exchange's name in upper case, given or derived; no symbol is looked at. What is held is
+// shared.
+int GetExchangeName(const tq::TableSlots& slots, std::string_view id, const CString& given,
+                    std::string_view upperGiven, CString& value) {
+  const bool isGiven = !upperGiven.empty();
+  const std::string_view name = isGiven ? upperGiven : tq::ExchangeIn(slots, id);
+  if (name.empty())
+    return 0;
+  const int slot = slots.FindName(name);
+  if (isGiven && name.data() == given.GetString())
+    value = given;
+  else if (slot != tq::TableSlots::None)
+    value = slots.At(slot)->ExchName();
+  else
+    value.SetString(name.data(), static_cast<int>(name.size()));
+  return 1;
+}
+
+const CSymbolItem* FindForNumber(const tq::TableSlots& slots, CString& id, CString& exchName) {
+  if (id.IsEmpty())
+    return nullptr;
+  tq::UpperBuffer idBuffer;
+  tq::UpperBuffer exchBuffer;
+  return tq::FindSymbol(slots, tq::UpperCased(id, idBuffer), tq::UpperCased(exchName, exchBuffer),
+                        tq::BareSymbol::FirstDefault);
+}
+
+int GetLong(const CSymbolItem* item, int field, long& value) {
+  if (item == nullptr)
+    return 0;
+  int number = 0;
+  const int found = item->GetNumber(field, number);
+  value = number;
+  return found;
+}
+
+} // namespace
+
+int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) {
+  if (name.IsEmpty())
+    return 0;
+  for (int slot = 0; slot < tq::TableSlots::Count; ++slot) {
+    const CSymbolTable* const table = slots_->At(slot);
+    const CSymbolItem* const item = table == nullptr ? nullptr : table->FindName(name);
+    if (item != nullptr)
+      return item->GetText(FieldSymbolId, id);
+  }
+  return 0;
+}
+
+int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchName,
+                                           CString& value) {
+  if (id.IsEmpty())
+    return 0;
+  tq::UpperBuffer idBuffer;
+  tq::UpperBuffer exchBuffer;
+  const std::string_view upperId = tq::UpperCased(id, idBuffer);
+  const std::string_view upperExch = tq::UpperCased(exchName, exchBuffer);
+  if (field == FieldExchangeName)
+    return GetExchangeName(*slots_, upperId, exchName, upperExch, value);
+  const tq::BareSymbol rule =
+      field == FieldSymbolId ? tq::BareSymbol::Refused : tq::BareSymbol::FirstDefault;
+  const CSymbolItem* const item = tq::FindSymbol(*slots_, upperId, upperExch, rule);
+  return item != nullptr && item->GetText(field, value);
+}
+
+int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName, int& value) {
+  const CSymbolItem* const item = FindForNumber(*slots_, id, exchName);
+  return item != nullptr && item->GetNumber(field, value);
+}
+
+int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName, long& value) {
+  return GetLong(FindForNumber(*slots_, id, exchName), field, value);
+}
+
+int CSymbolTableMgr::LookUpSymbolGetExAttr(int field, CString id, CString exchName, long& value) {
+  return GetLong(FindForNumber(*slots_, id, exchName), field, value);
+}

@@ -1,0 +1,72 @@
+// How the symbol tables follow the service's exchanges and symbols.
+#include <set>
+#include <string_view>
+
+#include "symboltable/ExchangeService.h"
+#include "symboltable/SymbolRecords.h"
+#include "symboltable/SymbolTableMgr.h"
+#include "symboltable/TableSlots.h"
+
+int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) {
+  const int slot = MapToSymbolTableIndex(exchId);
+  if (slot == tq::TableSlots::None)
+    return MakeTable(CString(), exchId);
+  const tq::SymbolRecords records(symbols, count);
+  return records.Count() == 0 || slots_->At(slot)->Add(records.Joined());
+}
+
+int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) {
+  const int slot = MapToSymbolTableIndex(exchId);
+  if (slot == tq::TableSlots::None)
+    return MakeTable(CString(), exchId);
+  const tq::SymbolRecords records(symbols, count);
+  return records.Count() == 0 || slots_->At(slot)->Update(records.Joined());
+}
+
+int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) {
+  const int slot = MapToSymbolTableIndex(exchId);
+  if (slot == tq::TableSlots::None)
+    return 0;
+  const tq::SymbolRecords records(symbols, count);
+  for (int i = 0; i < records.Count(); ++i)
+    slots_->At(slot)->Remove(records.At(i));
+  return 1;
+}
+
+int CSymbolTableMgr::RebuildSymbolTable() {
+  const tq::ExchangeList list;
+  if (!list.Result())
+    return 0;
+  const std::span<const ExchInfo> exchanges = list.Records();
+  std::set<std::string_view> unknown;
+  for (const ExchInfo& exchange : exchanges)
+    unknown.insert(tq::NameOf(exchange));
+  for (int slot = 0; slot < tq::TableSlots::Count; ++slot)
+    if (const CSymbolTable* const table = slots_->At(slot);
+        table != nullptr && unknown.erase(tq::ViewOf(table->ExchName())) == 0)
+      slots_->Remove(slot);
+
+  // One counter is both the position in the service's list and the slot where the search for a free
+  // one starts. So when occupied slots are passed over, the exchanges in between wait for a later
+  // call. This is how the terminal's tables have always filled up: do not part the two.
+  int position = 0;
+  for (; position < static_cast<int>(exchanges.size()); ++position) {
+    const ExchInfo& exchange = exchanges[static_cast<std::size_t>(position)];
+    if (!unknown.contains(tq::NameOf(exchange)))
+      continue;
+    const int slot = slots_->FirstFree(position);
+    if (slot == tq::TableSlots::None)
+      return 0;
+    MakeTable(slot, tq::ToCString(tq::NameOf(exchange)), exchange.id);
+    position = slot;
+  }
+  return 1;
+}
+
+int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) {
+  constexpr int allExchanges = -1;
+  if (exchId == allExchanges)
+    return RebuildSymbolTable();
+  const int slot = FindSymbolTableIndex(exchName, exchId);
+  return slot == tq::TableSlots::None ? MakeTable(exchName, exchId) : slots_->At(slot)->Load();
+}

@@ -1,0 +1,77 @@
+// The 128 slots that own the tables, and how a table is found among them. A slot's number says
+// nothing: of several tables that would do, the one in the lowest slot answers.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "symboltable/SymbolTable.h"
+
+namespace tq {
+
+class TableSlots {
+public:
+  static constexpr int Count = 128;
+  static constexpr int None = -1;
+
+  TableSlots();
+  ~TableSlots();
+  TableSlots(const TableSlots&) = delete;
+  TableSlots& operator=(const TableSlots&) = delete;
+
+  CSymbolTable* At(int slot) const { return tables_[static_cast<std::size_t>(slot)].get(); }
+  // The first slot at or after `from` that holds nothing; None when there is none.
+  int FirstFree(int from = 0) const;
+
+  // Puts a table in, and deletes the one that was there.
+  void Put(int slot, std::unique_ptr<CSymbolTable> table);
+  // Deletes a table, or all of them.
+  void Remove(int slot);
+  void Clear();
+  // Empties all slots without deleting the tables, which then belong to nobody.
+  void Forget();
+
+  // The slot of a table with exactly that name, or with that exchange id; None.
+  int FindName(std::string_view exchName) const;
+  int FindId(int exchId) const;
+  // By name or, when that is empty, by id.
+  int Find(std::string_view exchName, int exchId) const {
+    return exchName.empty() ? FindId(exchId) : FindName(exchName);
+  }
+  // Whether a look-up of the table's name finds this very table.
+  bool IsFirstOfName(const CSymbolTable& table) const {
+    const int slot = Find(ViewOf(table.ExchName()), None);
+    return slot != None && At(slot) == &table;
+  }
+  // Whether some table has that name but for letter case.
+  bool HasNameNoCase(std::string_view exchName) const;
+
+  // The default exchanges, best first; kept when the tables change.
+  void SetDefaults(std::vector<int> exchIds);
+  // The tables of the default exchanges, in the same order, without those that have none.
+  const std::vector<CSymbolTable*>& Defaults() const { return defaults_; }
+
+private:
+  // Slots plus 1 by the hash of a name, 0 for no entry: at most half of it is taken.
+  using NameIndex = std::array<std::uint8_t, 256>;
+
+  void Reindex();
+  void FindDefaults();
+  std::string_view NameAt(int slot) const { return ViewOf(At(slot)->ExchName()); }
+  std::string_view UpperNameAt(int slot) const {
+    return upperNames_[static_cast<std::size_t>(slot)];
+  }
+
+  std::array<std::unique_ptr<CSymbolTable>, Count> tables_;
+  std::array<std::string, Count> upperNames_;
+  NameIndex byName_ = {};
+  NameIndex byUpperName_ = {};
+  std::vector<int> defaultIds_;
+  std::vector<CSymbolTable*> defaults_;
+};
+
+} // namespace tq

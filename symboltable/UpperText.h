@@ -1,0 +1,41 @@
+// Upper-casing and comparison that ignores letter case, without a copy where there is nothing to
+// change.
+//
+// Both go by whole characters: the second byte of a double-byte character may be an ASCII letter
+// and is left as it is. Two texts are equal ignoring case when their upper-cased forms are equal.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "platform/CodePage.h"
+#include "platform/framework/CString.h"
+
+namespace tq {
+
+// Room for the upper-cased form of every id that a person or a service writes.
+using UpperBuffer = std::array<char, 64>;
+
+// `text` in upper case. The result lies in `text` itself when that is in upper case already, in
+// `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
+// valid while both live.
+std::string_view UpperCased(CString& text, UpperBuffer& buffer);
+
+// Upper-cases in place.
+void MakeUpper(CString& text);
+
+// Whether the two are the same but for letter case.
+inline bool EqualsNoCase(std::string_view left, std::string_view right) {
+  return left == right || EqualNoCase(left.data(), left.size(), right.data(), right.size());
+}
+
+// The bytes of a string, for as long as it is not changed.
+inline std::string_view ViewOf(const CString& text) {
+  return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+inline CString ToCString(std::string_view text) {
+  return CString(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace tq

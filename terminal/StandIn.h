@@ -1,0 +1,143 @@
+// The stand-in terminal: what a test, the demo or a benchmark says to the services that this folder
+// provides under the real ones' names (VLProxy, TQSProxy, TQSObj, tqStock, tqCommon, tqUtil,
+// TQLog).
+//
+// One process holds one stand-in. All of it runs on the caller's thread. Text in this header is
+// UTF-8 unless a member says "bytes"; the services hand it out in the process's code page, cut at a
+// whole character to each field's width. Codes and exchange names are ASCII.
+//
+// The operations by name, as FailCall, Calls and CountCalls know them: the flat ones by their own
+// name
+// ("VLGetExch"), members as "CStaticKey::Setup", "CStockAttr::GetID",
+// "CCheckFileName::IsValidName", "TQLog::storage". Four can neither fail nor are they recorded:
+// VLFree (see OutstandingArrays), IsTraditionChinese, and the constructors and destructors of
+// tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
+// TQLog::write can be made to fail, but are not recorded: there are dozens for each symbol, and a
+// written line stands in LogLines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "terminal/StandInApi.h"
+
+namespace standin {
+
+struct Exchange {
+  int id = 0;
+  std::string name;    // short code: "TW"
+  std::string titleTw; // what a person reads, Traditional Chinese
+  std::string titleCn; // the same, Simplified Chinese
+};
+
+// One more attribute of an instrument, as tqStock answers it.
+struct FieldValue {
+  int field = 0; // a Field of tqStock
+  std::string value;
+};
+
+struct Instrument {
+  int exchId = 0;
+  std::string code;   // bare code: "2330"
+  std::string nameTw; // display name, Traditional Chinese
+  std::string nameCn; // display name, Simplified Chinese
+  std::string kind;   // stock, preferred, index, etf, etn, warrant, future, option, bond
+  int decimals = 2;
+  int lot = 1000;                 // trading unit
+  bool usable = true;             // false: CStaticKey::Setup refuses the record
+  std::string price;              // reference price as text; empty: none
+  std::string exchangeCode;       // the exchange's own code; empty: the bare code
+  std::vector<FieldValue> fields; // what else is known; stands above the members
+};
+
+// A group of the service's group tree is not part of the market yet; sectors are.
+struct Sector {
+  int type = 1;
+  std::string id, nameTw, nameCn;
+  std::vector<std::string> members; // full ids
+};
+
+struct Market {
+  std::vector<Exchange> exchanges; // in the service's order; an id or name may stand twice
+  std::vector<Instrument> instruments;
+  std::vector<Sector> sectors;
+  std::string entitled = "";    // TQSGetUserInfo flag 0
+  std::string defaults = "";    // TQSGetUserInfo flag 6
+  std::string fullMenuKey = ""; // TQSGetUserExtraValue("", "FullMenuKey"); empty: the call fails
+};
+
+// Reads a market directory (see data/market/README.md), given as the system's C library takes it.
+// False with `error` = "file:line: reason" for the first bad line or missing file (line 0);
+// `market` is then unchanged.
+TQSTANDIN_API bool LoadMarket(const std::string& directory, Market& market, std::string& error);
+
+// Puts a market behind the services. Arrays handed out earlier stay valid until released.
+// Instruments of an exchange that the market does not list are not served.
+TQSTANDIN_API void SetMarket(Market market);
+TQSTANDIN_API const Market& CurrentMarket();
+
+// Back to an empty market, no scripted failures, no recorded calls, log lines or messages, bad
+// releases forgotten; recording on, the language that of the start. Arrays handed out and not yet
+// released stay counted.
+TQSTANDIN_API void Reset();
+
+// The interface language that IsTraditionChinese reports. At the start: on Windows whether the code
+// page is 950; elsewhere traditional unless the environment says TQ_LANG=cn.
+TQSTANDIN_API void SetTraditional(bool traditional);
+
+// Makes the n-th call from now (1: the next) of one service operation fail, as that operation's
+// contract says a failure looks; n = 0 takes the order back. "*" counts calls of every operation.
+TQSTANDIN_API void FailCall(std::string_view operation, int n);
+// Every call of the operation fails until Reset or FailCall(operation, 0).
+TQSTANDIN_API void FailAlways(std::string_view operation);
+
+struct Call {
+  std::string operation;
+  std::string
+      arguments; // as text, comma-separated, outputs left out; bytes as the service got them,
+                 // "(null)" for a null text
+};
+TQSTANDIN_API const std::vector<Call>& Calls();
+TQSTANDIN_API int CountCalls(std::string_view operation);
+TQSTANDIN_API void ClearCalls();
+// Recording costs time and memory: a benchmark turns it off.
+TQSTANDIN_API void RecordCalls(bool on);
+
+// Arrays handed out and not yet given to VLFree, and calls of VLFree with something that is not one
+// of them: never handed out, or released before. Such a release is counted and otherwise ignored.
+TQSTANDIN_API int OutstandingArrays();
+TQSTANDIN_API int BadReleases();
+
+struct LogLine {
+  int level;
+  std::string text; // bytes in the process's code page, without the line's time and prefix
+};
+TQSTANDIN_API const std::vector<LogLine>& LogLines();
+TQSTANDIN_API int LoggersAlive();
+// The directory, base name and prefix of the latest TQLog::storage call, joined by "|"; bytes.
+TQSTANDIN_API std::string LogStorage();
+
+struct Message {
+  unsigned id;      // string-table entry; 0 for a box that shows a text
+  unsigned type;    // buttons
+  void* resources;  // the module that was given
+  std::string text; // bytes, for a box that shows a text
+};
+TQSTANDIN_API const std::vector<Message>& Messages();
+// The button that the next message boxes report; 1 (OK) at the start.
+TQSTANDIN_API void AnswerMessages(int button);
+
+struct Notification {
+  std::string target;
+  long reserved;
+  long code;
+  std::string reason;
+};
+TQSTANDIN_API const std::vector<Notification>& Notifications();
+
+// UTF-8 to the process's code page (characters it lacks become "?") and back.
+TQSTANDIN_API std::string ToAnsi(std::string_view utf8);
+TQSTANDIN_API std::string FromAnsi(std::string_view ansi);
+
+} // namespace standin

@@ -1,0 +1,32 @@
+// How an operation of VLProxy hands out an array.
+#pragma once
+
+#include <cstddef>
+#include <limits>
+
+#include "terminal/control/ServiceArrays.h"
+
+namespace standin {
+
+// Checks and empties the outputs; false when one is missing.
+template <class T> bool ClearOutputs(T** list, int* count) {
+  if (list)
+    *list = nullptr;
+  if (count)
+    *count = 0;
+  return list && count;
+}
+
+// Hands out an array of `size` zero-filled records. Returns non-zero on success.
+template <class T> int HandOut(std::size_t size, T** list, int* count) {
+  if (size > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+    return 0;
+  T* array = NewArray<T>(size);
+  if (!array && size > 0)
+    return 0;
+  *list = array;
+  *count = static_cast<int>(size);
+  return 1;
+}
+
+} // namespace standin

@@ -1,0 +1,64 @@
+// VLProxy: exchanges and what they list.
+#include <cstring>
+
+#include "platform/services/VLProxy.h"
+#include "terminal/VLProxy/Answer.h"
+#include "terminal/control/Listings.h"
+#include "terminal/control/Script.h"
+
+using namespace standin;
+
+namespace {
+
+// The one section that the stand-in's exchanges have: all of it.
+constexpr int kWholeExchange = -1;
+
+// What a call for (exchId, subId) is about; null when the exchange is not listed.
+const ListingRange* Section(int exchId, int subId) {
+  static constexpr ListingRange kNothing;
+  const ListingRange* range = CurrentListings().OfExchange(exchId);
+  return range && subId != kWholeExchange ? &kNothing : range;
+}
+
+} // namespace
+
+void VLFree(void* array) {
+  ReleaseArray(array);
+}
+
+int VLGetExch(ExchInfo** list, int* count, int flag) {
+  const bool proceed = Begin("VLGetExch", flag);
+  if (!ClearOutputs(list, count) || !proceed)
+    return 0;
+  const std::vector<ExchInfo>& exchanges = CurrentListings().Exchanges();
+  if (!HandOut(exchanges.size(), list, count))
+    return 0;
+  if (!exchanges.empty())
+    std::memcpy(*list, exchanges.data(), exchanges.size() * sizeof(ExchInfo));
+  return 1;
+}
+
+int VLGetBaseAttrs2(int exchId, int subId, BaseAttr** list, int* count, int reserved, int flag) {
+  const bool proceed = Begin("VLGetBaseAttrs2", exchId, subId, reserved, flag);
+  if (!ClearOutputs(list, count) || !proceed)
+    return 0;
+  const ListingRange* range = Section(exchId, subId);
+  if (!range || !HandOut(range->count, list, count))
+    return 0;
+  const Listings& listings = CurrentListings();
+  for (std::size_t i = 0; i < range->count; ++i)
+    listings.Write(range->first + i, (*list)[i]);
+  return 1;
+}
+
+int VLGetSymbolInfos2(int exchId, int subId, SymbolInfo** list, int* count, int reserved) {
+  const bool proceed = Begin("VLGetSymbolInfos2", exchId, subId, reserved);
+  if (!ClearOutputs(list, count) || !proceed)
+    return 0;
+  const ListingRange* range = Section(exchId, subId);
+  if (!range || !HandOut(range->count, list, count))
+    return 0;
+  if (range->count > 0)
+    std::memcpy(*list, CurrentListings().Infos() + range->first, range->count * sizeof(SymbolInfo));
+  return 1;
+}

@@ -1,0 +1,194 @@
+// Reads a market directory.
+#include <algorithm>
+#include <limits>
+#include <unordered_map>
+
+#include "platform/services/VLRecords.h"
+#include "terminal/StandIn.h"
+#include "terminal/control/Encoding.h"
+#include "terminal/control/TableFile.h"
+
+namespace standin {
+namespace {
+
+constexpr std::string_view kNothing = "-";
+constexpr std::size_t kLongestId = sizeof(SymbolInfo::id) - 1;
+constexpr std::size_t kLongestName = sizeof(SymbolInfo::name) - 1;
+constexpr std::size_t kLongestExchange = sizeof(ExchInfo::name) - 1;
+constexpr std::size_t kLongestGroupId = sizeof(GroupInfo::szID) - 1;
+constexpr std::size_t kLongestGroupName = sizeof(GroupInfo::szName) - 1;
+constexpr int kMostDecimals = 9;
+constexpr int kMostGroupType = 201;
+
+using ExchangeIds = std::unordered_map<std::string_view, int>;
+
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c <= '~'; });
+}
+
+// No code page makes a text longer than it is in UTF-8.
+bool Fits(std::string_view name, std::size_t size) {
+  return name.size() <= size || (Encode(name, Language::Traditional).size() <= size &&
+                                 Encode(name, Language::Simplified).size() <= size);
+}
+
+std::string Optional(std::string_view field) {
+  return field == kNothing ? std::string() : std::string(field);
+}
+
+bool IsPrice(std::string_view text) {
+  const std::size_t point = std::min(text.find('.'), text.size());
+  const auto digits = [](std::string_view part) {
+    return !part.empty() &&
+           std::all_of(part.begin(), part.end(), [](char c) { return c >= '0' && c <= '9'; });
+  };
+  return digits(text.substr(0, point)) && (point == text.size() || digits(text.substr(point + 1)));
+}
+
+bool AddExchange(TableFile& file, const TableFile::Row& row, Market& market) {
+  const std::optional<int> id = ParseNumber(row[0], 1, std::numeric_limits<short>::max());
+  if (!id)
+    return file.Refuse("the id is no number from 1 to 32767");
+  if (row[1].empty() || row[1].size() > kLongestExchange || !IsPlain(row[1]) ||
+      row[1].find_first_of(".,:") != std::string_view::npos)
+    return file.Refuse("the name is not 1 to 19 ASCII characters without \".\", \",\" and \":\"");
+  for (const Exchange& exchange : market.exchanges)
+    if (exchange.id == *id || exchange.name == row[1])
+      return file.Refuse("the id or the name stands twice");
+  market.exchanges.push_back({*id, std::string(row[1]), std::string(row[2]), std::string(row[3])});
+  return true;
+}
+
+bool CheckCode(TableFile& file, std::string_view exchange, std::string_view code) {
+  if (code.empty() || code.size() > kLongestId || !IsPlain(code) ||
+      code.find_first_of(",:") != std::string_view::npos)
+    return file.Refuse("the code is not 1 to 19 ASCII characters without \",\" and \":\"");
+  if (code.size() + 1 + exchange.size() > kLongestId)
+    return file.Refuse("the full id is longer than 19 characters");
+  return true;
+}
+
+bool AddInstrument(TableFile& file, const TableFile::Row& row, const ExchangeIds& exchanges,
+                   Market& market) {
+  const auto exchange = exchanges.find(row[0]);
+  if (exchange == exchanges.end())
+    return file.Refuse("unknown exchange");
+  if (!CheckCode(file, row[0], row[1]))
+    return false;
+  if (!Fits(row[2], kLongestName) || !Fits(row[3], kLongestName))
+    return file.Refuse("a name is longer than 30 bytes");
+  const std::optional<int> decimals = ParseNumber(row[5], 0, kMostDecimals);
+  if (!decimals)
+    return file.Refuse("decimals is no number from 0 to 9");
+  const std::optional<int> lot = ParseNumber(row[6], 1, std::numeric_limits<int>::max());
+  if (!lot)
+    return file.Refuse("lot is no number from 1 up");
+  Instrument instrument{exchange->second,
+                        std::string(row[1]),
+                        std::string(row[2]),
+                        std::string(row[3]),
+                        std::string(row[4]),
+                        *decimals,
+                        *lot,
+                        true,
+                        Optional(row[7]),
+                        Optional(row[8]),
+                        {}};
+  if (!instrument.price.empty() && !IsPrice(instrument.price))
+    return file.Refuse("price is no decimal number");
+  if (!instrument.exchangeCode.empty() && !CheckCode(file, "", instrument.exchangeCode))
+    return false;
+  market.instruments.push_back(std::move(instrument));
+  return true;
+}
+
+std::vector<std::string> SplitMembers(std::string_view text) {
+  std::vector<std::string> members;
+  while (!text.empty()) {
+    const std::size_t comma = std::min(text.find(','), text.size());
+    members.emplace_back(text.substr(0, comma));
+    text.remove_prefix(std::min(comma + 1, text.size()));
+  }
+  return members;
+}
+
+bool AddSector(TableFile& file, const TableFile::Row& row, Market& market) {
+  const std::optional<int> type = ParseNumber(row[0], 1, kMostGroupType);
+  if (!type)
+    return file.Refuse("the type is no number from 1 to 201");
+  if (row[1].empty() || row[1].size() > kLongestGroupId || !IsPlain(row[1]))
+    return file.Refuse("the id is not 1 to 16 ASCII characters");
+  if (!Fits(row[2], kLongestGroupName) || !Fits(row[3], kLongestGroupName))
+    return file.Refuse("a name is longer than 48 bytes");
+  market.sectors.push_back(
+      {*type, std::string(row[1]), std::string(row[2]), std::string(row[3]), SplitMembers(row[4])});
+  return true;
+}
+
+bool SetUserValue(TableFile& file, const TableFile::Row& row, Market& market) {
+  if (row[0] == "entitled")
+    market.entitled = Optional(row[1]);
+  else if (row[0] == "defaults")
+    market.defaults = Optional(row[1]);
+  else if (row[0] == "full_menu_key")
+    market.fullMenuKey = Optional(row[1]);
+  else
+    return file.Refuse("unknown key");
+  return true;
+}
+
+enum class Presence { Required, Optional };
+
+// Opens the file and gives each of its records to `add`, until one is refused.
+template <class Add>
+bool ReadFile(TableFile& file, const std::string& directory, Presence presence, Add add) {
+  if (!file.Open(directory))
+    return presence == Presence::Optional && !file.Exists();
+  while (true) {
+    const TableFile::Row& row = file.Next();
+    if (row.empty())
+      return file.Error().empty();
+    if (!add(row))
+      return false;
+  }
+}
+
+ExchangeIds IdsByName(const Market& market) {
+  ExchangeIds ids;
+  for (const Exchange& exchange : market.exchanges)
+    ids.emplace(exchange.name, exchange.id);
+  return ids;
+}
+
+} // namespace
+
+bool LoadMarket(const std::string& directory, Market& market, std::string& error) {
+  TableFile exchanges("exchanges.tsv", "id\tname\ttitle_tw\ttitle_cn");
+  TableFile symbols("symbols.tsv", "exchange\tcode\tname_tw\tname_cn\tkind\tdecimals\tlot\tprice\t"
+                                   "exchange_code");
+  TableFile sectors("sectors.tsv", "type\tid\tname_tw\tname_cn\tmembers");
+  TableFile user("user.tsv", "key\tvalue");
+  Market read;
+  const auto fail = [&error](const TableFile& file) {
+    error = file.Error();
+    return false;
+  };
+  using Row = TableFile::Row;
+  if (!ReadFile(exchanges, directory, Presence::Required,
+                [&](const Row& row) { return AddExchange(exchanges, row, read); }))
+    return fail(exchanges);
+  const ExchangeIds ids = IdsByName(read);
+  if (!ReadFile(symbols, directory, Presence::Required,
+                [&](const Row& row) { return AddInstrument(symbols, row, ids, read); }))
+    return fail(symbols);
+  if (!ReadFile(sectors, directory, Presence::Optional,
+                [&](const Row& row) { return AddSector(sectors, row, read); }))
+    return fail(sectors);
+  if (!ReadFile(user, directory, Presence::Optional,
+                [&](const Row& row) { return SetUserValue(user, row, read); }))
+    return fail(user);
+  market = std::move(read);
+  return true;
+}
+
+} // namespace standin

@@ -1,0 +1,103 @@
+#include "terminal/control/Reports.h"
+
+#include "terminal/control/Parts.h"
+
+namespace standin {
+namespace {
+
+constexpr int kButtonOk = 1;
+
+struct Reports {
+  std::vector<LogLine> lines;
+  std::string storage;
+  std::vector<Message> messages;
+  std::vector<Notification> notifications;
+  int answer = kButtonOk;
+};
+
+Reports& TheReports() {
+  static Reports reports;
+  return reports;
+}
+
+// Loggers outlive a Reset: they are objects of the library.
+int loggersAlive = 0;
+
+Language& TheLanguage() {
+  static Language language = StartLanguage();
+  return language;
+}
+
+} // namespace
+
+Language InterfaceLanguage() {
+  return TheLanguage();
+}
+
+void SetTraditional(bool traditional) {
+  TheLanguage() = traditional ? Language::Traditional : Language::Simplified;
+}
+
+void ResetLanguage() {
+  TheLanguage() = StartLanguage();
+}
+
+std::string ToAnsi(std::string_view utf8) {
+  return Encode(utf8, InterfaceLanguage());
+}
+
+std::string FromAnsi(std::string_view ansi) {
+  return Decode(ansi, InterfaceLanguage());
+}
+
+void ReportLine(int level, std::string_view text) {
+  TheReports().lines.push_back({level, std::string(text)});
+}
+
+void ReportStorage(std::string_view directory, std::string_view base, std::string_view prefix) {
+  std::string& storage = TheReports().storage;
+  storage.assign(directory).append("|").append(base).append("|").append(prefix);
+}
+
+void ReportLogger(int change) {
+  loggersAlive += change;
+}
+
+int ReportMessage(Message message) {
+  TheReports().messages.push_back(std::move(message));
+  return TheReports().answer;
+}
+
+void ReportNotification(Notification notification) {
+  TheReports().notifications.push_back(std::move(notification));
+}
+
+const std::vector<LogLine>& LogLines() {
+  return TheReports().lines;
+}
+
+int LoggersAlive() {
+  return loggersAlive;
+}
+
+std::string LogStorage() {
+  return TheReports().storage;
+}
+
+const std::vector<Message>& Messages() {
+  return TheReports().messages;
+}
+
+void AnswerMessages(int button) {
+  TheReports().answer = button;
+}
+
+const std::vector<Notification>& Notifications() {
+  return TheReports().notifications;
+}
+
+void ResetReports() {
+  TheReports() = Reports();
+}
+
+} // namespace standin

@@ -1,0 +1,91 @@
+#include "terminal/control/Script.h"
+
+#include <map>
+#include <set>
+
+#include "terminal/StandIn.h"
+#include "terminal/control/Parts.h"
+
+namespace standin {
+namespace {
+
+constexpr std::string_view kEveryOperation = "*";
+
+struct Script {
+  std::map<std::string, int, std::less<>> countdowns;
+  std::set<std::string, std::less<>> always;
+  std::vector<Call> calls;
+  bool recording = true;
+};
+
+Script& TheScript() {
+  static Script script;
+  return script;
+}
+
+// One call of what a countdown is for: true when it is the one that has to fail.
+bool CountDown(Script& script, std::string_view operation) {
+  const auto found = script.countdowns.find(operation);
+  if (found == script.countdowns.end() || --found->second > 0)
+    return false;
+  script.countdowns.erase(found);
+  return true;
+}
+
+} // namespace
+
+bool Recording() {
+  return TheScript().recording;
+}
+
+void Record(std::string_view operation, std::string arguments) {
+  TheScript().calls.push_back({std::string(operation), std::move(arguments)});
+}
+
+bool OrderedToFail(std::string_view operation) {
+  Script& script = TheScript();
+  if (script.countdowns.empty() && script.always.empty())
+    return false;
+  // Both countdowns see the call, whichever of them strikes.
+  const bool one = CountDown(script, operation);
+  const bool every = CountDown(script, kEveryOperation);
+  return one || every || script.always.contains(operation) ||
+         script.always.contains(kEveryOperation);
+}
+
+void FailCall(std::string_view operation, int n) {
+  Script& script = TheScript();
+  script.always.erase(std::string(operation));
+  script.countdowns.erase(std::string(operation));
+  if (n > 0)
+    script.countdowns.emplace(operation, n);
+}
+
+void FailAlways(std::string_view operation) {
+  TheScript().always.emplace(operation);
+}
+
+const std::vector<Call>& Calls() {
+  return TheScript().calls;
+}
+
+int CountCalls(std::string_view operation) {
+  int count = 0;
+  for (const Call& call : TheScript().calls)
+    count += call.operation == operation ? 1 : 0;
+  return count;
+}
+
+void ClearCalls() {
+  TheScript().calls.clear();
+}
+
+void RecordCalls(bool on) {
+  TheScript().recording = on;
+}
+
+void ResetScript() {
+  TheScript() = Script();
+}
+
+} // namespace standin

@@ -1,0 +1,45 @@
+// What every operation of a service does first: let itself be recorded, and ask whether it was told
+// to fail.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "terminal/StandInApi.h"
+
+namespace standin {
+
+TQSTANDIN_API bool Recording();
+TQSTANDIN_API void Record(std::string_view operation, std::string arguments);
+// Counts the call against the orders of FailCall and FailAlways. Costs next to nothing without
+// orders.
+TQSTANDIN_API bool OrderedToFail(std::string_view operation);
+
+inline void AppendArgument(std::string& text, const char* argument) {
+  text += argument ? argument : "(null)";
+}
+inline void AppendArgument(std::string& text, long argument) {
+  text += std::to_string(argument);
+}
+inline void AppendArgument(std::string& text, unsigned argument) {
+  text += std::to_string(argument);
+}
+inline void AppendArgument(std::string& text, int argument) {
+  text += std::to_string(argument);
+}
+
+template <class... Arguments> std::string JoinArguments(Arguments... arguments) {
+  std::string text;
+  const char* separator = "";
+  ((text += separator, AppendArgument(text, arguments), separator = ","), ...);
+  return text;
+}
+
+// Opens a service call: false when it has to fail. `arguments` are the inputs, in order.
+template <class... Arguments> bool Begin(std::string_view operation, Arguments... arguments) {
+  if (Recording())
+    Record(operation, JoinArguments(arguments...));
+  return !OrderedToFail(operation);
+}
+
+} // namespace standin

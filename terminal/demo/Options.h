@@ -1,0 +1,17 @@
+// The demo's command line.
+#pragma once
+
+#include <string>
+
+namespace demo {
+
+struct Options {
+  std::string market;      // directory of exchanges.tsv and symbols.tsv
+  std::string data;        // directory of SymbolList.xml
+  bool traditional = true; // --lang tw or cn
+};
+
+// False, with `error` saying in one line why, when the arguments make no sense.
+bool ParseOptions(int argc, char** argv, Options& options, std::string& error);
+
+} // namespace demo

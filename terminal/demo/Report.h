@@ -1,0 +1,16 @@
+// What the demo shows of the library's state, as UTF-8 on standard output.
+#pragma once
+
+#include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/SymbolTableMgr.h"
+
+namespace demo {
+
+// One line for each exchange: its symbols that the library's tables resolve, and the entitlement.
+void PrintExchanges(CSymbolTableMgr& tables, bool traditional);
+
+// Every list of the user with its rows: symbols with their names, headings, and ids that no exchange
+// knows (kept in the list, shown without a row number).
+void PrintLists(CTQSymbolListMgr& manager);
+
+} // namespace demo

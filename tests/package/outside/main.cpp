@@ -1,0 +1,11 @@
+#include <cstdio>
+
+#include <tqSymbol.h>
+
+int main() {
+  CTQSymbolListMgr manager;
+  if (!manager.Init("", 0, 0, 0, nullptr, 0, 0))
+    return 1;
+  std::printf("%d lists\n", manager.GetSymbolListCount(1));
+  return 0;
+}

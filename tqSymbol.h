@@ -1,0 +1,17 @@
+// tqSymbol: watch lists and symbol resolution for a quote-and-order terminal. This header brings in the
+// whole interface; each class has a header of its own, with its conventions at the top.
+//
+//   CTQSymbolListMgr   symbollist/TQSymbolListMgr.h    the user's lists: the one object that a terminal
+//                                                      creates
+//   CSymbolTableMgr    symboltable/SymbolTableMgr.h    the symbol tables behind it
+//   CSymbolList        symbollist/SymbolList.h         one list
+//   SymbolInfo         platform/services/VLProxy.h     one symbol
+//
+// The library calls the terminal's services (platform/services/) and is not linked to them: the process
+// that loads it provides them, on Windows as DLLs of their names.
+#pragma once
+
+#include "symbollist/SymbolList.h"
+#include "symbollist/TQSymbolListInfo.h"
+#include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/SymbolTableMgr.h"
