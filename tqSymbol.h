@@ -5,13 +5,19 @@
 //                                                      creates
 //   CSymbolTableMgr    symboltable/SymbolTableMgr.h    the symbol tables behind it
 //   CSymbolList        symbollist/SymbolList.h         one list
+//   CListID            symbollist/ListID.h             which source of symbols a page shows, as text
+//   CIDConvert         symboltable/IDConvert.h         an id and its kind in one text
+//   COptFutID          symboltable/OptFutID.h          combination orders of options and futures
 //   SymbolInfo         platform/services/VLProxy.h     one symbol
 //
 // The library calls the terminal's services (platform/services/) and is not linked to them: the process
 // that loads it provides them, on Windows as DLLs of their names.
 #pragma once
 
+#include "symbollist/ListID.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"
 #include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/IDConvert.h"
+#include "symboltable/OptFutID.h"
 #include "symboltable/SymbolTableMgr.h"

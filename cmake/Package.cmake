@@ -5,15 +5,34 @@ include(CMakePackageConfigHelpers)
 # Every header that a terminal may include, and what those include. Nothing else is installed.
 set(TQ_FRAMEWORK_HEADERS
   platform/CodePage.h
-  platform/framework/FrameworkApi.h)
+  platform/framework/ArrayStorage.h
+  platform/framework/CArray.h
+  platform/framework/CMap.h
+  platform/framework/CMapStringToString.h
+  platform/framework/CPtrArray.h
+  platform/framework/CString.h
+  platform/framework/CStringArray.h
+  platform/framework/CStringOperators.h
+  platform/framework/CUIntArray.h
+  platform/framework/FrameworkApi.h
+  platform/framework/HashKey.h
+  platform/framework/InvalidArgument.h
+  platform/framework/MapStorage.h
+  platform/framework/Storage.h
+  platform/framework/StringData.h
+  platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h
   tqSymbolApi.h
   platform/services/VLProxy.h
+  platform/services/VLRecords.h
   symbollist/IDList.h
+  symbollist/ListID.h
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h
   symbollist/TQSymbolListMgr.h
+  symboltable/IDConvert.h
+  symboltable/OptFutID.h
   symboltable/SymbolTableMgr.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
@@ -26,6 +45,12 @@ function(tq_package_library target)
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "\$ORIGIN")
+  if(NOT WIN32)
+    target_link_options(${target} PRIVATE
+      LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/Exports.map)
+    set_property(TARGET ${target} APPEND PROPERTY
+      LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/Exports.map)
+  endif()
   target_compile_features(${target} INTERFACE cxx_std_20)
   install(TARGETS ${target} EXPORT tqSymbolTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}

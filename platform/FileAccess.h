@@ -27,7 +27,7 @@ enum class ReadResult {
 
 enum class SaveResult {
   Saved,     // the new bytes are in place and have reached the disk
-  NotOpened, // the file cannot be opened for writing; nothing was tried
+  NotOpened, // the file cannot be opened for writing, or created; nothing was tried
   Failed,    // it could not be written; the old file is as it was
 };
 
@@ -39,9 +39,8 @@ public:
   // `limit` is the largest size accepted, in bytes. A file that grows while it is read gives Failed.
   virtual ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) = 0;
 
-  // Makes the file hold exactly these bytes, creating it when it is missing. True when the new bytes
-  // are in place and have reached the disk; false leaves the old file as it was (unless the disk breaks
-  // while a file is written in place).
+  // Makes the file hold exactly these bytes, creating it when it is missing. Anything but Saved
+  // leaves the old file as it was (unless the disk breaks while a file is written in place).
   //
   // - A file that cannot be opened for writing (read-only, or on Windows held by another program
   //   without share-write) is refused, although its directory might let us replace it.

@@ -2,6 +2,8 @@
 
 namespace tq {
 
-std::string OwnModuleDirectory() { return DirectoryOf(OwnModulePath()); }
+std::string OwnModuleDirectory() {
+  return DirectoryOf(OwnModulePath());
+}
 
 } // namespace tq

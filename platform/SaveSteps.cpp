@@ -3,10 +3,8 @@
 namespace tq {
 namespace {
 
+// The temporary file is open.
 StepResult SaveByReplacing(SaveSteps& steps, const void* bytes, std::size_t size) {
-  const StepResult opened = steps.OpenTemporary();
-  if (opened != StepResult::Ok)
-    return opened;
   StepResult result = StepResult::Failed;
   if (steps.WriteTemporary(bytes, size) == size && steps.FlushTemporary())
     result = steps.ReplaceTarget();
@@ -17,29 +15,37 @@ StepResult SaveByReplacing(SaveSteps& steps, const void* bytes, std::size_t size
   return result;
 }
 
-bool SaveInPlace(SaveSteps& steps, const void* bytes, std::size_t size) {
-  const bool saved = steps.ReserveTarget(size) && steps.WriteTarget(bytes, size) == size &&
-                     steps.FlushTarget(size);
+// The target is open, with room for the bytes.
+SaveResult SaveInPlace(SaveSteps& steps, const void* bytes, std::size_t size) {
+  const bool saved = steps.WriteTarget(bytes, size) == size && steps.FlushTarget(size);
   const bool closed = steps.CloseTarget();
   if (saved && closed)
-    return true;
+    return SaveResult::Saved;
   steps.RemoveNewTarget();
-  return false;
+  return SaveResult::Failed;
 }
 
 } // namespace
 
 SaveResult RunSave(SaveSteps& steps, const void* bytes, std::size_t size) {
-  if (steps.OpenTarget() == StepResult::Failed)
+  const StepResult target = steps.OpenTarget();
+  if (target == StepResult::Failed)
     return SaveResult::NotOpened;
-  switch (SaveByReplacing(steps, bytes, size)) {
-  case StepResult::Ok:
-    return SaveResult::Saved;
-  case StepResult::Refused:
-    return SaveInPlace(steps, bytes, size) ? SaveResult::Saved : SaveResult::Failed;
-  default:
-    return SaveResult::Failed;
-  }
+  // A file that is not there yet has been opened when something could be created in its place.
+  const SaveResult nothingOpened =
+      target == StepResult::Missing ? SaveResult::NotOpened : SaveResult::Failed;
+  StepResult result = steps.OpenTemporary();
+  if (result == StepResult::Failed)
+    return nothingOpened;
+  if (result == StepResult::Ok)
+    result = SaveByReplacing(steps, bytes, size);
+  if (result != StepResult::Refused)
+    return result == StepResult::Ok ? SaveResult::Saved : SaveResult::Failed;
+  if (steps.ReserveTarget(size))
+    return SaveInPlace(steps, bytes, size);
+  steps.CloseTarget();
+  steps.RemoveNewTarget();
+  return nothingOpened;
 }
 
 } // namespace tq

@@ -52,7 +52,7 @@ public:
   virtual void RemoveNewTarget() = 0;
 };
 
-// Takes the steps. Saved when the target holds exactly these bytes.
+// Takes the steps. NotOpened when neither the target nor a file in its place could be opened.
 SaveResult RunSave(SaveSteps& steps, const void* bytes, std::size_t size);
 
 // The operating system's steps for the file at `path` (see FileAccess.h for paths). Never null.

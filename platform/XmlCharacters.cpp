@@ -6,11 +6,17 @@
 namespace tq {
 namespace {
 
-unsigned Byte(const char* at) { return static_cast<unsigned char>(*at); }
+unsigned Byte(const char* at) {
+  return static_cast<unsigned char>(*at);
+}
 
-bool IsContinuation(const char* at) { return (Byte(at) & 0xC0) == 0x80; }
+bool IsContinuation(const char* at) {
+  return (Byte(at) & 0xC0) == 0x80;
+}
 
-bool Within(unsigned byte, unsigned first, unsigned last) { return byte >= first && byte <= last; }
+bool Within(unsigned byte, unsigned first, unsigned last) {
+  return byte >= first && byte <= last;
+}
 
 std::size_t LengthByFirstByte(unsigned first) {
   if (Within(first, 0xC2, 0xDF))
@@ -58,11 +64,12 @@ char32_t TakeUtf8Char(const char*& at) {
   return character;
 }
 
-void PutUtf8Char(char32_t character, char (&bytes)[4]) {
+char* PutUtf8Char(char32_t character, char* bytes) {
   bytes[0] = static_cast<char>(0xF0 | character >> 18);
   bytes[1] = static_cast<char>(0x80 | (character >> 12 & 0x3F));
   bytes[2] = static_cast<char>(0x80 | (character >> 6 & 0x3F));
   bytes[3] = static_cast<char>(0x80 | (character & 0x3F));
+  return bytes + 4;
 }
 
 std::size_t AnsiCharLength(unsigned codePage, const char* at, const char* end) {

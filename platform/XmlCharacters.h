@@ -12,8 +12,8 @@ std::size_t Utf8CharLength(const char* at, const char* end);
 // Decodes a valid UTF-8 character at `at` and moves `at` behind it.
 char32_t TakeUtf8Char(const char*& at);
 
-// Writes a character from U+10000 on as its four bytes.
-void PutUtf8Char(char32_t character, char (&bytes)[4]);
+// Writes a character from U+10000 on as its four bytes; returns the place behind them.
+char* PutUtf8Char(char32_t character, char* bytes);
 
 // Bytes, 1 or 2, of the character of an ANSI code page at `at`, a byte above 0x7F; 0 when the bytes
 // cannot be one. This is the code page's structure, without regard to which characters are assigned:

@@ -13,12 +13,14 @@ struct EncodingName {
   XmlEncoding encoding;
 };
 constexpr EncodingName EncodingNames[] = {
-    {"big5", XmlEncoding::Big5},    {"cp950", XmlEncoding::Big5}, {"x-x-big5", XmlEncoding::Big5},
-    {"gb2312", XmlEncoding::Gbk},   {"gbk", XmlEncoding::Gbk},    {"cp936", XmlEncoding::Gbk},
-    {"utf-8", XmlEncoding::Utf8},   {"us-ascii", XmlEncoding::Ascii},
+    {"big5", XmlEncoding::Big5},  {"cp950", XmlEncoding::Big5},     {"x-x-big5", XmlEncoding::Big5},
+    {"gb2312", XmlEncoding::Gbk}, {"gbk", XmlEncoding::Gbk},        {"cp936", XmlEncoding::Gbk},
+    {"utf-8", XmlEncoding::Utf8}, {"us-ascii", XmlEncoding::Ascii},
 };
 
-bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 class Reader {
 public:

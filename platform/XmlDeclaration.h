@@ -8,8 +8,9 @@ namespace tq {
 enum class XmlEncoding { Utf8, Ascii, Big5, Gbk };
 
 struct XmlDeclaration {
-  XmlEncoding encoding = XmlEncoding::Utf8; // what the recommendation says of a file that names none
-  std::size_t length = 0;                   // bytes before the text proper
+  XmlEncoding encoding =
+      XmlEncoding::Utf8;  // what the recommendation says of a file that names none
+  std::size_t length = 0; // bytes before the text proper
 };
 
 // Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without declaration

@@ -1,16 +1,18 @@
 // Strict, closed reading of small XML files through the platform's DOM.
 //
 // Conventions that hold for all of it
-//  1. Strict: the text must be well-formed, namespace prefixes declared. A stray apostrophe,
-//     ampersand or angle bracket, a character that the declared encoding does not have, or anything
-//     after the root element refuses the whole document. There is no repair.
+//  1. Strict: the text must be well-formed. A stray apostrophe, ampersand or angle bracket, a character
+//     that the declared encoding does not have, or anything after the root element refuses the whole
+//     document. There is no repair. Names are plain ASCII: no file that the library reads has other
+//     ones, and a namespace prefix, declared or not, refuses the document too, because the DOMs differ
+//     in what they make of them. A default namespace (xmlns='...') is allowed.
 //  2. Closed: a document type declaration is refused before the DOM sees the text, so there are no
 //     entities beyond the five predefined ones and character references. Nothing is fetched. Size is
 //     bounded by XmlSizeLimit and nesting by XmlDepthLimit (platform/XmlText.h).
 //  3. Text comes out in the process's ANSI code page. From a file in that code page every character
 //     comes out as the very bytes that stand in the file, user-defined characters included. From a
 //     file in another encoding, and from a character reference, a character that the code page lacks
-//     comes out as "?". Element and attribute names are ASCII.
+//     comes out as "?".
 //  4. Both bodies (MSXML 3.0's free-threaded DOM on Windows, libxml2 elsewhere) give the same answer.
 //  5. Paths are element names joined with "/" from the root, "/Result/SymbolList/List". A name in a
 //     path stands for elements without a namespace. Letter case counts.
@@ -42,11 +44,11 @@ public:
   // True when the element bears at least one attribute, namespace declarations not counted.
   bool HasAttributes() const;
 
-  // The value of the attribute with that name and no namespace. Present: true, `value` assigned once
+  // The value of the attribute with that name. Present: true, `value` assigned once
   // (perhaps to empty). Absent: false, `value` untouched.
   bool Attribute(const char* name, CString& value) const;
 
-  // The element's name without a namespace prefix. False, `name` untouched, for no element.
+  // The element's name. False, `name` untouched, for no element.
   bool Name(CString& name) const;
 
   // The element's own text: its text and CDATA pieces joined, those of child elements left out, white
@@ -60,8 +62,8 @@ private:
   friend class XmlDocument;
   XmlElement(void* node, bool carried) : node_(node), carried_(carried) {}
 
-  void* node_ = nullptr;  // the DOM's: a counted interface on Windows, a plain pointer elsewhere
-  bool carried_ = false;  // see XmlText::carried
+  void* node_ = nullptr; // the DOM's: a counted interface on Windows, a plain pointer elsewhere
+  bool carried_ = false; // see XmlText::carried
 };
 
 class XmlDocument {

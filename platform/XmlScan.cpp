@@ -4,12 +4,13 @@
 
 #include <array>
 #include <cstdint>
+#include <iterator>
 
 namespace tq {
 namespace {
 
 // Classes of bytes, as bits, so that one look-up tells whether a byte ends a run.
-enum ByteClass : std::uint8_t {
+enum ByteClass : std::uint16_t {
   NotAscii = 1,
   Forbidden = 2, // control characters
   Less = 4,
@@ -18,10 +19,11 @@ enum ByteClass : std::uint8_t {
   Quotation = 32,
   Greater = 64,
   Closer = 128, // '-', ']' and '?', which begin the end of comment, CDATA section and instruction
+  Colon = 256,
 };
 
-constexpr std::array<std::uint8_t, 256> BuildClasses() {
-  std::array<std::uint8_t, 256> classes{};
+constexpr std::array<std::uint16_t, 256> BuildClasses() {
+  std::array<std::uint16_t, 256> classes{};
   for (unsigned byte = 0; byte < 0x20; ++byte)
     classes[byte] = Forbidden;
   classes['\t'] = classes['\n'] = classes['\r'] = 0;
@@ -33,12 +35,15 @@ constexpr std::array<std::uint8_t, 256> BuildClasses() {
   classes['"'] = Quotation;
   classes['>'] = Greater;
   classes['-'] = classes[']'] = classes['?'] = Closer;
+  classes[':'] = Colon;
   return classes;
 }
 
 constexpr auto Classes = BuildClasses();
 
-unsigned ClassOf(char byte) { return Classes[static_cast<unsigned char>(byte)]; }
+unsigned ClassOf(char byte) {
+  return Classes[static_cast<unsigned char>(byte)];
+}
 
 class Scanner {
 public:
@@ -59,7 +64,9 @@ private:
 
   bool SkipTo(unsigned stops);
   bool SkipBehind(std::string_view closing);
-  bool TakeWideCharacter();
+  bool TakeUtf8();
+  bool TakeCarried();
+  bool TakeWideCharacters();
   void Replace(std::size_t length, std::string_view with);
   void TakeReference();
   bool TakeMarkup();
@@ -92,7 +99,7 @@ bool Scanner::SkipTo(unsigned stops) {
       return Refuse(XmlVerdict::BadCharacters);
     if ((found & NotAscii) == 0)
       return true;
-    if (!TakeWideCharacter())
+    if (!TakeWideCharacters())
       return Refuse(XmlVerdict::BadCharacters);
   }
 }
@@ -111,24 +118,41 @@ bool Scanner::SkipBehind(std::string_view closing) {
   return false;
 }
 
-bool Scanner::TakeWideCharacter() {
-  if (charset_ == XmlCharset::Utf8) {
-    const std::size_t length = Utf8CharLength(at_, end_);
-    at_ += length;
-    return length != 0;
+bool Scanner::TakeUtf8() {
+  const std::size_t length = Utf8CharLength(at_, end_);
+  at_ += length;
+  return length != 0;
+}
+
+// Takes the double-byte characters that stand here, many at a time.
+bool Scanner::TakeCarried() {
+  constexpr std::size_t many = 256;
+  constexpr std::size_t bytesOfOne = 4;
+  char bytes[many * bytesOfOne];
+  char* out = bytes;
+  const char* p = at_;
+  while (out != std::end(bytes) && p != end_ && (ClassOf(*p) & NotAscii) != 0) {
+    const std::size_t length = AnsiCharLength(codePage_, p, end_);
+    if (length == 0)
+      return false;
+    const char32_t first = static_cast<unsigned char>(p[0]);
+    const char32_t pair = length == 1 ? first : first << 8 | static_cast<unsigned char>(p[1]);
+    out = PutUtf8Char(CarriedBase | pair, out);
+    p += length;
   }
-  const std::size_t length =
-      charset_ == XmlCharset::Carried ? AnsiCharLength(codePage_, at_, end_) : 0;
-  if (length == 0)
-    return false;
-  char32_t carried = CarriedBase;
-  carried |= static_cast<unsigned char>(at_[0]);
-  if (length == 2)
-    carried = CarriedBase | (carried & 0xFF) << 8 | static_cast<unsigned char>(at_[1]);
-  char bytes[4];
-  PutUtf8Char(carried, bytes);
-  Replace(length, {bytes, sizeof bytes});
+  Replace(static_cast<std::size_t>(p - at_), {bytes, static_cast<std::size_t>(out - bytes)});
   return true;
+}
+
+bool Scanner::TakeWideCharacters() {
+  switch (charset_) {
+  case XmlCharset::Utf8:
+    return TakeUtf8();
+  case XmlCharset::Carried:
+    return TakeCarried();
+  default:
+    return false;
+  }
 }
 
 void Scanner::Replace(std::size_t length, std::string_view with) {
@@ -162,13 +186,17 @@ void Scanner::TakeReference() {
     Replace(static_cast<std::size_t>(p + 1 - at_), "?");
 }
 
+// At "<?".
 bool Scanner::TakeInstruction() {
   // "<?xml ...?>" is for the start of a file only, and that one has been taken off.
   const bool reserved = end_ - at_ > 5 && (at_[2] | 0x20) == 'x' && (at_[3] | 0x20) == 'm' &&
                         (at_[4] | 0x20) == 'l' && (ClassOf(at_[5]) == Closer || at_[5] <= ' ');
   if (reserved)
     return Refuse(XmlVerdict::BadDeclaration);
-  at_ += 2;
+  for (at_ += 2; at_ != end_ && *at_ > ' ' && *at_ != '?'; ++at_) {
+    if (*at_ == ':')
+      return Refuse(XmlVerdict::ForeignName);
+  }
   return SkipBehind("?>");
 }
 
@@ -202,20 +230,22 @@ bool Scanner::TakeStartTag() {
   anyElement_ = true;
   if (depth_ == XmlDepthLimit)
     return Refuse(XmlVerdict::TooDeep);
-  ++at_;
-  while (SkipTo(Greater | Apostrophe | Quotation)) {
-    if (at_ == end_)
-      return Refuse(XmlVerdict::Malformed);
-    if (ClassOf(*at_) == Greater) {
+  for (++at_; at_ != end_;) {
+    const unsigned found = ClassOf(*at_);
+    if ((found & Greater) != 0) {
       if (at_[-1] != '/')
         ++depth_;
       ++at_;
       return true;
     }
-    if (!TakeQuoted())
+    if ((found & (NotAscii | Colon | Forbidden)) != 0)
+      return Refuse(XmlVerdict::ForeignName);
+    if ((found & (Apostrophe | Quotation)) == 0)
+      ++at_;
+    else if (!TakeQuoted())
       return false;
   }
-  return false;
+  return Refuse(XmlVerdict::Malformed);
 }
 
 // At "<".
@@ -236,6 +266,9 @@ bool Scanner::TakeMarkup() {
 }
 
 XmlVerdict Scanner::Scan() {
+  // One byte-order mark has been taken off; the DOMs would swallow a second.
+  if (charset_ == XmlCharset::Utf8 && StartsWith("\xEF\xBB\xBF"))
+    return XmlVerdict::Malformed;
   while (SkipTo(Less | Ampersand)) {
     if (at_ == end_) {
       if (depth_ != 0 || !anyElement_)

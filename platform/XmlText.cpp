@@ -8,6 +8,7 @@
 #include "platform/services/tqCommon.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tq {
 namespace {
@@ -58,9 +59,23 @@ XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& tex
   return verdict;
 }
 
+// Takes the two bytes, or the one, that a carried character at `at` stands for. False when it is none.
+bool TakeCarried(const char*& at, char*& out) {
+  // All of the plane, and nothing else, begins with these twelve bits.
+  const auto byte = [at](int i) { return static_cast<unsigned char>(at[i]); };
+  if (byte(0) != 0xF3 || (byte(1) & 0xF0) != 0xB0)
+    return false;
+  const unsigned pair = (byte(1) & 0x0FU) << 12 | (byte(2) & 0x3FU) << 6 | (byte(3) & 0x3FU);
+  if (pair > 0xFF)
+    *out++ = static_cast<char>(pair >> 8);
+  *out++ = static_cast<char>(pair & 0xFF);
+  at += 4;
+  return true;
+}
+
 // Writes the text's bytes; `out` has room for as many as `utf8` has, and there are never more.
 std::size_t EncodeText(std::string_view utf8, bool carried, char* out) {
-  CharacterEncoder encoder(AnsiCodePage());
+  std::optional<CharacterEncoder> encoder; // seldom needed
   const char* at = utf8.data();
   const char* const end = at + utf8.size();
   char* const start = out;
@@ -69,15 +84,12 @@ std::size_t EncodeText(std::string_view utf8, bool carried, char* out) {
       *out++ = *at++;
       continue;
     }
-    const char32_t character = TakeUtf8Char(at);
-    if (carried && character >= CarriedBase && character <= CarriedBase + 0xFFFF) {
-      if ((character & 0xFF00) != 0)
-        *out++ = static_cast<char>(character >> 8 & 0xFF);
-      *out++ = static_cast<char>(character & 0xFF);
+    if (carried && TakeCarried(at, out))
       continue;
-    }
+    if (!encoder)
+      encoder.emplace(AnsiCodePage());
     char bytes[2];
-    out = std::copy_n(bytes, encoder.Encode(character, bytes), out);
+    out = std::copy_n(bytes, encoder->Encode(TakeUtf8Char(at), bytes), out);
   }
   return static_cast<std::size_t>(out - start);
 }

@@ -29,12 +29,13 @@ inline constexpr char32_t CarriedBase = 0xF0000;
 enum class XmlVerdict {
   Ok,
   TooLarge,
-  BadDeclaration,      // not "version, encoding, standalone" as the XML recommendation writes them
-  UnknownEncoding,     // none of big5 cp950 x-x-big5, gb2312 gbk cp936, utf-8, us-ascii
-  BadCharacters,       // bytes that the encoding does not have, or characters that XML does not allow
-  DocumentType,        // "<!DOCTYPE" or another markup declaration
+  BadDeclaration,  // not "version, encoding, standalone" as the XML recommendation writes them
+  UnknownEncoding, // none of big5 cp950 x-x-big5, gb2312 gbk cp936, utf-8, us-ascii
+  BadCharacters,   // bytes that the encoding does not have, or characters that XML does not allow
+  DocumentType,    // "<!DOCTYPE" or another markup declaration
   TooDeep,
-  Malformed,           // an open comment, CDATA section, instruction or tag at the end, and the like
+  ForeignName, // a name with a namespace prefix, or with characters beyond ASCII
+  Malformed,   // an open comment, CDATA section, instruction or tag at the end, and the like
 };
 
 struct XmlText {

@@ -2,28 +2,18 @@
 
 #include <algorithm>
 #include <cstring>
+#include <span>
 
 #include "symbollist/IdString.h"
 #include "symbollist/RecordIndex.h"
+#include "symboltable/ServiceArray.h"
 
 namespace {
 
 // A resolved list has an array even when it has no rows: that is how it knows not to ask again.
-SymbolInfo* NewRecords(int count) { return new SymbolInfo[static_cast<size_t>(std::max(count, 1))](); }
-
-// The service's answer, released on every way out.
-class ServiceRecords {
-public:
-  ServiceRecords() = default;
-  ServiceRecords(const ServiceRecords&) = delete;
-  ServiceRecords& operator=(const ServiceRecords&) = delete;
-  ~ServiceRecords() {
-    if (list != nullptr)
-      VLFree(list);
-  }
-  SymbolInfo* list = nullptr;
-  int count = 0;
-};
+SymbolInfo* NewRecords(int count) {
+  return new SymbolInfo[static_cast<size_t>(std::max(count, 1))]();
+}
 
 } // namespace
 
@@ -38,7 +28,9 @@ CIDList::CIDList(const CIDList& other)
   std::memcpy(records_, other.records_, static_cast<size_t>(count_) * sizeof(SymbolInfo));
 }
 
-CIDList::~CIDList() { delete[] records_; }
+CIDList::~CIDList() {
+  delete[] records_;
+}
 
 int CIDList::GetCount() {
   ResolveIfDue();
@@ -81,7 +73,9 @@ int CIDList::Update1(const CString& ids) {
   return 1;
 }
 
-const CString& CIDList::GetIDs() { return ids_; }
+const CString& CIDList::GetIDs() {
+  return ids_;
+}
 
 void CIDList::DiscardRecords() {
   delete[] records_;
@@ -104,17 +98,16 @@ bool CIDList::Resolve() {
     count_ = 0;
     return false;
   }
-  ServiceRecords answer;
+  tq::ServiceArray<SymbolInfo> answer;
   if (tokens_.GetSize() > split.headings) {
     const CString lookup = split.plain ? ids_ : tq::LookupString(tokens_);
-    if (VLGetSymbolInfos(lookup, &answer.list, &answer.count) == 0)
+    if (VLGetSymbolInfos(lookup, answer.List(), answer.Count()) == 0)
       return false;
-    if (answer.list == nullptr || answer.count < 0)
-      answer.count = 0;
   }
-  const int capacity = answer.count + split.headings;
+  const std::span<const SymbolInfo> found = answer.Records();
+  const int capacity = static_cast<int>(found.size()) + split.headings;
   records_ = NewRecords(capacity);
-  tq::RecordIndex index(answer.list, answer.count);
+  tq::RecordIndex index(found);
   int row = 0;
   for (int i = 0; i < tokens_.GetSize() && row < capacity; ++i) {
     CString& token = tokens_[i];
@@ -123,8 +116,8 @@ bool CIDList::Resolve() {
       continue;
     }
     tq::NormaliseId(token);
-    if (const SymbolInfo* found = index.Find(token))
-      std::memcpy(&records_[row++], found, sizeof(SymbolInfo));
+    if (const SymbolInfo* record = index.Find(token))
+      std::memcpy(&records_[row++], record, sizeof(SymbolInfo));
   }
   // A record that belongs to no token (the service answered with another id) gets no row: an empty
   // row would be a symbol that the user never asked for.

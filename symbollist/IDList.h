@@ -12,6 +12,7 @@
 
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
+#include "platform/framework/CUIntArray.h"
 #include "platform/services/VLProxy.h"
 #include "tqSymbolApi.h"
 
@@ -47,6 +48,25 @@ public:
   // once they have been resolved.
   const CStringArray& GetTokens() const { return tokens_; }
 
+  // Entry edits, by row. All of them resolve first when that is due, return 0 and change nothing for a
+  // row that is not there or a list that cannot be resolved, and 1 when done. The id string is rebuilt: a row contributes its record's id,
+  // a heading its text; ids that the service does not know have no row, but keep their places.
+  int RemoveEntry(int row);
+  int SwapEntries(int first, int second); // 0 too when both are one
+  // These resolve the list again. `text` is one id, or a heading with its ":"; 0 for an empty one and for
+  // one that holds a ",".
+  int ReplaceEntry(int row, const CString& text);
+  // Puts `text` in front of the row (`before`) or behind it; a row before the first is the start of the
+  // list, one behind the last its end. An id that the list holds already is refused; headings may repeat.
+  int InsertEntry(int row, const CString& text, bool before);
+
+  // The rows joined by ",": the records' ids, and the texts of headings. What the service does not know is
+  // left out. Resolves first when that is due.
+  void JoinRows(CString& out);
+
+  // Whether one of the tokens is `id`, blanks around it and letter case ignored.
+  bool Holds(const CString& id) const;
+
 protected:
   // Drops the records, so that the next GetCount or GetAt asks the service anew.
   void DiscardRecords();
@@ -55,6 +75,8 @@ private:
   bool ResolveIfDue();
   bool Resolve();
   void RebuildFromRecords();
+  CUIntArray RowTokens() const;
+  void JoinTokens();
 
   CString ids_;
   SymbolInfo* records_; // owned, null until resolved

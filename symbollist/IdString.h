@@ -15,8 +15,9 @@ inline constexpr char kHeadingMarker[] = ":";
 bool IsHeading(const char* token, int length);
 
 struct SplitIds {
-  int headings = 0;  // tokens that are headings
-  bool plain = true; // `ids` is already the look-up string: no heading, no empty token, no last comma
+  int headings = 0; // tokens that are headings
+  bool plain =
+      true; // `ids` is already the look-up string: no heading, no empty token, no last comma
 };
 
 // Splits `ids` at every ",". Empty tokens, the trailing one included, are left out. `tokens` is

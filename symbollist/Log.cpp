@@ -12,7 +12,9 @@ TQLog* theLog = nullptr;
 
 } // namespace
 
-TQLog* Log() { return theLog; }
+TQLog* Log() {
+  return theLog;
+}
 
 void OpenLog() {
   if (theLog != nullptr)

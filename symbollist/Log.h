@@ -6,7 +6,7 @@
 namespace tq {
 
 // Levels of the lines that the library writes. Terminals filter by them: do not change.
-inline constexpr int kLogChange = 64;  // lists and groups changed or were found odd
+inline constexpr int kLogChange = 64; // lists and groups changed or were found odd
 inline constexpr int kLogGeneral = 256;
 
 // The logger, or null before OpenLog. It is created once and lives until the library is unloaded.

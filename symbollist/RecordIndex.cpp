@@ -17,9 +17,9 @@ std::string_view IdOf(const SymbolInfo& record) {
 
 const SymbolInfo* RecordIndex::Find(const char* id) {
   if (slots_.empty()) {
-    if (next_ < count_ && IdOf(records_[next_]) == id)
+    if (next_ < records_.size() && IdOf(records_[next_]) == id)
       return &records_[next_++];
-    if (count_ == 0)
+    if (records_.empty())
       return nullptr;
     Build();
   }
@@ -28,8 +28,8 @@ const SymbolInfo* RecordIndex::Find(const char* id) {
 }
 
 void RecordIndex::Build() {
-  slots_.assign(std::bit_ceil(static_cast<size_t>(count_) * 2), 0);
-  for (int i = 0; i < count_; ++i) {
+  slots_.assign(std::bit_ceil(records_.size() * 2), 0);
+  for (size_t i = 0; i < records_.size(); ++i) {
     char id[sizeof(SymbolInfo::id) + 1] = {};
     std::memcpy(id, records_[i].id, sizeof(SymbolInfo::id));
     slots_[Slot(id)] = static_cast<uint32_t>(i) + 1;

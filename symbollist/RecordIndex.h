@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "platform/services/VLProxy.h"
@@ -13,7 +14,7 @@ namespace tq {
 // repeated one, another order) is a hash index over all records built.
 class RecordIndex {
 public:
-  RecordIndex(const SymbolInfo* records, int count) : records_(records), count_(count) {}
+  explicit RecordIndex(std::span<const SymbolInfo> records) : records_(records) {}
 
   // The record whose id is `id`, or null. Of several with one id, the last.
   const SymbolInfo* Find(const char* id);
@@ -22,9 +23,8 @@ private:
   void Build();
   uint32_t Slot(const char* id) const;
 
-  const SymbolInfo* records_;
-  int count_;
-  int next_ = 0;
+  std::span<const SymbolInfo> records_;
+  size_t next_ = 0;
   std::vector<uint32_t> slots_; // 0: free, else record number + 1
 };
 

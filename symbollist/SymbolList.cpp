@@ -8,8 +8,7 @@
 
 CSymbolList::CSymbolList() : info_(), flag_(0) {}
 
-CSymbolList::CSymbolList(const CSymbolList& other)
-    : CIDList(other), info_(other.info_), flag_(0) {
+CSymbolList::CSymbolList(const CSymbolList& other) : CIDList(other), info_(other.info_), flag_(0) {
   UpdateFlag();
 }
 
@@ -48,7 +47,9 @@ size_t CSymbolList::XmlLength() {
          static_cast<size_t>(GetIDs().GetLength());
 }
 
-void CSymbolList::UpdateFlag() { flag_ = tq::IsSystemListIdNoCase(info_.ID) ? 1 : 0; }
+void CSymbolList::UpdateFlag() {
+  flag_ = tq::IsSystemListIdNoCase(info_.ID) ? 1 : 0;
+}
 
 int CSymbolList::FillFromElement(const tq::XmlElement& element) {
   SetID("");

@@ -32,6 +32,10 @@ public:
   bool IsSameID(const char* id) const {
     return id != nullptr && tq::CompareNoCase(id, info_.ID) == 0;
   }
+  // Whether `name` is this list's display name, ignoring letter case. A null name is no list's.
+  bool IsSameName(const char* name) const {
+    return name != nullptr && tq::CompareNoCase(name, info_.Name) == 0;
+  }
   // 1 when the identifier is one of the six system ids, ignoring letter case, else 0.
   int GetFlag() const { return flag_; }
 

@@ -13,7 +13,9 @@ constexpr std::array<const char*, kSystemListCount> kIds = {
 
 } // namespace
 
-const char* SystemListId(int index) { return kIds.at(static_cast<size_t>(index)); }
+const char* SystemListId(int index) {
+  return kIds.at(static_cast<size_t>(index));
+}
 
 bool IsSystemListId(const char* id) {
   for (const char* known : kIds) {

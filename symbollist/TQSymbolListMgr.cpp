@@ -7,25 +7,32 @@
 #include "symboltable/SymbolTableMgr.h"
 
 CTQSymbolListMgr::CTQSymbolListMgr()
-    : symbolTables_(nullptr), defaultIndex_(0), systemListsWanted_(0), tradingListsWanted_(0),
-      useUserDefExch_(0), bCN_(0) {}
+    : symbolTables_(nullptr), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
+      systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
+      exchangeRecords_(nullptr) {}
 
 CTQSymbolListMgr::~CTQSymbolListMgr() {
   ClearSymbolList();
   ClearTSSymbolList();
   ClearCloudSymbolList();
+  ClearAllSymbols();
   delete symbolTables_;
+  ClearDefaultExchangeData();
 }
 
 int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
-                           int loadSystemLists, CStringArray* /*systemListNames*/,
-                           int useUserDefExch, int loadTradingLists) {
+                           int loadSystemLists, CStringArray* systemListNames, int useUserDefExch,
+                           int loadTradingLists) {
   dataDirectory_ = dataDirectory;
   systemListsWanted_ = loadSystemLists;
   tradingListsWanted_ = loadTradingLists;
   useUserDefExch_ = useUserDefExch;
   bCN_ = bCN;
 
+  // Here and not only when the file is loaded: a start that fails at the tables must not leave the
+  // lists of the directory before, for the next save would put them into this one.
+  ClearSymbolList();
+  ClearAllSymbols();
   delete symbolTables_;
   symbolTables_ = nullptr;
   tq::OpenLog();
@@ -37,6 +44,15 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   if (tq::Files().DirectoryExists(dataDirectory_) && !tq::Files().FileExists(listFile))
     CreateEmptySymbolListFile();
   LoadSymbolList();
+  if (loadSystemLists != 0) {
+    if (systemListNames != nullptr)
+      systemListNames_.Copy(*systemListNames);
+    LoadSystemList(&systemListNames_);
+  }
+  InitDefaultExchange();
+  if (initSymbolTables != 0)
+    symbolTables_->InitDefaultExchList(defaultExchanges_);
+  SortAllSymbolByExch();
   return 1;
 }
 
@@ -45,7 +61,9 @@ int CTQSymbolListMgr::BuildSymbolTables() {
          symbolTables_->InitAuthorizedExch() != 0;
 }
 
-void CTQSymbolListMgr::SetDefaultIndex(int index) { defaultIndex_ = index; }
+void CTQSymbolListMgr::SetDefaultIndex(int index) {
+  defaultIndex_ = index;
+}
 
 int CTQSymbolListMgr::GetDefaultListIdx(int& out) {
   out = defaultIndex_;

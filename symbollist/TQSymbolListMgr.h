@@ -18,15 +18,31 @@
 //     empty one no file is read or written. A save leaves the old file or the new one, never a part.
 #pragma once
 
+#include <utility>
+
+#include "platform/framework/CMapStringToString.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
+#include "platform/framework/CUIntArray.h"
 #include "platform/services/VLProxy.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"
 #include "tqSymbolApi.h"
 
 class CSymbolTableMgr;
+
+// What is traded, as the terminal numbers it. Only the differences that the library makes are named.
+enum JT_DEAL : int {
+  JT_DEAL_STOCK = 0,  // stocks, listed or over the counter
+  JT_DEAL_FUTURE = 1, // 1, 2, 3 and 6: futures and options
+  JT_DEAL_OPTION = 2,
+};
+
+// What happened to symbols of an exchange, as the symbol-data service numbers it.
+enum ExchSymbolUpdateType : int {
+  ExchSymbolsAdded = 0, // cloud lists are told as well
+};
 
 class TQSYMBOL_API CTQSymbolListMgr {
 public:
@@ -44,7 +60,7 @@ public:
   //   bCN                   handed to the symbol-data service with every symbol search
   //   initSymbolTables      non-zero: build the symbol tables from the symbol-data service
   //   loadSystemLists       non-zero: system lists are wanted
-  //   systemListNames       their names, or null; not kept
+  //   systemListNames       their names in order, or null; copied
   //   useUserDefExch        non-zero: the default exchanges are the user's own
   //   loadTradingLists      non-zero: lists from trading accounts are wanted
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and there
@@ -89,31 +105,235 @@ public:
   void ClearSymbolList();
   void ClearTSSymbolList();
   void ClearCloudSymbolList();
-  // Puts a copy of `source` in as the first of the user's lists (`append` 0) or the last. The name is
-  // not checked, duplicates included, and nothing is saved. Returns 0 when `source` is null.
-  int AddTQSymbolList(CSymbolList* source, int append);
 
-  // Number of lists of a kind.
+  // --- Editing whole lists -----------------------------------------------------------------------
+  // Of the user's lists. A refusal returns 0 and changes nothing. Where an operation saves, a save that
+  // fails shows its message and the change stays in memory.
+
+  // Adds a list, or gives an existing one other symbols.
+  //   id         empty: a new list with a new GUID
+  //   name       for a new list; made unique with AdjustFileName. Empty: refused
+  //   symbols    ids joined by ",". Empty: refused
+  //   append     non-zero: the last list, 0: the first
+  //   overwrite  non-zero: a list with that id under another name gets the symbols too, and keeps its
+  //              name; 0: refused
+  // Symbols that went over from exchange TW to TE are renamed as ReplaceSymbolListExchID says, in new
+  // lists. Then: default index -1 becomes 0, the file is saved, "Add SymbolList" goes to the log, and the
+  // terminal gets TQSCall("", -1, 40, ""). Returns 1.
+  int AddSymbolList(const CString& id, int unused, const CString& name, const CString& symbols,
+                    int append, int overwrite);
+  // Puts a copy of `source` in as the first list (`append` 0) or the last, moved symbols renamed in
+  // both. Identifier and name are not checked, duplicates included, and nothing is saved. Returns 0 when
+  // `source` is null.
+  int AddTQSymbolList(CSymbolList* source, int append);
+  // Replaces all lists by copies of the CSymbolList pointers in `lists`, which stay the caller's; moved
+  // symbols are renamed in both. Brings the default index into the range of the new lists (-1 for none).
+  // Nothing is saved. Returns 0 when `lists` is null.
+  int SetSymbolList(CPtrArray* lists);
+  // Deletes the first list with that id and saves. When it was the default list and the last one, the
+  // index goes one down, to -1 for the only list; in every other case it stays as a number. Returns 0
+  // when there is no such list.
+  int DeleteSymbolList(CString id);
+  // Replaces, in every list's symbol string, each occurrence of the k-th old text by the k-th new one,
+  // for all k in turn: plain text, inside of longer ids too. When a list changed: saves, logs
+  // "ReplaceID", tells the terminal with TQSCall("", -1, 40, ""), returns 1. Else 0. A null array does
+  // nothing; of arrays of different sizes the shorter counts.
+  int ReplaceID(CStringArray* oldIds, CStringArray* newIds);
+  // `name`, or when a list has it, the name with "(1)", "(2)" ... "(100)" behind it; the number is
+  // counted up in its place when the name has it already. After "(100)" the candidate is returned though
+  // it is taken. Names are kept within 64 bytes.
+  CString AdjustFileName(CString name);
+
+  // --- Editing the entries of one list -------------------------------------------------------------
+  // Entries are the list's rows, from 0: ids that the service knows, and headings. Nothing is saved.
+  // 0 for a list or an entry that is not there, else 1.
+
+  // Takes one entry out.
+  int DeleteSymbolList(CString id, int entry);
+  // Puts `text` behind the entry at `position` (`before` 0) or in front of it; a position before the
+  // first entry is the start, one behind the last the end. `heading` non-zero: a heading, ":" is put
+  // behind the text. A symbol that the list holds already is refused, and so are an empty text and one
+  // with a ",".
+  int InsertSymbolList(CString id, int position, CString text, int before, int heading);
+  // Lets two entries change places; 0 when they are one.
+  int SwapSymbolList(CString id, int first, int second);
+  // Puts `text` in the place of an entry: an id, or a heading with its ":".
+  int ReplaceSymbolList(CString id, int entry, CString text);
+
+  // --- Checks --------------------------------------------------------------------------------------
+  // Identifiers and names are compared ignoring letter case, unless said.
+
+  // Whether a list of the kind bears the name, the one at `skip` left out when `skipOne` is non-zero.
+  int CheckNameExist(const CString& name, int skipOne, int skip, int kind);
+  // Bit 0: a list of the kind has the id. Bit 1: the first one that has it bears the name.
+  int CheckIDandName(const CString& id, const CString& name, int kind);
+  // 1 when a list of the kind has the id.
+  int CheckSymbolListExist(const CString& id, int kind);
+  // 1 when a list of the kind has the id and exactly that name (letter case counts).
+  int CheckListAndNameExist(const CString& id, const CString& name, int kind);
+  // Whether a dialog's working copy (CSymbolList pointers) or its default index differs from the user's
+  // lists: in their number, a name (letter case counts) or a symbol string. A null copy differs.
+  bool IsModifyList(CPtrArray* lists, int defaultIndex);
+  // The same against the cloud lists, without an index.
+  bool IsModifyCountList(CPtrArray* lists);
+  // Why a list with that id cannot be added to a kind (201 counts as 8): bit 0 a list has the id, bit 1
+  // it is longer than 36 bytes, bit 2 it holds an apostrophe, "&" or "<", which the list file cannot
+  // carry. 0 when it can; the empty id can, a GUID takes its place.
+  int CheckValidSymbolList(const CString& id, int kind);
+  // Takes the first field off a parameter string: `before` gets the text up to `separator`, `text` keeps
+  // what is behind it. Without a separator all of it is taken. An empty text changes nothing.
+  static void CutStringAndGetParamBefore(CString& text, char separator, CString& before);
+
+  // --- System lists --------------------------------------------------------------------------------
+  // Six of the user's lists, known by their ids "ZUSYSLIST1" to "ZUSYSLIST6", are the terminal's.
+
+  // Adds those of the six that are missing, empty, at the end; named by entry i of `names` where there
+  // is one, else by the library's own names. Lists that are there keep name and symbols. Nothing is
+  // saved. Returns 1.
+  int LoadSystemList(CStringArray* names);
+  // The system mark of the first list of the kind with that id: 1 or 0.
+  int IsSystemList(const char* id, int kind);
+  // Gives the user list with that id these symbols and, unless empty, this name. `nameChanged` becomes 1
+  // when the name is another one now, else 0. Without such a list returns 0 and sets nothing. Not saved.
+  int UpdateSystemList(const CString& id, const CString& name, const CString& symbols,
+                       int& nameChanged);
+  // The same by the list's number, 0 to 5, which must have a name from Init. `mode` non-zero replaces
+  // its symbols; 0 fills the list only while it is empty. Returns 1 when the symbols were set. Not saved.
+  int UpdateSystemList(int index, const CString& symbols, int mode);
+  // The first form for each (id, symbols) pair, with the names of the second map (null: none); then
+  // saves and tells the terminal with TQSCall("", -1, 4, "ListNameChange") when a name changed, else with
+  // an empty reason. Returns 0 and does nothing when the first map is null.
+  int UpdateSystemList(CMapStringToString* symbols, CMapStringToString* names);
+
+  // --- Queries -------------------------------------------------------------------------------------
+  // A kind without lists has a count of 0 and no list. Outputs of a query that finds nothing stay as
+  // they were, unless said.
+
+  // Number of lists of a kind; both are one.
   int GetSymbolListCount(int kind);
-  // Fills `*out` with identifier and name of the list at `index`; 0 when there is none.
-  int GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind);
-  // Sets `*out` to the first list of that kind with that identifier, or null. Not a copy: the list stays
-  // the manager's and is good until lists are loaded, cleared or removed.
+  int GetTQSymbolListCount(int kind);
+  // Appends a new copy of every list of the kind to `out`, in order. The caller deletes them. 0 for
+  // another kind than 1, 6 and 8.
+  int GetSymbolList(CPtrArray& out, int kind);
+  // Sets `*out` to the first list of the kind with that id, or null. Not a copy: the list stays the
+  // manager's, changing it changes what is saved next, and it is good until lists are loaded, cleared or
+  // removed.
   int GetSymbolList(CString id, CSymbolList** out, int kind);
+  // Identifier and name of the list at `index`.
+  int GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind);
+  // Identifier, name and symbol string of the list at `index`.
+  int GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols, int kind);
+  // Name of the list with that id; both are one.
+  int GetSymbolListName(const CString& id, CString& name, int kind);
+  int GetTQSymbolListName(const char* id, CString& name, int kind);
+  // The symbol string of a list as it is stored, unknown ids and headings included, and its tokens
+  // (`tokens` may be null). Kind 0 is the user's default list, whatever the id. Outputs are emptied when
+  // there is none.
+  int GetSymbolListIDs(int kind, const CString& id, CString& symbols, CStringArray* tokens);
+  // The rows of a list joined by ",": what the service knows, and the headings. `out` is emptied when
+  // there is no such list.
+  int GetSymoblIDList(const CString& id, CString& out, int kind);
+  // Number of rows of a list; 0 when there is no such list.
+  int GetTQSymbolCount(const char* id, int kind);
+  // The record of one row; the id of a heading's is ":".
+  int GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out, int kind);
+  // All symbols of an exchange, as VLGetSymbolInfos2 hands them out (`subId` -1: the whole exchange);
+  // the caller releases the array with VLFree.
+  int GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count);
+  // A copy of the buffer of all symbols; the caller deletes it with delete[]. 0, outputs untouched, when
+  // there is none.
+  int GetAllSymbolInfos(SymbolInfo** out, int* count);
+  // The record of one symbol. With an exchange suffix it is looked up as it is; a bare code on the
+  // default exchanges in order, the first hit wins. The exchanges' names are taken from `exchanges`
+  // (null: none), else from what the service listed when the default exchanges were set up; a default
+  // exchange in neither is passed over.
+  int GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount, SymbolInfo* out);
+  // The attribute records of the symbols named (joined by ","), as VLGetBaseAttrs hands them out; the
+  // caller releases the array with VLFree.
+  int GetBaseAttrs(const char* symbols, BaseAttr** list, int* count);
+  // Looks a typed text up with the service's search. A single result is it; of several, the first whose
+  // exchange code, id or bare code is the text (letter case ignored). Copies its record into `*info`.
+  int IsValidSymbol(const CString& text, SymbolInfo* info);
+
+  // --- Default exchanges and the order of exchanges --------------------------------------------------
+  // Default exchanges are the ids in order of preference on which bare codes are looked for: those of
+  // the login information, or with the user's own switched on (or the login information out of reach)
+  // those of UpdateDefaultExch. No default exchanges is legal: bare codes then never resolve.
+
+  // Reads them anew, with the exchange records that go with them. 0 when the service's exchange list
+  // could not be read.
+  int InitDefaultExchange();
+  // Replaces `ids` by what InitDefaultExchange would read; `useUser` non-zero: the user's own. The text
+  // is not used. Always 1. The two below are its sources: the login information (0 when it cannot be
+  // read, `ids` then untouched), and the user's own.
+  int LoadDefaultExchange(CUIntArray& ids, int useUser, const char* unused);
+  static int DoLoadDefaultExchange(CUIntArray& ids);
+  int DoLoadUserDefaultExchange(CUIntArray& ids);
+  void ClearDefaultExchangeData();
+  // The id at `index`. An index out of range stops the program: see GetDefaultExchangeCount.
+  int GetDefaultExchange(int index);
+  int GetDefaultExchangeCount();
+  int IsDefaultExchange(int exchId);
+  // Whether the login information now has other default exchanges than those in use, or another order.
+  int IsDefaultExchangeChange();
+  // Takes changed default exchanges over: reads them, sorts all symbols anew, tells the symbol tables.
+  // `force` 0: only when IsDefaultExchangeChange says so; otherwise only a missing buffer of all symbols
+  // is built.
+  void ReLoadDefaultExch(int force);
+  // Stores the user's own default exchanges and reloads. Returns 1.
+  int UpdateDefaultExch(CUIntArray& ids);
+  // Whether the user's own are used. Takes effect with the next reload.
+  void SetUseUserDefExch(int use) { useUserDefExch_ = use; }
+  int IsUseUserDefExch() const { return useUserDefExch_; }
+  // Stores a copy of the order in which dialogs show exchanges; 1 when it is not empty. GetDefExchOrder
+  // copies it out. CheckExchOrder accepts any order, changes nothing and returns 1.
+  int LoadDefExchOrder(CUIntArray& order);
+  void GetDefExchOrder(CUIntArray& order);
+  static int CheckExchOrder(CUIntArray& order);
+  // Builds the buffer of all symbols: the exchanges that are no default ones go towards the end, in the
+  // order that symboltable/DefaultExchangeIds.h describes. When the service fails a buffer that is there
+  // stays as it is.
+  void SortAllSymbolByExch();
+  // 1 when there is no buffer of all symbols, or an empty one.
+  int CheckAllSymbolByExch();
+
+  // Units in one board lot of a symbol: field 176, on exchange TW or else TE for stocks, on TF for
+  // futures and options, for any other kind wherever the id leads. 1000 when it is not known or `tables`
+  // is null.
+  static int GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind);
+  // Symbols of an exchange changed: `count` packed records of 19 bytes (see SymbolTableMgr.h), of which
+  // the first 10 count. Every user and trading list that holds one of them asks the service again, with
+  // ExchSymbolsAdded the cloud lists too. The exchange is not used. Returns 1.
+  int UpdateExchSymbolChange(int count, const char* symbols, short exch, ExchSymbolUpdateType type);
+  // Renames the symbols of an id string, or of a list, that went over from one exchange to another:
+  // see symboltable/MovedSymbols.h. Returns 1 when something changed. Without symbol tables nothing does.
+  int ReplaceSymbolListExchID(CString& ids, const CString& oldExchange, const CString& newExchange);
+  int ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
+                              const CString& newExchange);
 
   // --- Switches ----------------------------------------------------------------------------------
   int GetbCN() const { return bCN_; }
   void SetbCN(int bCN) { bCN_ = bCN; }
 
+protected:
+  // Whether the text is one of the six system ids, letter case as it stands.
+  int IsSameSysSymbolListGUID(const CString& id) const;
+
 private:
   friend class CXMLDOMParser;
 
   CPtrArray* ListsOf(int kind);
-  void AdoptSymbolList(CSymbolList* list, int append);
+  CSymbolList* FindList(const char* id, int kind);
+  CSymbolList* FindUserList(const char* id);
+  int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
+  void AdoptSymbolList(CSymbolList* list);
+  void PutSymbolList(CSymbolList* list, int append);
+  std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
   int DoSaveSymbolList(const CString& path);
   int DoLoadSymbolList(const CString& path);
   int BuildSymbolTables();
+  void ClearAllSymbols();
 
   CSymbolTableMgr* symbolTables_; // owned
   CPtrArray lists_;               // owned CSymbolList*, in display order
@@ -121,8 +341,16 @@ private:
   CPtrArray cloudLists_;          // the same, kind 8
   int defaultIndex_;
   CString dataDirectory_;
+  SymbolInfo* allSymbols_; // owned, grouped by exchange
+  int allSymbolCount_;
   int systemListsWanted_;
+  CStringArray systemListNames_;
   int tradingListsWanted_;
   int useUserDefExch_;
   int bCN_;
+  CUIntArray defaultExchanges_;
+  CPtrArray defaultRecords_;  // for each of them its record in exchangeRecords_, or null
+  ExchInfo* exchangeRecords_; // the service's array, released with VLFree
+  CUIntArray userDefaultExchanges_;
+  CUIntArray exchangeOrder_;
 };

@@ -4,16 +4,19 @@
 #include "platform/FileAccess.h"
 #include "platform/ModulePath.h"
 #include "platform/services/tqCommon.h"
+#include "symbollist/LibraryString.h"
+#include "symbollist/ListArray.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symbollist/XMLDOMParser.h"
 
 namespace {
 
-constexpr unsigned kMessageSaveFailed = 48026;
 constexpr unsigned kButtonOk = 0;
 
-void ShowSaveFailed() { tqShowDllMessage(tq::OwnModule(), kMessageSaveFailed, kButtonOk); }
+void ShowSaveFailed() {
+  tqShowDllMessage(tq::OwnModule(), tq::kMessageSaveFailed, kButtonOk);
+}
 
 } // namespace
 
@@ -23,21 +26,51 @@ CString CTQSymbolListMgr::FilePath(const char* name) const {
   return dataDirectory_.IsEmpty() ? CString() : dataDirectory_ + name;
 }
 
-int CTQSymbolListMgr::LoadSymbolList() { return DoLoadSymbolList(FilePath(tq::kListFileName)); }
+int CTQSymbolListMgr::LoadSymbolList() {
+  return DoLoadSymbolList(FilePath(tq::kListFileName));
+}
 
-int CTQSymbolListMgr::SaveSymbolList() { return DoSaveSymbolList(FilePath(tq::kListFileName)); }
+int CTQSymbolListMgr::SaveSymbolList() {
+  return DoSaveSymbolList(FilePath(tq::kListFileName));
+}
 
-int CTQSymbolListMgr::BackupSymbolList() { return DoSaveSymbolList(FilePath(tq::kBackupFileName)); }
+int CTQSymbolListMgr::BackupSymbolList() {
+  return DoSaveSymbolList(FilePath(tq::kBackupFileName));
+}
 
-int CTQSymbolListMgr::RestorSymbolList() { return DoLoadSymbolList(FilePath(tq::kBackupFileName)); }
+int CTQSymbolListMgr::RestorSymbolList() {
+  return DoLoadSymbolList(FilePath(tq::kBackupFileName));
+}
 
-CString CTQSymbolListMgr::GetBackSymbolListPath() { return dataDirectory_ + tq::kBackupFileName; }
+CString CTQSymbolListMgr::GetBackSymbolListPath() {
+  return dataDirectory_ + tq::kBackupFileName;
+}
 
-int CTQSymbolListMgr::UpdateTQSymbolList() { return LoadSymbolList(); }
+int CTQSymbolListMgr::UpdateTQSymbolList() {
+  if (LoadSymbolList() == 0)
+    return 0;
+  if (systemListsWanted_ != 0)
+    LoadSystemList(&systemListNames_);
+  return 1;
+}
 
 void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
   dataDirectory_ = dataDirectory;
   LoadSymbolList();
+  if (systemListsWanted_ != 0)
+    LoadSystemList(&systemListNames_);
+}
+
+void CTQSymbolListMgr::ClearSymbolList() {
+  tq::DestroyLists(lists_);
+}
+
+void CTQSymbolListMgr::ClearTSSymbolList() {
+  tq::DestroyLists(tradingLists_);
+}
+
+void CTQSymbolListMgr::ClearCloudSymbolList() {
+  tq::DestroyLists(cloudLists_);
 }
 
 int CTQSymbolListMgr::CreateEmptySymbolListFile() {

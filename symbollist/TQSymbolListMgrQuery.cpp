@@ -1,56 +1,26 @@
-// The manager's lists in memory: adding, clearing, looking.
+// Looking at the lists.
+#include "symbollist/IdString.h"
+#include "symbollist/ListArray.h"
+#include "symbollist/ListKind.h"
 #include "symbollist/TQSymbolListMgr.h"
-
-namespace {
-
-// Persisted by callers and spoken by the services: do not change.
-constexpr int kUserLists = 1;
-constexpr int kTradingLists = 6;
-constexpr int kCloudLists = 8;
-
-CSymbolList* ListAt(const CPtrArray& lists, int index) {
-  return static_cast<CSymbolList*>(lists.GetAt(index));
-}
-
-void Destroy(CPtrArray& lists) {
-  for (int i = 0; i < lists.GetSize(); ++i)
-    delete ListAt(lists, i);
-  lists.RemoveAll();
-}
-
-} // namespace
-
-void CTQSymbolListMgr::ClearSymbolList() { Destroy(lists_); }
-
-void CTQSymbolListMgr::ClearTSSymbolList() { Destroy(tradingLists_); }
-
-void CTQSymbolListMgr::ClearCloudSymbolList() { Destroy(cloudLists_); }
-
-int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
-  if (source == nullptr)
-    return 0;
-  AdoptSymbolList(new CSymbolList(*source), append);
-  return 1;
-}
-
-void CTQSymbolListMgr::AdoptSymbolList(CSymbolList* list, int append) {
-  if (append == 0)
-    lists_.InsertAt(0, list);
-  else
-    lists_.Add(list);
-}
 
 CPtrArray* CTQSymbolListMgr::ListsOf(int kind) {
   switch (kind) {
-  case kUserLists:
+  case tq::kUserLists:
     return &lists_;
-  case kTradingLists:
+  case tq::kTradingLists:
     return &tradingLists_;
-  case kCloudLists:
+  case tq::kCloudLists:
     return &cloudLists_;
   default:
     return nullptr;
   }
+}
+
+CSymbolList* CTQSymbolListMgr::FindList(const char* id, int kind) {
+  const CPtrArray* lists = ListsOf(kind);
+  const int index = lists == nullptr ? -1 : tq::FindListById(*lists, id);
+  return index < 0 ? nullptr : tq::ListAt(*lists, index);
 }
 
 int CTQSymbolListMgr::GetSymbolListCount(int kind) {
@@ -58,24 +28,103 @@ int CTQSymbolListMgr::GetSymbolListCount(int kind) {
   return lists == nullptr ? 0 : lists->GetSize();
 }
 
-int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) {
+int CTQSymbolListMgr::GetTQSymbolListCount(int kind) {
+  return GetSymbolListCount(kind);
+}
+
+int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) {
   const CPtrArray* lists = ListsOf(kind);
-  if (lists == nullptr || out == nullptr || index < 0 || index >= lists->GetSize())
+  if (lists == nullptr)
     return 0;
-  ListAt(*lists, index)->GetListInfo(out);
+  for (int i = 0; i < lists->GetSize(); ++i)
+    out.Add(new CSymbolList(*tq::ListAt(*lists, i)));
   return 1;
 }
 
 int CTQSymbolListMgr::GetSymbolList(CString id, CSymbolList** out, int kind) {
   if (out == nullptr)
     return 0;
-  *out = nullptr;
+  *out = FindList(id, kind);
+  return *out != nullptr;
+}
+
+int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) {
   const CPtrArray* lists = ListsOf(kind);
-  for (int i = 0; lists != nullptr && i < lists->GetSize(); ++i) {
-    if (ListAt(*lists, i)->IsSameID(id)) {
-      *out = ListAt(*lists, i);
-      return 1;
-    }
+  if (lists == nullptr || out == nullptr || index < 0 || index >= lists->GetSize())
+    return 0;
+  tq::ListAt(*lists, index)->GetListInfo(out);
+  return 1;
+}
+
+int CTQSymbolListMgr::GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols,
+                                        int kind) {
+  const CPtrArray* lists = ListsOf(kind);
+  if (lists == nullptr || index < 0 || index >= lists->GetSize())
+    return 0;
+  CSymbolList* list = tq::ListAt(*lists, index);
+  id = list->GetID();
+  name = list->GetName();
+  symbols = list->GetIDs();
+  return 1;
+}
+
+int CTQSymbolListMgr::GetSymbolListName(const CString& id, CString& name, int kind) {
+  return GetTQSymbolListName(id, name, kind);
+}
+
+int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kind) {
+  const CSymbolList* list = FindList(id, kind);
+  if (list == nullptr)
+    return 0;
+  name = list->GetName();
+  return 1;
+}
+
+int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& symbols,
+                                       CStringArray* tokens) {
+  constexpr int kDefaultList = 0;
+  CSymbolList* list = nullptr;
+  int index = 0;
+  if (kind != kDefaultList)
+    list = FindList(id, kind);
+  else if (GetDefaultListIdx(index) != 0 && index < lists_.GetSize())
+    list = tq::ListAt(lists_, index);
+  if (tokens != nullptr)
+    tokens->RemoveAll();
+  if (list == nullptr) {
+    symbols.Empty();
+    return 0;
   }
-  return 0;
+  symbols = list->GetIDs();
+  if (tokens != nullptr)
+    tokens->Copy(list->GetTokens());
+  return 1;
+}
+
+int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind) {
+  out.Empty();
+  CSymbolList* list = FindList(id, kind);
+  if (list == nullptr)
+    return 0;
+  list->JoinRows(out);
+  return 1;
+}
+
+int CTQSymbolListMgr::GetTQSymbolCount(const char* id, int kind) {
+  CSymbolList* list = FindList(id, kind);
+  return list == nullptr ? 0 : list->GetCount();
+}
+
+int CTQSymbolListMgr::GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out, int kind) {
+  CSymbolList* list = FindList(id, kind);
+  return list != nullptr && list->GetAt(entry, out);
+}
+
+int CTQSymbolListMgr::GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count) {
+  return VLGetSymbolInfos2(exchId, subId, list, count, 0);
+}
+
+int CTQSymbolListMgr::GetBaseAttrs(const char* symbols, BaseAttr** list, int* count) {
+  constexpr int kAllAttributes = 1;
+  return VLGetBaseAttrs(symbols, list, count, kAllAttributes);
 }

@@ -58,7 +58,7 @@ void CXMLDOMParser::LoadSymbolList(const CString& path) {
     auto list = std::make_unique<CSymbolList>();
     if (list->FillFromElement(element) == 0)
       return;
-    manager_.AdoptSymbolList(list.release(), 1);
+    manager_.AdoptSymbolList(list.release());
   }
   if (elements.empty())
     manager_.SaveSymbolList();

@@ -1,87 +1,73 @@
 #include "symboltable/KeyIndex.h"
 
 #include <algorithm>
-#include <bit>
-#include <utility>
 
 namespace tq {
 namespace {
 
-constexpr std::size_t SmallestCapacity = 16;
-
-// At most five entries of eight are taken: a miss then ends after some four entries.
-bool IsTooFull(std::size_t size, std::size_t capacity) {
-  return size * 8 > capacity * 5;
-}
-
-std::size_t CapacityFor(std::size_t count) {
-  const std::size_t capacity = std::bit_ceil(std::max(count, SmallestCapacity));
-  return IsTooFull(count, capacity) ? capacity * 2 : capacity;
-}
+// Of ten slots at most eight are taken when a group is added for the next: full groups are rare then.
+constexpr std::size_t FullestTenths = 8;
 
 } // namespace
 
-void KeyIndex::Allocate(std::size_t capacity) {
-  entries_ = std::make_unique_for_overwrite<Entry[]>(capacity);
-  std::fill_n(entries_.get(), capacity, Entry{0, NoNode});
-  mask_ = capacity - 1;
-}
-
 void KeyIndex::Reset(std::size_t count) {
-  entries_.reset();
-  mask_ = 0;
+  groups_.reset();
+  groupCount_ = 0;
   size_ = 0;
-  if (count != 0)
-    Allocate(CapacityFor(count));
+  worn_ = 0;
+  if (count == 0)
+    return;
+  constexpr std::size_t tenths = 10;
+  groupCount_ = std::bit_ceil(count * tenths / (SlotCount * FullestTenths) + 1);
+  groups_ = std::make_unique<Group[]>(groupCount_);
 }
 
-void KeyIndex::Put(Entry entry) {
-  std::size_t at = entry.hash & mask_;
-  while (entries_[at].node != NoNode)
-    at = (at + 1) & mask_;
-  entries_[at] = entry;
+bool KeyIndex::HasRoom() const {
+  constexpr std::size_t tenths = 10;
+  return (size_ + 1) * tenths <= groupCount_ * SlotCount * FullestTenths &&
+         worn_ <= groupCount_ * SlotCount;
 }
 
-void KeyIndex::Grow() {
-  const std::unique_ptr<Entry[]> old = std::move(entries_);
-  const std::size_t oldCapacity = old ? mask_ + 1 : 0;
-  Allocate(CapacityFor(size_ + 1));
-  for (std::size_t at = 0; at < oldCapacity; ++at)
-    if (old[at].node != NoNode)
-      Put(old[at]);
+void KeyIndex::Put(std::uint32_t hash, std::uint32_t node) {
+  for (std::size_t at = hash;; ++at) {
+    Group& group = groups_[at & (groupCount_ - 1)];
+    std::uint8_t* const tag = std::find(group.tags, group.tags + SlotCount, NoTag);
+    if (tag == group.tags + SlotCount) {
+      group.passed |= PassedBit(hash);
+      continue;
+    }
+    *tag = TagOf(hash);
+    group.nodes[tag - group.tags] = node;
+    return;
+  }
 }
 
-void KeyIndex::Add(std::uint32_t hash, std::uint32_t node) {
-  if (!entries_ || IsTooFull(size_ + 1, mask_ + 1))
-    Grow();
-  Put({hash, node});
-  ++size_;
+int KeyIndex::Group::SlotOf(std::uint32_t hash, std::uint32_t node) const {
+  for (int slot = 0; slot < SlotCount; ++slot)
+    if (tags[slot] == TagOf(hash) && nodes[slot] == node)
+      return slot;
+  return -1;
 }
 
-std::size_t KeyIndex::PositionOf(std::uint32_t hash, std::uint32_t node) const {
-  std::size_t at = hash & mask_;
-  while (entries_[at].node != node)
-    at = (at + 1) & mask_;
-  return at;
+KeyIndex::Place KeyIndex::PlaceOf(std::uint32_t hash, std::uint32_t node) {
+  for (std::size_t at = hash;; ++at) {
+    Group& group = groups_[at & (groupCount_ - 1)];
+    if (const int slot = group.SlotOf(hash, node); slot >= 0)
+      return {group, slot};
+  }
 }
 
 void KeyIndex::Remove(std::uint32_t hash, std::uint32_t node) {
-  std::size_t hole = PositionOf(hash, node);
-  // Entries behind the hole that may stand there move up, so that no mark of the removal is left
-  // and the index stays as quick after years of updates as after loading.
-  for (std::size_t at = (hole + 1) & mask_; entries_[at].node != NoNode; at = (at + 1) & mask_) {
-    const std::size_t wanted = entries_[at].hash & mask_;
-    if (((at - wanted) & mask_) < ((at - hole) & mask_))
-      continue;
-    entries_[hole] = entries_[at];
-    hole = at;
-  }
-  entries_[hole].node = NoNode;
+  const Place place = PlaceOf(hash, node);
+  place.group.tags[place.slot] = NoTag;
   --size_;
+  if (place.group.passed != 0)
+    ++worn_;
 }
 
 void KeyIndex::Replace(std::uint32_t hash, std::uint32_t node, std::uint32_t successor) {
-  entries_[PositionOf(hash, node)].node = successor;
+  const Place place = PlaceOf(hash, node);
+  place.group.nodes[place.slot] = successor;
 }
 
 } // namespace tq

@@ -1,55 +1,117 @@
-// From a key's hash to the nodes that may carry it: an open-addressing table of node numbers.
+// From a key's hash to the node that carries it: an open-addressing table of node numbers.
 //
-// It knows hashes and numbers only; the caller says which node is the right one. One entry is eight
-// bytes, so that a look-up mostly touches one cache line here.
+// It knows hashes and numbers only; the caller says which node is the right one. Entries stand in groups of
+// a cache line, each with one byte of the hash, so that a look-up touches one line here and hardly ever
+// a node that is not the right one.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
+#include <utility>
+
+#include "symboltable/PackedText.h"
 
 namespace tq {
 
 class KeyIndex {
 public:
+  static constexpr std::uint32_t NoNode = 0xffffffffu;
+
   // Empties the index and makes room for `count` keys, so that adding them moves nothing.
   void Reset(std::size_t count);
 
-  // The first node in the probe order of `hash` for which isMatch(node) holds; NoNode when none.
-  static constexpr std::uint32_t NoNode = 0xffffffffu;
+  // The node with that hash for which isMatch(node) holds; NoNode when there is none.
   template <typename IsMatch> std::uint32_t Find(std::uint32_t hash, IsMatch isMatch) const {
-    if (size_ == 0)
-      return NoNode;
-    for (std::size_t at = hash & mask_; entries_[at].node != NoNode; at = (at + 1) & mask_)
-      if (entries_[at].hash == hash && isMatch(entries_[at].node))
-        return entries_[at].node;
+    for (std::size_t probed = 0, at = hash; probed < groupCount_; ++probed, ++at) {
+      const Group& group = groups_[at & (groupCount_ - 1)];
+      for (unsigned slots = group.SlotsWith(TagOf(hash)); slots != 0; slots &= slots - 1) {
+        const std::uint32_t node = group.nodes[std::countr_zero(slots)];
+        if (isMatch(node))
+          return node;
+      }
+      if ((group.passed & PassedBit(hash)) == 0)
+        break;
+    }
     return NoNode;
   }
 
-  // Adds a node whose key is not in the index.
-  void Add(std::uint32_t hash, std::uint32_t node);
+  // Adds a node whose key is not in the index. hashOf(node) is the hash of a node that is.
+  template <typename HashOf> void Add(std::uint32_t hash, std::uint32_t node, HashOf hashOf) {
+    if (!HasRoom())
+      Rebuild(hashOf);
+    Put(hash, node);
+    ++size_;
+  }
   // Takes out a node that is in the index.
   void Remove(std::uint32_t hash, std::uint32_t node);
   // Puts another node with the same key in a node's place.
   void Replace(std::uint32_t hash, std::uint32_t node, std::uint32_t successor);
 
   // Heap bytes held.
-  std::size_t Footprint() const { return entries_ ? (mask_ + 1) * sizeof(Entry) : 0; }
+  std::size_t Footprint() const { return groupCount_ * sizeof(Group); }
 
 private:
-  struct Entry {
-    std::uint32_t hash;
-    std::uint32_t node;
+  static constexpr int SlotCount = 12;
+  static constexpr std::uint8_t NoTag = 0; // the slot is free
+
+  struct alignas(64) Group {
+    std::uint8_t tags[SlotCount];
+    // Which hashes went past this group when it was full, by their PassedBit. Never taken back: what
+    // they look for may still stand behind.
+    std::uint32_t passed;
+    std::uint32_t nodes[SlotCount];
+
+    // A bit for each slot with that tag.
+    unsigned SlotsWith(std::uint8_t tag) const;
+    int SlotOf(std::uint32_t hash, std::uint32_t node) const; // -1 when it is not here
   };
 
-  std::size_t PositionOf(std::uint32_t hash, std::uint32_t node) const;
-  void Allocate(std::size_t capacity);
-  void Put(Entry entry);
-  void Grow();
+  struct Place {
+    Group& group;
+    int slot;
+  };
 
-  std::unique_ptr<Entry[]> entries_;
-  std::size_t mask_ = 0;
+  static std::uint8_t TagOf(std::uint32_t hash) {
+    const auto tag = static_cast<std::uint8_t>(hash >> 24);
+    return tag == NoTag ? 1 : tag;
+  }
+  static std::uint32_t PassedBit(std::uint32_t hash) { return 1u << (hash >> 19 & 31u); }
+
+  bool HasRoom() const;
+  void Put(std::uint32_t hash, std::uint32_t node);
+  Place PlaceOf(std::uint32_t hash, std::uint32_t node);
+
+  template <typename HashOf> void Rebuild(HashOf hashOf) {
+    const std::unique_ptr<Group[]> old = std::move(groups_);
+    const std::size_t oldCount = groupCount_;
+    const std::size_t size = size_;
+    Reset(size + 1);
+    for (std::size_t i = 0; i < oldCount; ++i)
+      for (int slot = 0; slot < SlotCount; ++slot)
+        if (old[i].tags[slot] != NoTag)
+          Put(hashOf(old[i].nodes[slot]), old[i].nodes[slot]);
+    size_ = size;
+  }
+
+  std::unique_ptr<Group[]> groups_;
+  std::size_t groupCount_ = 0; // 0 or a power of two
   std::size_t size_ = 0;
+  std::size_t worn_ = 0; // nodes removed from groups whose passed bits have stayed
 };
+
+inline unsigned KeyIndex::Group::SlotsWith(std::uint8_t tag) const {
+  // Brings the top bits of the eight bytes together.
+  const auto gather = [](std::uint64_t bits) {
+    return static_cast<unsigned>(bits * 0x0002040810204081u >> 56);
+  };
+  std::uint64_t first;
+  std::uint32_t rest;
+  std::memcpy(&first, tags, sizeof first);
+  std::memcpy(&rest, tags + sizeof first, sizeof rest);
+  return gather(BytesEqual(first, tag)) | (gather(BytesEqual(rest, tag)) & 0xfu) << 8;
+}
 
 } // namespace tq

@@ -8,7 +8,10 @@ namespace {
 
 constexpr int NumberFields[tq::HeldNumberCount] = {FieldKind,       FieldBoard,    FieldLegExchange,
                                                    FieldExpiryDate, FieldTradeLot, FieldPriceScale};
+// Bits of present_; those below stand for the held numbers.
 constexpr unsigned DecimalsBit = 1u << tq::HeldNumberCount;
+constexpr unsigned CodeIsSymbolBit = DecimalsBit << 1; // FieldExchangeCode is the id's symbol
+static_assert(CodeIsSymbolBit <= 0x80);
 constexpr int Absent = -1;
 constexpr char NoMark = ' ';
 
@@ -23,7 +26,7 @@ int NumberIndex(int field) {
 CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
                          tq::ItemTextReader& reader)
     : keyLength_(place.keyLength), exchId_(place.exchId), id_(place.id), number_(place.number) {
-  head_ = tq::MakeKey(Key()).head;
+  head_ = tq::PackHead(Key());
   UpdateFrom(key, reader);
 }
 
@@ -34,7 +37,10 @@ void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) 
   key.GetFieldString(FieldSymbolName, name_);
   CString mark;
   mark_ = key.GetFieldString(FieldMark, mark) && !mark.IsEmpty() ? mark.GetAt(0) : NoMark;
-  texts_ = reader.Read(key, Symbol(), codeIsSymbol_);
+  bool codeIsSymbol = false;
+  texts_ = reader.Read(key, Symbol(), codeIsSymbol);
+  if (codeIsSymbol)
+    present_ |= static_cast<std::uint8_t>(CodeIsSymbolBit);
 }
 
 void CSymbolItem::ReadNumbers(const CStaticKey& key) {
@@ -48,7 +54,8 @@ void CSymbolItem::ReadNumbers(const CStaticKey& key) {
   int decimals = 0;
   if (key.GetFieldInt(FieldDecimals, decimals))
     present |= DecimalsBit;
-  decimals_ = decimals;
+  // No price has more than a handful of them.
+  decimals_ = static_cast<std::int16_t>(std::clamp(decimals, -0x7fff, 0x7fff));
   present_ = static_cast<std::uint8_t>(present);
   int exchange = exchId_;
   if (key.GetFieldInt(FieldExchangeName, exchange))
@@ -73,7 +80,6 @@ int CSymbolItem::GetNumber(int field, int& value) const {
 }
 
 int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
-  const int held = tq::ItemTextIndex(field);
   if (field == FieldSymbolId && part == tq::IdPart::Full)
     value = id_;
   else if (field == FieldSymbolId)
@@ -82,7 +88,7 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
     value = name_;
   else if (field == FieldMark)
     value.SetString(&mark_, mark_ == NoMark ? 0 : 1);
-  else if (held >= 0)
+  else if (const int held = tq::ItemTextIndex(field); held >= 0)
     GetHeldText(held, value);
   else
     return AskText(field, value);
@@ -90,7 +96,7 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
 }
 
 void CSymbolItem::GetHeldText(int index, CString& value) const {
-  if (index == tq::ExchangeCodeText && codeIsSymbol_)
+  if (index == tq::ExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
     value.SetString(id_.GetString(), static_cast<int>(Symbol().size()));
   else if (texts_)
     value = texts_->texts[index];

@@ -81,7 +81,7 @@ public:
   CSymbolItem* LeaveSame();
 
 private:
-  std::string_view Symbol() const { return tq::SymbolOf(tq::ViewOf(id_)); }
+  std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
   void ReadNumbers(const CStaticKey& key);
   void GetHeldText(int index, CString& value) const;
   int AskNumber(int field, int& value) const;
@@ -89,23 +89,22 @@ private:
   int AskService(int field, CString& value) const;
   int AskTradeCode(CString& value) const;
 
-  std::uint64_t head_; // the key's first bytes, see SymbolKey
+  tq::PackedText head_; // the key's first bytes
   std::uint32_t keyLength_;
   std::int32_t exchId_;
   CString id_;
   CString name_;
   std::int32_t numbers_[tq::HeldNumberCount];
 
+  std::uint32_t number_;
+  std::int16_t decimals_ = 0;
+  std::uint8_t present_ = 0; // which of the held numbers and texts the service gave, see the body
+  char mark_ = ' ';          // FieldMark
   CSymbolItem* next_ = nullptr;
   CSymbolItem* previous_ = nullptr;
   CSymbolItem* nextSame_ = nullptr;
   CSymbolItem* lastSame_ = nullptr; // kept in the first item of a key, when there are more
   std::shared_ptr<const tq::ItemTexts> texts_;
-  std::uint32_t number_;
-  std::int32_t decimals_ = 0;
-  std::uint8_t present_ = 0;  // a bit for each held number that the service gave, decimals last
-  char mark_ = ' ';           // FieldMark
-  bool codeIsSymbol_ = false; // FieldExchangeCode is the symbol
 };
 
 static_assert(sizeof(CSymbolItem) == 128);

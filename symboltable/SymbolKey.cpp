@@ -1,82 +1,53 @@
 #include "symboltable/SymbolKey.h"
 
+#include <bit>
 #include <cstdlib>
-#include <cstring>
 
+#include "platform/CodePage.h"
 #include "symboltable/LeadingInt.h"
 #include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
 
-constexpr std::uint64_t HashMultiplier = 0x9e3779b97f4a7c15u; // 2^64 by the golden ratio
+constexpr std::size_t NoDot = std::string_view::npos;
 
-std::uint32_t Load32(const char* at) {
-  std::uint32_t word;
-  std::memcpy(&word, at, sizeof word);
-  return word;
+// Position of the last "." byte of a word's text, NoDot when there is none.
+std::size_t LastDotByte(std::uint64_t word) {
+  const std::uint64_t dots = BytesEqual(word, '.');
+  return dots == 0 ? NoDot : static_cast<std::size_t>(7 - std::countl_zero(dots) / 8);
 }
 
-// Up to eight bytes as one number, the missing ones 0. The overlapping halves of four to seven
-// bytes agree where they overlap, so they may be or-ed.
-std::uint64_t LoadHead(const char* at, std::size_t size) {
-  if (size >= sizeof(std::uint64_t)) {
-    std::uint64_t word;
-    std::memcpy(&word, at, sizeof word);
-    return word;
-  }
-  if (size >= sizeof(std::uint32_t)) {
-    const std::size_t overlap = size - sizeof(std::uint32_t);
-    return Load32(at) | std::uint64_t{Load32(at + overlap)} << (8 * overlap);
-  }
-  std::uint64_t word = 0;
-  for (std::size_t i = 0; i < size; ++i)
-    word |= std::uint64_t{static_cast<unsigned char>(at[i])} << (8 * i);
-  return word;
+std::size_t LastDotByte(std::string_view id) {
+  const PackedText head = PackHead(id);
+  if (id.size() > sizeof head)
+    return id.rfind('.');
+  if (const std::size_t dot = LastDotByte(head.high); dot != NoDot)
+    return dot + sizeof head.low;
+  return LastDotByte(head.low);
 }
 
-std::uint64_t Mix(std::uint64_t state, std::uint64_t word) {
-  state = (state ^ word) * HashMultiplier;
-  return state ^ state >> 32;
-}
-
-} // namespace
-
-SymbolKey MakeKey(std::string_view text) {
-  const std::uint64_t head = LoadHead(text.data(), text.size());
-  std::uint64_t state = Mix(text.size(), head);
-  for (std::size_t at = sizeof head; at < text.size(); at += sizeof head)
-    state = Mix(state, LoadHead(text.data() + at, text.size() - at));
-  state = Mix(state, 0);
-  return {text, head, static_cast<std::uint32_t>(state)};
-}
-
-namespace {
-
-// Position of the last ".", npos when there is none. The byte behind a lead byte belongs to a
-// character.
+// Position of the last ".", NoDot when there is none.
 std::size_t LastDot(std::string_view id) {
-  const std::size_t dot = id.rfind('.');
-  if (dot == std::string_view::npos || dot == 0 || !IsLeadByte(id[dot - 1]))
+  const std::size_t dot = LastDotByte(id);
+  if (dot == NoDot || dot == 0 || !IsLeadByte(id[dot - 1]))
     return dot;
   const char* const found = FindLastChar(id.data(), id.data() + id.size(), '.');
-  return found == nullptr ? std::string_view::npos : static_cast<std::size_t>(found - id.data());
+  return found == nullptr ? NoDot : static_cast<std::size_t>(found - id.data());
 }
 
 } // namespace
 
-std::string_view SuffixOf(std::string_view id) {
+IdParts SplitId(std::string_view id) {
   const std::size_t dot = LastDot(id);
-  return dot == std::string_view::npos ? std::string_view() : id.substr(dot + 1);
-}
-
-std::string_view SymbolOf(std::string_view id) {
-  return id.substr(0, LastDot(id));
+  if (dot == NoDot)
+    return {id, {}};
+  return {id.substr(0, dot), id.substr(dot + 1)};
 }
 
 std::string_view KeyOf(std::string_view id, std::string_view exchName) {
   const std::size_t dot = LastDot(id);
-  if (dot == std::string_view::npos || !EqualsNoCase(id.substr(dot + 1), exchName))
+  if (dot == NoDot || !EqualsNoCase(id.substr(dot + 1), exchName))
     return id;
   return id.substr(0, dot);
 }

@@ -1,28 +1,38 @@
-// The key under which a table holds a symbol: how it is cut out of an id, hashed and put in a
-// chain.
+// The key under which a table holds a symbol: how it is cut out of an id, hashed and put in a chain.
 #pragma once
 
 #include <cstdint>
 #include <string_view>
 
+#include "symboltable/PackedText.h"
+
 namespace tq {
 
-// A key with what a look-up compares before it looks at the text.
+// A key with what a look-up compares before it looks at the text; see MakeKey.
 struct SymbolKey {
   std::string_view text;
-  std::uint64_t head; // the first eight bytes, padded with NUL
+  PackedText head;    // the first sixteen bytes: all of nearly every key
   std::uint32_t hash; // of all bytes
 };
 
-SymbolKey MakeKey(std::string_view text);
+inline SymbolKey MakeKey(std::string_view text) {
+  const PackedText head = PackHead(text);
+  std::uint64_t state = MixWords(MixWords(text.size(), head.low), head.high);
+  for (std::size_t at = sizeof head; at < text.size(); at += sizeof(std::uint64_t))
+    state = MixWords(state, PackWord(text.substr(at)));
+  return {text, head, static_cast<std::uint32_t>(state >> 32)};
+}
 
-// The part of a full id after the last ".", or empty.
-std::string_view SuffixOf(std::string_view id);
-// The part before the last ".", or all of it.
-std::string_view SymbolOf(std::string_view id);
+// A full id in its parts: the suffix is the text after the last "." and empty without one, the symbol the
+// text before it, or all. A "." that is the second byte of a character does not count.
+struct IdParts {
+  std::string_view symbol;
+  std::string_view suffix;
+};
+IdParts SplitId(std::string_view id);
 
-// The key of `id` in the table of an exchange: the symbol alone when the suffix is the exchange's
-// name in any letter case; else the whole id, so that ids of a foreign exchange stay apart.
+// The key of `id` in the table of an exchange: the symbol alone when the suffix is the exchange's name
+// in any letter case; else the whole id, so that ids of a foreign exchange stay apart.
 std::string_view KeyOf(std::string_view id, std::string_view exchName);
 
 // How a table spreads its symbols over its chains.

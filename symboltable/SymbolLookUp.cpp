@@ -36,7 +36,7 @@ const CSymbolItem* FindOnDefaults(const TableSlots& slots, std::string_view id, 
 } // namespace
 
 std::string_view ExchangeIn(const TableSlots& slots, std::string_view id) {
-  const std::string_view suffix = SuffixOf(id);
+  const std::string_view suffix = SplitId(id).suffix;
   return !suffix.empty() && slots.HasNameNoCase(suffix) ? suffix : std::string_view();
 }
 
@@ -44,10 +44,10 @@ const CSymbolItem* FindSymbol(const TableSlots& slots, std::string_view id,
                               std::string_view exchName, BareSymbol rule) {
   if (!exchName.empty())
     return FindOn(slots, id, exchName);
-  const std::string_view suffix = SuffixOf(id);
+  const auto [symbol, suffix] = SplitId(id);
   if (!suffix.empty()) {
     if (const int slot = slots.FindName(suffix); slot != TableSlots::None)
-      return slots.At(slot)->Find(MakeKey(SymbolOf(id)));
+      return slots.At(slot)->Find(MakeKey(symbol));
     // An exchange that the service writes in lower case is known by its suffix, but the upper-cased
     // suffix is not its name: such a symbol is found through the default exchanges alone, bare.
     if (slots.HasNameNoCase(suffix))

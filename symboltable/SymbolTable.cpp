@@ -59,7 +59,8 @@ void CSymbolTable::Append(CSymbolItem* item) {
   if (CSymbolItem* const first = FindItem(key))
     first->AppendSame(item);
   else
-    index_.Add(key.hash, item->Number());
+    index_.Add(key.hash, item->Number(),
+               [this](std::uint32_t number) { return tq::MakeKey(arena_.At(number)->Key()).hash; });
 }
 
 void CSymbolTable::Destroy(CSymbolItem* item) {

@@ -57,10 +57,10 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
 }
 
 std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) {
-  const std::string_view suffix = tq::SuffixOf(tq::ViewOf(id));
+  const auto [symbol, suffix] = tq::SplitId(tq::ViewOf(id));
   if (suffix.empty() || !slots_->HasNameNoCase(suffix))
     return {id, CString()};
-  return {tq::ToCString(tq::SymbolOf(tq::ViewOf(id))), tq::ToCString(suffix)};
+  return {tq::ToCString(symbol), tq::ToCString(suffix)};
 }
 
 CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {

@@ -11,17 +11,17 @@ constexpr std::size_t NameMask = 255;
 
 // The entry of the slot for which isName(slot) holds, or the free entry where it belongs.
 template <typename Index, typename IsName>
-std::size_t Probe(const Index& index, std::string_view name, IsName isName) {
-  std::size_t at = MakeKey(name).hash & NameMask;
+std::size_t Probe(const Index& index, const SymbolKey& name, IsName isName) {
+  std::size_t at = name.hash & NameMask;
   while (index[at] != 0 && !isName(index[at] - 1))
     at = (at + 1) & NameMask;
   return at;
 }
 
 // Enters a slot under its name unless a lower slot has that name already.
-template <typename Index, typename NameOf>
-void Enter(Index& index, std::string_view name, int slot, NameOf nameOf) {
-  std::uint8_t& entry = index[Probe(index, name, [&](int other) { return nameOf(other) == name; })];
+template <typename Index, typename IsName>
+void Enter(Index& index, const SymbolKey& name, int slot, IsName isName) {
+  std::uint8_t& entry = index[Probe(index, name, isName)];
   if (entry == 0)
     entry = static_cast<std::uint8_t>(slot + 1);
 }
@@ -66,11 +66,15 @@ void TableSlots::Reindex() {
   for (int slot = 0; slot < Count; ++slot) {
     if (At(slot) == nullptr)
       continue;
+    const SymbolKey name = MakeKey(NameAt(slot));
+    nameHeads_[static_cast<std::size_t>(slot)] = {name.head, name.text.size()};
+    Enter(byName_, name, slot, [&](int other) { return IsNameAt(other, name); });
     CString upper = At(slot)->ExchName();
     upper.MakeUpper();
-    upperNames_[static_cast<std::size_t>(slot)] = ViewOf(upper);
-    Enter(byName_, NameAt(slot), slot, [this](int other) { return NameAt(other); });
-    Enter(byUpperName_, UpperNameAt(slot), slot, [this](int other) { return UpperNameAt(other); });
+    std::string& upperName = upperNames_[static_cast<std::size_t>(slot)];
+    upperName = ViewOf(upper);
+    Enter(byUpperName_, MakeKey(upperName), slot,
+          [&](int other) { return UpperNameAt(other) == upperName; });
   }
   FindDefaults();
 }
@@ -88,9 +92,8 @@ void TableSlots::SetDefaults(std::vector<int> exchIds) {
 }
 
 int TableSlots::FindName(std::string_view exchName) const {
-  const std::size_t at =
-      Probe(byName_, exchName, [&](int slot) { return NameAt(slot) == exchName; });
-  return byName_[at] - 1;
+  const SymbolKey name = MakeKey(exchName);
+  return byName_[Probe(byName_, name, [&](int slot) { return IsNameAt(slot, name); })] - 1;
 }
 
 int TableSlots::FindId(int exchId) const {
@@ -105,7 +108,7 @@ bool TableSlots::HasNameNoCase(std::string_view exchName) const {
   UpperBuffer buffer;
   const std::string_view upper = UpperCased(copy, buffer);
   const std::size_t at =
-      Probe(byUpperName_, upper, [&](int slot) { return UpperNameAt(slot) == upper; });
+      Probe(byUpperName_, MakeKey(upper), [&](int slot) { return UpperNameAt(slot) == upper; });
   return byUpperName_[at] != 0;
 }
 

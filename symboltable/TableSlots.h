@@ -59,14 +59,25 @@ private:
   // Slots plus 1 by the hash of a name, 0 for no entry: at most half of it is taken.
   using NameIndex = std::array<std::uint8_t, 256>;
 
+  struct NameHead {
+    PackedText start; // of a table's name
+    std::size_t size;
+  };
+
   void Reindex();
   void FindDefaults();
   std::string_view NameAt(int slot) const { return ViewOf(At(slot)->ExchName()); }
+  bool IsNameAt(int slot, const SymbolKey& name) const {
+    const NameHead& head = nameHeads_[static_cast<std::size_t>(slot)];
+    return head.start == name.head && head.size == name.text.size() &&
+           (head.size <= sizeof head.start || NameAt(slot) == name.text);
+  }
   std::string_view UpperNameAt(int slot) const {
     return upperNames_[static_cast<std::size_t>(slot)];
   }
 
   std::array<std::unique_ptr<CSymbolTable>, Count> tables_;
+  std::array<NameHead, Count> nameHeads_;
   std::array<std::string, Count> upperNames_;
   NameIndex byName_ = {};
   NameIndex byUpperName_ = {};

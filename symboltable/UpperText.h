@@ -10,16 +10,31 @@
 
 #include "platform/CodePage.h"
 #include "platform/framework/CString.h"
+#include "symboltable/PackedText.h"
 
 namespace tq {
 
 // Room for the upper-cased form of every id that a person or a service writes.
 using UpperBuffer = std::array<char, 64>;
 
+// The bytes of a string, for as long as it is not changed.
+inline std::string_view ViewOf(const CString& text) {
+  return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+// UpperCased for texts that are not short and in upper case.
+std::string_view UpperCasedCopy(CString& text, UpperBuffer& buffer);
+
 // `text` in upper case. The result lies in `text` itself when that is in upper case already, in
 // `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
 // valid while both live.
-std::string_view UpperCased(CString& text, UpperBuffer& buffer);
+inline std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
+  const std::string_view view = ViewOf(text);
+  const PackedText head = PackHead(view);
+  if (view.size() <= sizeof head && IsUpperAscii(head.low) && IsUpperAscii(head.high))
+    return view;
+  return UpperCasedCopy(text, buffer);
+}
 
 // Upper-cases in place.
 void MakeUpper(CString& text);
@@ -27,11 +42,6 @@ void MakeUpper(CString& text);
 // Whether the two are the same but for letter case.
 inline bool EqualsNoCase(std::string_view left, std::string_view right) {
   return left == right || EqualNoCase(left.data(), left.size(), right.data(), right.size());
-}
-
-// The bytes of a string, for as long as it is not changed.
-inline std::string_view ViewOf(const CString& text) {
-  return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
 }
 
 inline CString ToCString(std::string_view text) {

@@ -7,9 +7,8 @@
 // whole character to each field's width. Codes and exchange names are ASCII.
 //
 // The operations by name, as FailCall, Calls and CountCalls know them: the flat ones by their own
-// name
-// ("VLGetExch"), members as "CStaticKey::Setup", "CStockAttr::GetID",
-// "CCheckFileName::IsValidName", "TQLog::storage". Four can neither fail nor are they recorded:
+// name ("VLGetExch"), members as "CStaticKey::Setup", "CStockAttr::GetID",
+// "CCheckFileName::IsValidName", "TQLog::storage". Some can neither fail nor are recorded:
 // VLFree (see OutstandingArrays), IsTraditionChinese, and the constructors and destructors of
 // tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
 // TQLog::write can be made to fail, but are not recorded: there are dozens for each symbol, and a
@@ -37,6 +36,13 @@ struct FieldValue {
   std::string value;
 };
 
+// One extended attribute record of an instrument, as VLGetExtendAttr answers it and
+// CStockKey::ParseExtAttr reads it.
+struct ExtendedText {
+  int kind = 0;     // an ExtAttrKind of VLProxy
+  std::string text; // "V4=W;V5=2"
+};
+
 struct Instrument {
   int exchId = 0;
   std::string code;   // bare code: "2330"
@@ -44,11 +50,12 @@ struct Instrument {
   std::string nameCn; // display name, Simplified Chinese
   std::string kind;   // stock, preferred, index, etf, etn, warrant, future, option, bond
   int decimals = 2;
-  int lot = 1000;                 // trading unit
-  bool usable = true;             // false: CStaticKey::Setup refuses the record
-  std::string price;              // reference price as text; empty: none
-  std::string exchangeCode;       // the exchange's own code; empty: the bare code
-  std::vector<FieldValue> fields; // what else is known; stands above the members
+  int lot = 1000;                          // trading unit
+  bool usable = true;                      // false: CStaticKey::Setup refuses the record
+  std::string price;                       // reference price as text; empty: none
+  std::string exchangeCode;                // the exchange's own code; empty: the bare code
+  std::vector<FieldValue> fields;          // what else is known; stands above the members
+  std::vector<ExtendedText> extended = {}; // in the order of the service; a kind may stand twice
 };
 
 // A group of the service's group tree is not part of the market yet; sectors are.

@@ -60,13 +60,15 @@ template <class TYPE> struct ArrayStorage {
     return size++;
   }
 
-  void Insert(int index, int count, const TYPE& value) {
+  // By value: the caller's may be an element that opening the gap moves.
+  void Insert(int index, int count, TYPE value) {
     if (index < 0 || count < 0)
       InvalidArgument("CArray::InsertAt: negative index or count");
-    const TYPE copy(value);
     OpenGap(index, count);
-    for (int i = 0; i < count; ++i)
-      new (data + index + i) TYPE(copy);
+    for (int i = 1; i < count; ++i)
+      new (data + index + i) TYPE(value);
+    if (count > 0)
+      new (data + index) TYPE(std::move(value));
   }
 
   void InsertArray(int index, const ArrayStorage& other) {

@@ -52,10 +52,7 @@ public:
   ~CString() { tq::ReleaseText(m_text); }
 
   CString& operator=(const CString& other) noexcept {
-    char* const shared = tq::ShareText(other.m_text); // first, for assignment to itself
-    tq::ReleaseText(m_text);
-    m_text = shared;
-    return *this;
+    return *this = CString(other); // shares before it releases, for assignment to itself
   }
   CString& operator=(CString&& other) noexcept {
     char* const taken = other.m_text;

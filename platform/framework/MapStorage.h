@@ -74,9 +74,10 @@ template <class KEY, class VALUE> struct MapStorage {
       buckets *= 2;
     if (m_table != nullptr && buckets == m_mask + 1)
       return;
+    const size_t bytes = buckets * sizeof(void*); // each the first node of a chain
     FreeStorage(m_table);
-    m_table = static_cast<Node**>(AllocateStorage(buckets * sizeof(Node*)));
-    std::memset(m_table, 0, buckets * sizeof(Node*));
+    m_table = static_cast<Node**>(AllocateStorage(bytes));
+    std::memset(m_table, 0, bytes);
     m_mask = buckets - 1;
     for (Node* node = first; node != nullptr; node = node->next)
       Chain(node);

@@ -108,7 +108,7 @@ private:
   const std::string temporary_;
   File targetFile_;
   File temporaryFile_;
-  struct stat old_ = {};   // the target before the save, when existed_
+  struct stat old_ = {}; // the target before the save, when existed_
   bool existed_ = false;
   bool created_ = false; // in place, by this save
 };

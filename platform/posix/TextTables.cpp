@@ -15,7 +15,9 @@ constexpr std::size_t Utf8PerByte = 2; // a double-byte character takes three or
 
 const iconv_t NoTable = reinterpret_cast<iconv_t>(-1);
 
-const char* TableName(unsigned codePage) { return codePage == CodePageBig5 ? "CP950" : "CP936"; }
+const char* TableName(unsigned codePage) {
+  return codePage == CodePageBig5 ? "CP950" : "CP936";
+}
 
 // Runs the table over `text`; returns the bytes taken. `utf8` grows by what came out.
 std::size_t DecodeRun(iconv_t table, std::string_view text, std::string& utf8) {
@@ -44,7 +46,9 @@ bool DecodeAll(iconv_t table, unsigned codePage, std::string_view text, std::str
 
 } // namespace
 
-unsigned AnsiCodePage() { return ::IsTraditionChinese() != 0 ? CodePageBig5 : CodePageGbk; }
+unsigned AnsiCodePage() {
+  return ::IsTraditionChinese() != 0 ? CodePageBig5 : CodePageGbk;
+}
 
 bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
   utf8.clear();

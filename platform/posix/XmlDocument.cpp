@@ -17,28 +17,23 @@ namespace {
 constexpr int ParserOptions =
     XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
 
-xmlNode* NodeOf(void* node) { return static_cast<xmlNode*>(node); }
+xmlNode* NodeOf(void* node) {
+  return static_cast<xmlNode*>(node);
+}
 
 std::string_view TextOf(const xmlChar* text) {
-  return text != nullptr ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
+  return text != nullptr ? std::string_view(reinterpret_cast<const char*>(text))
+                         : std::string_view();
 }
 
 bool IsElement(const xmlNode* node, std::string_view name) {
   return node->type == XML_ELEMENT_NODE && node->ns == nullptr && TextOf(node->name) == name;
 }
 
+// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though the
+// same, would cost a copy.
 xmlDoc* Parse(std::string_view text) {
-  xmlParserCtxt* parser = xmlNewParserCtxt();
-  if (parser == nullptr)
-    return nullptr;
-  xmlDoc* document = xmlCtxtReadMemory(parser, text.data(), static_cast<int>(text.size()), nullptr,
-                                       "UTF-8", ParserOptions);
-  const bool prefixesDeclared = parser->nsWellFormed != 0;
-  xmlFreeParserCtxt(parser);
-  if (document == nullptr || prefixesDeclared)
-    return document;
-  xmlFreeDoc(document);
-  return nullptr;
+  return xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, ParserOptions);
 }
 
 // An attribute's value lies in one node, unless references stand in it.
@@ -135,9 +130,13 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
   return children;
 }
 
-XmlDocument::XmlDocument() { xmlInitParser(); }
+XmlDocument::XmlDocument() {
+  xmlInitParser();
+}
 
-XmlDocument::~XmlDocument() { xmlFreeDoc(static_cast<xmlDoc*>(state_)); }
+XmlDocument::~XmlDocument() {
+  xmlFreeDoc(static_cast<xmlDoc*>(state_));
+}
 
 bool XmlDocument::Load(const char* data, std::size_t size) {
   xmlFreeDoc(static_cast<xmlDoc*>(std::exchange(state_, nullptr)));

@@ -15,8 +15,7 @@ public:
   // Opens the log for appending and closes the one that was open: `directory` in the process's ANSI
   // code page, joined by backslashes without one at the end, its last level created when missing;
   // `base` is the file's name without extension; `prefix` opens every line. With `daily` the file
-  // is
-  // "<base>_<yyyymmdd>.log", of the day on which it was opened, else "<base>.log". With `flush`
+  // is "<base>_<yyyymmdd>.log", of the day on which it was opened, else "<base>.log". With `flush`
   // each line is on its way to the disk when its write returns. Returns non-zero on success.
   // Without a success every write is dropped.
   int storage(const char* directory, const char* base, const char* prefix, bool daily, bool flush);

@@ -3,12 +3,11 @@
 //
 // Conventions that hold for every operation of this header
 //  1. Results are int: non-zero for success, 0 for failure. A null text or a null output is a
-//  failure.
-//     Nothing throws.
+//     failure. Nothing throws.
 //  2. Text is NUL-terminated, in the process's ANSI code page, and cut at a whole character.
 //  3. Every call is synchronous, on the terminal's user-interface thread.
 //  4. Records are packed; their sizes and the offsets named here are the service's and do not
-//  change.
+//     change.
 #pragma once
 
 #include <cstddef>

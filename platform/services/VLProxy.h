@@ -3,18 +3,16 @@
 //
 // Conventions that hold for every operation of this header
 //  1. Results are int: non-zero for success, 0 for failure. A null text or a null output is a
-//  failure.
-//     Nothing throws.
+//     failure. Nothing throws.
 //  2. Text is NUL-terminated, in the process's ANSI code page, and cut at a whole character. Symbol
 //     names come in the interface language of the moment.
 //  3. An operation that hands out an array sets *list and *count first to null and 0, then on
-//  success to
-//     the array. Nothing found is a success with null and 0. The array belongs to the caller, who
-//     releases it with VLFree, after a failure too when *list is not null. It is never deleted or
-//     freed by other means: it comes from the service's own heap.
+//     success to the array. Nothing found is a success with null and 0. The array belongs to the
+//     caller, who releases it with VLFree, after a failure too when *list is not null. It is never
+//     deleted or freed by other means: it comes from the service's own heap.
 //  4. Every call is synchronous, on the terminal's user-interface thread.
 //  5. Records are packed; their sizes and the offsets named here are the service's and do not
-//  change.
+//     change.
 //  6. Where an operation takes several ids they are joined by "," without blanks.
 #pragma once
 
@@ -27,8 +25,7 @@ extern "C" {
 // Releases an array that any operation of this service handed out. Null is allowed.
 void VLFree(void* array);
 
-// Exchanges and symbols
-// -------------------------------------------------------------------------------
+// ---- Exchanges and symbols ----------------------------------------------------------------------
 
 // All exchanges, in the service's order. `flag` is 1.
 int VLGetExch(ExchInfo** list, int* count, int flag);
@@ -56,8 +53,7 @@ int VLGetSymbolInfos2(int exchId, int subId, SymbolInfo** list, int* count, int 
 // of the caller's). Fails, and leaves *info alone, when the service does not know the id.
 int VLGetSymbolInfo(const char* id, SymbolInfo* info);
 
-// Search
-// ----------------------------------------------------------------------------------------------
+// ---- Search -------------------------------------------------------------------------------------
 
 // The symbols that a typed text may mean: called as (text, &list, &count, 0, mode, -1). A symbol
 // matches when its code, its exchange's own code or its full id begins with the text (ASCII letter
@@ -76,19 +72,18 @@ int VLFindSymbol2(const char* text, const char* exchIds, SymbolInfo** list, int*
 // letter case ignored. Several exchanges may use one code.
 int VLEX2ZUID2(const char* exchangeCode, SymbolInfo** list, int* count);
 
-// Contracts
-// -------------------------------------------------------------------------------------------
+// ---- Contracts ----------------------------------------------------------------------------------
 
 // The service's own id of a bare contract code, into `zuid` (20 bytes, zeroed by the caller).
 // `exchId` is -1: whatever exchange lists the contract. Fails, and leaves `zuid` alone, for an
 // unknown code.
 int VLGetZUID(int exchId, const char* code, char* zuid);
 
-// The extended attributes of one symbol, by the service's own id. `kind` is an ExtAttrKind.
+// The extended attributes of one symbol, by the service's own id. `kind` is an ExtAttrKind. Fails for
+// an unknown id; a symbol without attributes of the kind is a success.
 int VLGetExtendAttr(const char* id, int kind, ExtAttr** list, int* count);
 
-// Groups
-// ----------------------------------------------------------------------------------------------
+// ---- Groups -------------------------------------------------------------------------------------
 
 // The groups of a type (1 to 201) under the group `parentId`, in the service's order; "" asks for
 // the groups of the first level. A type without groups is a success.

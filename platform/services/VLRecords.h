@@ -35,7 +35,7 @@ struct BaseAttr {
 // One extended attribute record: a text of keys and values that CStockKey::ParseExtAttr reads.
 struct ExtAttr {
   short kind;     // the ExtAttrKind that was asked for
-  char text[254]; // "V3=1;V4=W;V5=2" and the like
+  char text[254]; // "V4=W;V5=2" and the like
 };
 
 // One group or sub-group. bHasSubGroup is 4 bytes at an address that need not be a multiple of 4.
@@ -50,7 +50,7 @@ struct GroupInfo {
 
 // What VLGetExtendAttr is asked for.
 enum ExtAttrKind : int {
-  ExtAttrWeekly = 2,    // weekly contracts: V3 the week, V4 and V5 its text
+  ExtAttrWeekly = 2,    // V3 the strike of an option; V4 and V5 the week: "W" and its number
   ExtAttrShortName = 3, // the parts V5 and V6 of a contract's short name
 };
 

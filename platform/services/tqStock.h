@@ -3,8 +3,7 @@
 //
 // Conventions that hold for all of this header
 //  1. Results are int: non-zero for success, 0 for failure. After a failure a text output is empty
-//  and a
-//     number output is as it was. Nothing throws.
+//     and a number output is as it was. Nothing throws.
 //  2. Text is in the process's ANSI code page, names in the interface language of the record.
 //  3. Every call is synchronous, on the terminal's user-interface thread.
 #pragma once
@@ -59,7 +58,9 @@ public:
   CStockKey(const CStockKey&) = delete;
   CStockKey& operator=(const CStockKey&) = delete;
 
-  // The value of `key` ("V3") in the text of an ExtAttr record. An empty value counts as none.
+  // The value of `key` ("V3") in the text of an ExtAttr record, which is a row of pairs: "V4=W;V5=2".
+  // Keys are compared as they are, blanks included, and of equal ones the first counts. A value has no
+  // ";". An empty value counts as none.
   static int ParseExtAttr(const char* text, const char* key, CString& value);
   // The rows of an info table: each entry of `rows`, which is emptied first, points to a
   // CStringArray of columns, counted from 0, of which 2 and 3 are the texts that a search hands

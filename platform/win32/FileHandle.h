@@ -22,8 +22,7 @@ public:
   bool Open(const std::wstring& path, DWORD access, DWORD share, DWORD disposition,
             DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
     Close();
-    handle_ =
-        ::CreateFileW(path.c_str(), access, share, nullptr, disposition, attributes, nullptr);
+    handle_ = ::CreateFileW(path.c_str(), access, share, nullptr, disposition, attributes, nullptr);
     return IsOpen();
   }
   bool Close() {

@@ -13,8 +13,8 @@ const char g_inThisModule = 0;
 
 std::string OwnModulePath() {
   char path[ModulePathLimit + 1];
-  const DWORD length =
-      ::GetModuleFileNameA(static_cast<HMODULE>(OwnModule()), path, static_cast<DWORD>(sizeof path));
+  const DWORD length = ::GetModuleFileNameA(static_cast<HMODULE>(OwnModule()), path,
+                                            static_cast<DWORD>(sizeof path));
   // A path that was cut may end in half a character.
   return std::string(path, CutLength(path, length, ModulePathLimit));
 }

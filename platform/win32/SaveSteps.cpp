@@ -70,7 +70,8 @@ StepResult WindowsSaveSteps::OpenTarget() {
   existed_ = opened;
   if (opened) {
     attributes_ = ::GetFileAttributesW(target_.c_str());
-    if (attributes_ == INVALID_FILE_ATTRIBUTES)
+    // Where the superuser runs Wine, a read-only file lets itself be opened.
+    if (attributes_ == INVALID_FILE_ATTRIBUTES || (attributes_ & FILE_ATTRIBUTE_READONLY) != 0)
       return StepResult::Failed;
     if ((attributes_ & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
       FollowLink();
@@ -147,8 +148,7 @@ bool WindowsSaveSteps::ReserveTarget(std::size_t size) {
 }
 
 bool WindowsSaveSteps::FlushTarget(std::size_t size) {
-  return SetTargetLength(static_cast<LONGLONG>(size)) &&
-         ::FlushFileBuffers(targetFile_.Get()) != 0;
+  return SetTargetLength(static_cast<LONGLONG>(size)) && ::FlushFileBuffers(targetFile_.Get()) != 0;
 }
 
 void WindowsSaveSteps::RemoveNewTarget() {

@@ -4,15 +4,17 @@
 
 namespace tq {
 
-unsigned AnsiCodePage() { return ::GetACP(); }
+unsigned AnsiCodePage() {
+  return ::GetACP();
+}
 
 bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
   utf8.clear();
   if (text.empty())
     return true;
   const int length = static_cast<int>(text.size());
-  const int wideLength = ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, text.data(), length,
-                                               nullptr, 0);
+  const int wideLength =
+      ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);
   if (wideLength <= 0)
     return false;
   std::wstring wide(static_cast<std::size_t>(wideLength), L'\0');
@@ -30,7 +32,8 @@ CharacterEncoder::CharacterEncoder(unsigned codePage) : codePage_(codePage), tab
 CharacterEncoder::~CharacterEncoder() = default;
 
 std::size_t CharacterEncoder::Encode(char32_t character, char (&bytes)[2]) {
-  constexpr char32_t firstOfTwo = 0x10000; // two UTF-16 units; no ANSI code page has such a character
+  constexpr char32_t firstOfTwo =
+      0x10000; // two UTF-16 units; no ANSI code page has such a character
   const wchar_t wide = static_cast<wchar_t>(character);
   BOOL lacking = FALSE;
   int length = 0;

@@ -11,7 +11,10 @@ namespace {
 constexpr CLSID FreeThreadedDocument30 = {
     0xF5078F33, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 constexpr IID DocumentWithProperties = { // IXMLDOMDocument2
-    0x2933BF95, 0x7B36, 0x11D2, {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
+    0x2933BF95,
+    0x7B36,
+    0x11D2,
+    {0xB2, 0x0E, 0x00, 0xC0, 0x4F, 0x98, 0x3E, 0x60}};
 
 using Dom = IXMLDOMDocument2;
 using Node = IXMLDOMNode;
@@ -21,9 +24,13 @@ struct State {
   ComPtr<Dom> document;
 };
 
-Node* NodeOf(void* node) { return static_cast<Node*>(node); }
+Node* NodeOf(void* node) {
+  return static_cast<Node*>(node);
+}
 
-State* StateOf(void* state) { return static_cast<State*>(state); }
+State* StateOf(void* state) {
+  return static_cast<State*>(state);
+}
 
 bool SetProperty(Dom* document, std::string_view name, std::string_view value) {
   const ComText property(name);
@@ -186,7 +193,9 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
 
 XmlDocument::XmlDocument() : state_(new State) {}
 
-XmlDocument::~XmlDocument() { delete StateOf(state_); }
+XmlDocument::~XmlDocument() {
+  delete StateOf(state_);
+}
 
 bool XmlDocument::Load(const char* data, std::size_t size) {
   State& state = *StateOf(state_);

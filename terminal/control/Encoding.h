@@ -14,8 +14,7 @@ namespace standin {
 enum class Language { Traditional, Simplified };
 
 // UTF-8 to the language's code page. What the code page lacks, and each byte that is no UTF-8,
-// becomes
-// "?".
+// becomes "?".
 std::string Encode(std::string_view utf8, Language language);
 // The code page's text as UTF-8; what it does not know becomes "?".
 std::string Decode(std::string_view text, Language language);

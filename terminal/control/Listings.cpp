@@ -72,7 +72,9 @@ const ListingRange* Listings::OfExchange(int exchId) const {
   return found == ranges_.end() ? nullptr : &found->second;
 }
 
-std::size_t Listings::FindId(std::string_view id) const { return index_.Find(id); }
+std::size_t Listings::FindId(std::string_view id) const {
+  return index_.Find(id);
+}
 
 std::size_t Listings::FindCodeIn(const ExchInfo& exchange, std::string_view code) const {
   char id[sizeof(SymbolInfo::id) + sizeof(ExchInfo::name)];

@@ -9,8 +9,8 @@ namespace demo {
 // One line for each exchange: its symbols that the library's tables resolve, and the entitlement.
 void PrintExchanges(CSymbolTableMgr& tables, bool traditional);
 
-// Every list of the user with its rows: symbols with their names, headings, and ids that no exchange
-// knows (kept in the list, shown without a row number).
+// Every list of the user with its rows: symbols with their names, headings, and ids that no
+// exchange knows (kept in the list, shown without a row number).
 void PrintLists(CTQSymbolListMgr& manager);
 
 } // namespace demo

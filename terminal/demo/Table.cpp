@@ -5,8 +5,8 @@
 namespace demo {
 namespace {
 
-// The first code points of wide characters: CJK and full-width forms begin here. Good enough for the
-// names of this market; a terminal's own table is finer.
+// The first code points of wide characters: CJK and full-width forms begin here. Good enough for
+// the names of this market; a terminal's own table is finer.
 constexpr unsigned kFirstWide = 0x2E80;
 
 unsigned CodePoint(std::string_view text, size_t& at) {

@@ -94,7 +94,7 @@ TEST(CMap, WalksInTheOrderOfSetting) {
 TEST(CMap, EntryHandedOutMayBeRemovedOnTheWay) {
   NumberMap map;
   for (const char* key : {"a", "b", "c", "d"})
-    map[key] = key[0];
+    map[key] = static_cast<unsigned char>(key[0]);
   CString key;
   int value = 0;
   for (POSITION at = map.GetStartPosition(); at != nullptr;) {

@@ -10,7 +10,9 @@ namespace {
 
 class ListFileTest : public ManagerTest {};
 
-const char* EncodingName() { return IsTraditionChinese() ? "big5" : "gb2312"; }
+const char* EncodingName() {
+  return IsTraditionChinese() ? "big5" : "gb2312";
+}
 
 std::string Declaration() {
   return std::string("<?xml version='1.0' encoding='") + EncodingName() + "' ?>\n";
@@ -25,8 +27,9 @@ std::string File(int index, const std::vector<std::string>& elements) {
 }
 
 const char kSystem[] = "<List ID='ZUSYSLIST1' Name='One' Value='2330.TW,2317.TW' Flag='1'/>";
-const char kUser[] = "<List ID='0A1B2C3D-4E5F-6a7b-8C9D-0E1F2A3B4C5D' Name='\xB3\x5C\xA5\x5C\xBB\x5C' "
-                     "Value='Chips:,NOSUCH.TW,2330.TW' Flag='0'/>";
+const char kUser[] =
+    "<List ID='0A1B2C3D-4E5F-6a7b-8C9D-0E1F2A3B4C5D' Name='\xB3\x5C\xA5\x5C\xBB\x5C' "
+    "Value='Chips:,NOSUCH.TW,2330.TW' Flag='0'/>";
 
 TEST_F(ListFileTest, SavingWhatWasLoadedGivesTheSameBytes) {
   const std::string file = File(1, {kSystem, kUser});
@@ -161,8 +164,12 @@ TEST_F(ListFileTest, RestoringABackupWithoutListsRewritesTheWorkingFile) {
 
 TEST_F(ListFileTest, MissingOrUnreadableDefaultIndexIsZeroWithALogLine) {
   StartWithoutTables();
-  const char* attributes[] = {"", " DefaultIdx=''", " DefaultIdx='x'", " DefaultIdx='40000'",
-                              " DefaultIdx='1.5'", " defaultidx='3'"};
+  const char* attributes[] = {"",
+                              " DefaultIdx=''",
+                              " DefaultIdx='x'",
+                              " DefaultIdx='40000'",
+                              " DefaultIdx='1.5'",
+                              " defaultidx='3'"};
   for (const char* attribute : attributes) {
     SCOPED_TRACE(attribute);
     const size_t lines = standin::LogLines().size();
@@ -184,8 +191,8 @@ TEST_F(ListFileTest, DefaultIndexIsAnySixteenBitNumberWhateverTheLists) {
   const struct {
     const char* text;
     int index;
-  } rows[] = {{"7", 7},     {"-1", -1},         {" 2 ", 2},        {"+3", 3},
-              {"007", 7},   {"32767", 32767},   {"-32768", -32768}};
+  } rows[] = {{"7", 7},   {"-1", -1},       {" 2 ", 2},        {"+3", 3},
+              {"007", 7}, {"32767", 32767}, {"-32768", -32768}};
   for (const auto& row : rows) {
     WriteWorking(Declaration() + "<Result><SymbolList DefaultIdx='" + row.text + "'>" + kSystem +
                  "</SymbolList></Result>");

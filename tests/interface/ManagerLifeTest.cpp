@@ -12,9 +12,8 @@ class ManagerLifeTest : public ManagerTest {
 protected:
   std::string EmptyFile(int index) {
     return std::string("<?xml version='1.0' encoding='") +
-           (IsTraditionChinese() ? "big5" : "gb2312") +
-           "' ?>\n<Result>\n<SymbolList DefaultIdx='" + std::to_string(index) +
-           "'>\n</SymbolList>\n</Result>";
+           (IsTraditionChinese() ? "big5" : "gb2312") + "' ?>\n<Result>\n<SymbolList DefaultIdx='" +
+           std::to_string(index) + "'>\n</SymbolList>\n</Result>";
   }
   std::string TwoLists() {
     return "<Result><SymbolList DefaultIdx='7'><List ID='a' Name='A' Value='2330.TW' Flag='0'/>"
@@ -140,7 +139,8 @@ TEST_F(ManagerLifeTest, SecondInitLeavesExactlyOneLogger) {
 }
 
 TEST_F(ManagerLifeTest, UnreadableFileGivesNoListsAndNoMessageAndTheNextSaveOverwritesIt) {
-  WriteWorking("<Result><SymbolList DefaultIdx='2'><List ID='a' Name='it's'/></SymbolList></Result>");
+  WriteWorking(
+      "<Result><SymbolList DefaultIdx='2'><List ID='a' Name='it's'/></SymbolList></Result>");
   EXPECT_EQ(StartWithoutTables(), 1);
   EXPECT_EQ(manager.GetSymbolListCount(1), 0);
   EXPECT_TRUE(standin::Messages().empty());

@@ -21,7 +21,9 @@ namespace fs = std::filesystem;
 
 const char* const AttributeNames[] = {"DefaultIdx", "ID", "Name", "Value", "Flag"};
 
-fs::path Corpus(const char* part) { return fs::path("tests/platform/corpus") / part; }
+fs::path Corpus(const char* part) {
+  return fs::path("tests/platform/corpus") / part;
+}
 
 std::string ReadFile(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);

@@ -53,9 +53,12 @@ std::vector<standin::Instrument> ContractsAndForeign() {
 standin::Market SmallMarket() {
   standin::Market market;
   market.exchanges = {
-      {kTw, "TW", "上市", "上市"},          {kTe, "TE", "上櫃", "上柜"},
-      {kTf, "TF", "期貨選擇權", "期货期权"}, {kNyse, "NYSE", "紐約", "纽约"},
-      {kNasd, "NASD", "那斯達克", "纳斯达克"}, {kAmex, "AMEX", "美國", "美国"},
+      {kTw, "TW", "上市", "上市"},
+      {kTe, "TE", "上櫃", "上柜"},
+      {kTf, "TF", "期貨選擇權", "期货期权"},
+      {kNyse, "NYSE", "紐約", "纽约"},
+      {kNasd, "NASD", "那斯達克", "纳斯达克"},
+      {kAmex, "AMEX", "美國", "美国"},
   };
   market.instruments = Stocks();
   for (const standin::Instrument& instrument : ContractsAndForeign())

@@ -5,9 +5,9 @@
 
 #include "tests/support/SmallMarket.h"
 
-// Starts with a stand-in terminal that is fresh but for SmallMarket(). Ends by holding the test to what it
-// borrowed: every service array released, and once only. Both happen in the constructor and the
-// destructor, so that objects under test may be members of the derived fixture.
+// Starts with a stand-in terminal that is fresh but for SmallMarket(). Ends by holding the test to
+// what it borrowed: every service array released, and once only. Both happen in the constructor and
+// the destructor, so that objects under test may be members of the derived fixture.
 class StandInTest : public testing::Test {
 protected:
   StandInTest();

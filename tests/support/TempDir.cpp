@@ -19,14 +19,18 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 } // namespace
 
 TempDir::TempDir(const std::string& name)
-    : outer_(tempfiles::MakeFresh()), path_(outer_ + tempfiles::kSeparator + standin::ToAnsi(name)) {
+    : outer_(tempfiles::MakeFresh()),
+      path_(outer_ + tempfiles::kSeparator + standin::ToAnsi(name)) {
   EXPECT_FALSE(outer_.empty());
   EXPECT_TRUE(tempfiles::MakeDirectory(path_)) << path_;
 }
 
-TempDir::~TempDir() {
+TempDir::~TempDir() { Remove(); }
+
+void TempDir::Remove() {
   if (!outer_.empty())
     tempfiles::RemoveTree(outer_);
+  outer_.clear();
 }
 
 std::string TempDir::Native(const std::string& name) const {
@@ -49,7 +53,9 @@ std::string TempDir::Read(const std::string& name) const {
   return bytes;
 }
 
-bool TempDir::Exists(const std::string& name) const { return tempfiles::Exists(Native(name)); }
+bool TempDir::Exists(const std::string& name) const {
+  return tempfiles::Exists(Native(name));
+}
 
 void TempDir::MakeDirectory(const std::string& name) const {
   ASSERT_TRUE(tempfiles::MakeDirectory(Native(name))) << Native(name);
@@ -61,4 +67,6 @@ std::vector<std::string> TempDir::Names() const {
   return names;
 }
 
-bool TempDir::IsDirectory(const std::string& path) { return tempfiles::IsDirectory(path); }
+bool TempDir::IsDirectory(const std::string& path) {
+  return tempfiles::IsDirectory(path);
+}

@@ -64,8 +64,12 @@ TEST(IdString, NormalisedIdsHaveNoBlanksAroundAndUpperCaseLetters) {
     const char* id;
     const char* normal;
   } rows[] = {
-      {"2330.TW", "2330.TW"}, {" 2330.tw ", "2330.TW"}, {"txo21000l6.tf", "TXO21000L6.TF"},
-      {"", ""},               {"   ", ""},              {"\xA8\x61", "\xA8\x61"},
+      {"2330.TW", "2330.TW"},
+      {" 2330.tw ", "2330.TW"},
+      {"txo21000l6.tf", "TXO21000L6.TF"},
+      {"", ""},
+      {"   ", ""},
+      {"\xA8\x61", "\xA8\x61"},
   };
   for (const auto& row : rows) {
     CString id = row.id;

@@ -131,7 +131,8 @@ TEST_F(ListFileFailureTest, BadFilesYieldNoListsNoMessageAndNoSave) {
       "<?xml version='1.0' encoding='klingon' ?>" + body,
       "<?xml version='1.0' encoding='utf-8' ?><Result><SymbolList DefaultIdx='0'>"
       "<List ID='a' Name='\xB3\x5C' Value=''/></SymbolList></Result>",
-      "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='it's' Value=''/></SymbolList></Result>",
+      "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='it's' "
+      "Value=''/></SymbolList></Result>",
       "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='A & B'/></SymbolList></Result>",
       "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='A < B'/></SymbolList></Result>",
       "<Result><SymbolList DefaultIdx='0'><List ID='a' ID='b'/></SymbolList></Result>",

@@ -50,8 +50,13 @@ TEST_F(SymbolListTest, OnlyTheSixSystemIdsAreSystemLists) {
   const struct {
     const char* id;
     int flag;
-  } rows[] = {{"ZUSYSLIST1", 1},  {"ZUSYSLIST6", 1},   {"ZUSYSLIST0", 0}, {"ZUSYSLIST7", 0},
-              {"ZUSYSLIST10", 0}, {"xZUSYSLIST1", 0}, {"", 0}};
+  } rows[] = {{"ZUSYSLIST1", 1},
+              {"ZUSYSLIST6", 1},
+              {"ZUSYSLIST0", 0},
+              {"ZUSYSLIST7", 0},
+              {"ZUSYSLIST10", 0},
+              {"xZUSYSLIST1", 0},
+              {"", 0}};
   for (const auto& row : rows) {
     CSymbolList list;
     list.SetID(row.id);

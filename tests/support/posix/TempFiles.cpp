@@ -24,7 +24,9 @@ std::string MakeFresh() {
   return mkdtemp(path.data()) ? path : std::string();
 }
 
-bool MakeDirectory(const std::string& path) { return mkdir(path.c_str(), kOwnerOnly) == 0; }
+bool MakeDirectory(const std::string& path) {
+  return mkdir(path.c_str(), kOwnerOnly) == 0;
+}
 
 bool IsDirectory(const std::string& path) {
   struct stat status {};

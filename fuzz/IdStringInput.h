@@ -1,0 +1,134 @@
+// Any bytes as the id string of a list: how it is split, what is asked of the service, and the rows that
+// come of it. What the text means is worked out here once more, the plain way.
+#pragma once
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "fuzz/Input.h"
+#include "symbollist/IDList.h"
+#include "symbollist/IdString.h"
+
+namespace fuzz {
+
+inline std::vector<std::string> PlainTokens(std::string_view ids) {
+  std::vector<std::string> tokens;
+  std::string token;
+  for (const char byte : ids) {
+    if (byte != ',') {
+      token += byte;
+      continue;
+    }
+    if (!token.empty())
+      tokens.push_back(token);
+    token.clear();
+  }
+  if (!token.empty())
+    tokens.push_back(token);
+  return tokens;
+}
+
+inline bool IsPlainHeading(const std::string& token) {
+  return token.find(':', 1) != std::string::npos;
+}
+
+inline std::string TextOf(const CString& text) {
+  return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
+}
+
+inline std::string CheckSplitting(std::string_view ids) {
+  const CString text(ids.data(), static_cast<int>(ids.size()));
+  const std::vector<std::string> expected = PlainTokens(ids);
+  CStringArray tokens;
+  const tq::SplitIds split = tq::SplitIdString(text, tokens);
+  if (tokens.GetSize() != static_cast<int>(expected.size()))
+    return "another number of tokens";
+  int headings = 0;
+  std::string lookup;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    if (TextOf(tokens[static_cast<int>(i)]) != expected[i])
+      return "another token";
+    if (IsPlainHeading(expected[i]))
+      ++headings;
+    else
+      lookup += (lookup.empty() ? "" : ",") + expected[i];
+  }
+  if (split.headings != headings)
+    return "another number of headings";
+  if (TextOf(tq::LookupString(tokens)) != lookup)
+    return "another look-up string";
+  if (split.plain != (ids == lookup))
+    return "the id string is the look-up string, or not, unlike said";
+  return "";
+}
+
+// The rows in order must each be that of a later token than the row before: a heading's, or the one whose
+// id the record bears. The service reads an id up to a NUL, and so does this.
+inline std::string CheckRows(CIDList& list) {
+  const CStringArray& tokens = list.GetTokens();
+  const int rows = list.GetCount();
+  int token = 0;
+  for (int row = 0; row < rows; ++row, ++token) {
+    SymbolInfo record;
+    if (!list.GetAt(row, &record))
+      return "a row was not answered";
+    const bool heading = std::strcmp(record.id, tq::kHeadingMarker) == 0;
+    while (token < tokens.GetSize() && (heading ? !IsPlainHeading(TextOf(tokens[token]))
+                                                : std::strcmp(tokens[token], record.id) != 0))
+      ++token;
+    if (token >= tokens.GetSize())
+      return "a row belongs to no token";
+  }
+  SymbolInfo outside;
+  return list.GetAt(rows, &outside) || list.GetAt(-1, &outside) || list.GetAt(0, nullptr)
+             ? "a row outside of the list was answered"
+             : "";
+}
+
+inline std::string CheckList(const CString& ids) {
+  CIDList list;
+  if (list.Update1(ids) != (ids.IsEmpty() ? 0 : 1) || list.IsModified() != (ids.IsEmpty() ? 0 : 1))
+    return "Update1 did not tell whether the string was replaced";
+  if (list.GetIDs() != ids)
+    return "the id string is not the one that was set";
+  std::string broken = CheckRows(list);
+  const int rows = list.GetCount();
+  if (!broken.empty())
+    return broken;
+  if (list.Update1(ids) != 0 || list.Update3() != 1 || list.GetCount() != rows)
+    return "asking again gives other rows";
+  CIDList copy(list);
+  if (copy.GetCount() != rows || copy.GetIDs() != ids)
+    return "a copy is not the same";
+  return CheckRows(copy);
+}
+
+// The service's own records, handed back to a list.
+inline std::string CheckAdopting(const CString& ids) {
+  SymbolInfo* records = nullptr;
+  int count = 0;
+  if (!VLGetSymbolInfos(ids, &records, &count))
+    return "the service failed";
+  std::string joined;
+  for (int i = 0; i < count; ++i)
+    joined += (i > 0 ? "," : "") + std::string(records[i].id);
+  CIDList list;
+  list.Update2(records, count);
+  if (list.GetCount() != count || TextOf(list.GetIDs()) != joined)
+    return "the adopted records are not the list's";
+  return CheckRows(list);
+}
+
+inline std::string CheckIdString(const unsigned char* data, std::size_t size) {
+  const std::string_view ids = Begin(data, size);
+  const CString text(ids.data(), static_cast<int>(ids.size()));
+  std::string broken = CheckSplitting(ids);
+  if (broken.empty())
+    broken = CheckList(text);
+  if (broken.empty())
+    broken = CheckAdopting(text);
+  return broken.empty() ? EndOfServices() : broken;
+}
+
+} // namespace fuzz

@@ -1,0 +1,8 @@
+// The operating system's calendar, behind Clock.h.
+#pragma once
+
+namespace tq {
+
+int SystemLocalYear();
+
+} // namespace tq

@@ -1,0 +1,18 @@
+#include "symbollist/LibraryString.h"
+
+#include <string_view>
+
+#include "dialogs/resources/StringTable.h"
+#include "platform/XmlText.h"
+#include "platform/services/tqCommon.h"
+
+namespace tq {
+
+CString LibraryString(unsigned id) {
+  CString text;
+  if (const char* utf8 = tqSymbolString(id, IsTraditionChinese()))
+    AssignXmlText(std::string_view(utf8), false, text);
+  return text;
+}
+
+} // namespace tq

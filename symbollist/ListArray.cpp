@@ -1,0 +1,40 @@
+#include "symbollist/ListArray.h"
+
+#include "platform/CodePage.h"
+
+namespace tq {
+
+int FindListById(const CPtrArray& lists, const char* id) {
+  for (int i = 0; i < lists.GetSize(); ++i) {
+    if (ListAt(lists, i)->IsSameID(id))
+      return i;
+  }
+  return -1;
+}
+
+int FindListByName(const CPtrArray& lists, const char* name, int skip) {
+  for (int i = 0; i < lists.GetSize(); ++i) {
+    if (i != skip && ListAt(lists, i)->IsSameName(name))
+      return i;
+  }
+  return -1;
+}
+
+bool SameNamesAndContents(const CPtrArray& left, const CPtrArray& right) {
+  if (left.GetSize() != right.GetSize())
+    return false;
+  for (int i = 0; i < left.GetSize(); ++i) {
+    if (ListAt(left, i) == nullptr || ListAt(left, i)->GetName() != ListAt(right, i)->GetName() ||
+        ListAt(left, i)->GetIDs() != ListAt(right, i)->GetIDs())
+      return false;
+  }
+  return true;
+}
+
+void DestroyLists(CPtrArray& lists) {
+  for (int i = 0; i < lists.GetSize(); ++i)
+    delete ListAt(lists, i);
+  lists.RemoveAll();
+}
+
+} // namespace tq

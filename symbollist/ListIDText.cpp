@@ -1,0 +1,117 @@
+// The text forms of identities.
+#include "symbollist/LibraryString.h"
+#include "symbollist/ListID.h"
+#include "symboltable/LeadingInt.h"
+#include "symboltable/UpperText.h"
+
+namespace {
+
+constexpr char TypeMark = ',';
+constexpr char ListMark = ';';
+// One character of type, the mark, the id.
+constexpr int TypeMarkPosition = 1;
+constexpr int IdPosition = 2;
+
+ListIDType TypeOf(const CString& text) {
+  return ListIDType{tq::LeadingInt(tq::ViewOf(text).substr(0, TypeMarkPosition))};
+}
+
+bool HasMarkInPlace(const CString& text) {
+  return text.Find(TypeMark) == TypeMarkPosition;
+}
+
+struct GroupKind {
+  int groupType; // the service's
+  ListIDType type;
+};
+
+// The group types of three digits are never met, as one character is read. They are no licence to read
+// more of them: a terminal that stored "201,x" has lived with its being refused.
+constexpr GroupKind GroupKinds[] = {
+    {1, ListIDGroup}, {201, ListIDGroup}, {3, ListIDGroup3}, {101, ListIDGroup101}};
+
+} // namespace
+
+CString CListID::ToString() const {
+  const CString id = type_ == ListIDAllSymbols ? tq::LibraryString(tq::kStringAllSymbols) : id_;
+  CString text;
+  text.Format("%d,%s", type_ == ListIDNone ? int{ListIDUserList} : int{type_}, id.GetString());
+  return text;
+}
+
+CString CListID::ToStringForList() const {
+  CString text = ToString();
+  AddNameAndSymbolList(text);
+  return text;
+}
+
+void CListID::AddNameAndSymbolList(CString& text) const {
+  if (type_ != ListIDUserList || name_.IsEmpty() || symbolList_.IsEmpty())
+    return;
+  text += ListMark;
+  text += name_;
+  text += TypeMark;
+  text += symbolList_;
+}
+
+void CListID::ReadTypeAndID(const CString& text) {
+  type_ = TypeOf(text);
+  id_ = text.Mid(IdPosition);
+}
+
+int CListID::FromString(const CString& text) {
+  Clear();
+  // Holdings are read without the comma in second place: "6" alone and "6x12" are of that type, with
+  // nothing and "12" as their id. The type is the first character's even so, which differs for " 6".
+  if (tq::LeadingInt(tq::ViewOf(text)) == ListIDHoldings || HasMarkInPlace(text)) {
+    ReadTypeAndID(text);
+  } else {
+    type_ = ListIDUserList;
+    id_.Empty();
+  }
+  return IsValid();
+}
+
+int CListID::FromStringForList(const CString& text) {
+  Clear();
+  if (HasMarkInPlace(text)) {
+    const int end = text.Find(ListMark, IdPosition);
+    ReadTypeAndID(end < 0 ? text : text.Left(end));
+  } else {
+    type_ = ListIDUserList;
+    id_.Empty();
+  }
+  if (type_ == ListIDUserList) {
+    const int mark = text.Find(ListMark);
+    GetNameAndSymbolList(mark < 0 ? CString() : text.Mid(mark + 1));
+  }
+  return IsValid();
+}
+
+void CListID::GetNameAndSymbolList(CString text) {
+  name_.Empty();
+  CutStringAndGetParamBefore(text, TypeMark, name_);
+  symbolList_ = text;
+}
+
+void CListID::CutStringAndGetParamBefore(CString& text, char separator, CString& before) {
+  if (text.IsEmpty())
+    return;
+  const int at = text.Find(separator);
+  before = at < 0 ? text : text.Left(at);
+  text = at < 0 ? CString() : text.Mid(at + 1);
+}
+
+int CListID::ConvertFromGroupID(const char* groupId) {
+  const CString text = groupId;
+  if (!HasMarkInPlace(text))
+    return 0;
+  const int groupType = TypeOf(text);
+  for (const GroupKind& kind : GroupKinds) {
+    if (kind.groupType != groupType)
+      continue;
+    SetData(kind.type, text.Mid(IdPosition), 0);
+    return IsValid();
+  }
+  return 0;
+}

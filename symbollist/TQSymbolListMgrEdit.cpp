@@ -1,0 +1,151 @@
+// Editing of whole lists. Each operation that reports a change saves the working file first, then
+// writes its log line, then tells the terminal.
+#include <algorithm>
+
+#include "platform/CodePage.h"
+#include "platform/Guid.h"
+#include "platform/services/TQSProxy.h"
+#include "symbollist/ListArray.h"
+#include "symbollist/ListKind.h"
+#include "symbollist/ListName.h"
+#include "symbollist/Log.h"
+#include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/MovedSymbols.h"
+
+namespace {
+
+constexpr int kListExists = 1;
+constexpr int kListBearsName = 2;
+
+// Codes that the terminal knows: do not change.
+constexpr long kNotifyUserLists = 40;
+
+void NotifyUserLists() {
+  TQSCall("", -1, kNotifyUserLists, "");
+}
+
+CString NewListId() {
+  tq::Guid guid;
+  char text[tq::GuidTextLength + 1] = {};
+  if (tq::NewGuid(guid))
+    tq::FormatGuid(guid, text);
+  return CString(text);
+}
+
+} // namespace
+
+int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CString& name,
+                                    const CString& symbols, int append, int overwrite) {
+  if (name.IsEmpty() || symbols.IsEmpty())
+    return 0;
+  const int found = id.IsEmpty() ? 0 : CheckIDandName(id, name, tq::kUserLists);
+  if ((found & kListExists) == 0) {
+    if (AddNewList(id, name, symbols, append) == 0)
+      return 0;
+  } else {
+    // A list of another name is overwritten only when the caller says so; its name stays.
+    if ((found & kListBearsName) == 0 && overwrite == 0)
+      return 0;
+    tq::ListAt(lists_, tq::FindListById(lists_, id))->Update1(symbols);
+  }
+  if (defaultIndex_ == -1)
+    defaultIndex_ = 0;
+  SaveSymbolList();
+  tq::LogLine(tq::kLogChange, "Add SymbolList");
+  NotifyUserLists();
+  return 1;
+}
+
+int CTQSymbolListMgr::AddNewList(const CString& id, const CString& name, const CString& symbols,
+                                 int append) {
+  const CString freeName = AdjustFileName(name);
+  if (CheckNameExist(freeName, 0, -1, tq::kUserLists) != 0)
+    return 0;
+  const CString listId = id.IsEmpty() ? NewListId() : id;
+  if (listId.IsEmpty())
+    return 0;
+  auto* list = new CSymbolList;
+  list->Update1(symbols);
+  list->SetID(listId);
+  list->SetName(freeName);
+  ReplaceSymbolListExchID(list, tq::kMovedFromExchange, tq::kMovedToExchange);
+  PutSymbolList(list, append);
+  return 1;
+}
+
+int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
+  if (source == nullptr)
+    return 0;
+  ReplaceSymbolListExchID(source, tq::kMovedFromExchange, tq::kMovedToExchange);
+  PutSymbolList(new CSymbolList(*source), append);
+  return 1;
+}
+
+void CTQSymbolListMgr::AdoptSymbolList(CSymbolList* list) {
+  ReplaceSymbolListExchID(list, tq::kMovedFromExchange, tq::kMovedToExchange);
+  PutSymbolList(list, 1);
+}
+
+void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
+  if (append == 0)
+    lists_.InsertAt(0, list);
+  else
+    lists_.Add(list);
+}
+
+int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
+  if (lists == nullptr)
+    return 0;
+  // Copied before the old ones go: the caller may hand over lists of the manager itself.
+  CPtrArray old;
+  old.Copy(lists_);
+  lists_.RemoveAll();
+  for (int i = 0; i < lists->GetSize(); ++i)
+    AddTQSymbolList(tq::ListAt(*lists, i), 1);
+  tq::DestroyLists(old);
+  if (defaultIndex_ < 0 && !lists_.IsEmpty())
+    defaultIndex_ = 0;
+  else
+    defaultIndex_ = std::min(defaultIndex_, lists_.GetUpperBound());
+  return 1;
+}
+
+int CTQSymbolListMgr::DeleteSymbolList(CString id) {
+  const int index = tq::FindListById(lists_, id);
+  if (index < 0)
+    return 0;
+  // Only deleting the default list itself, as the last one, moves the index. A list deleted in front of
+  // it leaves the index, which then means the next list: terminals rely on that.
+  if (index == defaultIndex_ && index == lists_.GetUpperBound())
+    --defaultIndex_;
+  delete tq::ListAt(lists_, index);
+  lists_.RemoveAt(index);
+  SaveSymbolList();
+  return 1;
+}
+
+int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
+  if (oldIds == nullptr || newIds == nullptr)
+    return 0;
+  const int pairs = std::min(oldIds->GetSize(), newIds->GetSize());
+  int changed = 0;
+  for (int i = 0; i < lists_.GetSize(); ++i) {
+    CString ids = tq::ListAt(lists_, i)->GetIDs();
+    // Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
+    // inside that one too. Callers rename whole families of ids by their common start.
+    for (int k = 0; k < pairs; ++k)
+      ids.Replace((*oldIds)[k], (*newIds)[k]);
+    changed |= tq::ListAt(lists_, i)->Update1(ids);
+  }
+  if (changed == 0)
+    return 0;
+  SaveSymbolList();
+  tq::LogLine(tq::kLogChange, "ReplaceID");
+  NotifyUserLists();
+  return 1;
+}
+
+CString CTQSymbolListMgr::AdjustFileName(CString name) {
+  return tq::FreeName(
+      name, [this](const CString& wanted) { return tq::FindListByName(lists_, wanted) >= 0; });
+}

@@ -1,0 +1,31 @@
+// Editing of the entries of one list. In memory only: the caller saves.
+#include "symbollist/ListArray.h"
+#include "symbollist/TQSymbolListMgr.h"
+
+CSymbolList* CTQSymbolListMgr::FindUserList(const char* id) {
+  const int index = tq::FindListById(lists_, id);
+  return index < 0 ? nullptr : tq::ListAt(lists_, index);
+}
+
+int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) {
+  CSymbolList* list = FindUserList(id);
+  return list == nullptr ? 0 : list->RemoveEntry(entry);
+}
+
+int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, int before,
+                                       int heading) {
+  CSymbolList* list = FindUserList(id);
+  if (list == nullptr || text.IsEmpty())
+    return 0;
+  return list->InsertEntry(position, heading != 0 ? text + ":" : text, before != 0);
+}
+
+int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) {
+  CSymbolList* list = FindUserList(id);
+  return list == nullptr ? 0 : list->SwapEntries(first, second);
+}
+
+int CTQSymbolListMgr::ReplaceSymbolList(CString id, int entry, CString text) {
+  CSymbolList* list = FindUserList(id);
+  return list == nullptr ? 0 : list->ReplaceEntry(entry, text);
+}

@@ -1,0 +1,89 @@
+// The six system lists.
+#include "platform/services/TQSProxy.h"
+#include "symbollist/LibraryString.h"
+#include "symbollist/ListArray.h"
+#include "symbollist/ListKind.h"
+#include "symbollist/SystemListId.h"
+#include "symbollist/TQSymbolListMgr.h"
+
+namespace {
+
+// Code and reason that the terminal knows: do not change.
+constexpr long kNotifySymbolsOrNames = 4;
+constexpr char kReasonNames[] = "ListNameChange";
+
+CString SystemListName(const CStringArray* names, int index) {
+  if (names != nullptr && names->GetSize() > index)
+    return (*names)[index];
+  return tq::LibraryString(tq::kStringFirstSystemList + static_cast<unsigned>(index));
+}
+
+} // namespace
+
+int CTQSymbolListMgr::LoadSystemList(CStringArray* names) {
+  for (int i = 0; i < tq::kSystemListCount; ++i) {
+    if (CheckSymbolListExist(tq::SystemListId(i), tq::kUserLists) != 0)
+      continue;
+    auto* list = new CSymbolList;
+    list->SetID(tq::SystemListId(i));
+    list->SetName(SystemListName(names, i));
+    PutSymbolList(list, 1);
+  }
+  return 1;
+}
+
+int CTQSymbolListMgr::IsSystemList(const char* id, int kind) {
+  const CPtrArray* lists = ListsOf(kind);
+  const int index = lists == nullptr ? -1 : tq::FindListById(*lists, id);
+  return index < 0 ? 0 : tq::ListAt(*lists, index)->GetFlag();
+}
+
+int CTQSymbolListMgr::IsSameSysSymbolListGUID(const CString& id) const {
+  return tq::IsSystemListId(id) ? 1 : 0;
+}
+
+int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
+                                       const CString& symbols, int& nameChanged) {
+  CSymbolList* list = FindUserList(id);
+  if (list == nullptr)
+    return 0;
+  list->Update1(symbols);
+  nameChanged = 0;
+  if (name.IsEmpty())
+    return 1;
+  // Compared as it is kept: a name that is cut is not another name each time.
+  const CString before = list->GetName();
+  list->SetName(name);
+  nameChanged = list->GetName() != before ? 1 : 0;
+  return 1;
+}
+
+int CTQSymbolListMgr::UpdateSystemList(int index, const CString& symbols, int mode) {
+  if (index < 0 || index >= tq::kSystemListCount || index >= systemListNames_.GetSize())
+    return 0;
+  CSymbolList* list = FindUserList(tq::SystemListId(index));
+  if (list == nullptr || (mode == 0 && !list->GetIDs().IsEmpty()))
+    return 0;
+  list->Update1(symbols);
+  return 1;
+}
+
+int CTQSymbolListMgr::UpdateSystemList(CMapStringToString* symbols, CMapStringToString* names) {
+  if (symbols == nullptr)
+    return 0;
+  bool anyName = false;
+  for (POSITION at = symbols->GetStartPosition(); at != nullptr;) {
+    CString id;
+    CString ids;
+    CString name;
+    symbols->GetNextAssoc(at, id, ids);
+    if (names != nullptr)
+      names->Lookup(id, name);
+    int nameChanged = 0;
+    UpdateSystemList(id, name, ids, nameChanged);
+    anyName = anyName || nameChanged != 0;
+  }
+  SaveSymbolList();
+  TQSCall("", -1, kNotifySymbolsOrNames, anyName ? kReasonNames : "");
+  return 1;
+}

@@ -1,0 +1,52 @@
+// The descriptions of combinations that a person reads.
+#pragma once
+
+#include "platform/framework/CString.h"
+
+namespace tq {
+
+// One leg of an option combination, read out of a code of any content.
+struct OptionLeg {
+  OptionLeg(const CString& code, char side);
+
+  bool IsKindOf(const OptionLeg& other) const { return callPut == other.callPut; }
+  const char* Kind() const; // "CALL", "PUT", "" for neither
+
+  CString commodity;
+  CString strike;    // without leading zeros
+  CString monthCode; // letter and digit
+  int year;
+  int month; // 1 to 12, 0 for none
+  char callPut;
+  char side;
+};
+
+CString DescribeCombination(const OptionLeg& leg, const OptionLeg& other);
+
+// What the one form for all combinations has of a leg besides; empty for what is not known.
+struct LegNames {
+  CString exchange;
+  CString shortName; // with a blank at its end
+};
+
+enum class KindWords { Written, LeftOut };
+
+CString DescribeLegs(const OptionLeg& leg, const LegNames& names, const OptionLeg& other,
+                     const LegNames& otherNames, KindWords words);
+
+// One leg of a calendar spread of futures; the code has five characters at least.
+struct FutureLeg {
+  FutureLeg(const CString& code, char side, const CString& week);
+
+  int YearMonth() const;
+
+  CString week; // the text behind the month
+  int year;
+  int month;
+  char side;
+};
+
+CString DescribeCalendarSpread(const CString& commodity, const FutureLeg& nearer,
+                               const FutureLeg& later);
+
+} // namespace tq

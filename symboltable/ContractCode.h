@@ -1,0 +1,75 @@
+// The exchange's compact contract codes, taken apart by position. An option is ten characters: three
+// of the commodity, five digits of the strike, the month letter, the last digit of the year. A
+// futures contract is the commodity, the month letter and the digit of the year.
+//
+// Nothing here checks: a code of any length or content has an answer, and what is missing is empty
+// or NUL.
+#pragma once
+
+#include <string_view>
+
+namespace tq {
+
+inline constexpr std::size_t OptionCodeLength = 10;
+inline constexpr std::size_t CommodityLength = 3;
+inline constexpr std::size_t StrikeLength = 5;
+inline constexpr std::size_t MonthCodeLength = 2;
+// A code less its month code, and a code less its commodity: what a typed combination may leave out.
+inline constexpr std::size_t CommodityStrikeLength = CommodityLength + StrikeLength;
+inline constexpr std::size_t StrikeMonthLength = StrikeLength + MonthCodeLength;
+static_assert(CommodityStrikeLength + MonthCodeLength == OptionCodeLength);
+
+inline constexpr std::size_t OptionMonthPosition = 8;
+inline constexpr std::size_t OptionYearPosition = 9;
+inline constexpr std::size_t FutureMonthPosition = 3;
+inline constexpr std::size_t FutureYearPosition = 4;
+
+inline char ByteAt(std::string_view text, std::size_t position) {
+  return position < text.size() ? text[position] : '\0';
+}
+
+inline bool IsDecimalDigit(char letter) {
+  return letter >= '0' && letter <= '9';
+}
+
+// Commodity, strike and month code of an option code.
+inline std::string_view CommodityOf(std::string_view code) {
+  return code.substr(0, CommodityLength);
+}
+inline std::string_view StrikeOf(std::string_view code) {
+  return code.size() > CommodityLength ? code.substr(CommodityLength, StrikeLength)
+                                       : std::string_view();
+}
+inline std::string_view MonthCodeOf(std::string_view code) {
+  return code.size() > OptionMonthPosition ? code.substr(OptionMonthPosition, MonthCodeLength)
+                                           : std::string_view();
+}
+
+// 'C' for a month letter of a call, 'P' for one of a put, a blank for any other.
+char CallPutOf(char monthLetter);
+
+// 1 to 12 from an option's month letter, 0 when it is none.
+int OptionMonth(char monthLetter);
+// The position in the alphabet of a futures contract's month letter: 1 to 12, more for the letters
+// behind "L", which no contract has. 0 for what is no letter.
+int FutureMonth(char monthLetter);
+
+// The year that the digit stands for, by the local calendar: this year when that ends in the digit,
+// else the next. Contracts run no longer, so a digit that is past, or none at all, is next year too.
+int ExpiryYear(char yearDigit);
+
+// A strike without its leading zeros; of a strike of zeros one is kept.
+std::string_view WithoutLeadingZeros(std::string_view strike);
+
+// How two prices, decimal texts, stand to each other. A text that is no number has no order.
+enum class PriceOrder { Unordered = -1, Equal = 0, Higher = 1, Lower = 2 };
+PriceOrder ComparePrices(std::string_view price, std::string_view other);
+
+// How two month codes of one kind (two calls, two puts) stand to each other.
+enum class MonthOrder { TooFarApart = -1, Same = 0, Earlier = 1, Later = 2 };
+MonthOrder CompareMonths(std::string_view month, std::string_view other);
+
+// Whether two month codes are the same month of the same year, be they calls or puts.
+bool IsSameMonth(std::string_view month, std::string_view other);
+
+} // namespace tq

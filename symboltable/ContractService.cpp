@@ -1,0 +1,72 @@
+#include "symboltable/ContractService.h"
+
+#include "platform/services/VLProxy.h"
+#include "platform/services/tqStock.h"
+#include "symboltable/LeadingInt.h"
+#include "symboltable/ServiceArray.h"
+#include "symboltable/UpperText.h"
+
+namespace tq {
+namespace {
+
+constexpr int AnyExchange = -1;
+constexpr int ServiceIdSize = 20;
+
+constexpr char StrikeKey[] = "V3";     // of ExtAttrWeekly
+constexpr char WeekPrefixKey[] = "V4"; // "W"
+constexpr char WeekNumberKey[] = "V5"; // "2"
+
+constexpr char NameFirstKey[] = "V5"; // of ExtAttrShortName
+constexpr char NameSecondKey[] = "V6";
+
+} // namespace
+
+CString ServiceId(const CString& code) {
+  char id[ServiceIdSize + 1] = {}; // with a NUL behind whatever the service writes
+  if (!VLGetZUID(AnyExchange, code, id))
+    return CString();
+  return id;
+}
+
+int ReadWeek(const CString& serviceId, ContractWeek& week) {
+  week = {};
+  ServiceArray<ExtAttr> attributes;
+  if (!VLGetExtendAttr(serviceId, ExtAttrWeekly, attributes.List(), attributes.Count()) ||
+      attributes.Records().empty())
+    return 0;
+  const char* const text = attributes.Records().front().text;
+  CString number;
+  CStockKey::ParseExtAttr(text, StrikeKey, week.strike);
+  CStockKey::ParseExtAttr(text, WeekPrefixKey, week.text);
+  CStockKey::ParseExtAttr(text, WeekNumberKey, number);
+  week.number = LeadingInt(ViewOf(number));
+  week.text += number;
+  return 1;
+}
+
+ContractWeek WeekOfCode(const CString& code) {
+  ContractWeek week;
+  const CString serviceId = ServiceId(code);
+  if (!serviceId.IsEmpty())
+    ReadWeek(serviceId, week);
+  return week;
+}
+
+int ReadShortName(const CString& serviceId, CString& name) {
+  name.Empty();
+  ServiceArray<ExtAttr> attributes;
+  if (!VLGetExtendAttr(serviceId, ExtAttrShortName, attributes.List(), attributes.Count()) ||
+      attributes.Records().size() != 1)
+    return 0;
+  const char* const text = attributes.Records().front().text;
+  CString first;
+  CString second;
+  if (!CStockKey::ParseExtAttr(text, NameFirstKey, first) ||
+      !CStockKey::ParseExtAttr(text, NameSecondKey, second))
+    return 0;
+  // The blank sets the name off from what a description writes behind it.
+  name.Format("%s%s ", first.GetString(), second.GetString());
+  return 1;
+}
+
+} // namespace tq

@@ -1,0 +1,81 @@
+// Short texts as numbers: ids are looked up by the hundred thousand, and two words compare and hash
+// faster than a run of characters.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace tq {
+
+// The first eight bytes of a text, or all of them, the missing ones 0.
+inline std::uint64_t PackWord(std::string_view text) {
+  const char* const at = text.data();
+  const std::size_t size = text.size();
+  if (size >= sizeof(std::uint64_t)) {
+    std::uint64_t word;
+    std::memcpy(&word, at, sizeof word);
+    return word;
+  }
+  if (size >= sizeof(std::uint32_t)) {
+    // The two halves may overlap; where they do, they agree.
+    const std::size_t shift = size - sizeof(std::uint32_t);
+    std::uint32_t first;
+    std::uint32_t last;
+    std::memcpy(&first, at, sizeof first);
+    std::memcpy(&last, at + shift, sizeof last);
+    return first | std::uint64_t{last} << (8 * shift);
+  }
+  if (size == 0)
+    return 0;
+  // One to three bytes: the first, the middle and the last, which may be the same.
+  const auto byte = [at](std::size_t i) {
+    return std::uint64_t{static_cast<unsigned char>(at[i])} << (8 * i);
+  };
+  return byte(0) | byte(size / 2) | byte(size - 1);
+}
+
+// The first sixteen bytes.
+struct PackedText {
+  std::uint64_t low;
+  std::uint64_t high;
+  bool operator==(const PackedText&) const = default;
+};
+
+inline PackedText PackHead(std::string_view text) {
+  constexpr std::size_t half = sizeof(std::uint64_t);
+  return {PackWord(text), text.size() > half ? PackWord(text.substr(half)) : 0};
+}
+
+// What follows treats the eight bytes of a word at once.
+constexpr std::uint64_t RepeatByte(std::uint8_t byte) {
+  return 0x0101010101010101u * byte;
+}
+constexpr std::uint64_t TopBits = RepeatByte(0x80);
+
+// The top bit of each byte of `word` that is `byte`. Exact: the shorter form that lets a borrow run into the
+// next byte would report neighbours, too.
+constexpr std::uint64_t BytesEqual(std::uint64_t word, std::uint8_t byte) {
+  const std::uint64_t difference = word ^ RepeatByte(byte);
+  return ~(((difference & ~TopBits) + ~TopBits) | difference | ~TopBits);
+}
+
+// The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f sets the top bit of
+// a byte from 'a' on, adding 5 that of one behind 'z'.
+constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
+  return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & TopBits;
+}
+
+// Whether a word, without bytes from 0x80 on, has no letter of lower case.
+constexpr bool IsUpperAscii(std::uint64_t word) {
+  return (word & TopBits) == 0 && LowerLetters(word) == 0;
+}
+
+// One step of a hash, whose upper bits are the better ones.
+inline std::uint64_t MixWords(std::uint64_t state, std::uint64_t word) {
+  constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u; // 2^64 by the golden ratio
+  state = (state ^ word) * multiplier;
+  return state ^ state >> 29;
+}
+
+} // namespace tq

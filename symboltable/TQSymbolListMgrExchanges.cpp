@@ -1,0 +1,171 @@
+// The manager's default exchanges, exchange order and buffer of all symbols.
+#include <algorithm>
+#include <cstring>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/DefaultExchangeIds.h"
+#include "symboltable/ExchangeService.h"
+#include "symboltable/ServiceArray.h"
+#include "symboltable/SymbolTableMgr.h"
+
+namespace {
+
+// All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be read.
+std::vector<tq::ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, bool& complete) {
+  std::vector<tq::ServiceArray<SymbolInfo>> lists(static_cast<size_t>(exchanges.GetSize()));
+  size_t kept = 0;
+  for (const unsigned exchange : exchanges) {
+    tq::ServiceArray<SymbolInfo>& list = lists[kept];
+    if (VLGetSymbolInfos2(static_cast<int>(exchange), -1, list.List(), list.Count(), 0) == 0)
+      complete = false;
+    else if (!list.Records().empty())
+      ++kept;
+  }
+  return lists;
+}
+
+} // namespace
+
+int CTQSymbolListMgr::LoadDefaultExchange(CUIntArray& ids, int useUser, const char* /*unused*/) {
+  if (useUser != 0 || DoLoadDefaultExchange(ids) == 0)
+    DoLoadUserDefaultExchange(ids);
+  return 1;
+}
+
+int CTQSymbolListMgr::DoLoadDefaultExchange(CUIntArray& ids) {
+  return tq::ReadDefaultExchangeIds(ids) ? 1 : 0;
+}
+
+int CTQSymbolListMgr::DoLoadUserDefaultExchange(CUIntArray& ids) {
+  ids.Copy(userDefaultExchanges_);
+  return 1;
+}
+
+void CTQSymbolListMgr::ClearDefaultExchangeData() {
+  defaultExchanges_.RemoveAll();
+  defaultRecords_.RemoveAll();
+  if (exchangeRecords_ != nullptr)
+    VLFree(exchangeRecords_);
+  exchangeRecords_ = nullptr;
+}
+
+int CTQSymbolListMgr::InitDefaultExchange() {
+  ClearDefaultExchangeData();
+  LoadDefaultExchange(defaultExchanges_, useUserDefExch_, "");
+  int count = 0;
+  const int result = VLGetExch(&exchangeRecords_, &count, 1);
+  const std::span<ExchInfo> records(
+      exchangeRecords_,
+      exchangeRecords_ == nullptr || result == 0 ? 0 : static_cast<size_t>(std::max(count, 0)));
+  defaultRecords_.SetSize(defaultExchanges_.GetSize());
+  for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {
+    const auto found = std::find_if(records.begin(), records.end(), [&](const ExchInfo& record) {
+      return record.id == static_cast<int>(defaultExchanges_[i]);
+    });
+    defaultRecords_[i] = found == records.end() ? nullptr : &*found;
+  }
+  return result != 0;
+}
+
+int CTQSymbolListMgr::GetDefaultExchange(int index) {
+  return static_cast<int>(defaultExchanges_.GetAt(index));
+}
+
+int CTQSymbolListMgr::GetDefaultExchangeCount() {
+  return defaultExchanges_.GetSize();
+}
+
+int CTQSymbolListMgr::IsDefaultExchange(int exchId) {
+  return tq::ContainsId(defaultExchanges_, static_cast<unsigned>(exchId));
+}
+
+int CTQSymbolListMgr::IsDefaultExchangeChange() {
+  CUIntArray now;
+  if (!tq::ReadDefaultExchangeIds(now))
+    return 0;
+  return !std::equal(now.begin(), now.end(), defaultExchanges_.begin(), defaultExchanges_.end());
+}
+
+void CTQSymbolListMgr::ReLoadDefaultExch(int force) {
+  if (force == 0 && IsDefaultExchangeChange() == 0) {
+    if (CheckAllSymbolByExch() != 0)
+      SortAllSymbolByExch();
+    return;
+  }
+  InitDefaultExchange();
+  SortAllSymbolByExch();
+  if (symbolTables_ != nullptr)
+    symbolTables_->InitDefaultExchList(defaultExchanges_);
+}
+
+int CTQSymbolListMgr::UpdateDefaultExch(CUIntArray& ids) {
+  userDefaultExchanges_.Copy(ids);
+  ReLoadDefaultExch(1);
+  return 1;
+}
+
+int CTQSymbolListMgr::LoadDefExchOrder(CUIntArray& order) {
+  exchangeOrder_.Copy(order);
+  return !exchangeOrder_.IsEmpty();
+}
+
+void CTQSymbolListMgr::GetDefExchOrder(CUIntArray& order) {
+  order.Copy(exchangeOrder_);
+}
+
+// Whatever the order, it is accepted as it is.
+int CTQSymbolListMgr::CheckExchOrder(CUIntArray& /*order*/) {
+  return 1;
+}
+
+void CTQSymbolListMgr::SortAllSymbolByExch() {
+  CUIntArray exchanges;
+  {
+    const tq::ExchangeList list;
+    if (list.Result() == 0)
+      return;
+    for (const ExchInfo& record : list.Records())
+      exchanges.Add(static_cast<unsigned>(record.id));
+  }
+  tq::MoveDefaultsForward(exchanges, defaultExchanges_);
+  bool complete = true;
+  const std::vector<tq::ServiceArray<SymbolInfo>> lists = ReadSymbols(exchanges, complete);
+  // A buffer that lacks an exchange is better than none, but not than the whole one of before.
+  if (!complete && allSymbols_ != nullptr)
+    return;
+  size_t total = 0;
+  for (const auto& list : lists)
+    total += list.Records().size();
+  ClearAllSymbols();
+  if (total == 0)
+    return;
+  allSymbols_ = new SymbolInfo[total];
+  for (const auto& list : lists) {
+    const std::span<const SymbolInfo> records = list.Records();
+    if (!records.empty())
+      std::memcpy(allSymbols_ + allSymbolCount_, records.data(), records.size_bytes());
+    allSymbolCount_ += static_cast<int>(records.size());
+  }
+}
+
+void CTQSymbolListMgr::ClearAllSymbols() {
+  delete[] allSymbols_;
+  allSymbols_ = nullptr;
+  allSymbolCount_ = 0;
+}
+
+int CTQSymbolListMgr::CheckAllSymbolByExch() {
+  return allSymbols_ == nullptr || allSymbolCount_ == 0;
+}
+
+int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) {
+  if (out == nullptr || count == nullptr || CheckAllSymbolByExch() != 0)
+    return 0;
+  *out = new SymbolInfo[static_cast<size_t>(allSymbolCount_)];
+  std::memcpy(*out, allSymbols_, static_cast<size_t>(allSymbolCount_) * sizeof(SymbolInfo));
+  *count = allSymbolCount_;
+  return 1;
+}

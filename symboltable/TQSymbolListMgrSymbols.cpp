@@ -1,0 +1,164 @@
+// The manager's answers about single symbols, and what it does when symbols change.
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+#include "platform/CodePage.h"
+#include "platform/services/tqStock.h"
+#include "symbollist/ListArray.h"
+#include "symbollist/Log.h"
+#include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/ExchangeService.h"
+#include "symboltable/MovedSymbols.h"
+#include "symboltable/ServiceArray.h"
+#include "symboltable/SymbolRecords.h"
+#include "symboltable/SymbolTableMgr.h"
+
+namespace {
+
+constexpr int MaxSymbolChangeItems = 10;
+constexpr int kDefaultLot = 1000;
+
+bool IsText(const CString& text, const char* field, size_t size) {
+  return tq::EqualNoCase(text, static_cast<size_t>(text.GetLength()), field, strnlen(field, size));
+}
+
+bool ReadLot(CSymbolTableMgr& tables, const CString& id, const char* exchange, int& lot) {
+  long value = 0;
+  if (tables.LookUpSymbolGetValue(FieldTradeLot, id, exchange, value) == 0 || value <= 0)
+    return false;
+  lot = static_cast<int>(value);
+  return true;
+}
+
+// Whether a token of a list is one of the symbols, with or without its exchange.
+bool IsOneOf(const CStringArray& symbols, const CString& token) {
+  const std::string_view id(token.GetString(), static_cast<size_t>(token.GetLength()));
+  for (const CString& held : symbols) {
+    const std::string_view symbol(held.GetString(), static_cast<size_t>(held.GetLength()));
+    if (!symbol.empty() && id.starts_with(symbol) &&
+        (id.size() == symbol.size() || id[symbol.size()] == '.'))
+      return true;
+  }
+  return false;
+}
+
+void ResolveLists(const CPtrArray& lists, const CStringArray& symbols) {
+  for (int i = 0; i < lists.GetSize(); ++i) {
+    CSymbolList* list = tq::ListAt(lists, i);
+    for (const CString& token : list->GetTokens()) {
+      if (IsOneOf(symbols, token)) {
+        list->Update3();
+        break;
+      }
+    }
+  }
+}
+
+} // namespace
+
+std::pair<CString, CString> CTQSymbolListMgr::SplitId(const CString& id) const {
+  if (symbolTables_ == nullptr)
+    return {id, CString()};
+  return symbolTables_->GetSymbolAndExchID(id);
+}
+
+int CTQSymbolListMgr::GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount,
+                                    SymbolInfo* out) {
+  const CString id(symbol);
+  if (id.IsEmpty() || out == nullptr)
+    return 0;
+  if (!SplitId(id).second.IsEmpty())
+    return VLGetSymbolInfo(id, out) != 0;
+  for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {
+    const auto* record = static_cast<const ExchInfo*>(defaultRecords_[i]);
+    for (int k = 0; exchanges != nullptr && k < exchangeCount; ++k) {
+      if (exchanges[k].id == static_cast<int>(defaultExchanges_[i])) {
+        record = &exchanges[k];
+        break;
+      }
+    }
+    if (record == nullptr)
+      continue;
+    const std::string_view name = tq::NameOf(*record);
+    CString fullId;
+    fullId.Format("%s.%.*s", id.GetString(), static_cast<int>(name.size()), name.data());
+    if (VLGetSymbolInfo(fullId, out) != 0)
+      return 1;
+  }
+  return 0;
+}
+
+int CTQSymbolListMgr::IsValidSymbol(const CString& text, SymbolInfo* info) {
+  constexpr int kAllExchanges = -1;
+  tq::ServiceArray<SymbolInfo> found;
+  if (info == nullptr ||
+      VLFindSymbol(text, found.List(), found.Count(), 0, bCN_, kAllExchanges) == 0)
+    return 0;
+  const bool only = found.Records().size() == 1;
+  for (const SymbolInfo& record : found.Records()) {
+    const CString id(record.id, static_cast<int>(strnlen(record.id, sizeof(record.id))));
+    if (only || IsText(text, record.code, sizeof(record.code)) || id.CompareNoCase(text) == 0 ||
+        SplitId(id).first.CompareNoCase(text) == 0) {
+      *info = record;
+      return 1;
+    }
+  }
+  return 0;
+}
+
+int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind) {
+  int lot = kDefaultLot;
+  if (tables == nullptr)
+    return lot;
+  switch (static_cast<int>(kind)) {
+  case 0: // stock: listed, else over the counter
+    if (!ReadLot(*tables, id, "tw", lot))
+      ReadLot(*tables, id, "te", lot);
+    break;
+  case 1: // futures and options
+  case 2:
+  case 3:
+  case 6:
+    ReadLot(*tables, id, "tf", lot);
+    break;
+  default:
+    ReadLot(*tables, id, "", lot);
+    break;
+  }
+  return lot;
+}
+
+int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,
+                                             ExchSymbolUpdateType type) {
+  if (count > MaxSymbolChangeItems)
+    tq::LogLine(tq::kLogGeneral,
+                "CTQSymbolListMgr::UpdateExchSymbolChange Count = %d, MaxSymbolChangeItems = %d",
+                count, MaxSymbolChangeItems);
+  const tq::SymbolRecords records(symbols, std::min(count, MaxSymbolChangeItems));
+  CStringArray changed;
+  for (int i = 0; i < records.Count(); ++i) {
+    const std::string_view symbol = records.At(i);
+    changed.Add(CString(symbol.data(), static_cast<int>(symbol.size())).MakeUpper());
+  }
+  ResolveLists(lists_, changed);
+  ResolveLists(tradingLists_, changed);
+  if (type == ExchSymbolsAdded)
+    ResolveLists(cloudLists_, changed);
+  return 1;
+}
+
+int CTQSymbolListMgr::ReplaceSymbolListExchID(CString& ids, const CString& oldExchange,
+                                              const CString& newExchange) {
+  return symbolTables_ == nullptr ? 0
+                                  : tq::MoveSymbols(*symbolTables_, ids, oldExchange, newExchange);
+}
+
+int CTQSymbolListMgr::ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
+                                              const CString& newExchange) {
+  if (list == nullptr)
+    return 0;
+  CString ids = list->GetIDs();
+  return ReplaceSymbolListExchID(ids, oldExchange, newExchange) != 0 && list->Update1(ids) != 0;
+}

@@ -1,0 +1,128 @@
+// The process is killed in the middle of a save: the file is the old one or the new one, and what the
+// kill left behind disturbs no later save.
+#include "platform/FileAccess.h"
+#include "tests/platform/HookedSteps.h"
+#include "tests/platform/TestSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
+#include <random>
+
+namespace tqtest {
+
+namespace {
+
+constexpr size_t Size = 60'000;
+const std::string Old(Size, 'o');
+const std::string New(Size + 777, 'n');
+constexpr char FileName[] = "SymbolList.xml";
+
+// argument: <'b' or 'a': before or after><step as a letter><path>
+void SaveAndEndAtStep(const std::string& argument) {
+  const bool before = argument[0] == 'b';
+  const auto end = static_cast<Step>(argument[1] - 'A');
+  const auto hook = [&](bool now) {
+    return [=](Step step) {
+      if (now && step == end)
+        EndAtOnce();
+      return Fate::Proceed;
+    };
+  };
+  HookedSteps steps(argument.c_str() + 2, hook(before), hook(!before));
+  tq::RunSave(steps, New.data(), New.size());
+}
+
+void SaveForEver(const std::string& path) {
+  for (;;) {
+    tq::Files().SaveWholeFile(path.c_str(), New.data(), New.size());
+    tq::Files().SaveWholeFile(path.c_str(), Old.data(), Old.size());
+  }
+}
+
+// What a killed process has written stays in the system's cache, so the disk is left out of it: that
+// gives the kills more saves to hit.
+void SaveForEverWithoutFlushing(const std::string& path) {
+  const auto skipFlushing = [](Step step) {
+    return step == Step::FlushTemporary || step == Step::FlushDirectory ? Fate::Skip
+                                                                        : Fate::Proceed;
+  };
+  for (;;) {
+    for (const std::string* bytes : {&New, &Old}) {
+      HookedSteps steps(path.c_str(), skipFlushing);
+      tq::RunSave(steps, bytes->data(), bytes->size());
+    }
+  }
+}
+
+bool IsWhole(const std::string& bytes) {
+  return bytes == Old || bytes == New;
+}
+
+void ExpectThatSavingGoesOn(const TestDirectory& directory) {
+  const std::string path = directory.File(FileName);
+  EXPECT_EQ(tq::SaveResult::Saved, tq::Files().SaveWholeFile(path.c_str(), "short", 5));
+  EXPECT_EQ("short", directory.Read(FileName));
+  EXPECT_EQ(FileName, directory.List()) << "left over";
+}
+
+} // namespace
+
+constexpr ChildBody Bodies[] = {SaveAndEndAtStep, SaveForEver};
+
+int ChildBodyNumber(ChildBody body) {
+  return body == Bodies[0] ? 0 : 1;
+}
+
+ChildBody ChildBodyByNumber(int number) {
+  return Bodies[number];
+}
+
+TEST(SaveKill, AKillAroundAnyStepLeavesTheOldFileOrTheNew) {
+  const TestDirectory directory("data");
+  const std::string path = directory.File(FileName);
+  int killed = 0;
+  for (Step step : AllSteps) {
+    if (step > Step::FlushDirectory)
+      break; // the rest is cleaning up after failures and saving in place
+    for (char when : {'b', 'a'}) {
+      SCOPED_TRACE(std::string(1, when) + std::to_string(static_cast<int>(step)));
+      directory.Write(FileName, Old);
+      const char letter = static_cast<char>('A' + static_cast<int>(step));
+      killed += RunChild(SaveAndEndAtStep, std::string{when, letter} + path) ? 0 : 1;
+      const bool replaced =
+          step > Step::ReplaceTarget || (step == Step::ReplaceTarget && when == 'a');
+      EXPECT_EQ(replaced ? New.size() : Old.size(), directory.Read(FileName).size());
+      EXPECT_TRUE(IsWhole(directory.Read(FileName)));
+      ExpectThatSavingGoesOn(directory);
+    }
+  }
+  EXPECT_EQ(12, killed);
+}
+
+// Kills `saver` so many times, each time within so many microseconds.
+void KillAtRandomTimes(ChildBody saver, int kills, int longest) {
+  const TestDirectory directory("data");
+  const std::string path = directory.File(FileName);
+  directory.Write(FileName, Old);
+  std::mt19937 random(20'290'101);
+  std::uniform_int_distribution<int> microseconds(0, longest);
+  int damaged = 0;
+  for (int i = 0; i < kills; ++i) {
+    RunChild(saver, path, microseconds(random));
+    damaged += IsWhole(directory.Read(FileName)) ? 0 : 1;
+  }
+  EXPECT_EQ(0, damaged);
+  ExpectThatSavingGoesOn(directory);
+}
+
+TEST(SaveKill, KillsAtRandomTimesLeaveTheOldFileOrTheNew) {
+  KillAtRandomTimes(SaveForEverWithoutFlushing, RandomKills(), LongestLife());
+}
+
+TEST(SaveKill, KillsAtRandomTimesWhileFlushingLeaveTheOldFileOrTheNew) {
+  KillAtRandomTimes(SaveForEver, RandomKills() / 40 + 4, 10 * LongestLife());
+}
+
+} // namespace tqtest

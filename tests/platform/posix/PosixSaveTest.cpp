@@ -1,0 +1,234 @@
+// Saving where POSIX has more to say: rights, links, owners, full disks, another process's lock.
+#include "platform/FileAccess.h"
+#include "tests/platform/TestSystem.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using tq::Files;
+using tq::SaveResult;
+using tqtest::TestDirectory;
+
+constexpr uid_t Nobody = 65534;
+constexpr char Name[] = "SymbolList.xml";
+
+SaveResult Save(const std::string& path, const std::string& bytes) {
+  return Files().SaveWholeFile(path.c_str(), bytes.data(), bytes.size());
+}
+
+// A right is no obstacle to the superuser: children give it up.
+void BecomeNobody() {
+  if (::geteuid() == 0 && ::setuid(Nobody) != 0)
+    ::_exit(2);
+}
+
+void ExitUnless(bool expected) {
+  ::_exit(expected ? 0 : 1);
+}
+
+void Own(const std::string& path) {
+  if (::geteuid() == 0) {
+    ASSERT_EQ(0, ::chown(path.c_str(), Nobody, Nobody));
+  }
+}
+
+// The test's directories lie in one that only their owner may enter.
+void LetEverybodyEnter(const TestDirectory& directory) {
+  fs::permissions(fs::path(directory.Path()).parent_path(), fs::perms(0755));
+}
+
+TEST(PosixSave, AReadOnlyFileIsRefusedThoughItsDirectoryWouldLetUsReplaceIt) {
+  const TestDirectory directory("data");
+  LetEverybodyEnter(directory);
+  directory.Write(Name, "old");
+  Own(directory.Path());
+  Own(directory.OsFile(Name));
+  fs::permissions(directory.OsFile(Name), fs::perms(0444));
+  const auto body = [](const std::string& path) {
+    BecomeNobody();
+    ExitUnless(Save(path, "new") == SaveResult::NotOpened);
+  };
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  EXPECT_EQ("old", directory.Read(Name));
+  EXPECT_EQ(Name, directory.List());
+}
+
+TEST(PosixSave, InADirectoryThatMayNotBeWrittenTheFileIsWrittenInPlace) {
+  const TestDirectory directory("data");
+  LetEverybodyEnter(directory);
+  directory.Write(Name, "an old text that is longer");
+  Own(directory.OsFile(Name));
+  fs::permissions(directory.Path(), fs::perms(0555));
+  const auto body = [](const std::string& path) {
+    BecomeNobody();
+    ExitUnless(Save(path, "new") == SaveResult::Saved &&
+               Save(path + "2", "x") == SaveResult::NotOpened);
+  };
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  fs::permissions(directory.Path(), fs::perms(0755));
+  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ(Name, directory.List());
+}
+
+TEST(PosixSave, ALinkStaysOneAndItsFileIsReplaced) {
+  const TestDirectory directory("data");
+  directory.Write("real.xml", "old");
+  fs::create_symlink("real.xml", directory.OsFile("middle.xml"));
+  fs::create_symlink(directory.OsFile("middle.xml"), directory.OsFile(Name));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_TRUE(fs::is_symlink(directory.OsFile(Name)));
+  EXPECT_TRUE(fs::is_symlink(directory.OsFile("middle.xml")));
+  EXPECT_FALSE(fs::is_symlink(directory.OsFile("real.xml")));
+  EXPECT_EQ("new", directory.Read("real.xml"));
+}
+
+TEST(PosixSave, ALinkToAFileThatIsNotThereYetMakesIt) {
+  const TestDirectory directory("data");
+  fs::create_symlink("real.xml", directory.OsFile(Name));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_TRUE(fs::is_symlink(directory.OsFile(Name)));
+  EXPECT_EQ("new", directory.Read("real.xml"));
+}
+
+TEST(PosixSave, LinksInACircleAreRefused) {
+  const TestDirectory directory("data");
+  fs::create_symlink("b.xml", directory.OsFile("a.xml"));
+  fs::create_symlink("a.xml", directory.OsFile("b.xml"));
+  EXPECT_EQ(SaveResult::NotOpened, Save(directory.File("a.xml"), "new"));
+}
+
+TEST(PosixSave, AnotherNameOfTheFileKeepsTheOldBytes) {
+  const TestDirectory directory("data");
+  directory.Write(Name, "old");
+  fs::create_hard_link(directory.OsFile(Name), directory.OsFile("snapshot.xml"));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ("old", directory.Read("snapshot.xml"));
+}
+
+TEST(PosixSave, ModeAndOwnerAreKept) {
+  const TestDirectory directory("data");
+  directory.Write(Name, "old");
+  Own(directory.OsFile(Name));
+  for (mode_t mode : {0640U, 0600U, 0664U}) {
+    ASSERT_EQ(0, ::chmod(directory.OsFile(Name).c_str(), mode));
+    struct stat before;
+    struct stat after;
+    ASSERT_EQ(0, ::stat(directory.OsFile(Name).c_str(), &before));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+    ASSERT_EQ(0, ::stat(directory.OsFile(Name).c_str(), &after));
+    EXPECT_NE(before.st_ino, after.st_ino) << "replaced";
+    EXPECT_EQ(before.st_mode, after.st_mode);
+    EXPECT_EQ(before.st_uid, after.st_uid);
+    EXPECT_EQ(before.st_gid, after.st_gid);
+  }
+}
+
+TEST(PosixSave, ANewFileGetsTheModeOfAnyNewFile) {
+  const TestDirectory directory("data");
+  directory.Write("other.xml", "");
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_EQ(fs::status(directory.OsFile("other.xml")).permissions(),
+            fs::status(directory.OsFile(Name)).permissions());
+}
+
+TEST(PosixSave, AFullDiskKeepsTheOldFileAndLeavesNothingBeside) {
+  const TestDirectory directory("data");
+  const std::string old(3000, 'o');
+  directory.Write(Name, old);
+  const auto body = [](const std::string& path) {
+    const rlimit small = {4096, 4096}; // no file may grow beyond
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    ExitUnless(Save(path, std::string(5000, 'n')) == SaveResult::Failed);
+  };
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  EXPECT_EQ(old, directory.Read(Name));
+  EXPECT_EQ(Name, directory.List());
+}
+
+TEST(PosixSave, AFullDiskInPlaceKeepsTheOldFile) {
+  const TestDirectory directory("data");
+  LetEverybodyEnter(directory);
+  const std::string old(3000, 'o');
+  directory.Write(Name, old);
+  Own(directory.OsFile(Name));
+  fs::permissions(directory.Path(), fs::perms(0555));
+  const auto body = [](const std::string& path) {
+    const rlimit small = {4096, 4096};
+    ::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    BecomeNobody();
+    ExitUnless(Save(path, std::string(5000, 'n')) == SaveResult::Failed);
+  };
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  fs::permissions(directory.Path(), fs::perms(0755));
+  EXPECT_EQ(old, directory.Read(Name));
+}
+
+TEST(PosixSave, ADeviceIsWrittenAndNotReplaced) {
+  const TestDirectory directory("data");
+  fs::create_symlink("/dev/full", directory.OsFile("full"));
+  fs::create_symlink("/dev/null", directory.OsFile("null"));
+  EXPECT_EQ(SaveResult::Failed, Save(directory.File("full"), "new"));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File("null"), "new"));
+  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST(PosixSave, APipeDoesNotHangTheTerminal) {
+  const TestDirectory directory("data");
+  ASSERT_EQ(0, ::mkfifo(directory.OsFile(Name).c_str(), 0600));
+  std::string bytes;
+  EXPECT_EQ(SaveResult::NotOpened, Save(directory.File(Name), "new"));
+  EXPECT_EQ(tq::ReadResult::Failed,
+            Files().ReadWholeFile(directory.File(Name).c_str(), 100, bytes));
+}
+
+TEST(PosixSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
+  const TestDirectory directory("data");
+  directory.Write(Name, "old");
+  const int other =
+      ::open(directory.OsFile("SymbolList.xml.tmp").c_str(), O_CREAT | O_WRONLY, 0600);
+  ASSERT_EQ(0, ::flock(other, LOCK_EX));
+  EXPECT_EQ(SaveResult::Failed, Save(directory.File(Name), "new"));
+  EXPECT_EQ("old", directory.Read(Name));
+  ::close(other);
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_EQ(Name, directory.List());
+}
+
+TEST(PosixSave, ALinkUnderTheTemporaryNameIsNotFollowed) {
+  const TestDirectory directory("data");
+  directory.Write(Name, "old");
+  directory.Write("victim.txt", "precious");
+  fs::create_symlink("victim.txt", directory.OsFile("SymbolList.xml.tmp"));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ("precious", directory.Read("victim.txt"));
+}
+
+// Directory names are bytes in any encoding, and a UTF-8 name can end in a byte that opens a double-byte
+// character.
+TEST(PosixSave, DirectoryNamesMayBeInAnyEncoding) {
+  for (const char* name :
+       {"\xE8\xA8\xB1", "\xB3\x5C\xA5\x5C", "\xA5\x5C", "caf\xE9", "back\\slash", "a b"}) {
+    const TestDirectory directory(name);
+    EXPECT_TRUE(Files().DirectoryExists(directory.Path().c_str()));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), name));
+    EXPECT_EQ(name, directory.Read(Name));
+    EXPECT_EQ(Name, directory.List());
+  }
+}
+
+} // namespace

@@ -1,0 +1,119 @@
+#include "symboltable/SymbolKey.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace {
+
+using tq::BucketOf;
+using tq::KeyHashMode;
+
+TEST(SymbolKey, IdSplitsAtItsLastDot) {
+  const struct {
+    const char* id;
+    const char* symbol;
+    const char* suffix;
+  } cases[] = {
+      {"", "", ""},
+      {"2330", "2330", ""},
+      {"2330.TW", "2330", "TW"},
+      {".TW", "", "TW"},
+      {"2330.", "2330", ""},
+      {".", "", ""},
+      {"BRK.B.NYSE", "BRK.B", "NYSE"},
+      {"A..B", "A.", "B"},
+      {"1234567.TW", "1234567", "TW"},
+      {"12345678.TW", "12345678", "TW"},
+      {"123456789012.TWO", "123456789012", "TWO"},
+      {"1234567890123.TWO", "1234567890123", "TWO"},
+      {"12345678901234567890.TW", "12345678901234567890", "TW"},
+      {"12/45/78.//-.-./.-", "12/45/78.//-.-./", "-"},
+      {"A/B.C/", "A/B", "C/"},
+  };
+  for (const auto& each : cases) {
+    const tq::IdParts parts = tq::SplitId(each.id);
+    EXPECT_EQ(parts.symbol, each.symbol) << each.id;
+    EXPECT_EQ(parts.suffix, each.suffix) << each.id;
+  }
+}
+
+TEST(SymbolKey, DotAfterALoneLeadByteBelongsToThatCharacter) {
+  const tq::IdParts parts = tq::SplitId("A\xa4.TW");
+  EXPECT_EQ(parts.symbol, "A\xa4.TW");
+  EXPECT_EQ(parts.suffix, "");
+  // Here the byte in front of the dot is the second one of a character.
+  EXPECT_EQ(tq::SplitId("A\xa4\xa4.TW").suffix, "TW");
+}
+
+TEST(SymbolKey, KeyIsTheSymbolWhenTheSuffixIsTheExchange) {
+  EXPECT_EQ(tq::KeyOf("2330.TW", "TW"), "2330");
+  EXPECT_EQ(tq::KeyOf("2330.tw", "TW"), "2330");
+  EXPECT_EQ(tq::KeyOf("2330.TW", "tw"), "2330");
+  EXPECT_EQ(tq::KeyOf("BRK.B.NYSE", "NYSE"), "BRK.B");
+}
+
+TEST(SymbolKey, KeyIsTheWholeIdOtherwise) {
+  EXPECT_EQ(tq::KeyOf("2330", "TW"), "2330");
+  EXPECT_EQ(tq::KeyOf("2330.TE", "TW"), "2330.TE");
+  EXPECT_EQ(tq::KeyOf("BRK.B", "NYSE"), "BRK.B");
+  EXPECT_EQ(tq::KeyOf("2330.TWO", "TW"), "2330.TWO");
+  EXPECT_EQ(tq::KeyOf("", "TW"), "");
+}
+
+TEST(SymbolKey, EqualTextsHashEqualWhereverTheyLie) {
+  const std::string text = "0123456789012345678901234567890123456789";
+  std::set<std::uint32_t> hashes;
+  for (std::size_t size = 0; size <= text.size(); ++size) {
+    std::string shifted = "x";
+    shifted += text.substr(0, size);
+    shifted += "yz";
+    const tq::SymbolKey key = tq::MakeKey(std::string_view(text).substr(0, size));
+    const tq::SymbolKey moved = tq::MakeKey(std::string_view(shifted).substr(1, size));
+    EXPECT_EQ(key.hash, moved.hash) << size;
+    EXPECT_EQ(key.head, moved.head) << size;
+    hashes.insert(key.hash);
+  }
+  EXPECT_EQ(hashes.size(), text.size() + 1);
+}
+
+TEST(SymbolKey, OnlyExchangeOneHashesByNumber) {
+  EXPECT_EQ(tq::HashModeOf(1), KeyHashMode::Numeric);
+  for (const int exchId : {2, 6})
+    EXPECT_EQ(tq::HashModeOf(exchId), KeyHashMode::Domestic);
+  for (const int exchId : {-1, 0, 7, 127, 1000})
+    EXPECT_EQ(tq::HashModeOf(exchId), KeyHashMode::CharacterSum);
+}
+
+TEST(SymbolKey, NumericBucketIsTheLeadingNumberModulo780) {
+  const struct {
+    const char* key;
+    int bucket;
+  } cases[] = {{"0050", 50},
+               {"2330", 2330 % 780},
+               {"2330A", 2330 % 780},
+               {"780", 0},
+               {"779", 779},
+               {"ABC", 0},
+               {"", 0},
+               {"-5", 5},
+               {"-781", 1},
+               {"2147483648", 2147483647 % 780},
+               {"-99999999999", static_cast<int>(2147483648LL % 780)}};
+  for (const auto& each : cases)
+    EXPECT_EQ(BucketOf(each.key, KeyHashMode::Numeric), each.bucket) << each.key;
+}
+
+TEST(SymbolKey, CharacterBucketIsTheSumOfTwelveUnsignedBytes) {
+  for (const KeyHashMode mode : {KeyHashMode::CharacterSum, KeyHashMode::Domestic}) {
+    EXPECT_EQ(BucketOf("", mode), 0);
+    EXPECT_EQ(BucketOf("AB", mode), 65 + 66);
+    EXPECT_EQ(BucketOf("BA", mode), 65 + 66);
+    EXPECT_EQ(BucketOf("\xff\xff\xff\xff", mode), 4 * 255 % 780);
+    EXPECT_EQ(BucketOf("ABCDEFGHIJKLx", mode), BucketOf("ABCDEFGHIJKLyz", mode));
+    EXPECT_NE(BucketOf("ABCDEFGHIJKx", mode), BucketOf("ABCDEFGHIJKy", mode));
+  }
+}
+
+} // namespace

@@ -1,0 +1,72 @@
+#include "symboltable/UpperText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using tq::UpperBuffer;
+using tq::UpperCased;
+
+TEST(UpperText, UpperCaseTextIsNotCopied) {
+  for (const char* each : {"", "2330.TW", "@[`{", "ABCDEFGHIJKLMNOPQRSTUVWXYZ.LONGER"}) {
+    CString text(each);
+    const CString before = text;
+    UpperBuffer buffer;
+    EXPECT_EQ(UpperCased(text, buffer).data(), before.GetString()) << each;
+  }
+}
+
+TEST(UpperText, LowerLettersAreRaisedAtEveryPosition) {
+  for (std::size_t at = 0; at < 40; ++at) {
+    std::string lower(40, '1');
+    lower[at] = 'z';
+    std::string upper(40, '1');
+    upper[at] = 'Z';
+    CString text(lower.c_str());
+    UpperBuffer buffer;
+    EXPECT_EQ(UpperCased(text, buffer), upper);
+    EXPECT_STREQ(text.GetString(), lower.c_str()) << "the buffer was large enough";
+  }
+}
+
+TEST(UpperText, NeighboursOfTheLettersStay) {
+  CString text("@AZ[`az{");
+  UpperBuffer buffer;
+  EXPECT_EQ(UpperCased(text, buffer), "@AZ[`AZ{");
+}
+
+TEST(UpperText, TextLongerThanTheBufferIsRaisedInPlace) {
+  const std::string lower(1000, 'q');
+  CString text(lower.c_str());
+  UpperBuffer buffer;
+  EXPECT_EQ(UpperCased(text, buffer), std::string(1000, 'Q'));
+}
+
+TEST(UpperText, SecondBytesThatLookLikeLettersStay) {
+  CString text("a\xa4\x61z");
+  UpperBuffer buffer;
+  EXPECT_EQ(UpperCased(text, buffer), "A\xa4\x61Z");
+  CString copy("a\xa4\x61z");
+  tq::MakeUpper(copy);
+  EXPECT_STREQ(copy.GetString(), "A\xa4\x61Z");
+}
+
+TEST(UpperText, RaisingACopyLeavesTheOriginal) {
+  const CString original("\xa4\x61z");
+  CString copy = original;
+  UpperBuffer buffer;
+  UpperCased(copy, buffer);
+  EXPECT_STREQ(original.GetString(), "\xa4\x61z");
+}
+
+TEST(UpperText, ComparesWithoutRegardToCaseByWholeCharacters) {
+  EXPECT_TRUE(tq::EqualsNoCase("", ""));
+  EXPECT_TRUE(tq::EqualsNoCase("tW", "Tw"));
+  EXPECT_FALSE(tq::EqualsNoCase("TW", "TWO"));
+  EXPECT_TRUE(tq::EqualsNoCase("\xa4\x61q", "\xa4\x61Q"));
+  EXPECT_FALSE(tq::EqualsNoCase("\xa4\x61", "\xa4\x41"));
+}
+
+} // namespace

@@ -1,0 +1,28 @@
+// Holds an array that VLProxy handed out until the end of the block.
+#pragma once
+
+#include <string>
+
+#include "platform/services/VLProxy.h"
+
+template <class T> struct ArrayOwner {
+  ArrayOwner() = default;
+  ~ArrayOwner() { VLFree(list); }
+  ArrayOwner(const ArrayOwner&) = delete;
+  ArrayOwner& operator=(const ArrayOwner&) = delete;
+
+  T* list = nullptr;
+  int count = -1;
+};
+
+using Infos = ArrayOwner<SymbolInfo>;
+using Attrs = ArrayOwner<BaseAttr>;
+using Exchs = ArrayOwner<ExchInfo>;
+
+// The ids of the records, separated by blanks.
+inline std::string Ids(const Infos& infos) {
+  std::string text;
+  for (int i = 0; i < infos.count; ++i)
+    text += (i > 0 ? " " : "") + std::string(infos.list[i].id);
+  return text;
+}

@@ -1,0 +1,187 @@
+// LoadMarket: what a market directory may look like.
+#include "tests/support/StandInTest.h"
+#include "tests/support/TempDir.h"
+
+namespace {
+
+const char kExchanges[] = "id\tname\ttitle_tw\ttitle_cn\n";
+const char kSymbols[] =
+    "exchange\tcode\tname_tw\tname_cn\tkind\tdecimals\tlot\tprice\texchange_code\n";
+const char kSectors[] = "type\tid\tname_tw\tname_cn\tmembers\n";
+const char kUser[] = "key\tvalue\n";
+const char kOneExchange[] = "1\tTW\t上市\t上市\n";
+
+class MarketFiles : public testing::Test {
+protected:
+  MarketFiles() {
+    directory.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
+    directory.Write("symbols.tsv", kSymbols);
+  }
+
+  bool Load() { return standin::LoadMarket(directory.Path(), market, error); }
+
+  TempDir directory;
+  standin::Market market;
+  std::string error;
+};
+
+TEST_F(MarketFiles, ReadsAllFourFiles) {
+  directory.Write("symbols.tsv", std::string(kSymbols) +
+                                     "TW\t2330\t台積電\t台积电\tstock\t2\t1000\t1085.5\tX2330\n"
+                                     "TW\t2317\t鴻海\t鸿海\tstock\t2\t1000\t-\t-\n");
+  directory.Write("sectors.tsv",
+                  std::string(kSectors) + "1\tCHIP\t半導體\t半导体\t2330.TW,2317.TW\n");
+  directory.Write("user.tsv",
+                  std::string(kUser) + "entitled\t1,2\ndefaults\t1\nfull_menu_key\tK\n");
+  ASSERT_TRUE(Load()) << error;
+  ASSERT_EQ(market.exchanges.size(), 1u);
+  EXPECT_EQ(market.exchanges[0].titleTw, "上市");
+  ASSERT_EQ(market.instruments.size(), 2u);
+  EXPECT_EQ(market.instruments[0].exchId, 1);
+  EXPECT_EQ(market.instruments[0].code, "2330");
+  EXPECT_EQ(market.instruments[0].nameCn, "台积电");
+  EXPECT_EQ(market.instruments[0].kind, "stock");
+  EXPECT_EQ(market.instruments[0].decimals, 2);
+  EXPECT_EQ(market.instruments[0].lot, 1000);
+  EXPECT_EQ(market.instruments[0].price, "1085.5");
+  EXPECT_EQ(market.instruments[0].exchangeCode, "X2330");
+  EXPECT_EQ(market.instruments[1].price, "");
+  EXPECT_EQ(market.instruments[1].exchangeCode, "");
+  ASSERT_EQ(market.sectors.size(), 1u);
+  EXPECT_EQ(market.sectors[0].members, (std::vector<std::string>{"2330.TW", "2317.TW"}));
+  EXPECT_EQ(market.entitled, "1,2");
+  EXPECT_EQ(market.defaults, "1");
+  EXPECT_EQ(market.fullMenuKey, "K");
+}
+
+TEST_F(MarketFiles, PassesOverCommentsBlankLinesCarriageReturnsAndAByteOrderMark) {
+  directory.Write(
+      "exchanges.tsv",
+      "\xEF\xBB\xBF# comment\r\n\r\nid\tname\ttitle_tw\ttitle_cn\r\n1\tTW\t\tx\r\n\n#\n2\tTE\t\t");
+  ASSERT_TRUE(Load()) << error;
+  ASSERT_EQ(market.exchanges.size(), 2u);
+  EXPECT_EQ(market.exchanges[0].titleCn, "x");
+  EXPECT_EQ(market.exchanges[1].name, "TE");
+}
+
+TEST_F(MarketFiles, TheSampleMarketLoads) {
+  ASSERT_TRUE(standin::LoadMarket("data/market", market, error)) << error;
+  EXPECT_FALSE(market.exchanges.empty());
+  EXPECT_FALSE(market.instruments.empty());
+  EXPECT_FALSE(market.defaults.empty());
+}
+
+TEST_F(MarketFiles, AFailedLoadLeavesTheMarketAsItWas) {
+  market.defaults = "kept";
+  EXPECT_FALSE(standin::LoadMarket(directory.Native("nowhere"), market, error));
+  EXPECT_EQ(error, "exchanges.tsv:0: cannot be read");
+  EXPECT_EQ(market.defaults, "kept");
+  EXPECT_TRUE(market.exchanges.empty());
+}
+
+TEST(MarketDirectory, WithoutSymbolsIsRefused) {
+  const TempDir directory;
+  directory.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
+  standin::Market market;
+  std::string error;
+  EXPECT_FALSE(standin::LoadMarket(directory.Path(), market, error));
+  EXPECT_EQ(error, "symbols.tsv:0: cannot be read");
+}
+
+struct Bad {
+  const char* what;
+  const char* file;
+  std::string text;
+  const char* error; // how it begins
+};
+
+std::string Symbol(const std::string& exchange, const std::string& code, const std::string& name,
+                   const std::string& numbers = "2\t1000\t-\t-") {
+  return kSymbols + exchange + "\t" + code + "\t" + name + "\t" + name + "\tstock\t" + numbers +
+         "\n";
+}
+
+const std::string kFifteen = "一二三四五六七八九十甲乙丙丁戊";
+
+const Bad kBad[] = {
+    {"no header", "exchanges.tsv", "", "exchanges.tsv:0: no header"},
+    {"wrong header", "exchanges.tsv", "id\tname\n", "exchanges.tsv:1: the header"},
+    {"records before the header", "symbols.tsv", "TW\t1\n", "symbols.tsv:1: the header"},
+    {"too few fields", "exchanges.tsv", std::string(kExchanges) + "1\tTW\n",
+     "exchanges.tsv:2: 4 fields expected, found 2"},
+    {"too many fields", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\t\t\n",
+     "exchanges.tsv:2: 4 fields expected, found 5"},
+    {"id no number", "exchanges.tsv", std::string(kExchanges) + "1x\tTW\t\t\n",
+     "exchanges.tsv:2: the id"},
+    {"id 0", "exchanges.tsv", std::string(kExchanges) + "0\tTW\t\t\n", "exchanges.tsv:2: the id"},
+    {"id too large", "exchanges.tsv", std::string(kExchanges) + "32768\tTW\t\t\n",
+     "exchanges.tsv:2: the id"},
+    {"long exchange name", "exchanges.tsv",
+     std::string(kExchanges) + "1\t" + std::string(20, 'X') + "\t\t\n",
+     "exchanges.tsv:2: the name"},
+    {"exchange name with a dot", "exchanges.tsv", std::string(kExchanges) + "1\tT.W\t\t\n",
+     "exchanges.tsv:2: the name"},
+    {"exchange twice", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\t\n#\n1\tTE\t\t\n",
+     "exchanges.tsv:4: the id or the name stands twice"},
+    {"bad UTF-8", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xB3\x5C\t\n",
+     "exchanges.tsv:2: not UTF-8"},
+    {"overlong UTF-8", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xC0\x80\t\n",
+     "exchanges.tsv:2: not UTF-8"},
+    {"surrogate", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xED\xA0\x80\t\n",
+     "exchanges.tsv:2: not UTF-8"},
+    {"NUL", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t" + std::string(1, '\0') + "\t\n",
+     "exchanges.tsv:2: a NUL"},
+    {"unknown exchange", "symbols.tsv", Symbol("TX", "2330", "n"),
+     "symbols.tsv:2: unknown exchange"},
+    {"exchange in other case", "symbols.tsv", Symbol("tw", "2330", "n"),
+     "symbols.tsv:2: unknown exchange"},
+    {"no code", "symbols.tsv", Symbol("TW", "", "n"), "symbols.tsv:2: the code"},
+    {"long code", "symbols.tsv", Symbol("TW", std::string(20, '1'), "n"),
+     "symbols.tsv:2: the code"},
+    {"comma in the code", "symbols.tsv", Symbol("TW", "1,2", "n"), "symbols.tsv:2: the code"},
+    {"colon in the code", "symbols.tsv", Symbol("TW", "1:2", "n"), "symbols.tsv:2: the code"},
+    {"long full id", "symbols.tsv", Symbol("TW", std::string(17, '1'), "n"),
+     "symbols.tsv:2: the full id"},
+    {"long name", "symbols.tsv", Symbol("TW", "1", kFifteen + "A"), "symbols.tsv:2: a name"},
+    {"long ASCII name", "symbols.tsv", Symbol("TW", "1", std::string(31, 'A')),
+     "symbols.tsv:2: a name"},
+    {"decimals", "symbols.tsv", Symbol("TW", "1", "n", "two\t1\t-\t-"), "symbols.tsv:2: decimals"},
+    {"negative decimals", "symbols.tsv", Symbol("TW", "1", "n", "-1\t1\t-\t-"),
+     "symbols.tsv:2: decimals"},
+    {"no lot", "symbols.tsv", Symbol("TW", "1", "n", "2\t\t-\t-"), "symbols.tsv:2: lot"},
+    {"lot 0", "symbols.tsv", Symbol("TW", "1", "n", "2\t0\t-\t-"), "symbols.tsv:2: lot"},
+    {"price", "symbols.tsv", Symbol("TW", "1", "n", "2\t1\t1.\t-"), "symbols.tsv:2: price"},
+    {"price with a sign", "symbols.tsv", Symbol("TW", "1", "n", "2\t1\t+1\t-"),
+     "symbols.tsv:2: price"},
+    {"exchange code", "symbols.tsv", Symbol("TW", "1", "n", "2\t1\t-\t" + std::string(20, '1')),
+     "symbols.tsv:2: the code"},
+    {"group type", "sectors.tsv", std::string(kSectors) + "202\tA\t\t\t\n",
+     "sectors.tsv:2: the type"},
+    {"group id", "sectors.tsv", std::string(kSectors) + "1\t12345678901234567\t\t\t\n",
+     "sectors.tsv:2: the id"},
+    {"user key", "user.tsv", std::string(kUser) + "entitled\t1\nother\t1\n",
+     "user.tsv:3: unknown key"},
+};
+
+TEST_F(MarketFiles, RefusesABadFileWithItsLine) {
+  for (const Bad& bad : kBad) {
+    SCOPED_TRACE(bad.what);
+    const TempDir here;
+    here.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
+    here.Write("symbols.tsv", kSymbols);
+    here.Write(bad.file, bad.text);
+    error.clear();
+    EXPECT_FALSE(standin::LoadMarket(here.Path(), market, error));
+    EXPECT_EQ(error.substr(0, std::string(bad.error).size()), bad.error) << error;
+  }
+}
+
+TEST_F(MarketFiles, TakesWhatJustFits) {
+  directory.Write("symbols.tsv", Symbol("TW", std::string(16, '1'), kFifteen, "9\t1\t0\t-") +
+                                     "TW\t1\t" + std::string(30, 'A') +
+                                     "\t\tx\t0\t2147483647\t\t\n");
+  ASSERT_TRUE(Load()) << error;
+  EXPECT_EQ(market.instruments.size(), 2u);
+}
+
+} // namespace

@@ -1,0 +1,219 @@
+// The stand-in's means of testing: ordered failures, recorded calls, counted arrays.
+#include <functional>
+
+#include "platform/framework/CString.h"
+#include "platform/services/TQSObj.h"
+#include "platform/services/TQSProxy.h"
+#include "platform/services/tqCommon.h"
+#include "platform/services/tqStock.h"
+#include "platform/services/tqUtil.h"
+#include "tests/support/StandInTest.h"
+#include "tests/terminal/ArrayOwner.h"
+
+namespace {
+
+struct Operation {
+  const char* name;
+  std::function<int()> call; // one that succeeds unless it is ordered to fail
+};
+
+int GetExch() {
+  Exchs exchanges;
+  return VLGetExch(&exchanges.list, &exchanges.count, 1);
+}
+
+int SetUp() {
+  Attrs attrs;
+  VLGetBaseAttrs("2330.TW", &attrs.list, &attrs.count, 1);
+  return CStaticKey().Setup(attrs.list);
+}
+
+std::vector<Operation> Operations() {
+  static char buffer[TQSUserInfoSize];
+  static SymbolInfo info;
+  return {
+      {"VLGetExch", GetExch},
+      {"VLGetBaseAttrs2",
+       [] {
+         Attrs attrs;
+         return VLGetBaseAttrs2(1, -1, &attrs.list, &attrs.count, 0, 1);
+       }},
+      {"VLGetBaseAttrs",
+       [] {
+         Attrs attrs;
+         return VLGetBaseAttrs("2330", &attrs.list, &attrs.count, 1);
+       }},
+      {"VLGetSymbolInfos",
+       [] {
+         Infos infos;
+         return VLGetSymbolInfos("2330.TW", &infos.list, &infos.count);
+       }},
+      {"VLGetSymbolInfos2",
+       [] {
+         Infos infos;
+         return VLGetSymbolInfos2(1, -1, &infos.list, &infos.count, 0);
+       }},
+      {"VLGetSymbolInfo", [] { return VLGetSymbolInfo("2330.TW", &info); }},
+      {"VLFindSymbol",
+       [] {
+         Infos infos;
+         return VLFindSymbol("2330", &infos.list, &infos.count, 0, 0, -1);
+       }},
+      {"TQSGetUserInfo", [] { return TQSGetUserInfo(LoginInfoEntitledExchanges, buffer, ""); }},
+      {"TQSGetUserExtraValue",
+       [] { return TQSGetUserExtraValue("", "FullMenuKey", buffer, sizeof buffer); }},
+      {"tqShowDllMessage", [] { return tqShowDllMessage(nullptr, 1, 0); }},
+      {"CCheckFileName::IsValidName",
+       [] { return CCheckFileName::IsValidName(nullptr, "name", 0); }},
+      {"CStaticKey::Setup", SetUp},
+      {"CStaticKey::SetUpTrade", [] { return CStaticKey().SetUpTrade(1, "2330"); }},
+      {"tqStockGetFieldString",
+       [] {
+         CString value;
+         return tqStockGetFieldString(FieldReferencePrice, 1, "2330", value);
+       }},
+  };
+}
+
+class ScriptTest : public StandInTest {
+protected:
+  ScriptTest() {
+    standin::Market market = SmallMarket();
+    market.fullMenuKey = "1";
+    standin::SetMarket(market);
+  }
+};
+
+TEST_F(ScriptTest, EveryOperationFailsInTheCallItIsToldTo) {
+  for (const Operation& operation : Operations()) {
+    SCOPED_TRACE(operation.name);
+    standin::FailCall(operation.name, 2);
+    EXPECT_NE(operation.call(), 0);
+    EXPECT_EQ(operation.call(), 0);
+    EXPECT_NE(operation.call(), 0);
+  }
+}
+
+TEST_F(ScriptTest, EveryOperationFailsAlwaysUntilTheOrderIsTakenBack) {
+  for (const Operation& operation : Operations()) {
+    SCOPED_TRACE(operation.name);
+    standin::FailAlways(operation.name);
+    EXPECT_EQ(operation.call(), 0);
+    EXPECT_EQ(operation.call(), 0);
+    standin::FailCall(operation.name, 0);
+    EXPECT_NE(operation.call(), 0);
+  }
+}
+
+TEST_F(ScriptTest, EveryOperationIsRecordedByItsName) {
+  for (const Operation& operation : Operations()) {
+    SCOPED_TRACE(operation.name);
+    standin::ClearCalls();
+    operation.call();
+    EXPECT_EQ(standin::CountCalls(operation.name), 1);
+  }
+}
+
+TEST_F(ScriptTest, TheStarCountsTheCallsOfEveryOperation) {
+  SymbolInfo info;
+  standin::FailCall("*", 2);
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_EQ(VLGetSymbolInfo("2330.TW", &info), 0);
+  EXPECT_NE(VLGetSymbolInfo("2330.TW", &info), 0);
+  standin::FailAlways("*");
+  EXPECT_EQ(GetExch(), 0);
+  EXPECT_EQ(VLGetSymbolInfo("2330.TW", &info), 0);
+}
+
+TEST_F(ScriptTest, AFailedNotificationIsLost) {
+  standin::FailCall("TQSCall", 1);
+  TQSCall("", -1, 40, "lost");
+  TQSCall("", -1, 40, "kept");
+  ASSERT_EQ(standin::Notifications().size(), 1u);
+  EXPECT_EQ(standin::Notifications()[0].reason, "kept");
+}
+
+TEST_F(ScriptTest, FieldReadsCanFailButAreNotRecorded) {
+  Attrs attrs;
+  ASSERT_NE(VLGetBaseAttrs("2330.TW", &attrs.list, &attrs.count, 1), 0);
+  CStaticKey key;
+  ASSERT_NE(key.Setup(attrs.list), 0);
+  standin::ClearCalls();
+  CString text = "before";
+  int number = 7;
+  standin::FailCall("CStockAttr::GetID", 1);
+  EXPECT_EQ(key.GetID(text, 1), 0);
+  EXPECT_STREQ(text, "");
+  standin::FailCall("CStaticKey::GetFieldString", 1);
+  EXPECT_EQ(key.GetFieldString(FieldSymbolName, text), 0);
+  standin::FailCall("CStaticKey::GetFieldInt", 1);
+  EXPECT_EQ(key.GetFieldInt(FieldTradeLot, number), 0);
+  EXPECT_EQ(number, 7);
+  EXPECT_NE(key.GetFieldInt(FieldTradeLot, number), 0);
+  EXPECT_TRUE(standin::Calls().empty());
+}
+
+TEST_F(ScriptTest, CallsCarryTheirInputsInOrder) {
+  standin::ClearCalls();
+  Infos infos;
+  VLGetSymbolInfos2(2, -1, &infos.list, &infos.count, 0);
+  VLGetSymbolInfo(nullptr, nullptr);
+  TQSCall("", -1, 40, "ListCntChange");
+  ASSERT_EQ(standin::Calls().size(), 3u);
+  EXPECT_EQ(standin::Calls()[0].operation, "VLGetSymbolInfos2");
+  EXPECT_EQ(standin::Calls()[0].arguments, "2,-1,0");
+  EXPECT_EQ(standin::Calls()[1].arguments, "(null)");
+  EXPECT_EQ(standin::Calls()[2].arguments, ",-1,40,ListCntChange");
+}
+
+TEST_F(ScriptTest, RecordingCanBeTurnedOffWhileOrdersStillHold) {
+  standin::ClearCalls();
+  standin::RecordCalls(false);
+  EXPECT_NE(GetExch(), 0);
+  standin::FailCall("VLGetExch", 1);
+  EXPECT_EQ(GetExch(), 0);
+  EXPECT_TRUE(standin::Calls().empty());
+}
+
+TEST_F(ScriptTest, ResetForgetsOrdersAndCalls) {
+  standin::FailAlways("*");
+  standin::RecordCalls(false);
+  standin::Reset();
+  EXPECT_TRUE(standin::Calls().empty());
+  EXPECT_TRUE(standin::CurrentMarket().exchanges.empty());
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_EQ(standin::CountCalls("VLGetExch"), 1);
+}
+
+TEST(Arrays, AreCountedUntilTheyAreReleased) {
+  standin::Reset();
+  standin::SetMarket(SmallMarket());
+  SymbolInfo* list = nullptr;
+  int count = 0;
+  ASSERT_NE(VLGetSymbolInfos("2330.TW", &list, &count), 0);
+  EXPECT_EQ(standin::OutstandingArrays(), 1);
+  standin::Reset();
+  EXPECT_EQ(standin::OutstandingArrays(), 1);
+  VLFree(list);
+  EXPECT_EQ(standin::OutstandingArrays(), 0);
+  EXPECT_EQ(standin::BadReleases(), 0);
+}
+
+TEST(Arrays, ReleasedTwiceOrNeverHandedOutAreBadReleases) {
+  standin::Reset();
+  standin::SetMarket(SmallMarket());
+  SymbolInfo* list = nullptr;
+  int count = 0;
+  ASSERT_NE(VLGetSymbolInfos("2330.TW", &list, &count), 0);
+  VLFree(list);
+  VLFree(list);
+  EXPECT_EQ(standin::BadReleases(), 1);
+  VLFree(&count);
+  EXPECT_EQ(standin::BadReleases(), 2);
+  VLFree(nullptr);
+  EXPECT_EQ(standin::BadReleases(), 2);
+  standin::Reset();
+  EXPECT_EQ(standin::BadReleases(), 0);
+}
+
+} // namespace
