@@ -11,8 +11,8 @@ namespace fuzz {
 // Takes the place of the library's files while it lives.
 class MemoryFiles : public tq::FileAccess {
 public:
-  explicit MemoryFiles(std::string content)
-      : content(std::move(content)), before_(tq::SetFiles(this)) {}
+  explicit MemoryFiles(std::string bytes)
+      : content(std::move(bytes)), before_(tq::SetFiles(this)) {}
   ~MemoryFiles() override { tq::SetFiles(before_); }
   MemoryFiles(const MemoryFiles&) = delete;
   MemoryFiles& operator=(const MemoryFiles&) = delete;

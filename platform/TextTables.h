@@ -15,8 +15,10 @@ inline constexpr unsigned CodePageGbk = 936;
 // Traditional Chinese and 936 while it does not. Any thread.
 unsigned AnsiCodePage();
 
-// Decodes text of CodePageBig5 or CodePageGbk into `utf8`, which is replaced. False when a byte or
-// character is none of the code page's, or when the system has no table for it.
+// Decodes text of CodePageBig5 or CodePageGbk into `utf8`, which is replaced. The text is built of whole
+// characters of that code page (AnsiCharLength). One that the system's table does not assign becomes "?"
+// or a character of the private use area, which no other code page has. False when the system has no such
+// table.
 bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8);
 
 // Encodes single characters into one code page. Create one for a text, not for a character.
@@ -28,10 +30,14 @@ public:
   CharacterEncoder& operator=(const CharacterEncoder&) = delete;
 
   // Writes the bytes of `character` (a Unicode scalar value) and returns their number, 1 or 2. A
-  // character that the code page lacks is "?"; none is replaced by one that only looks like it.
+  // character that the code page lacks is "?"; none is replaced by one that only looks like it. The
+  // private use area is lacking too: its characters are one machine's own.
   std::size_t Encode(char32_t character, char (&bytes)[2]);
 
 private:
+  // The same, but 0 for a character that the code page lacks. The body's own.
+  std::size_t EncodeAssigned(char32_t character, char (&bytes)[2]);
+
   unsigned codePage_;
   void* table_; // the body's own
 };

@@ -1,49 +1,13 @@
 #include "platform/XmlScan.h"
 
+#include "platform/XmlByteClass.h"
 #include "platform/XmlCharacters.h"
 
-#include <array>
-#include <cstdint>
+#include <algorithm>
 #include <iterator>
 
 namespace tq {
 namespace {
-
-// Classes of bytes, as bits, so that one look-up tells whether a byte ends a run.
-enum ByteClass : std::uint16_t {
-  NotAscii = 1,
-  Forbidden = 2, // control characters
-  Less = 4,
-  Ampersand = 8,
-  Apostrophe = 16,
-  Quotation = 32,
-  Greater = 64,
-  Closer = 128, // '-', ']' and '?', which begin the end of comment, CDATA section and instruction
-  Colon = 256,
-};
-
-constexpr std::array<std::uint16_t, 256> BuildClasses() {
-  std::array<std::uint16_t, 256> classes{};
-  for (unsigned byte = 0; byte < 0x20; ++byte)
-    classes[byte] = Forbidden;
-  classes['\t'] = classes['\n'] = classes['\r'] = 0;
-  for (unsigned byte = 0x80; byte < 0x100; ++byte)
-    classes[byte] = NotAscii;
-  classes['<'] = Less;
-  classes['&'] = Ampersand;
-  classes['\''] = Apostrophe;
-  classes['"'] = Quotation;
-  classes['>'] = Greater;
-  classes['-'] = classes[']'] = classes['?'] = Closer;
-  classes[':'] = Colon;
-  return classes;
-}
-
-constexpr auto Classes = BuildClasses();
-
-unsigned ClassOf(char byte) {
-  return Classes[static_cast<unsigned char>(byte)];
-}
 
 class Scanner {
 public:
@@ -90,10 +54,15 @@ private:
 bool Scanner::SkipTo(unsigned stops) {
   stops |= NotAscii | Forbidden;
   for (;;) {
-    while (at_ != end_ && (ClassOf(*at_) & stops) == 0)
+    while (end_ - at_ >= BlockSize && (stops & Closer) == 0 && IsPlainBlock(at_))
+      at_ += BlockSize;
+    const char* const pause = at_ + std::min(end_ - at_, BlockSize);
+    while (at_ != pause && (ClassOf(*at_) & stops) == 0)
       ++at_;
     if (at_ == end_)
       return true;
+    if (at_ == pause)
+      continue;
     const unsigned found = ClassOf(*at_);
     if ((found & Forbidden) != 0)
       return Refuse(XmlVerdict::BadCharacters);

@@ -2,6 +2,23 @@
 
 namespace tq {
 
+ItemArena::Block ItemArena::MakeBlock(std::size_t count) {
+  return {std::make_unique_for_overwrite<Place<CSymbolItem>[]>(count),
+          std::make_unique_for_overwrite<Place<ItemRest>[]>(count)};
+}
+
+void* ItemArena::LaterPlaceAt(std::uint32_t number) const {
+  const std::uint32_t later = number - firstCount_;
+  return &later_[later / LaterCount].items[later % LaterCount];
+}
+
+ItemRest* ItemArena::RestAt(std::uint32_t number) const {
+  const std::uint32_t later = number - firstCount_;
+  void* const place = number < firstCount_ ? &first_.rests[number]
+                                           : &later_[later / LaterCount].rests[later % LaterCount];
+  return static_cast<ItemRest*>(place);
+}
+
 void ItemArena::Reset(std::size_t count) {
   later_.clear();
   later_.shrink_to_fit();
@@ -9,7 +26,7 @@ void ItemArena::Reset(std::size_t count) {
   returned_.shrink_to_fit();
   taken_ = 0;
   firstCount_ = static_cast<std::uint32_t>(count);
-  first_ = count != 0 ? std::make_unique_for_overwrite<Place[]>(count) : nullptr;
+  first_ = count != 0 ? MakeBlock(count) : Block();
 }
 
 std::uint32_t ItemArena::TakePlace() {
@@ -19,7 +36,7 @@ std::uint32_t ItemArena::TakePlace() {
     return number;
   }
   if (taken_ >= firstCount_ && (taken_ - firstCount_) / LaterCount == later_.size())
-    later_.push_back(std::make_unique_for_overwrite<Place[]>(LaterCount));
+    later_.push_back(MakeBlock(LaterCount));
   return taken_++;
 }
 
@@ -28,7 +45,7 @@ void ItemArena::ReturnPlace(std::uint32_t number) {
 }
 
 std::size_t ItemArena::Footprint() const {
-  return (firstCount_ + later_.size() * LaterCount) * sizeof(Place) +
+  return (firstCount_ + later_.size() * LaterCount) * (sizeof(CSymbolItem) + sizeof(ItemRest)) +
          later_.capacity() * sizeof(Block) + returned_.capacity() * sizeof(std::uint32_t);
 }
 

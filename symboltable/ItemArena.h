@@ -26,11 +26,10 @@ public:
   void ReturnPlace(std::uint32_t number);
 
   void* PlaceAt(std::uint32_t number) const {
-    if (number < firstCount_)
-      return first_.get() + number;
-    const std::uint32_t later = number - firstCount_;
-    return later_[later / LaterCount].get() + later % LaterCount;
+    return number < firstCount_ ? &first_.items[number] : LaterPlaceAt(number);
   }
+  // The place of the item's other half.
+  ItemRest* RestAt(std::uint32_t number) const;
   CSymbolItem* At(std::uint32_t number) const { return static_cast<CSymbolItem*>(PlaceAt(number)); }
 
   // Heap bytes held.
@@ -39,10 +38,15 @@ public:
 private:
   static constexpr std::uint32_t LaterCount = 64; // items in a later block
 
-  struct alignas(CSymbolItem) Place {
-    std::byte bytes[sizeof(CSymbolItem)];
+  template <typename Part> struct alignas(Part) Place { std::byte bytes[sizeof(Part)]; };
+  // The halves stand apart, so that look-ups find more of the first ones in a cache.
+  struct Block {
+    std::unique_ptr<Place<CSymbolItem>[]> items;
+    std::unique_ptr<Place<ItemRest>[]> rests;
   };
-  using Block = std::unique_ptr<Place[]>;
+
+  static Block MakeBlock(std::size_t count);
+  void* LaterPlaceAt(std::uint32_t number) const;
 
   Block first_;
   std::uint32_t firstCount_ = 0;

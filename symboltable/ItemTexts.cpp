@@ -44,6 +44,10 @@ std::shared_ptr<const ItemTexts> ItemTextReader::Read(const CStaticKey& key,
   return any ? Shared(hash) : nullptr;
 }
 
+char ItemTextReader::ReadLetter(const CStaticKey& key, int field) {
+  return key.GetFieldString(field, letter_) && !letter_.IsEmpty() ? letter_.GetAt(0) : ' ';
+}
+
 bool ItemTextReader::Matches(const ItemTexts& known) const {
   return std::equal(read_.texts, read_.texts + ItemTextCount, known.texts);
 }

@@ -35,11 +35,15 @@ public:
   std::shared_ptr<const ItemTexts> Read(const CStaticKey& key, std::string_view symbol,
                                         bool& codeIsSymbol);
 
+  // The first byte of one of the texts, a blank when `key` does not have it.
+  char ReadLetter(const CStaticKey& key, int field);
+
 private:
   std::shared_ptr<const ItemTexts> Shared(std::uint32_t hash);
   bool Matches(const ItemTexts& known) const;
 
   ItemTexts read_; // of the latest symbol; its room serves the next one
+  CString letter_;
   std::vector<std::shared_ptr<const ItemTexts>> recent_;
 };
 

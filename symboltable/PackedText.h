@@ -47,6 +47,19 @@ inline PackedText PackHead(std::string_view text) {
   return {PackWord(text), text.size() > half ? PackWord(text.substr(half)) : 0};
 }
 
+// The head of the first `size` bytes of a text with that head.
+inline PackedText CutHead(PackedText head, std::size_t size) {
+  constexpr std::size_t half = sizeof(std::uint64_t);
+  const auto cut = [](std::uint64_t word, std::size_t kept) {
+    return word & ((std::uint64_t{1} << (8 * kept)) - 1);
+  };
+  if (size >= 2 * half)
+    return head;
+  if (size >= half)
+    return {head.low, cut(head.high, size - half)};
+  return {cut(head.low, size), 0};
+}
+
 // What follows treats the eight bytes of a word at once.
 constexpr std::uint64_t RepeatByte(std::uint8_t byte) {
   return 0x0101010101010101u * byte;

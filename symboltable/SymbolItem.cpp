@@ -1,65 +1,118 @@
 #include "symboltable/SymbolItem.h"
 
 #include <algorithm>
+#include <memory>
+#include <new>
 
 #include "platform/services/tqStock.h"
 
 namespace {
 
-constexpr int NumberFields[tq::HeldNumberCount] = {FieldKind,       FieldBoard,    FieldLegExchange,
-                                                   FieldExpiryDate, FieldTradeLot, FieldPriceScale};
-// Bits of present_; those below stand for the held numbers.
-constexpr unsigned DecimalsBit = 1u << tq::HeldNumberCount;
-constexpr unsigned CodeIsSymbolBit = DecimalsBit << 1; // FieldExchangeCode is the id's symbol
-static_assert(CodeIsSymbolBit <= 0x80);
 constexpr int Absent = -1;
 constexpr char NoMark = ' ';
 
-int NumberIndex(int field) {
-  const int* const end = NumberFields + tq::HeldNumberCount;
-  const int* const at = std::find(NumberFields, end, field);
-  return at == end ? -1 : static_cast<int>(at - NumberFields);
+// Bits of present_: the held numbers that the service gave, and what is not held because it can be told
+// from the id.
+enum : unsigned {
+  KindBit = 1,
+  BoardBit = 2,
+  LegExchangeBit = 4,
+  ExpiryDateBit = 8,
+  TradeLotBit = 16,
+  PriceScaleBit = 32,
+  DecimalsBit = 64,
+  CodeIsSymbolBit = 128, // FieldExchangeCode
+};
+
+// The bit of a field as a number, 0 for those that are not held.
+unsigned BitOf(int field) {
+  switch (field) {
+  case FieldTradeLot:
+    return TradeLotBit;
+  case FieldKind:
+    return KindBit;
+  case FieldBoard:
+    return BoardBit;
+  case FieldLegExchange:
+    return LegExchangeBit;
+  case FieldExpiryDate:
+    return ExpiryDateBit;
+  case FieldPriceScale:
+    return PriceScaleBit;
+  case FieldDecimals:
+    return DecimalsBit;
+  default:
+    return 0;
+  }
 }
 
 } // namespace
 
 CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
                          tq::ItemTextReader& reader)
-    : keyLength_(place.keyLength), exchId_(place.exchId), id_(place.id), number_(place.number) {
-  head_ = tq::PackHead(Key());
+    : keyLength_(place.keyLength), exchId_(place.exchId), id_(place.id),
+      rest_(new (place.rest) tq::ItemRest) {
+  head_ = tq::PackHead(Key()).low;
+  rest_->number = place.number;
   UpdateFrom(key, reader);
 }
 
-CSymbolItem::~CSymbolItem() = default;
+CSymbolItem::~CSymbolItem() {
+  std::destroy_at(rest_);
+}
 
 void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) {
   ReadNumbers(key);
   key.GetFieldString(FieldSymbolName, name_);
-  CString mark;
-  mark_ = key.GetFieldString(FieldMark, mark) && !mark.IsEmpty() ? mark.GetAt(0) : NoMark;
+  mark_ = reader.ReadLetter(key, FieldMark);
   bool codeIsSymbol = false;
-  texts_ = reader.Read(key, Symbol(), codeIsSymbol);
+  rest_->texts = reader.Read(key, Symbol(), codeIsSymbol);
   if (codeIsSymbol)
     present_ |= static_cast<std::uint8_t>(CodeIsSymbolBit);
 }
 
 void CSymbolItem::ReadNumbers(const CStaticKey& key) {
   unsigned present = 0;
-  for (int i = 0; i < tq::HeldNumberCount; ++i) {
+  const auto read = [&](int field) {
     int number = Absent;
-    if (key.GetFieldInt(NumberFields[i], number))
-      present |= 1u << i;
-    numbers_[i] = number;
-  }
+    if (key.GetFieldInt(field, number))
+      present |= BitOf(field);
+    return number;
+  };
+  kind_ = read(FieldKind);
+  rest_->board = read(FieldBoard);
+  rest_->legExchange = read(FieldLegExchange);
+  expiryDate_ = read(FieldExpiryDate);
+  tradeLot_ = read(FieldTradeLot);
+  rest_->priceScale = read(FieldPriceScale);
   int decimals = 0;
   if (key.GetFieldInt(FieldDecimals, decimals))
     present |= DecimalsBit;
   // No price has more than a handful of them.
   decimals_ = static_cast<std::int16_t>(std::clamp(decimals, -0x7fff, 0x7fff));
-  present_ = static_cast<std::uint8_t>(present);
   int exchange = exchId_;
   if (key.GetFieldInt(FieldExchangeName, exchange))
     exchId_ = exchange;
+  present_ = static_cast<std::uint8_t>(present);
+}
+
+int CSymbolItem::HeldNumber(int field) const {
+  switch (field) {
+  case FieldTradeLot:
+    return tradeLot_;
+  case FieldKind:
+    return kind_;
+  case FieldBoard:
+    return rest_->board;
+  case FieldLegExchange:
+    return rest_->legExchange;
+  case FieldExpiryDate:
+    return expiryDate_;
+  case FieldPriceScale:
+    return rest_->priceScale;
+  default:
+    return decimals_;
+  }
 }
 
 int CSymbolItem::GetNumber(int field, int& value) const {
@@ -67,15 +120,11 @@ int CSymbolItem::GetNumber(int field, int& value) const {
     value = exchId_;
     return 1;
   }
-  const int index = NumberIndex(field);
-  if (index < 0 && field != FieldDecimals)
+  const unsigned bit = BitOf(field);
+  if (bit == 0)
     return AskNumber(field, value);
-  const unsigned bit = index < 0 ? DecimalsBit : 1u << index;
   const bool present = (present_ & bit) != 0;
-  if (index < 0)
-    value = present ? decimals_ : Absent;
-  else
-    value = numbers_[index];
+  value = present ? HeldNumber(field) : Absent;
   return present;
 }
 
@@ -98,37 +147,39 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
 void CSymbolItem::GetHeldText(int index, CString& value) const {
   if (index == tq::ExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
     value.SetString(id_.GetString(), static_cast<int>(Symbol().size()));
-  else if (texts_)
-    value = texts_->texts[index];
+  else if (rest_->texts)
+    value = rest_->texts->texts[index];
   else
     value.Empty();
 }
 
 void CSymbolItem::Append(CSymbolItem* item) {
-  next_ = item;
-  item->previous_ = this;
+  rest_->next = item;
+  item->rest_->previous = this;
 }
 
 void CSymbolItem::RemoveFromChain(CSymbolItem* item) {
-  item->previous_->next_ = item->next_;
-  if (item->next_ != nullptr)
-    item->next_->previous_ = item->previous_;
+  const tq::ItemRest& links = *item->rest_;
+  links.previous->rest_->next = links.next;
+  if (links.next != nullptr)
+    links.next->rest_->previous = links.previous;
 }
 
 CSymbolItem* CSymbolItem::LeaveAsHead() {
-  if (next_ != nullptr)
-    next_->previous_ = nullptr;
-  return next_;
+  if (rest_->next != nullptr)
+    rest_->next->rest_->previous = nullptr;
+  return rest_->next;
 }
 
 void CSymbolItem::AppendSame(CSymbolItem* item) {
-  CSymbolItem* const last = lastSame_ != nullptr ? lastSame_ : this;
-  last->nextSame_ = item;
-  lastSame_ = item;
+  CSymbolItem* const last = rest_->lastSame != nullptr ? rest_->lastSame : this;
+  last->rest_->nextSame = item;
+  rest_->lastSame = item;
 }
 
 CSymbolItem* CSymbolItem::LeaveSame() {
-  if (nextSame_ != nullptr && lastSame_ != nextSame_)
-    nextSame_->lastSame_ = lastSame_;
-  return nextSame_;
+  CSymbolItem* const next = rest_->nextSame;
+  if (next != nullptr && rest_->lastSame != next)
+    next->rest_->lastSame = rest_->lastSame;
+  return next;
 }

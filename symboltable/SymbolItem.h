@@ -12,17 +12,30 @@
 #include "symboltable/UpperText.h"
 
 class CStaticKey;
+class CSymbolItem;
 
 namespace tq {
-
-// Numbers that an item holds as the service gives them; SymbolItem.cpp has their field codes.
-constexpr int HeldNumberCount = 6;
 
 // What field 1 answers: "2330.TW", or "2330".
 enum class IdPart { Full, Symbol };
 
+// What an item is seldom asked for, kept apart so that the rest of many items lies close together.
+struct alignas(64) ItemRest {
+  CSymbolItem* next = nullptr;
+  CSymbolItem* previous = nullptr;
+  CSymbolItem* nextSame = nullptr;
+  CSymbolItem* lastSame = nullptr; // kept in the first item of a key, when there are more
+  std::shared_ptr<const ItemTexts> texts;
+  std::uint32_t number = 0; // the table's number for the item
+  std::int32_t board = 0;
+  std::int32_t legExchange = 0;
+  std::int32_t priceScale = 0;
+};
+static_assert(sizeof(ItemRest) == 64);
+
 // What an item is made with, beside the service's key object.
 struct ItemPlace {
+  ItemRest* rest;          // lives as long as the item
   CString id;              // full id in upper case
   std::uint32_t keyLength; // bytes of it that are the key in the item's table
   std::uint32_t number;    // the table's number for the item
@@ -45,11 +58,11 @@ public:
   std::string_view Key() const { return {id_.GetString(), keyLength_}; }
   // Whether the key is this one, letter case included.
   bool HasKey(const tq::SymbolKey& key) const {
-    return head_ == key.head && keyLength_ == key.text.size() &&
+    return head_ == key.head.low && keyLength_ == key.text.size() &&
            (keyLength_ <= sizeof head_ || Key() == key.text);
   }
   const CString& Name() const { return name_; }
-  std::uint32_t Number() const { return number_; }
+  std::uint32_t Number() const { return rest_->number; }
 
   // Takes over the attributes of `key`, which was set up for the same symbol. Id and place stay.
   void UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader);
@@ -65,8 +78,8 @@ public:
 
   // ---- Chain. The owner keeps its head and tail in step.
   // -----------------------------------------
-  CSymbolItem* Next() const { return next_; }
-  CSymbolItem* Previous() const { return previous_; }
+  CSymbolItem* Next() const { return rest_->next; }
+  CSymbolItem* Previous() const { return rest_->previous; }
   // Puts `item` behind this one, which is the last of its chain.
   void Append(CSymbolItem* item);
   // Takes `item`, a later one of the chain that this one heads, out of it.
@@ -83,28 +96,25 @@ public:
 private:
   std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
   void ReadNumbers(const CStaticKey& key);
+  int HeldNumber(int field) const;
   void GetHeldText(int index, CString& value) const;
   int AskNumber(int field, int& value) const;
   int AskText(int field, CString& value) const;
   int AskService(int field, CString& value) const;
   int AskTradeCode(CString& value) const;
 
-  tq::PackedText head_; // the key's first bytes
+  std::uint64_t head_; // the key's first bytes, as PackHead packs them
   std::uint32_t keyLength_;
   std::int32_t exchId_;
   CString id_;
   CString name_;
-  std::int32_t numbers_[tq::HeldNumberCount];
-
-  std::uint32_t number_;
+  tq::ItemRest* rest_;
+  std::int32_t kind_ = 0;
+  std::int32_t expiryDate_ = 0;
+  std::int32_t tradeLot_ = 0;
   std::int16_t decimals_ = 0;
-  std::uint8_t present_ = 0; // which of the held numbers and texts the service gave, see the body
+  std::uint8_t present_ = 0; // what the service gave, see the body
   char mark_ = ' ';          // FieldMark
-  CSymbolItem* next_ = nullptr;
-  CSymbolItem* previous_ = nullptr;
-  CSymbolItem* nextSame_ = nullptr;
-  CSymbolItem* lastSame_ = nullptr; // kept in the first item of a key, when there are more
-  std::shared_ptr<const tq::ItemTexts> texts_;
 };
 
-static_assert(sizeof(CSymbolItem) == 128);
+static_assert(sizeof(CSymbolItem) == 64);

@@ -4,18 +4,19 @@
 #include <string_view>
 
 #include "symboltable/TableSlots.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 
 // What a bare symbol that several default exchanges hold means.
 enum class BareSymbol { Refused, FirstDefault };
 
-// The symbol, or null. `id` is not empty; both are in upper case. Without `exchName` the id's
+// The symbol, or null. `id` is not empty. Without `exchName` the id's
 // suffix names the exchange, and failing that the default exchanges are asked.
-const CSymbolItem* FindSymbol(const TableSlots& slots, std::string_view id,
+const CSymbolItem* FindSymbol(const TableSlots& slots, const UpperText& id,
                               std::string_view exchName, BareSymbol rule);
 
-// The exchange that `id` names by its suffix, empty when it names none.
-std::string_view ExchangeIn(const TableSlots& slots, std::string_view id);
+// The exchange that `id` names by its suffix; empty when it names none.
+std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id);
 
 } // namespace tq

@@ -45,6 +45,7 @@ void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
   place.keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(place.id)).size());
   place.exchId = exchId_;
   place.number = arena_.TakePlace();
+  place.rest = arena_.RestAt(place.number);
   Append(new (arena_.PlaceAt(place.number)) CSymbolItem(key, place, reader));
 }
 
@@ -89,7 +90,8 @@ void CSymbolTable::Remove(std::string_view id) {
   CString copy = tq::ToCString(asked);
   tq::UpperBuffer buffer;
   // Held keys are in upper case, so the one that equals the asked key but for letter case is this.
-  const tq::SymbolKey key = tq::MakeKey(tq::UpperCased(copy, buffer));
+  const tq::UpperText upper = tq::UpperCased(copy, buffer);
+  const tq::SymbolKey key = tq::MakeKey(upper.text, upper.head);
   if (&ChainOf(asked) != &ChainOf(key.text))
     return;
   CSymbolItem* const item = FindItem(key);

@@ -58,7 +58,9 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
 
 std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) {
   const auto [symbol, suffix] = tq::SplitId(tq::ViewOf(id));
-  if (suffix.empty() || !slots_->HasNameNoCase(suffix))
+  CString upperSuffix = tq::ToCString(suffix);
+  upperSuffix.MakeUpper();
+  if (suffix.empty() || !slots_->HasUpperName(tq::ViewOf(upperSuffix)))
     return {id, CString()};
   return {tq::ToCString(symbol), tq::ToCString(suffix)};
 }

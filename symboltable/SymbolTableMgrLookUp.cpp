@@ -9,7 +9,7 @@ namespace {
 
 // The exchange's name in upper case, given or derived; no symbol is looked at. What is held is
 // shared.
-int GetExchangeName(const tq::TableSlots& slots, std::string_view id, const CString& given,
+int GetExchangeName(const tq::TableSlots& slots, const tq::UpperText& id, const CString& given,
                     std::string_view upperGiven, CString& value) {
   const bool isGiven = !upperGiven.empty();
   const std::string_view name = isGiven ? upperGiven : tq::ExchangeIn(slots, id);
@@ -30,8 +30,8 @@ const CSymbolItem* FindForNumber(const tq::TableSlots& slots, CString& id, CStri
     return nullptr;
   tq::UpperBuffer idBuffer;
   tq::UpperBuffer exchBuffer;
-  return tq::FindSymbol(slots, tq::UpperCased(id, idBuffer), tq::UpperCased(exchName, exchBuffer),
-                        tq::BareSymbol::FirstDefault);
+  return tq::FindSymbol(slots, tq::UpperCased(id, idBuffer),
+                        tq::UpperCased(exchName, exchBuffer).text, tq::BareSymbol::FirstDefault);
 }
 
 int GetLong(const CSymbolItem* item, int field, long& value) {
@@ -63,8 +63,8 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
     return 0;
   tq::UpperBuffer idBuffer;
   tq::UpperBuffer exchBuffer;
-  const std::string_view upperId = tq::UpperCased(id, idBuffer);
-  const std::string_view upperExch = tq::UpperCased(exchName, exchBuffer);
+  const tq::UpperText upperId = tq::UpperCased(id, idBuffer);
+  const std::string_view upperExch = tq::UpperCased(exchName, exchBuffer).text;
   if (field == FieldExchangeName)
     return GetExchangeName(*slots_, upperId, exchName, upperExch, value);
   const tq::BareSymbol rule =

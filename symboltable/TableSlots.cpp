@@ -5,29 +5,6 @@
 #include "symboltable/UpperText.h"
 
 namespace tq {
-namespace {
-
-constexpr std::size_t NameMask = 255;
-
-// The entry of the slot for which isName(slot) holds, or the free entry where it belongs.
-template <typename Index, typename IsName>
-std::size_t Probe(const Index& index, const SymbolKey& name, IsName isName) {
-  std::size_t at = name.hash & NameMask;
-  while (index[at] != 0 && !isName(index[at] - 1))
-    at = (at + 1) & NameMask;
-  return at;
-}
-
-// Enters a slot under its name unless a lower slot has that name already.
-template <typename Index, typename IsName>
-void Enter(Index& index, const SymbolKey& name, int slot, IsName isName) {
-  std::uint8_t& entry = index[Probe(index, name, isName)];
-  if (entry == 0)
-    entry = static_cast<std::uint8_t>(slot + 1);
-}
-
-} // namespace
-
 TableSlots::TableSlots() = default;
 TableSlots::~TableSlots() = default;
 
@@ -59,21 +36,31 @@ void TableSlots::Forget() {
   Reindex();
 }
 
-// The slots are gone through upwards, so that of equal names the lowest slot keeps the entry.
+// Enters a slot under its name unless a lower slot, entered before, has that name already.
+template <typename IsName>
+void TableSlots::Enter(NameIndex& index, std::string_view name, int slot, IsName isName) {
+  std::size_t at = NameHash(PackHead(name));
+  for (; index[at] != 0; at = (at + 1) % NameIndexSize)
+    if (isName(index[at] - 1))
+      return;
+  index[at] = static_cast<std::uint8_t>(slot + 1);
+}
+
 void TableSlots::Reindex() {
   byName_.fill(0);
   byUpperName_.fill(0);
   for (int slot = 0; slot < Count; ++slot) {
     if (At(slot) == nullptr)
       continue;
-    const SymbolKey name = MakeKey(NameAt(slot));
-    nameHeads_[static_cast<std::size_t>(slot)] = {name.head, name.text.size()};
-    Enter(byName_, name, slot, [&](int other) { return IsNameAt(other, name); });
+    const std::string_view name = NameAt(slot);
+    const PackedText head = PackHead(name);
+    nameHeads_[static_cast<std::size_t>(slot)] = {head, name.size()};
+    Enter(byName_, name, slot, [&](int other) { return IsNameAt(other, name, head); });
     CString upper = At(slot)->ExchName();
     upper.MakeUpper();
     std::string& upperName = upperNames_[static_cast<std::size_t>(slot)];
     upperName = ViewOf(upper);
-    Enter(byUpperName_, MakeKey(upperName), slot,
+    Enter(byUpperName_, upperName, slot,
           [&](int other) { return UpperNameAt(other) == upperName; });
   }
   FindDefaults();
@@ -91,11 +78,6 @@ void TableSlots::SetDefaults(std::vector<int> exchIds) {
   FindDefaults();
 }
 
-int TableSlots::FindName(std::string_view exchName) const {
-  const SymbolKey name = MakeKey(exchName);
-  return byName_[Probe(byName_, name, [&](int slot) { return IsNameAt(slot, name); })] - 1;
-}
-
 int TableSlots::FindId(int exchId) const {
   for (int slot = 0; slot < Count; ++slot)
     if (At(slot) != nullptr && At(slot)->ExchId() == exchId)
@@ -103,12 +85,10 @@ int TableSlots::FindId(int exchId) const {
   return None;
 }
 
-bool TableSlots::HasNameNoCase(std::string_view exchName) const {
-  CString copy = ToCString(exchName);
-  UpperBuffer buffer;
-  const std::string_view upper = UpperCased(copy, buffer);
-  const std::size_t at =
-      Probe(byUpperName_, MakeKey(upper), [&](int slot) { return UpperNameAt(slot) == upper; });
+bool TableSlots::HasUpperName(std::string_view upperName) const {
+  std::size_t at = NameHash(PackHead(upperName));
+  while (byUpperName_[at] != 0 && UpperNameAt(byUpperName_[at] - 1) != upperName)
+    at = (at + 1) % NameIndexSize;
   return byUpperName_[at] != 0;
 }
 

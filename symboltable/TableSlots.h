@@ -36,7 +36,13 @@ public:
   void Forget();
 
   // The slot of a table with exactly that name, or with that exchange id; None.
-  int FindName(std::string_view exchName) const;
+  int FindName(std::string_view exchName) const {
+    const PackedText head = PackHead(exchName);
+    std::size_t at = NameHash(head);
+    while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
+      at = (at + 1) % NameIndexSize;
+    return byName_[at] - 1;
+  }
   int FindId(int exchId) const;
   // By name or, when that is empty, by id.
   int Find(std::string_view exchName, int exchId) const {
@@ -47,8 +53,8 @@ public:
     const int slot = Find(ViewOf(table.ExchName()), None);
     return slot != None && At(slot) == &table;
   }
-  // Whether some table has that name but for letter case.
-  bool HasNameNoCase(std::string_view exchName) const;
+  // Whether some table has that name but for letter case; `upperName` is in upper case.
+  bool HasUpperName(std::string_view upperName) const;
 
   // The default exchanges, best first; kept when the tables change.
   void SetDefaults(std::vector<int> exchIds);
@@ -57,7 +63,11 @@ public:
 
 private:
   // Slots plus 1 by the hash of a name, 0 for no entry: at most half of it is taken.
-  using NameIndex = std::array<std::uint8_t, 256>;
+  static constexpr std::size_t NameIndexSize = 256;
+  using NameIndex = std::array<std::uint8_t, NameIndexSize>;
+  static std::size_t NameHash(PackedText head) {
+    return MixWords(head.high, head.low) >> 56; // below NameIndexSize
+  }
 
   struct NameHead {
     PackedText start; // of a table's name
@@ -65,12 +75,14 @@ private:
   };
 
   void Reindex();
+  template <typename IsName>
+  static void Enter(NameIndex& index, std::string_view name, int slot, IsName isName);
   void FindDefaults();
   std::string_view NameAt(int slot) const { return ViewOf(At(slot)->ExchName()); }
-  bool IsNameAt(int slot, const SymbolKey& name) const {
+  bool IsNameAt(int slot, std::string_view name, PackedText start) const {
     const NameHead& head = nameHeads_[static_cast<std::size_t>(slot)];
-    return head.start == name.head && head.size == name.text.size() &&
-           (head.size <= sizeof head.start || NameAt(slot) == name.text);
+    return head.start == start && head.size == name.size() &&
+           (head.size <= sizeof start || NameAt(slot) == name);
   }
   std::string_view UpperNameAt(int slot) const {
     return upperNames_[static_cast<std::size_t>(slot)];

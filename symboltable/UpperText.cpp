@@ -31,18 +31,18 @@ Letters Classify(std::string_view text) {
 
 } // namespace
 
-std::string_view UpperCasedCopy(CString& text, UpperBuffer& buffer) {
-  const std::string_view view = ViewOf(text);
+UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer) {
+  std::string_view view = ViewOf(text);
   const Letters letters = Classify(view);
-  if (letters == Letters::Upper)
-    return view;
-  if (letters == Letters::DoubleByte || view.size() > buffer.size()) {
+  if (letters == Letters::DoubleByte ||
+      (letters == Letters::SomeLower && view.size() > buffer.size())) {
     text.MakeUpper();
-    return ViewOf(text);
+    view = ViewOf(text);
+  } else if (letters == Letters::SomeLower) {
+    std::transform(view.begin(), view.end(), buffer.begin(), ToUpperLetter);
+    view = {buffer.data(), view.size()};
   }
-  for (std::size_t i = 0; i < view.size(); ++i)
-    buffer[i] = ToUpperLetter(view[i]);
-  return {buffer.data(), view.size()};
+  return {view, PackHead(view)};
 }
 
 void MakeUpper(CString& text) {

@@ -22,17 +22,25 @@ inline std::string_view ViewOf(const CString& text) {
   return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
 }
 
-// UpperCased for texts that are not short and in upper case.
-std::string_view UpperCasedCopy(CString& text, UpperBuffer& buffer);
+// A text with its first bytes as numbers.
+struct UpperText {
+  std::string_view text;
+  PackedText head;
+};
 
-// `text` in upper case. The result lies in `text` itself when that is in upper case already, in
-// `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
-// valid while both live.
-inline std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
+// UpperCased for texts that are not short and in upper case.
+UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer);
+
+// `text` in upper case. The result lies in `text` itself when that is in upper case already, in `buffer`
+// when it fits there and is plain ASCII, and else in `text`, which is changed then. It is valid while both
+// live.
+inline UpperText UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
+  if (view.empty())
+    return {view, {}};
   const PackedText head = PackHead(view);
   if (view.size() <= sizeof head && IsUpperAscii(head.low) && IsUpperAscii(head.high))
-    return view;
+    return {view, head};
   return UpperCasedCopy(text, buffer);
 }
 

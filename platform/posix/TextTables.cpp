@@ -1,8 +1,9 @@
 #include "platform/TextTables.h"
 
+#include "platform/XmlCharacters.h"
 #include "platform/services/tqCommon.h"
 
-#include <cerrno>
+#include <algorithm>
 #include <iconv.h>
 
 namespace tq {
@@ -32,15 +33,15 @@ std::size_t DecodeRun(iconv_t table, std::string_view text, std::string& utf8) {
   return text.size() - inLeft;
 }
 
-bool DecodeAll(iconv_t table, unsigned codePage, std::string_view text, std::string& utf8) {
+void DecodeAll(iconv_t table, unsigned codePage, std::string_view text, std::string& utf8) {
   for (;;) {
     text.remove_prefix(DecodeRun(table, text, utf8));
     if (text.empty())
-      return true;
-    if (codePage != CodePageGbk || text.front() != EuroInGbk)
-      return false;
-    utf8 += EuroInUtf8;
-    text.remove_prefix(1);
+      return;
+    const bool euro = codePage == CodePageGbk && text.front() == EuroInGbk;
+    utf8 += euro ? EuroInUtf8 : "?";
+    const char* const end = text.data() + text.size();
+    text.remove_prefix(std::max<std::size_t>(1, AnsiCharLength(codePage, text.data(), end)));
   }
 }
 
@@ -55,9 +56,9 @@ bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
   const iconv_t table = ::iconv_open("UTF-8", TableName(codePage));
   if (table == NoTable)
     return false;
-  const bool whole = DecodeAll(table, codePage, text, utf8);
+  DecodeAll(table, codePage, text, utf8);
   ::iconv_close(table);
-  return whole;
+  return true;
 }
 
 CharacterEncoder::CharacterEncoder(unsigned codePage)
@@ -68,7 +69,7 @@ CharacterEncoder::~CharacterEncoder() {
     ::iconv_close(table_);
 }
 
-std::size_t CharacterEncoder::Encode(char32_t character, char (&bytes)[2]) {
+std::size_t CharacterEncoder::EncodeAssigned(char32_t character, char (&bytes)[2]) {
   if (codePage_ == CodePageGbk && character == EuroSign) {
     bytes[0] = EuroInGbk;
     return 1;
@@ -82,8 +83,7 @@ std::size_t CharacterEncoder::Encode(char32_t character, char (&bytes)[2]) {
   std::size_t outLeft = sizeof bytes;
   if (table_ != NoTable && ::iconv(table_, &in, &inLeft, &out, &outLeft) == 0)
     return sizeof bytes - outLeft;
-  bytes[0] = '?';
-  return 1;
+  return 0;
 }
 
 } // namespace tq

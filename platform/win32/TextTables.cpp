@@ -13,13 +13,11 @@ bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
   if (text.empty())
     return true;
   const int length = static_cast<int>(text.size());
-  const int wideLength =
-      ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, text.data(), length, nullptr, 0);
+  const int wideLength = ::MultiByteToWideChar(codePage, 0, text.data(), length, nullptr, 0);
   if (wideLength <= 0)
     return false;
   std::wstring wide(static_cast<std::size_t>(wideLength), L'\0');
-  ::MultiByteToWideChar(codePage, MB_ERR_INVALID_CHARS, text.data(), length, wide.data(),
-                        wideLength);
+  ::MultiByteToWideChar(codePage, 0, text.data(), length, wide.data(), wideLength);
   const int size =
       ::WideCharToMultiByte(CP_UTF8, 0, wide.data(), wideLength, nullptr, 0, nullptr, nullptr);
   utf8.resize(static_cast<std::size_t>(size));
@@ -31,19 +29,15 @@ CharacterEncoder::CharacterEncoder(unsigned codePage) : codePage_(codePage), tab
 
 CharacterEncoder::~CharacterEncoder() = default;
 
-std::size_t CharacterEncoder::Encode(char32_t character, char (&bytes)[2]) {
-  constexpr char32_t firstOfTwo =
-      0x10000; // two UTF-16 units; no ANSI code page has such a character
+std::size_t CharacterEncoder::EncodeAssigned(char32_t character, char (&bytes)[2]) {
+  constexpr char32_t firstOfTwo = 0x10000; // two UTF-16 units; no ANSI code page has such a one
   const wchar_t wide = static_cast<wchar_t>(character);
   BOOL lacking = FALSE;
   int length = 0;
   if (character < firstOfTwo)
     length = ::WideCharToMultiByte(codePage_, WC_NO_BEST_FIT_CHARS, &wide, 1, bytes, sizeof bytes,
                                    "?", &lacking);
-  if (length > 0 && !lacking)
-    return static_cast<std::size_t>(length);
-  bytes[0] = '?';
-  return 1;
+  return length > 0 && !lacking ? static_cast<std::size_t>(length) : 0;
 }
 
 } // namespace tq

@@ -24,4 +24,10 @@ ReadResult ReadFile(const std::string& path, std::string& bytes) {
   return file.bad() ? ReadResult::Unreadable : ReadResult::Read;
 }
 
+bool WriteFile(const std::string& path, const std::string& bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file << bytes;
+  return file.flush().good();
+}
+
 } // namespace demo

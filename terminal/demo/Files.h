@@ -12,4 +12,6 @@ enum class ReadResult { Read, Missing, Unreadable };
 // All bytes of a file. `bytes` is emptied when there are none to be had.
 ReadResult ReadFile(const std::string& path, std::string& bytes);
 
+bool WriteFile(const std::string& path, const std::string& bytes);
+
 } // namespace demo

@@ -7,7 +7,7 @@ namespace demo {
 bool ParseOptions(int argc, char** argv, Options& options, std::string& error) {
   for (int i = 1; i < argc; ++i) {
     const std::string_view name = argv[i];
-    if (name != "--market" && name != "--data" && name != "--lang") {
+    if (name != "--market" && name != "--data" && name != "--edit" && name != "--lang") {
       error = "unknown argument " + std::string(name);
       return false;
     }
@@ -20,6 +20,8 @@ bool ParseOptions(int argc, char** argv, Options& options, std::string& error) {
       options.market = value;
     } else if (name == "--data") {
       options.data = value;
+    } else if (name == "--edit") {
+      options.edit = value;
     } else if (value == "tw" || value == "cn") {
       options.traditional = value == "tw";
     } else {
@@ -28,7 +30,7 @@ bool ParseOptions(int argc, char** argv, Options& options, std::string& error) {
     }
   }
   if (options.market.empty() || options.data.empty()) {
-    error = "usage: tqDemo --market DIR --data DIR [--lang tw|cn]";
+    error = "usage: tqDemo --market DIR --data DIR [--edit DIR] [--lang tw|cn]";
     return false;
   }
   return true;

@@ -8,6 +8,7 @@ namespace demo {
 struct Options {
   std::string market;      // directory of exchanges.tsv and symbols.tsv
   std::string data;        // directory of SymbolList.xml
+  std::string edit;        // empty directory for the editing session; none: no session
   bool traditional = true; // --lang tw or cn
 };
 

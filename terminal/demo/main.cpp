@@ -5,6 +5,8 @@
 #include <string>
 
 #include "terminal/StandIn.h"
+#include "terminal/demo/Combinations.h"
+#include "terminal/demo/Editing.h"
 #include "terminal/demo/Files.h"
 #include "terminal/demo/Options.h"
 #include "terminal/demo/Report.h"
@@ -63,5 +65,13 @@ int main(int argc, char** argv) {
   std::printf("tqSymbol on the market in %s, lists in %s, %s\n\n", options.market.c_str(),
               options.data.c_str(),
               options.traditional ? "Traditional Chinese (950)" : "Simplified Chinese (936)");
-  return ShowLibrary(options, path, before);
+  const int result = ShowLibrary(options, path, before);
+  if (result != 0 || options.edit.empty())
+    return result;
+  if (!demo::WriteFile(options.edit + "/SymbolList.xml", before))
+    return Fail(options.edit + ": cannot be written to");
+  if (!demo::ShowEditing(options.edit, error))
+    return Fail(error);
+  demo::PrintCombinations();
+  return 0;
 }

@@ -47,7 +47,7 @@ TEST_F(EditEntriesTest, EntryEditsSaveNothingAndTellNobody) {
   manager.SwapSymbolList("a", 0, 1);
   manager.ReplaceSymbolList("a", 0, "2330.TW");
   EXPECT_EQ(ReadWorking(), file);
-  ExpectNotified(0, 0, "");
+  ExpectNotNotified();
 }
 
 TEST_F(EditEntriesTest, SwappingExchangesTwoEntriesAndAnEntryWithItselfDoesNothing) {

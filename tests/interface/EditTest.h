@@ -66,6 +66,8 @@ protected:
     return rows;
   }
 
+  void ExpectNotNotified() { EXPECT_EQ(standin::Notifications().size(), notified_); }
+
   // Since the start the terminal was told so many times, the last time this.
   void ExpectNotified(size_t count, long code, const char* reason) {
     ASSERT_EQ(standin::Notifications().size(), notified_ + count);

@@ -169,7 +169,7 @@ TEST_F(ListIDText, WhatIsWrittenIsReadBack) {
 
 TEST_F(ListIDText, EveryShortTextIsRead) {
   const std::string alphabet("16,;x\xB3", 6);
-  for (int length = 0; length <= 6; ++length) {
+  for (int length = 0; length <= 5; ++length) {
     int count = 1;
     for (int i = 0; i < length; ++i)
       count *= static_cast<int>(alphabet.size());
@@ -177,10 +177,15 @@ TEST_F(ListIDText, EveryShortTextIsRead) {
       std::string text;
       for (int i = 0, rest = number; i < length; ++i, rest /= 6)
         text += alphabet[static_cast<std::size_t>(rest % 6)];
+      const auto expectValidUnlessTypeOneWithoutId = [&text](const CListID& list, int result) {
+        const bool bad = list.GetType() == ListIDUserList && list.GetID().IsEmpty();
+        EXPECT_EQ(result != 0, !bad) << text;
+      };
       CListID list;
-      EXPECT_EQ(list.FromString(text.c_str()) == 0, list.GetType() == 1 && list.GetID().IsEmpty());
-      EXPECT_EQ(list.FromStringForList(text.c_str()) == 0,
-                list.GetType() == 1 && list.GetID().IsEmpty());
+      const int shortResult = list.FromString(text.c_str());
+      expectValidUnlessTypeOneWithoutId(list, shortResult);
+      const int longResult = list.FromStringForList(text.c_str());
+      expectValidUnlessTypeOneWithoutId(list, longResult);
     }
   }
 }

@@ -57,7 +57,7 @@ TEST_F(ManagerLifeTest, EmptyAndNullDirectoriesTouchNoFile) {
 
 TEST_F(ManagerLifeTest, TablesAreBuiltOnlyWhenAskedFor) {
   StartWithoutTables();
-  EXPECT_EQ(standin::CountCalls("VLGetExch"), 0);
+  EXPECT_EQ(standin::CountCalls("VLGetBaseAttrs2"), 0);
   EXPECT_EQ(StartWithTables(), 1);
   CString id;
   EXPECT_NE(manager.GetSymbolTableMgr()->LookUpSymbolGetString(1, "2330.TW", "", id), 0);
@@ -102,7 +102,8 @@ TEST_F(ManagerLifeTest, EveryServiceCallOfInitFailingOnceIsSurvived) {
     const int result = StartWithTables();
     EXPECT_EQ(manager.GetSymbolListCount(1), result == 0 ? 0 : 2);
     EXPECT_EQ(ReadWorking(), file);
-    EXPECT_EQ(standin::OutstandingArrays(), 0);
+    // The exchange records that go with the default exchanges are kept, nothing else is.
+    EXPECT_LE(standin::OutstandingArrays(), 1);
     standin::FailCall("*", 0);
     ASSERT_EQ(StartWithTables(), 1);
     EXPECT_EQ(manager.GetSymbolListCount(1), 2);

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "tests/interface/SymbolTablesTest.h"
 
 namespace {
@@ -130,8 +132,9 @@ TEST_F(SymbolTablesLookUpTest, ValueOfASymbolThatIsNotFoundIsLeftAlone) {
   CString text("before");
   EXPECT_EQ(tables.LookUpSymbolGetString(FieldSymbolName, "2331", "TW", text), 0);
   EXPECT_STREQ(text, "before");
-  long value = 5000000000 & 0x7fffffffffffffff;
-  const long before = value;
+  // More than an int holds, where a long does.
+  constexpr long before = std::numeric_limits<long>::max();
+  long value = before;
   EXPECT_EQ(tables.LookUpSymbolGetValue(FieldTradeLot, "2331", "TW", value), 0);
   EXPECT_EQ(value, before);
 }

@@ -198,21 +198,24 @@ TEST_F(SymbolTablesUpdateTest, RemovalNeedsATable) {
 }
 
 TEST_F(SymbolTablesUpdateTest, ManySymbolsOfOneChainAreRemovedInTime) {
+  // Twelve zeros in front of each put all of them in one chain; they are removed from its end.
+  constexpr int count = 20000;
+  constexpr int firstNumber = 100000;
+  const auto code = [](int i) { return "000000000000" + std::to_string(firstNumber + i); };
   market = {};
   ListExchange(9, "BIG");
   std::string records;
-  for (int i = 0; i < 40000; ++i) {
-    // All digits of twelve zeros in front: one chain.
-    std::string code = "000000000000" + std::to_string(100000 + i);
-    List(9, code.c_str());
-    code.resize(recordSize, '\0');
-    records.insert(0, code); // from the chain's end
+  for (int i = 0; i < count; ++i) {
+    List(9, code(i).c_str());
+    records += Packed({code(count - 1 - i)});
   }
   Serve();
+  standin::RecordCalls(false);
   Start();
-  EXPECT_EQ(tables.RemoveSymbols(9, records.data(), 39999), 1);
-  EXPECT_EQ(tables.Id("000000000000100000", "BIG"), "000000000000100000.BIG");
-  EXPECT_EQ(tables.Id("000000000000100001", "BIG"), "");
+  EXPECT_EQ(tables.RemoveSymbols(9, records.data(), count - 1), 1);
+  EXPECT_EQ(tables.Id(code(0).c_str(), "BIG"), code(0) + ".BIG");
+  EXPECT_EQ(tables.Id(code(1).c_str(), "BIG"), "");
+  EXPECT_EQ(tables.Id(code(count - 1).c_str(), "BIG"), "");
 }
 
 } // namespace

@@ -189,7 +189,7 @@ TEST_F(SystemListsTest, UpdatingSeveralWithoutAMapDoesNothing) {
   const std::string file = ReadWorking();
   CMapStringToString names;
   EXPECT_EQ(manager.UpdateSystemList(nullptr, &names), 0);
-  ExpectNotified(0, 0, "");
+  ExpectNotNotified();
   EXPECT_EQ(ReadWorking(), file);
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "fuzz/IdStringInput.h"
+#include "fuzz/IdentifiersInput.h"
 #include "fuzz/ListFileInput.h"
 
 namespace {
@@ -54,6 +55,10 @@ TEST_F(FuzzCorpus, ListFilesLoadAndComeBackAsTheyWereSaved) {
 
 TEST_F(FuzzCorpus, IdStringsAreSplitAndResolvedAsTheirTextSays) {
   Replay("IdString", fuzz::CheckIdString);
+}
+
+TEST_F(FuzzCorpus, IdentifiersHaveAnAnswerAndAreReadBack) {
+  Replay("Identifiers", fuzz::CheckIdentifiers);
 }
 
 } // namespace

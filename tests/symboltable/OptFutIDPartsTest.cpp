@@ -9,8 +9,7 @@ protected:
   static int Format(const CString& code) {
     Checks id;
     const int passed = id.ChkCommIDFormat(code);
-    if (passed)
-      EXPECT_EQ(id.GetErrorCode(), 0) << code;
+    EXPECT_TRUE(!passed || id.GetErrorCode() == 0) << code;
     return passed || id.GetErrorCode() != 0 ? id.GetErrorCode() : -1;
   }
 

@@ -84,10 +84,8 @@ protected:
         merged = id.MergeID2(text, side, id1, 'S', id2, 'B', operation - 2, nullptr);
       else
         merged = id.MergeFuturID(text, side, id1, 'S', id2, 'B');
-      if (merged)
-        EXPECT_TRUE(!text.IsEmpty() && (side == 'B' || side == 'S'));
-      else
-        EXPECT_TRUE(text.IsEmpty() && side == '?');
+      EXPECT_EQ(merged != 0, !text.IsEmpty());
+      EXPECT_EQ(merged != 0, side == 'B' || side == 'S');
       EXPECT_TRUE(AllErrors.contains(id.GetErrorCode()));
     }
   }
@@ -150,8 +148,9 @@ TEST_F(OptFutIDShort, EveryCodeHasAFormat) {
       const int passed = id.ChkCommIDFormat(Text(text));
       EXPECT_TRUE(text.size() == 10 || !passed);
       EXPECT_EQ(passed || text.size() != 10, id.GetErrorCode() == 0);
-      if (passed)
+      if (passed) {
         EXPECT_TRUE(text[8] >= 'A' && text[8] <= 'X' && text[9] >= '0' && text[9] <= '9');
+      }
     });
 }
 

@@ -7,7 +7,14 @@
 namespace {
 
 using tq::UpperBuffer;
-using tq::UpperCased;
+
+std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
+  const tq::UpperText upper = tq::UpperCased(text, buffer);
+  const tq::PackedText head = tq::PackHead(upper.text);
+  EXPECT_EQ(upper.head.low, head.low);
+  EXPECT_EQ(upper.head.high, head.high);
+  return upper.text;
+}
 
 TEST(UpperText, UpperCaseTextIsNotCopied) {
   for (const char* each : {"", "2330.TW", "@[`{", "ABCDEFGHIJKLMNOPQRSTUVWXYZ.LONGER"}) {
