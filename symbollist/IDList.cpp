@@ -109,14 +109,16 @@ bool CIDList::Resolve() {
   records_ = NewRecords(capacity);
   tq::RecordIndex index(found);
   int row = 0;
-  for (int i = 0; i < tokens_.GetSize() && row < capacity; ++i) {
+  for (int i = 0; i < tokens_.GetSize(); ++i) {
     CString& token = tokens_[i];
-    if (tq::IsHeading(token.GetString(), token.GetLength())) {
-      std::memcpy(records_[row++].id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
+    const bool heading = tq::IsHeading(token.GetString(), token.GetLength());
+    if (!heading)
+      tq::NormaliseId(token);
+    if (row == capacity)
       continue;
-    }
-    tq::NormaliseId(token);
-    if (const SymbolInfo* record = index.Find(token))
+    if (heading)
+      std::memcpy(records_[row++].id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
+    else if (const SymbolInfo* record = index.Find(token))
       std::memcpy(&records_[row++], record, sizeof(SymbolInfo));
   }
   // A record that belongs to no token (the service answered with another id) gets no row: an empty

@@ -69,7 +69,7 @@ int COptFutID::ChkStraddle_Strangle(const CString& first, const CString& second,
   const bool straddle = tail.size() == tq::MonthCodeLength;
   if (head.size() != tq::OptionCodeLength || (!straddle && tail.size() != tq::StrikeMonthLength))
     return Report(OptFutStraddleLength);
-  const CString leg1 = first;
+  const CString& leg1 = first;
   const std::size_t shared = straddle ? tq::CommodityStrikeLength : tq::CommodityLength;
   const CString leg2 = CompleteLeg(head, shared, tail);
   if (!ChkTwoFormats(leg1, leg2))
@@ -91,7 +91,7 @@ int COptFutID::ChkReversals_Conversion(const CString& first, const CString& seco
   const std::string_view tail = tq::ViewOf(second);
   if (head.size() != tq::OptionCodeLength || tail.size() != tq::MonthCodeLength)
     return Report(OptFutReversalLength);
-  const CString leg1 = first;
+  const CString& leg1 = first;
   const CString leg2 = CompleteLeg(head, tq::CommodityStrikeLength, tail);
   if (!ChkTwoFormats(leg1, leg2))
     return 0;

@@ -32,12 +32,13 @@ char Opposite(char side) {
 // Legs by their lengths alone, of whatever was typed. `first` without a month code has a digit of the
 // strike where that would be.
 void CompleteUnchecked(const Typed& typed, CString& leg1, CString& leg2) {
-  constexpr int monthLength = tq::MonthCodeLength;
+  constexpr int monthLength{tq::MonthCodeLength};
   leg1 = typed.first;
   if (tq::IsDecimalDigit(leg1.GetAt(leg1.GetLength() - monthLength)))
     leg1 += typed.second.Right(monthLength);
   const bool hasStrike = typed.second.GetLength() == tq::StrikeMonthLength;
-  leg2 = leg1.Left(hasStrike ? tq::CommodityLength : tq::CommodityStrikeLength) + typed.second;
+  const std::size_t shared = hasStrike ? tq::CommodityLength : tq::CommodityStrikeLength;
+  leg2 = leg1.Left(static_cast<int>(shared)) + typed.second;
 }
 
 } // namespace

@@ -36,7 +36,7 @@ static_assert(sizeof(ItemRest) == 64);
 // What an item is made with, beside the service's key object.
 struct ItemPlace {
   ItemRest* rest;          // lives as long as the item
-  CString id;              // full id in upper case
+  const CString& id;       // full id in upper case
   std::uint32_t keyLength; // bytes of it that are the key in the item's table
   std::uint32_t number;    // the table's number for the item
   int exchId;              // stands in for an exchange number that the service does not give
@@ -44,8 +44,7 @@ struct ItemPlace {
 
 } // namespace tq
 
-// The members that a look-up compares and the common answers need stand in the first of the item's
-// two cache lines, the links in the second.
+// One cache line, with what a look-up compares and what is mostly asked for; the rest stands apart.
 class alignas(64) CSymbolItem final {
 public:
   // Copies the attributes out of `key`, which was set up.
@@ -76,8 +75,7 @@ public:
   // with `value` empty, "--" for fields 170, 171 and 179.
   int GetText(int field, CString& value, tq::IdPart part = tq::IdPart::Full) const;
 
-  // ---- Chain. The owner keeps its head and tail in step.
-  // -----------------------------------------
+  // The chain. The owner keeps its head and tail in step.
   CSymbolItem* Next() const { return rest_->next; }
   CSymbolItem* Previous() const { return rest_->previous; }
   // Puts `item` behind this one, which is the last of its chain.
@@ -87,8 +85,8 @@ public:
   // Takes this one, the first of its chain, out of it; returns the new first.
   CSymbolItem* LeaveAsHead();
 
-  // ---- Items with the same key, in chain order. Only the first of them is ever asked.
-  // --------------- Puts `item` behind all items with this one's key, which is the first of them.
+  // Items with the same key, in chain order. Only the first of them is ever asked.
+  // Puts `item` behind all items with this one's key, which is the first of them.
   void AppendSame(CSymbolItem* item);
   // Takes this one, the first, out; returns the new first or null.
   CSymbolItem* LeaveSame();

@@ -39,14 +39,16 @@ int CSymbolTable::ReadId(const CStaticKey& key, CString& id) const {
 }
 
 void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
-  tq::ItemPlace place;
-  if (!ReadId(key, place.id))
-    return;
-  place.keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(place.id)).size());
-  place.exchId = exchId_;
-  place.number = arena_.TakePlace();
-  place.rest = arena_.RestAt(place.number);
-  Append(new (arena_.PlaceAt(place.number)) CSymbolItem(key, place, reader));
+  CString id;
+  if (ReadId(key, id))
+    Insert(key, id, reader);
+}
+
+void CSymbolTable::Insert(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader) {
+  const std::uint32_t number = arena_.TakePlace();
+  const auto keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(id)).size());
+  const tq::ItemPlace place{arena_.RestAt(number), id, keyLength, number, exchId_};
+  Append(new (arena_.PlaceAt(number)) CSymbolItem(key, place, reader));
 }
 
 void CSymbolTable::Append(CSymbolItem* item) {

@@ -16,6 +16,8 @@
 #include "symboltable/SymbolItem.h"
 #include "symboltable/SymbolKey.h"
 
+struct BaseAttr;
+
 class CSymbolTable {
 public:
   // `exchName` is the text after the last "." of this exchange's full ids, as the service writes
@@ -78,6 +80,8 @@ private:
   Chain& ChainOf(std::string_view key) {
     return chains_[static_cast<std::size_t>(tq::BucketOf(key, HashMode()))];
   }
+  void InsertAll(std::span<const BaseAttr> records);
+  void Insert(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader);
   int ReadId(const CStaticKey& key, CString& id) const;
   void Append(CSymbolItem* item);
   void Unchain(CSymbolItem* item);

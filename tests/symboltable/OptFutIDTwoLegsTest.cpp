@@ -160,8 +160,10 @@ TEST_F(OptFutIDTwoLegs, StrikesOfTheServiceGoBeforeTheDigits) {
 TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessTheServiceHasBothStrikes) {
   List("ABO00000L6", {{ExtAttrWeekly, "V3=0.75"}});
   List("ABO00001L6", {{ExtAttrWeekly, "V4=W;V5=1"}});
+  List("ABO00002L6", {{ExtAttrWeekly, "V3=0.25"}});
   Checks id;
   EXPECT_EQ(id.ChkTwoCommID("ABO00001L6", 'B', "ABO00000L6", 'S'), 1);
+  EXPECT_EQ(id.ChkTwoCommID("ABO00002L6", 'B', "ABO00001L6", 'S'), 1);
   for (const char* operation : {"VLGetZUID", "VLGetExtendAttr", "CStockKey::ParseExtAttr"}) {
     List("ABO00001L6", {{ExtAttrWeekly, "V3=0.5"}});
     EXPECT_EQ(id.ChkTwoCommID("ABO00001L6", 'B', "ABO00000L6", 'S'), 0);

@@ -149,6 +149,7 @@ TEST_F(SymbolItemTest, HoldsTheServicesTexts) {
   Give(FieldContractMonth, "202612");
   Give(FieldCurrency, "TWD");
   Instrument().exchangeCode = "X2330";
+  Instrument().nameCn = Instrument().nameTw; // both code pages have it
   EXPECT_STREQ(Text(FieldSymbolId), "2330.TW");
   EXPECT_EQ(std::string(Text(FieldSymbolName)), standin::ToAnsi("台積電"));
   EXPECT_STREQ(Text(FieldMark), "S");
@@ -226,7 +227,7 @@ TEST_F(SymbolItemTest, NotesArePassedOnAsTheServiceGivesThem) {
   }
 }
 
-TEST_F(SymbolItemTest, EqualTextsAreSharedAndUpdatesDoNotReachOthers) {
+TEST_F(SymbolItemTest, TextsOfOneSymbolDoNotReachTheNext) {
   tq::ItemTextReader reader;
   CSymbolTable other("TW", 3);
   const TestRecord first("A", "TW");
