@@ -18,6 +18,12 @@ target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wc
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})
 
+if(NOT WIN32)
+  # Within one library its own functions are called directly: nobody replaces them from outside.
+  add_compile_options(-fno-semantic-interposition)
+  add_link_options(LINKER:-Bsymbolic-functions)
+endif()
+
 if(TQ_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

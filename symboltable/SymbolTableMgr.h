@@ -41,8 +41,7 @@ public:
   CSymbolTableMgr(const CSymbolTableMgr&) = delete;
   CSymbolTableMgr& operator=(const CSymbolTableMgr&) = delete;
 
-  // ---- Life cycle
-  // --------------------------------------------------------------------------------
+  // ---- Life cycle ----
 
   // Empties all slots and the default list; always 1. Tables that are present are forgotten, not
   // deleted: an owner who initialises again calls CleanALL first.
@@ -80,10 +79,9 @@ public:
   // for `exchId`.
   int RebuildSymbolTable(const CString& exchName, int exchId);
 
-  // ---- Incremental updates
-  // ----------------------------------------------------------------------- `symbols` is a packed
-  // array of `count` records of 19 bytes, each a symbol code, NUL-terminated unless it fills the
-  // record, blanks on either side ignored. It stays the caller's.
+  // ---- Incremental updates ----
+  // `symbols` is a packed array of `count` records of 19 bytes, each a symbol code, NUL-terminated
+  // unless it fills the record, blanks on either side ignored. It stays the caller's.
 
   // Adds the service's records of these symbols to the exchange's table. A symbol that is there
   // already is added again. An exchange without a table gets one and is loaded whole instead.
@@ -98,8 +96,7 @@ public:
   // Symbols that are not there are passed over; 0 only when the exchange has no table.
   int RemoveSymbols(int exchId, const char* symbols, int count);
 
-  // ---- Exchanges
-  // ---------------------------------------------------------------------------------
+  // ---- Exchanges ----
 
   // The name of the exchange with that id, asked of the service (not of the tables). 0, with `name`
   // as it was, when the service fails or lists no such exchange.
@@ -131,8 +128,7 @@ public:
   // the last of them in order of preference and is left alone when there is none.
   int GetDefaultExchange(const CString& symbol, CString& exchName);
 
-  // ---- Symbols
-  // -----------------------------------------------------------------------------------
+  // ---- Symbols ----
 
   // The full id of the first symbol, over all tables, whose name is `name` (letter case counts). 0,
   // with `id` as it was, when there is none or `name` is empty. Looks at every symbol: for rare

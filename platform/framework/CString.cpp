@@ -43,6 +43,8 @@ void CString::SetString(const char* text) {
 
 void CString::SetString(const char* text, int length) {
   const int kept = text == nullptr || length < 0 ? 0 : length;
+  if (kept == 0 && IsEmpty()) // the most frequent text that services hand out
+    return;
   if (!IsWritable(kept)) { // what is assigned may be a part of the text that is given up
     *this = CString(text, kept);
     return;

@@ -32,7 +32,14 @@ bool CountDown(Script& script, std::string_view operation) {
   return true;
 }
 
+// To be called whenever an order came or went.
+void NoteOrders() {
+  failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
+}
+
 } // namespace
+
+bool failuresOrdered = false;
 
 bool Recording() {
   return TheScript().recording;
@@ -42,13 +49,12 @@ void Record(std::string_view operation, std::string arguments) {
   TheScript().calls.push_back({std::string(operation), std::move(arguments)});
 }
 
-bool OrderedToFail(std::string_view operation) {
+bool CountAgainstOrders(std::string_view operation) {
   Script& script = TheScript();
-  if (script.countdowns.empty() && script.always.empty())
-    return false;
   // Both countdowns see the call, whichever of them strikes.
   const bool one = CountDown(script, operation);
   const bool every = CountDown(script, kEveryOperation);
+  NoteOrders();
   return one || every || script.always.contains(operation) ||
          script.always.contains(kEveryOperation);
 }
@@ -59,10 +65,12 @@ void FailCall(std::string_view operation, int n) {
   script.countdowns.erase(std::string(operation));
   if (n > 0)
     script.countdowns.emplace(operation, n);
+  NoteOrders();
 }
 
 void FailAlways(std::string_view operation) {
   TheScript().always.emplace(operation);
+  NoteOrders();
 }
 
 const std::vector<Call>& Calls() {
@@ -86,6 +94,7 @@ void RecordCalls(bool on) {
 
 void ResetScript() {
   TheScript() = Script();
+  NoteOrders();
 }
 
 } // namespace standin

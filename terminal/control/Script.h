@@ -11,9 +11,14 @@ namespace standin {
 
 TQSTANDIN_API bool Recording();
 TQSTANDIN_API void Record(std::string_view operation, std::string arguments);
-// Counts the call against the orders of FailCall and FailAlways. Costs next to nothing without
-// orders.
-TQSTANDIN_API bool OrderedToFail(std::string_view operation);
+// Whether there are any orders of FailCall and FailAlways; the second counts a call against them.
+extern TQSTANDIN_API bool failuresOrdered;
+TQSTANDIN_API bool CountAgainstOrders(std::string_view operation);
+
+// Whether this call has to fail. Reading an attribute asks too, so without orders it must cost nothing.
+inline bool OrderedToFail(std::string_view operation) {
+  return failuresOrdered && CountAgainstOrders(operation);
+}
 
 inline void AppendArgument(std::string& text, const char* argument) {
   text += argument ? argument : "(null)";

@@ -159,12 +159,16 @@ int CStaticKey::SetUpTrade(int exchId, const char* code) {
 
 int CStaticKey::GetFieldString(int field, CString& value) const {
   const KeyState& state = StateOf(state_);
-  value = "";
+  bool read = false;
   if (OrderedToFail("CStaticKey::GetFieldString"))
-    return 0;
-  if (field == FieldTradeCode && state.tradeCode[0] != '\0')
-    return ReadTradeField(field, state.tradeExchId, state.tradeCode, value) ? 1 : 0;
-  return state.record && RecordText(Head(*state.record), field, value) ? 1 : 0;
+    read = false;
+  else if (field == FieldTradeCode && state.tradeCode[0] != '\0')
+    read = ReadTradeField(field, state.tradeExchId, state.tradeCode, value);
+  else
+    read = state.record && RecordText(Head(*state.record), field, value);
+  if (!read)
+    value = "";
+  return read ? 1 : 0;
 }
 
 int CStaticKey::GetFieldInt(int field, int& value) const {

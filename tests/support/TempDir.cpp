@@ -25,7 +25,9 @@ TempDir::TempDir(const std::string& name)
   EXPECT_TRUE(tempfiles::MakeDirectory(path_)) << path_;
 }
 
-TempDir::~TempDir() { Remove(); }
+TempDir::~TempDir() {
+  Remove();
+}
 
 void TempDir::Remove() {
   if (!outer_.empty())

@@ -227,20 +227,23 @@ TEST_F(SymbolItemTest, NotesArePassedOnAsTheServiceGivesThem) {
   }
 }
 
-TEST_F(SymbolItemTest, TextsOfOneSymbolDoNotReachTheNext) {
-  tq::ItemTextReader reader;
-  CSymbolTable other("TW", 3);
-  const TestRecord first("A", "TW");
-  const TestRecord second("B", "TW");
-  for (const TestRecord* record : {&first, &second}) {
-    CStaticKey key;
-    key.Setup(&record->bytes);
-    other.Insert(key, reader);
-  }
-  EXPECT_STREQ(IdOf(other.FindId("A")), "A.TW");
-  CString code;
-  other.FindId("B")->GetText(FieldExchangeCode, code);
-  EXPECT_STREQ(code, "");
+TEST_F(SymbolItemTest, UpdateOfOneSymbolLeavesOthersThatHadTheSameTexts) {
+  for (standin::Instrument& instrument : market.instruments)
+    instrument.fields = {{FieldIndustry, "24"}, {FieldCurrency, "TWD"}};
+  const CSymbolItem& updated = Item();
+  Instrument().fields = {{FieldIndustry, "25"}};
+  standin::SetMarket(market);
+  ASSERT_EQ(table.Update("2330.TW"), 1);
+  CString text;
+  updated.GetText(FieldIndustry, text);
+  EXPECT_STREQ(text, "25");
+  updated.GetText(FieldCurrency, text);
+  EXPECT_STREQ(text, "");
+  const CSymbolItem* const other = table.FindId("2317");
+  other->GetText(FieldIndustry, text);
+  EXPECT_STREQ(text, "24");
+  other->GetText(FieldCurrency, text);
+  EXPECT_STREQ(text, "TWD");
 }
 
 } // namespace
