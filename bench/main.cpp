@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "bench/Editing.h"
 #include "bench/ListFiles.h"
 #include "bench/LookUp.h"
 #include "bench/Options.h"
@@ -27,6 +28,7 @@ void MeasureUniverse(bench::Report& report, bench::Universe universe, bool quick
   standin::SetMarket(std::move(universe.market));
   bench::MeasureStartUp(report, symbols, startUps);
   bench::MeasureLookUps(report, standin::CurrentMarket(), lookUps);
+  bench::MeasureSorting(report, lookUps);
 }
 
 void MeasureGenerated(bench::Report& report, const bench::Options& options,
@@ -39,6 +41,7 @@ void MeasureGenerated(bench::Report& report, const bench::Options& options,
   report.Section("list file of " + std::to_string(size.lists) + " lists of " +
                  std::to_string(size.symbols) + " symbols of that universe");
   bench::MeasureListFiles(report, standin::CurrentMarket(), size, directory, repetitions);
+  bench::MeasureEditing(report, standin::CurrentMarket(), directory, options.quick);
   if (!options.quick)
     MeasureUniverse(report, bench::GenerateUniverse(1'000'000), options.quick);
 }
