@@ -5,18 +5,15 @@
 // Conventions that hold for the whole class
 //  1. All calls come from the terminal's user-interface thread. There is no locking and no thread.
 //  2. Text is in the process's ANSI code page. A "full id" is code, ".", exchange name ("2330.TW");
-//  a
-//     "bare" symbol is the code alone.
-//  3. Results are int: non-zero for success or "yes", 0 for failure or "no", unless a count is
-//  said.
+//     a "bare" symbol is the code alone.
+//  3. Results are int: non-zero for success or "yes", 0 for failure or "no", unless a count is said.
 //     Nothing throws. A failing operation leaves the tables as they were, except that a table whose
 //     loading fails is left empty; output arguments of a failing look-up are described there.
 //  4. Exchange ids are the service's numbers. Only 1 to 127 can ever be entitled.
 //  5. There are 128 slots for tables. A slot's number says nothing: a table is found by its
-//  exchange's
-//     name or id, and when several would do, the one in the lowest slot answers.
+//     exchange's name or id, and when several would do, the one in the lowest slot answers.
 //  6. Every symbol is held once per time that the service listed it; of equal ones the first
-//  answers.
+//     answers.
 #pragma once
 
 #include <memory>

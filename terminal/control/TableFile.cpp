@@ -92,7 +92,7 @@ bool TableFile::Split(std::string_view line) {
 }
 
 bool TableFile::Refuse(std::string_view reason) {
-  error_ = name_ + ":" + std::to_string(line_) + ": ";
+  error_ = name_ + (line_ > 0 ? ":" + std::to_string(line_) : "") + ": ";
   error_ += reason;
   return false;
 }

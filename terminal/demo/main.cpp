@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
   standin::SetTraditional(options.traditional);
   standin::Market market;
   if (!standin::LoadMarket(options.market, market, error))
-    return Fail(error);
+    return Fail(options.market + "/" + error);
   standin::SetMarket(std::move(market));
   std::string before;
   const std::string path = options.data + "/SymbolList.xml";
