@@ -3,19 +3,19 @@
 namespace tq {
 
 ItemArena::Block ItemArena::MakeBlock(std::size_t count) {
-  return {std::make_unique_for_overwrite<Place<CSymbolItem>[]>(count),
-          std::make_unique_for_overwrite<Place<ItemRest>[]>(count)};
+  return std::make_unique_for_overwrite<Place[]>(2 * count);
 }
 
 void* ItemArena::LaterPlaceAt(std::uint32_t number) const {
   const std::uint32_t later = number - firstCount_;
-  return &later_[later / LaterCount].items[later % LaterCount];
+  return &later_[later / LaterCount][later % LaterCount];
 }
 
 ItemRest* ItemArena::RestAt(std::uint32_t number) const {
   const std::uint32_t later = number - firstCount_;
-  void* const place = number < firstCount_ ? &first_.rests[number]
-                                           : &later_[later / LaterCount].rests[later % LaterCount];
+  void* const place = number < firstCount_
+                          ? &first_[std::size_t{firstCount_} + number]
+                          : &later_[later / LaterCount][LaterCount + later % LaterCount];
   return static_cast<ItemRest*>(place);
 }
 

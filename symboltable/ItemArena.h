@@ -26,7 +26,7 @@ public:
   void ReturnPlace(std::uint32_t number);
 
   void* PlaceAt(std::uint32_t number) const {
-    return number < firstCount_ ? &first_.items[number] : LaterPlaceAt(number);
+    return number < firstCount_ ? &first_[number] : LaterPlaceAt(number);
   }
   // The place of the item's other half.
   ItemRest* RestAt(std::uint32_t number) const;
@@ -38,12 +38,13 @@ public:
 private:
   static constexpr std::uint32_t LaterCount = 64; // items in a later block
 
-  template <typename Part> struct alignas(Part) Place { std::byte bytes[sizeof(Part)]; };
-  // The halves stand apart, so that look-ups find more of the first ones in a cache.
-  struct Block {
-    std::unique_ptr<Place<CSymbolItem>[]> items;
-    std::unique_ptr<Place<ItemRest>[]> rests;
+  static_assert(sizeof(CSymbolItem) == sizeof(ItemRest));
+  struct alignas(CSymbolItem) Place {
+    std::byte bytes[sizeof(CSymbolItem)];
   };
+  // All items of the block and behind them, in the same order, their other halves: standing apart, so that
+  // look-ups find more of the first ones in a cache.
+  using Block = std::unique_ptr<Place[]>;
 
   static Block MakeBlock(std::size_t count);
   void* LaterPlaceAt(std::uint32_t number) const;

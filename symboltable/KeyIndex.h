@@ -23,12 +23,18 @@ public:
   // Empties the index and makes room for `count` keys, so that adding them moves nothing.
   void Reset(std::size_t count);
 
+  // Fetches what Find looks at first, for callers who go on with other work.
+  void Prefetch(std::uint32_t hash) const {
+    if (groupCount_ != 0)
+      __builtin_prefetch(&groups_[hash & (groupCount_ - 1)]);
+  }
+
   // The node with that hash for which isMatch(node) holds; NoNode when there is none.
   template <typename IsMatch> std::uint32_t Find(std::uint32_t hash, IsMatch isMatch) const {
     for (std::size_t probed = 0, at = hash; probed < groupCount_; ++probed, ++at) {
       const Group& group = groups_[at & (groupCount_ - 1)];
-      for (unsigned slots = group.SlotsWith(TagOf(hash)); slots != 0; slots &= slots - 1) {
-        const std::uint32_t node = group.nodes[std::countr_zero(slots)];
+      for (std::uint64_t slots = group.SlotsWith(TagOf(hash)); slots != 0; slots &= slots - 1) {
+        const std::uint32_t node = group.nodes[Group::FirstOf(slots)];
         if (isMatch(node))
           return node;
       }
@@ -64,8 +70,9 @@ private:
     std::uint32_t passed;
     std::uint32_t nodes[SlotCount];
 
-    // A bit for each slot with that tag.
-    unsigned SlotsWith(std::uint8_t tag) const;
+    // A bit for each slot with that tag; FirstOf is the slot of the lowest one.
+    std::uint64_t SlotsWith(std::uint8_t tag) const;
+    static std::size_t FirstOf(std::uint64_t slots);
     int SlotOf(std::uint32_t hash, std::uint32_t node) const; // -1 when it is not here
   };
 
@@ -102,16 +109,19 @@ private:
   std::size_t worn_ = 0; // nodes removed from groups whose passed bits have stayed
 };
 
-inline unsigned KeyIndex::Group::SlotsWith(std::uint8_t tag) const {
-  // Brings the top bits of the eight bytes together.
-  const auto gather = [](std::uint64_t bits) {
-    return static_cast<unsigned>(bits * 0x0002040810204081u >> 56);
-  };
+inline std::uint64_t KeyIndex::Group::SlotsWith(std::uint8_t tag) const {
   std::uint64_t first;
   std::uint32_t rest;
   std::memcpy(&first, tags, sizeof first);
   std::memcpy(&rest, tags + sizeof first, sizeof rest);
-  return gather(BytesEqual(first, tag)) | (gather(BytesEqual(rest, tag)) & 0xfu) << 8;
+  // The first eight slots have the lowest bit of a byte, the others the next one. No tag is 0, as what
+  // `rest` lacks of eight bytes is.
+  return BytesEqual(first, tag) >> 7 | BytesEqual(rest, tag) >> 6;
+}
+
+inline std::size_t KeyIndex::Group::FirstOf(std::uint64_t slots) {
+  const auto bit = static_cast<std::size_t>(std::countr_zero(slots));
+  return bit / 8 + bit % 8 * 8;
 }
 
 } // namespace tq

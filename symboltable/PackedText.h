@@ -50,14 +50,12 @@ inline PackedText PackHead(std::string_view text) {
 // The head of the first `size` bytes of a text with that head.
 inline PackedText CutHead(PackedText head, std::size_t size) {
   constexpr std::size_t half = sizeof(std::uint64_t);
-  const auto cut = [](std::uint64_t word, std::size_t kept) {
-    return word & ((std::uint64_t{1} << (8 * kept)) - 1);
-  };
   if (size >= 2 * half)
     return head;
-  if (size >= half)
-    return {head.low, cut(head.high, size - half)};
-  return {cut(head.low, size), 0};
+  // Of the word in which the cut is. Without a branch on the half, which differs from text to text.
+  const std::uint64_t kept = (std::uint64_t{1} << 8 * (size % half)) - 1;
+  const bool isLong = size >= half;
+  return {head.low & (isLong ? ~std::uint64_t{0} : kept), head.high & (isLong ? kept : 0)};
 }
 
 // What follows treats the eight bytes of a word at once.
@@ -73,15 +71,22 @@ constexpr std::uint64_t BytesEqual(std::uint64_t word, std::uint8_t byte) {
   return ~(((difference & ~TopBits) + ~TopBits) | difference | ~TopBits);
 }
 
+// The same for a word and a byte without top bits, in half the steps.
+constexpr std::uint64_t AsciiBytesEqual(std::uint64_t ascii, std::uint8_t byte) {
+  return ~((ascii ^ RepeatByte(byte)) + ~TopBits) & TopBits;
+}
+
 // The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f sets the top bit of
 // a byte from 'a' on, adding 5 that of one behind 'z'.
 constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
   return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & TopBits;
 }
 
-// Whether a word, without bytes from 0x80 on, has no letter of lower case.
-constexpr bool IsUpperAscii(std::uint64_t word) {
-  return (word & TopBits) == 0 && LowerLetters(word) == 0;
+// Whether sixteen bytes are ASCII without a letter of lower case.
+constexpr bool IsUpperAscii(PackedText head) {
+  // A top bit disturbs what LowerLetters says, but then it is of no interest.
+  return (((head.low | head.high) & TopBits) | LowerLetters(head.low) | LowerLetters(head.high)) ==
+         0;
 }
 
 // One step of a hash, whose upper bits are the better ones.

@@ -46,19 +46,25 @@ unsigned BitOf(int field) {
   }
 }
 
+std::uint32_t DistanceTo(const tq::ItemRest* rest, const CSymbolItem* item) {
+  const auto bytes =
+      reinterpret_cast<const std::byte*>(rest) - reinterpret_cast<const std::byte*>(item);
+  return static_cast<std::uint32_t>(static_cast<std::size_t>(bytes) / sizeof(tq::ItemRest));
+}
+
 } // namespace
 
 CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
                          tq::ItemTextReader& reader)
-    : keyLength_(place.keyLength), exchId_(place.exchId), id_(place.id),
-      rest_(new (place.rest) tq::ItemRest) {
-  head_ = tq::PackHead(Key()).low;
-  rest_->number = place.number;
+    : code_(tq::MakeKey(tq::ViewOf(place.id).substr(0, place.keyLength)).code), id_(place.id),
+      restAt_(DistanceTo(place.rest, this)), exchId_(place.exchId) {
+  new (place.rest) tq::ItemRest;
+  Rest().number = place.number;
   UpdateFrom(key, reader);
 }
 
 CSymbolItem::~CSymbolItem() {
-  std::destroy_at(rest_);
+  std::destroy_at(&Rest());
 }
 
 void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) {
@@ -66,7 +72,7 @@ void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) 
   key.GetFieldString(FieldSymbolName, name_);
   mark_ = reader.ReadLetter(key, FieldMark);
   bool codeIsSymbol = false;
-  rest_->texts = reader.Read(key, Symbol(), codeIsSymbol);
+  Rest().texts = reader.Read(key, Symbol(), codeIsSymbol);
   if (codeIsSymbol)
     present_ |= static_cast<std::uint8_t>(CodeIsSymbolBit);
 }
@@ -80,11 +86,11 @@ void CSymbolItem::ReadNumbers(const CStaticKey& key) {
     return number;
   };
   kind_ = read(FieldKind);
-  rest_->board = read(FieldBoard);
-  rest_->legExchange = read(FieldLegExchange);
+  Rest().board = read(FieldBoard);
+  Rest().legExchange = read(FieldLegExchange);
   expiryDate_ = read(FieldExpiryDate);
   tradeLot_ = read(FieldTradeLot);
-  rest_->priceScale = read(FieldPriceScale);
+  Rest().priceScale = read(FieldPriceScale);
   int decimals = 0;
   if (key.GetFieldInt(FieldDecimals, decimals))
     present |= DecimalsBit;
@@ -103,13 +109,13 @@ int CSymbolItem::HeldNumber(int field) const {
   case FieldKind:
     return kind_;
   case FieldBoard:
-    return rest_->board;
+    return Rest().board;
   case FieldLegExchange:
-    return rest_->legExchange;
+    return Rest().legExchange;
   case FieldExpiryDate:
     return expiryDate_;
   case FieldPriceScale:
-    return rest_->priceScale;
+    return Rest().priceScale;
   default:
     return decimals_;
   }
@@ -147,39 +153,39 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
 void CSymbolItem::GetHeldText(int index, CString& value) const {
   if (index == tq::ExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
     value.SetString(id_.GetString(), static_cast<int>(Symbol().size()));
-  else if (rest_->texts)
-    value = rest_->texts->texts[index];
+  else if (Rest().texts)
+    value = Rest().texts->texts[index];
   else
     value.Empty();
 }
 
 void CSymbolItem::Append(CSymbolItem* item) {
-  rest_->next = item;
-  item->rest_->previous = this;
+  Rest().next = item;
+  item->Rest().previous = this;
 }
 
 void CSymbolItem::RemoveFromChain(CSymbolItem* item) {
-  const tq::ItemRest& links = *item->rest_;
-  links.previous->rest_->next = links.next;
+  const tq::ItemRest& links = item->Rest();
+  links.previous->Rest().next = links.next;
   if (links.next != nullptr)
-    links.next->rest_->previous = links.previous;
+    links.next->Rest().previous = links.previous;
 }
 
 CSymbolItem* CSymbolItem::LeaveAsHead() {
-  if (rest_->next != nullptr)
-    rest_->next->rest_->previous = nullptr;
-  return rest_->next;
+  if (Rest().next != nullptr)
+    Rest().next->Rest().previous = nullptr;
+  return Rest().next;
 }
 
 void CSymbolItem::AppendSame(CSymbolItem* item) {
-  CSymbolItem* const last = rest_->lastSame != nullptr ? rest_->lastSame : this;
-  last->rest_->nextSame = item;
-  rest_->lastSame = item;
+  CSymbolItem* const last = Rest().lastSame != nullptr ? Rest().lastSame : this;
+  last->Rest().nextSame = item;
+  Rest().lastSame = item;
 }
 
 CSymbolItem* CSymbolItem::LeaveSame() {
-  CSymbolItem* const next = rest_->nextSame;
-  if (next != nullptr && rest_->lastSame != next)
-    next->rest_->lastSame = rest_->lastSame;
+  CSymbolItem* const next = Rest().nextSame;
+  if (next != nullptr && Rest().lastSame != next)
+    next->Rest().lastSame = Rest().lastSame;
   return next;
 }

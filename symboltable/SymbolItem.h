@@ -2,6 +2,7 @@
 // chain.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -35,7 +36,7 @@ static_assert(sizeof(ItemRest) == 64);
 
 // What an item is made with, beside the service's key object.
 struct ItemPlace {
-  ItemRest* rest;          // lives as long as the item
+  ItemRest* rest;          // behind the item in one block of memory, and lives as long
   const CString& id;       // full id in upper case
   std::uint32_t keyLength; // bytes of it that are the key in the item's table
   std::uint32_t number;    // the table's number for the item
@@ -54,14 +55,14 @@ public:
   CSymbolItem& operator=(const CSymbolItem&) = delete;
 
   // The key under which the table holds it: the start of the id, and never changed.
-  std::string_view Key() const { return {id_.GetString(), keyLength_}; }
+  std::string_view Key() const { return {id_.GetString(), tq::SizeOf(code_)}; }
   // Whether the key is this one, letter case included.
   bool HasKey(const tq::SymbolKey& key) const {
-    return head_ == key.head.low && keyLength_ == key.text.size() &&
-           (keyLength_ <= sizeof head_ || Key() == key.text);
+    // Whether the code is enough is asked of `key`, which is at hand long before this item's memory is.
+    return code_ == key.code && (key.text.size() <= tq::CodedBytes || Key() == key.text);
   }
   const CString& Name() const { return name_; }
-  std::uint32_t Number() const { return rest_->number; }
+  std::uint32_t Number() const { return Rest().number; }
 
   // Takes over the attributes of `key`, which was set up for the same symbol. Id and place stay.
   void UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader);
@@ -76,8 +77,8 @@ public:
   int GetText(int field, CString& value, tq::IdPart part = tq::IdPart::Full) const;
 
   // The chain. The owner keeps its head and tail in step.
-  CSymbolItem* Next() const { return rest_->next; }
-  CSymbolItem* Previous() const { return rest_->previous; }
+  CSymbolItem* Next() const { return Rest().next; }
+  CSymbolItem* Previous() const { return Rest().previous; }
   // Puts `item` behind this one, which is the last of its chain.
   void Append(CSymbolItem* item);
   // Takes `item`, a later one of the chain that this one heads, out of it.
@@ -92,6 +93,12 @@ public:
   CSymbolItem* LeaveSame();
 
 private:
+  // By distance, which leaves room for all of the code in the one cache line.
+  tq::ItemRest& Rest() const {
+    const std::byte* const at = reinterpret_cast<const std::byte*>(this);
+    return *reinterpret_cast<tq::ItemRest*>(
+        const_cast<std::byte*>(at + restAt_ * sizeof(tq::ItemRest)));
+  }
   std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
   void ReadNumbers(const CStaticKey& key);
   int HeldNumber(int field) const;
@@ -101,12 +108,11 @@ private:
   int AskService(int field, CString& value) const;
   int AskTradeCode(CString& value) const;
 
-  std::uint64_t head_; // the key's first bytes, as PackHead packs them
-  std::uint32_t keyLength_;
-  std::int32_t exchId_;
+  tq::PackedText code_; // of the key
   CString id_;
   CString name_;
-  tq::ItemRest* rest_;
+  std::uint32_t restAt_; // how many times its size the other half stands behind this one
+  std::int32_t exchId_;
   std::int32_t kind_ = 0;
   std::int32_t expiryDate_ = 0;
   std::int32_t tradeLot_ = 0;

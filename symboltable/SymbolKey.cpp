@@ -7,6 +7,12 @@
 #include "symboltable/UpperText.h"
 
 namespace tq {
+std::uint64_t MixRest(std::uint64_t state, std::string_view text) {
+  for (std::size_t at = sizeof state; at < text.size(); at += sizeof state)
+    state = MixWords(state, PackWord(text.substr(at)));
+  return state;
+}
+
 IdParts SplitLongId(std::string_view id) {
   const char* const end = id.data() + id.size();
   const char* const dot = FindLastChar(id.data(), end, '.');

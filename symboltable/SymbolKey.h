@@ -9,19 +9,41 @@
 
 namespace tq {
 
+// Keys up to this size are told apart by their codes alone.
+constexpr std::size_t CodedBytes = sizeof(PackedText) - 1;
+
 // A key with what a look-up compares before it looks at the text; see MakeKey.
 struct SymbolKey {
   std::string_view text;
-  PackedText head;    // the first sixteen bytes: all of nearly every key
+  PackedText code;    // see CodeOf
   std::uint32_t hash; // of all bytes
 };
 
+// The top byte of a code: the size of a key up to CodedBytes, whose bytes are the others, or this.
+constexpr std::uint64_t LongKey = 0xff;
+constexpr int SizeShift = 56;
+
+// A key in two words: all of nearly every key. A longer one has its first eight bytes and its size there.
+inline PackedText CodeOf(std::size_t size, PackedText head) {
+  const bool isLong = size > CodedBytes;
+  return {head.low, isLong ? LongKey << SizeShift | static_cast<std::uint32_t>(size)
+                           : std::uint64_t{size} << SizeShift | head.high};
+}
+inline std::size_t SizeOf(PackedText code) {
+  const std::uint64_t size = code.high >> SizeShift;
+  return size != LongKey ? size : static_cast<std::uint32_t>(code.high);
+}
+
+// What MakeKey adds to the hash of a code for the bytes that are not in it.
+std::uint64_t MixRest(std::uint64_t state, std::string_view text);
+
 // `head` is PackHead(text), for callers who have it.
 inline SymbolKey MakeKey(std::string_view text, PackedText head) {
-  std::uint64_t state = MixWords(MixWords(text.size(), head.low), head.high);
-  for (std::size_t at = sizeof head; at < text.size(); at += sizeof(std::uint64_t))
-    state = MixWords(state, PackWord(text.substr(at)));
-  return {text, head, static_cast<std::uint32_t>(state >> 32)};
+  const PackedText code = CodeOf(text.size(), head);
+  std::uint64_t state = MixWords(MixWords(0, code.low), code.high);
+  if (text.size() > CodedBytes)
+    state = MixRest(state, text);
+  return {text, code, static_cast<std::uint32_t>(state >> 32)};
 }
 inline SymbolKey MakeKey(std::string_view text) {
   return MakeKey(text, PackHead(text));
@@ -40,16 +62,26 @@ IdParts SplitLongId(std::string_view id);
 inline IdParts SplitId(std::string_view id, PackedText head) {
   if (id.size() > sizeof head || ((head.low | head.high) & TopBits) != 0)
     return SplitLongId(id);
-  const std::uint64_t lowDots = BytesEqual(head.low, '.');
-  const std::uint64_t highDots = BytesEqual(head.high, '.');
+  const std::uint64_t lowDots = AsciiBytesEqual(head.low, '.');
+  const std::uint64_t highDots = AsciiBytesEqual(head.high, '.');
   if ((lowDots | highDots) == 0)
     return {id, {}};
-  const int zeros = highDots != 0 ? std::countl_zero(highDots) : 64 + std::countl_zero(lowDots);
-  const std::size_t dot = sizeof head - 1 - static_cast<std::size_t>(zeros) / 8;
+  // The last one. Without a branch on the half, which differs from id to id.
+  const bool isHigh = highDots != 0;
+  const int zeros = std::countl_zero(isHigh ? highDots : lowDots);
+  const std::size_t dot = (isHigh ? 15u : 7u) - static_cast<std::size_t>(zeros) / 8;
   return {{id.data(), dot}, {id.data() + dot + 1, id.size() - dot - 1}};
 }
 inline IdParts SplitId(std::string_view id) {
   return SplitId(id, PackHead(id));
+}
+
+// Whether a short id of ASCII has exactly one "."; false for all others.
+inline bool HasSingleDot(std::string_view id, PackedText head) {
+  if (id.size() > sizeof head || ((head.low | head.high) & TopBits) != 0)
+    return false;
+  const std::uint64_t dots = AsciiBytesEqual(head.low, '.') >> 1 | AsciiBytesEqual(head.high, '.');
+  return dots != 0 && (dots & (dots - 1)) == 0;
 }
 
 // The key of `id` in the table of an exchange: the symbol alone when the suffix is the exchange's name

@@ -54,6 +54,8 @@ public:
   std::string_view KeyOf(std::string_view id) const { return tq::KeyOf(id, tq::ViewOf(exchName_)); }
   // The symbol with this key, or null. Letter case matters: ids are held in upper case.
   const CSymbolItem* Find(const tq::SymbolKey& key) const { return FindItem(key); }
+  // Fetches what Find looks at first, for callers who ask several tables.
+  void Prefetch(const tq::SymbolKey& key) const { index_.Prefetch(key.hash); }
   const CSymbolItem* FindId(std::string_view id) const { return FindItem(tq::MakeKey(KeyOf(id))); }
   // The first symbol of that name, chain by chain, or null.
   const CSymbolItem* FindName(const CString& name) const;
@@ -73,9 +75,12 @@ private:
   };
 
   CSymbolItem* FindItem(const tq::SymbolKey& key) const {
-    const std::uint32_t number = index_.Find(
-        key.hash, [&](std::uint32_t candidate) { return arena_.At(candidate)->HasKey(key); });
-    return number == tq::KeyIndex::NoNode ? nullptr : arena_.At(number);
+    CSymbolItem* item = nullptr;
+    const std::uint32_t number = index_.Find(key.hash, [&](std::uint32_t candidate) {
+      item = arena_.At(candidate);
+      return item->HasKey(key);
+    });
+    return number == tq::KeyIndex::NoNode ? nullptr : item;
   }
   Chain& ChainOf(std::string_view key) {
     return chains_[static_cast<std::size_t>(tq::BucketOf(key, HashMode()))];

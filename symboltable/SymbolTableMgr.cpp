@@ -47,6 +47,7 @@ int CSymbolTableMgr::InitAuthorizedExch() {
 
 int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) {
   std::vector<int> exchIds;
+  exchIds.reserve(static_cast<std::size_t>(ids.GetSize()));
   for (int i = 0; i < ids.GetSize(); ++i)
     exchIds.push_back(static_cast<int>(ids[i]));
   slots_->SetDefaults(std::move(exchIds));

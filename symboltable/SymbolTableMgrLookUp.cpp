@@ -1,4 +1,6 @@
 // Look-ups of symbols, by id and by name.
+#include <utility>
+
 #include "platform/services/tqStockFields.h"
 #include "symboltable/SymbolLookUp.h"
 #include "symboltable/SymbolTableMgr.h"
@@ -31,7 +33,8 @@ const CSymbolItem* FindForNumber(const tq::TableSlots& slots, CString& id, CStri
   tq::UpperBuffer idBuffer;
   tq::UpperBuffer exchBuffer;
   return tq::FindSymbol(slots, tq::UpperCased(id, idBuffer),
-                        tq::UpperCased(exchName, exchBuffer).text, tq::BareSymbol::FirstDefault);
+                        tq::UpperCased(exchName, exchBuffer).text, tq::BareSymbol::FirstDefault)
+      .item;
 }
 
 int GetLong(const CSymbolItem* item, int field, long& value) {
@@ -69,8 +72,15 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
     return GetExchangeName(*slots_, upperId, exchName, upperExch, value);
   const tq::BareSymbol rule =
       field == FieldSymbolId ? tq::BareSymbol::Refused : tq::BareSymbol::FirstDefault;
-  const CSymbolItem* const item = tq::FindSymbol(*slots_, upperId, upperExch, rule);
-  return item != nullptr && item->GetText(field, value);
+  const tq::FoundSymbol found = tq::FindSymbol(*slots_, upperId, upperExch, rule);
+  if (found.item == nullptr)
+    return 0;
+  if (field != FieldSymbolId || upperId.text.data() != id.GetString() ||
+      !tq::IsIdOf(found, upperId))
+    return found.item->GetText(field, value);
+  // The asked text is at hand; sharing the item's would wait for its memory, too.
+  value = std::move(id);
+  return 1;
 }
 
 int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName, int& value) {

@@ -78,6 +78,14 @@ void TableSlots::SetDefaults(std::vector<int> exchIds) {
   FindDefaults();
 }
 
+int TableSlots::FindName(std::string_view exchName) const {
+  const PackedText head = PackHead(exchName);
+  std::size_t at = NameHash(head);
+  while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
+    at = (at + 1) % NameIndexSize;
+  return byName_[at] - 1;
+}
+
 int TableSlots::FindId(int exchId) const {
   for (int slot = 0; slot < Count; ++slot)
     if (At(slot) != nullptr && At(slot)->ExchId() == exchId)

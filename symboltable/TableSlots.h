@@ -36,10 +36,12 @@ public:
   void Forget();
 
   // The slot of a table with exactly that name, or with that exchange id; None.
-  int FindName(std::string_view exchName) const {
-    const PackedText head = PackHead(exchName);
+  int FindName(std::string_view exchName) const;
+  // The same for the name at the end of a text with that tail, of one to eight bytes.
+  int FindNameInTail(std::uint64_t tail, std::size_t size) const {
+    const PackedText head = {tail >> 8 * (sizeof tail - size), 0};
     std::size_t at = NameHash(head);
-    while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
+    while (byName_[at] != 0 && !IsShortNameAt(byName_[at] - 1, head.low, size))
       at = (at + 1) % NameIndexSize;
     return byName_[at] - 1;
   }
@@ -83,6 +85,10 @@ private:
     const NameHead& head = nameHeads_[static_cast<std::size_t>(slot)];
     return head.start == start && head.size == name.size() &&
            (head.size <= sizeof start || NameAt(slot) == name);
+  }
+  bool IsShortNameAt(int slot, std::uint64_t name, std::size_t size) const {
+    const NameHead& head = nameHeads_[static_cast<std::size_t>(slot)];
+    return head.start.low == name && head.size == size;
   }
   std::string_view UpperNameAt(int slot) const {
     return upperNames_[static_cast<std::size_t>(slot)];

@@ -42,7 +42,10 @@ UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer) {
     std::transform(view.begin(), view.end(), buffer.begin(), ToUpperLetter);
     view = {buffer.data(), view.size()};
   }
-  return {view, PackHead(view)};
+  constexpr std::size_t word = sizeof(std::uint64_t);
+  const std::uint64_t tail = view.size() >= word ? PackWord(view.substr(view.size() - word))
+                                                 : PackWord(view) << 8 * (word - view.size());
+  return {view, PackHead(view), tail};
 }
 
 void MakeUpper(CString& text) {

@@ -22,11 +22,31 @@ inline std::string_view ViewOf(const CString& text) {
   return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
 }
 
-// A text with its first bytes as numbers.
+// A text with its first and last bytes as numbers.
 struct UpperText {
   std::string_view text;
   PackedText head;
+  // The last eight bytes. A shorter text is in the upper ones, and the lower ones say nothing.
+  std::uint64_t tail;
 };
+
+// The tail of a string that is not empty. What lies in front of a short text is the string's own header,
+// so that one load serves every length.
+inline std::uint64_t TailOf(const CString& text) {
+  static_assert(sizeof(StringHeader) >= sizeof(std::uint64_t));
+  std::uint64_t tail;
+  std::memcpy(&tail, text.GetString() + text.GetLength() - sizeof tail, sizeof tail);
+  return tail;
+}
+
+// PackHead of one to sixteen bytes with that tail.
+inline PackedText HeadOfShort(std::string_view text, std::uint64_t tail) {
+  constexpr std::size_t half = sizeof tail;
+  const std::size_t missing = 2 * half - text.size();
+  if (text.size() <= half)
+    return {tail >> 8 * (missing - half), 0};
+  return {PackWord(text), tail >> 8 * (missing % half)};
+}
 
 // UpperCased for texts that are not short and in upper case.
 UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer);
@@ -37,10 +57,11 @@ UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer);
 inline UpperText UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
   if (view.empty())
-    return {view, {}};
-  const PackedText head = PackHead(view);
-  if (view.size() <= sizeof head && IsUpperAscii(head.low) && IsUpperAscii(head.high))
-    return {view, head};
+    return {view, {}, 0};
+  const std::uint64_t tail = TailOf(text);
+  const PackedText head = HeadOfShort(view, tail);
+  if (view.size() <= sizeof head && IsUpperAscii(head))
+    return {view, head, tail};
   return UpperCasedCopy(text, buffer);
 }
 

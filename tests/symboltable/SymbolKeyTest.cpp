@@ -72,10 +72,49 @@ TEST(SymbolKey, EqualTextsHashEqualWhereverTheyLie) {
     const tq::SymbolKey key = tq::MakeKey(std::string_view(text).substr(0, size));
     const tq::SymbolKey moved = tq::MakeKey(std::string_view(shifted).substr(1, size));
     EXPECT_EQ(key.hash, moved.hash) << size;
-    EXPECT_EQ(key.head, moved.head) << size;
+    EXPECT_EQ(key.code, moved.code) << size;
     hashes.insert(key.hash);
   }
   EXPECT_EQ(hashes.size(), text.size() + 1);
+}
+
+TEST(SymbolKey, CodesOfDifferentSizesDiffer) {
+  using namespace std::string_view_literals;
+  EXPECT_NE(tq::MakeKey("A").code, tq::MakeKey("A\0"sv).code);
+  EXPECT_NE(tq::MakeKey("").code, tq::MakeKey("\0"sv).code);
+  for (std::size_t size = 0; size <= 300; ++size) {
+    const std::string text(size, 'A');
+    EXPECT_EQ(tq::SizeOf(tq::MakeKey(text).code), size);
+    EXPECT_NE(tq::MakeKey(text).code, tq::MakeKey(text + 'A').code) << size;
+  }
+}
+
+TEST(SymbolKey, SingleDotIsSeenAtEveryPlaceOfAShortId) {
+  const auto hasSingleDot = [](const std::string& id) {
+    return tq::HasSingleDot(id, tq::PackHead(id));
+  };
+  for (std::size_t size = 0; size <= 16; ++size) {
+    const std::string plain(size, '/');
+    EXPECT_FALSE(hasSingleDot(plain)) << size;
+    for (std::size_t at = 0; at < size; ++at) {
+      std::string one = plain;
+      one[at] = '.';
+      EXPECT_TRUE(hasSingleDot(one)) << one;
+      for (std::size_t other = 0; other < at; ++other) {
+        std::string two = one;
+        two[other] = '.';
+        EXPECT_FALSE(hasSingleDot(two)) << two;
+      }
+    }
+  }
+  EXPECT_FALSE(hasSingleDot("A\xa4\x61.TW")) << "not ASCII";
+  EXPECT_FALSE(hasSingleDot("ABCDEFGHIJKLMN.TW")) << "not short";
+}
+
+TEST(SymbolKey, CutHeadIsTheHeadOfTheCutText) {
+  const std::string_view text = "0123456789ABCDEF";
+  for (std::size_t size = 0; size <= text.size(); ++size)
+    EXPECT_EQ(tq::CutHead(tq::PackHead(text), size), tq::PackHead(text.substr(0, size))) << size;
 }
 
 TEST(SymbolKey, OnlyExchangeOneHashesByNumber) {
