@@ -1,6 +1,7 @@
 // The text forms of identities.
 #include "symbollist/LibraryString.h"
 #include "symbollist/ListID.h"
+#include "symbollist/ParameterText.h"
 #include "symboltable/LeadingInt.h"
 #include "symboltable/UpperText.h"
 
@@ -95,11 +96,7 @@ void CListID::GetNameAndSymbolList(CString text) {
 }
 
 void CListID::CutStringAndGetParamBefore(CString& text, char separator, CString& before) {
-  if (text.IsEmpty())
-    return;
-  const int at = text.Find(separator);
-  before = at < 0 ? text : text.Left(at);
-  text = at < 0 ? CString() : text.Mid(at + 1);
+  tq::CutBefore(text, separator, before);
 }
 
 int CListID::ConvertFromGroupID(const char* groupId) {

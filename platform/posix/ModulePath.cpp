@@ -22,16 +22,13 @@ std::string OwnModulePath() {
   Dl_info info;
   std::string path;
   char full[PATH_MAX];
-  // A program is known by the name that started it, which says where it lies only with a directory.
-  if (::dladdr(&g_inThisModule, &info) == 0 || info.dli_fname == nullptr)
-    path = ProgramPath();
-  else if (info.dli_fname[0] == '/')
+  if (::dladdr(&g_inThisModule, &info) != 0 && info.dli_fname != nullptr)
     path = info.dli_fname;
-  else if (std::string(info.dli_fname).find('/') != std::string::npos &&
-           ::realpath(info.dli_fname, full) != nullptr)
-    path = full;
-  else
+  // A program is known by the name that started it, which says where it lies only with a directory.
+  if (path.find('/') == std::string::npos)
     path = ProgramPath();
+  else if (path[0] != '/')
+    path = ::realpath(path.c_str(), full) != nullptr ? std::string(full) : ProgramPath();
   if (path.size() > ModulePathLimit)
     path.resize(ModulePathLimit);
   return path;

@@ -93,11 +93,13 @@ TEST_F(ManagerLifeTest, EveryServiceCallOfInitFailingOnceIsSurvived) {
   WriteWorking(TwoLists());
   standin::ClearCalls();
   ASSERT_EQ(StartWithTables(), 1);
-  const std::vector<standin::Call> calls = standin::Calls();
+  std::vector<std::string> calls; // of one start; the stand-in's own record goes on growing
+  for (const standin::Call& call : standin::Calls())
+    calls.push_back(call.operation);
   ASSERT_GT(calls.size(), 5u);
   const std::string file = ReadWorking();
   for (int n = 1; n <= static_cast<int>(calls.size()); ++n) {
-    SCOPED_TRACE("call " + std::to_string(n) + ", " + calls[static_cast<size_t>(n - 1)].operation);
+    SCOPED_TRACE("call " + std::to_string(n) + ", " + calls[static_cast<size_t>(n - 1)]);
     standin::FailCall("*", n);
     const int result = StartWithTables();
     EXPECT_EQ(manager.GetSymbolListCount(1), result == 0 ? 0 : 2);

@@ -83,7 +83,7 @@ std::string Dump(const tq::XmlDocument& document) {
 fs::path ExpectationOf(fs::path file) {
   const char* language = tq::AnsiCodePage() == tq::CodePageBig5 ? ".tw.expected" : ".cn.expected";
   const fs::path always = file.replace_extension(".expected");
-  const fs::path own = file.replace_extension(language);
+  fs::path own = file.replace_extension(language);
   if (fs::exists(own))
     return own;
   return fs::exists(always) ? always : fs::path();

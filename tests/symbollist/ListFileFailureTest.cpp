@@ -118,6 +118,9 @@ TEST_F(ListFileFailureTest, BadFilesYieldNoListsNoMessageAndNoSave) {
   std::string deep = "<Result><SymbolList DefaultIdx='0'>" + list;
   for (int i = 0; i < 10000; ++i)
     deep += "<a>";
+  const std::string inBig5 = "<?xml version='1.0' encoding='utf-8' ?><Result>"
+                             "<SymbolList DefaultIdx='0'><List ID='a' Name='\xB3\x5C' Value=''/>"
+                             "</SymbolList></Result>";
   const std::string files_[] = {
       "",
       " ",
@@ -129,8 +132,7 @@ TEST_F(ListFileFailureTest, BadFilesYieldNoListsNoMessageAndNoSave) {
       "<!DOCTYPE Result [<!ENTITY a 'aaaa'><!ENTITY b '&a;&a;&a;'>]>" + body,
       "<!DOCTYPE Result SYSTEM 'http://127.0.0.1/x.dtd'>" + body,
       "<?xml version='1.0' encoding='klingon' ?>" + body,
-      "<?xml version='1.0' encoding='utf-8' ?><Result><SymbolList DefaultIdx='0'>"
-      "<List ID='a' Name='\xB3\x5C' Value=''/></SymbolList></Result>",
+      inBig5,
       "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='it's' "
       "Value=''/></SymbolList></Result>",
       "<Result><SymbolList DefaultIdx='0'><List ID='a' Name='A & B'/></SymbolList></Result>",

@@ -74,7 +74,7 @@ TEST_F(MarketFiles, TheSampleMarketLoads) {
 TEST_F(MarketFiles, AFailedLoadLeavesTheMarketAsItWas) {
   market.defaults = "kept";
   EXPECT_FALSE(standin::LoadMarket(directory.Native("nowhere"), market, error));
-  EXPECT_EQ(error, "exchanges.tsv:0: cannot be read");
+  EXPECT_EQ(error, "exchanges.tsv: cannot be read");
   EXPECT_EQ(market.defaults, "kept");
   EXPECT_TRUE(market.exchanges.empty());
 }
@@ -85,7 +85,7 @@ TEST(MarketDirectory, WithoutSymbolsIsRefused) {
   standin::Market market;
   std::string error;
   EXPECT_FALSE(standin::LoadMarket(directory.Path(), market, error));
-  EXPECT_EQ(error, "symbols.tsv:0: cannot be read");
+  EXPECT_EQ(error, "symbols.tsv: cannot be read");
 }
 
 struct Bad {
@@ -104,7 +104,7 @@ std::string Symbol(const std::string& exchange, const std::string& code, const s
 const std::string kFifteen = "一二三四五六七八九十甲乙丙丁戊";
 
 const Bad kBad[] = {
-    {"no header", "exchanges.tsv", "", "exchanges.tsv:0: no header"},
+    {"no header", "exchanges.tsv", "", "exchanges.tsv: no header"},
     {"wrong header", "exchanges.tsv", "id\tname\n", "exchanges.tsv:1: the header"},
     {"records before the header", "symbols.tsv", "TW\t1\n", "symbols.tsv:1: the header"},
     {"too few fields", "exchanges.tsv", std::string(kExchanges) + "1\tTW\n",
