@@ -257,7 +257,7 @@ TEST_F(EditModelTest, AHundredThousandStepsAgreeWithTheModel) {
 TEST_F(EditModelTest, StepsWhoseServiceCallsFailAreDoneOrNot) {
   failing_ = true;
   int undone = 0;
-  for (int i = 0; i < 30000; ++i) {
+  for (int i = 0; i < 100000; ++i) {
     const EditModel before = model_;
     standin::FailCall("*", 1 + static_cast<int>(Random(4)));
     Step();
