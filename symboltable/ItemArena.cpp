@@ -3,20 +3,12 @@
 namespace tq {
 
 ItemArena::Block ItemArena::MakeBlock(std::size_t count) {
-  return std::make_unique_for_overwrite<Place[]>(2 * count);
+  return std::make_unique_for_overwrite<Place[]>(count);
 }
 
 void* ItemArena::LaterPlaceAt(std::uint32_t number) const {
   const std::uint32_t later = number - firstCount_;
   return &later_[later / LaterCount][later % LaterCount];
-}
-
-ItemRest* ItemArena::RestAt(std::uint32_t number) const {
-  const std::uint32_t later = number - firstCount_;
-  void* const place = number < firstCount_
-                          ? &first_[std::size_t{firstCount_} + number]
-                          : &later_[later / LaterCount][LaterCount + later % LaterCount];
-  return static_cast<ItemRest*>(place);
 }
 
 void ItemArena::Reset(std::size_t count) {
@@ -45,7 +37,7 @@ void ItemArena::ReturnPlace(std::uint32_t number) {
 }
 
 std::size_t ItemArena::Footprint() const {
-  return (firstCount_ + later_.size() * LaterCount) * (sizeof(CSymbolItem) + sizeof(ItemRest)) +
+  return (firstCount_ + later_.size() * LaterCount) * sizeof(CSymbolItem) +
          later_.capacity() * sizeof(Block) + returned_.capacity() * sizeof(std::uint32_t);
 }
 

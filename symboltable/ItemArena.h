@@ -28,8 +28,6 @@ public:
   void* PlaceAt(std::uint32_t number) const {
     return number < firstCount_ ? &first_[number] : LaterPlaceAt(number);
   }
-  // The place of the item's other half.
-  ItemRest* RestAt(std::uint32_t number) const;
   CSymbolItem* At(std::uint32_t number) const { return static_cast<CSymbolItem*>(PlaceAt(number)); }
 
   // Heap bytes held.
@@ -38,12 +36,9 @@ public:
 private:
   static constexpr std::uint32_t LaterCount = 64; // items in a later block
 
-  static_assert(sizeof(CSymbolItem) == sizeof(ItemRest));
   struct alignas(CSymbolItem) Place {
     std::byte bytes[sizeof(CSymbolItem)];
   };
-  // All items of the block and behind them, in the same order, their other halves: standing apart, so that
-  // look-ups find more of the first ones in a cache.
   using Block = std::unique_ptr<Place[]>;
 
   static Block MakeBlock(std::size_t count);

@@ -1,8 +1,9 @@
-// From a key's hash to the node that carries it: an open-addressing table of node numbers.
+// From a key to the node that carries it: an open-addressing table.
 //
-// It knows hashes and numbers only; the caller says which node is the right one. Entries stand in groups of
-// a cache line, each with one byte of the hash, so that a look-up touches one line here and hardly ever
-// a node that is not the right one.
+// Entries stand in groups, each with one byte of the hash for every entry, so that a look-up hardly ever
+// looks at an entry that is not the right one. These bytes, the codes of the keys and what stands under
+// them lie in arrays of their own: the first stays in the processor's caches even for a whole market, and
+// of the others a look-up touches a cache line each, without waiting for one to know the other.
 #pragma once
 
 #include <bit>
@@ -12,13 +13,21 @@
 #include <memory>
 #include <utility>
 
-#include "symboltable/PackedText.h"
+#include "symboltable/SymbolKey.h"
 
 namespace tq {
 
 class KeyIndex {
 public:
-  static constexpr std::uint32_t NoNode = 0xffffffffu;
+  // An entry's place; it is good until an entry is added or removed.
+  using Slot = std::uint32_t;
+  static constexpr Slot NoSlot = 0xffffffffu;
+
+  // What stands under a key.
+  struct Entry {
+    std::uint32_t node;
+    std::int32_t value; // the caller's, at hand without the node
+  };
 
   // Empties the index and makes room for `count` keys, so that adding them moves nothing.
   void Reset(std::size_t count);
@@ -26,102 +35,101 @@ public:
   // Fetches what Find looks at first, for callers who go on with other work.
   void Prefetch(std::uint32_t hash) const {
     if (groupCount_ != 0)
-      __builtin_prefetch(&groups_[hash & (groupCount_ - 1)]);
+      __builtin_prefetch(&groups_[GroupOf(hash)]);
   }
 
-  // The node with that hash for which isMatch(node) holds; NoNode when there is none.
-  template <typename IsMatch> std::uint32_t Find(std::uint32_t hash, IsMatch isMatch) const {
-    for (std::size_t probed = 0, at = hash; probed < groupCount_; ++probed, ++at) {
-      const Group& group = groups_[at & (groupCount_ - 1)];
-      for (std::uint64_t slots = group.SlotsWith(TagOf(hash)); slots != 0; slots &= slots - 1) {
-        const std::uint32_t node = group.nodes[Group::FirstOf(slots)];
-        if (isMatch(node))
-          return node;
-      }
-      if ((group.passed & PassedBit(hash)) == 0)
-        break;
-    }
-    return NoNode;
+  // The entry with that key; NoSlot when there is none. Keys that are longer than their codes are told
+  // apart by isMatch(node).
+  template <typename IsMatch> Slot Find(const SymbolKey& key, IsMatch isMatch) const {
+    if (key.text.size() <= CodedBytes)
+      return FindCode(key.code, key.hash);
+    return Search(key.code, key.hash, isMatch);
   }
+  // The same for a key that is not longer than its code.
+  Slot FindCode(PackedText code, std::uint32_t hash) const {
+    return Search(code, hash, [](std::uint32_t) { return true; });
+  }
+  const Entry& At(Slot slot) const { return entries_[slot]; }
+  Entry& At(Slot slot) { return entries_[slot]; }
 
   // Adds a node whose key is not in the index. hashOf(node) is the hash of a node that is.
-  template <typename HashOf> void Add(std::uint32_t hash, std::uint32_t node, HashOf hashOf) {
+  template <typename HashOf> void Add(const SymbolKey& key, Entry entry, HashOf hashOf) {
     if (!HasRoom())
       Rebuild(hashOf);
-    Put(hash, node);
+    Put(key.hash, key.code, entry);
     ++size_;
   }
-  // Takes out a node that is in the index.
-  void Remove(std::uint32_t hash, std::uint32_t node);
-  // Puts another node with the same key in a node's place.
-  void Replace(std::uint32_t hash, std::uint32_t node, std::uint32_t successor);
+  void Remove(Slot slot);
 
   // Heap bytes held.
-  std::size_t Footprint() const { return groupCount_ * sizeof(Group); }
+  std::size_t Footprint() const {
+    return groupCount_ * (sizeof(Group) + SlotCount * (sizeof(PackedText) + sizeof(Entry)));
+  }
 
 private:
-  static constexpr int SlotCount = 12;
+  static constexpr std::size_t SlotCount = 12;
   static constexpr std::uint8_t NoTag = 0; // the slot is free
 
-  struct alignas(64) Group {
+  struct alignas(16) Group {
     std::uint8_t tags[SlotCount];
     // Which hashes went past this group when it was full, by their PassedBit. Never taken back: what
     // they look for may still stand behind.
     std::uint32_t passed;
-    std::uint32_t nodes[SlotCount];
 
-    // A bit for each slot with that tag; FirstOf is the slot of the lowest one.
-    std::uint64_t SlotsWith(std::uint8_t tag) const;
-    static std::size_t FirstOf(std::uint64_t slots);
-    int SlotOf(std::uint32_t hash, std::uint32_t node) const; // -1 when it is not here
+    // A bit for each slot with that tag.
+    unsigned SlotsWith(std::uint8_t tag) const {
+      return EqualBytes(tags, tag) & ((1u << SlotCount) - 1);
+    }
   };
 
-  struct Place {
-    Group& group;
-    int slot;
-  };
-
+  // The upper bits of a hash choose the group, others the tag and the passed bit.
+  std::size_t GroupOf(std::uint32_t hash) const { return hash * groupCount_ >> 32; }
+  std::size_t Next(std::size_t at) const { return at + 1 == groupCount_ ? 0 : at + 1; }
+  static Slot SlotOf(std::size_t group, std::size_t at) {
+    return static_cast<Slot>(group * SlotCount + at);
+  }
   static std::uint8_t TagOf(std::uint32_t hash) {
-    const auto tag = static_cast<std::uint8_t>(hash >> 24);
+    const auto tag = static_cast<std::uint8_t>(hash);
     return tag == NoTag ? 1 : tag;
   }
-  static std::uint32_t PassedBit(std::uint32_t hash) { return 1u << (hash >> 19 & 31u); }
+  static std::uint32_t PassedBit(std::uint32_t hash) { return 1u << (hash >> 8 & 31u); }
 
+  template <typename IsMatch>
+  Slot Search(PackedText code, std::uint32_t hash, IsMatch isMatch) const {
+    std::size_t at = GroupOf(hash);
+    for (std::size_t probed = 0; probed < groupCount_; ++probed, at = Next(at)) {
+      const Group& group = groups_[at];
+      for (unsigned hits = group.SlotsWith(TagOf(hash)); hits != 0; hits &= hits - 1) {
+        const Slot slot = SlotOf(at, static_cast<std::size_t>(std::countr_zero(hits)));
+        if (codes_[slot] == code && isMatch(entries_[slot].node))
+          return slot;
+      }
+      if ((group.passed & PassedBit(hash)) == 0)
+        break;
+    }
+    return NoSlot;
+  }
   bool HasRoom() const;
-  void Put(std::uint32_t hash, std::uint32_t node);
-  Place PlaceOf(std::uint32_t hash, std::uint32_t node);
+  void Put(std::uint32_t hash, PackedText code, Entry entry);
 
   template <typename HashOf> void Rebuild(HashOf hashOf) {
-    const std::unique_ptr<Group[]> old = std::move(groups_);
-    const std::size_t oldCount = groupCount_;
-    const std::size_t size = size_;
-    Reset(size + 1);
-    for (std::size_t i = 0; i < oldCount; ++i)
-      for (int slot = 0; slot < SlotCount; ++slot)
-        if (old[i].tags[slot] != NoTag)
-          Put(hashOf(old[i].nodes[slot]), old[i].nodes[slot]);
-    size_ = size;
+    const KeyIndex old = std::move(*this);
+    // Half as many again: an index that grows by ones is not made anew for each of them. Where removals
+    // have only worn it out it stays as large as it was.
+    Reset(old.size_ < old.capacity_ ? old.capacity_ : old.size_ + old.size_ / 2 + 1);
+    for (std::size_t i = 0; i < old.groupCount_ * SlotCount; ++i)
+      if (old.groups_[i / SlotCount].tags[i % SlotCount] != NoTag)
+        Put(hashOf(old.entries_[i].node), old.codes_[i], old.entries_[i]);
+    size_ = old.size_;
   }
 
   std::unique_ptr<Group[]> groups_;
-  std::size_t groupCount_ = 0; // 0 or a power of two
+  std::unique_ptr<PackedText[]> codes_;
+  std::unique_ptr<Entry[]> entries_;
+  std::size_t groupCount_ = 0;
+  std::size_t capacity_ = 0; // keys that there is room for
   std::size_t size_ = 0;
-  std::size_t worn_ = 0; // nodes removed from groups whose passed bits have stayed
+  std::size_t worn_ = 0; // entries removed from groups whose passed bits have stayed
 };
-
-inline std::uint64_t KeyIndex::Group::SlotsWith(std::uint8_t tag) const {
-  std::uint64_t first;
-  std::uint32_t rest;
-  std::memcpy(&first, tags, sizeof first);
-  std::memcpy(&rest, tags + sizeof first, sizeof rest);
-  // The first eight slots have the lowest bit of a byte, the others the next one. No tag is 0, as what
-  // `rest` lacks of eight bytes is.
-  return BytesEqual(first, tag) >> 7 | BytesEqual(rest, tag) >> 6;
-}
-
-inline std::size_t KeyIndex::Group::FirstOf(std::uint64_t slots) {
-  const auto bit = static_cast<std::size_t>(std::countr_zero(slots));
-  return bit / 8 + bit % 8 * 8;
-}
 
 } // namespace tq

@@ -2,9 +2,14 @@
 // faster than a run of characters.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 namespace tq {
 
@@ -81,6 +86,23 @@ constexpr std::uint64_t AsciiBytesEqual(std::uint64_t ascii, std::uint8_t byte) 
 constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
   return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & TopBits;
 }
+
+#if defined(__SSE2__)
+// A bit for each of sixteen bytes that is `byte`, the first byte's the lowest. `bytes` is aligned.
+inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
+  const __m128i all = _mm_load_si128(reinterpret_cast<const __m128i*>(bytes));
+  const __m128i wanted = _mm_set1_epi8(static_cast<char>(byte));
+  return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(all, wanted)));
+}
+#else
+// The same on processors that have no instruction for it.
+inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
+  unsigned equal = 0;
+  for (unsigned i = 0; i < 16; ++i)
+    equal |= static_cast<unsigned>(bytes[i] == byte) << i;
+  return equal;
+}
+#endif
 
 // Whether sixteen bytes are ASCII without a letter of lower case.
 constexpr bool IsUpperAscii(PackedText head) {

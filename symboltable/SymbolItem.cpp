@@ -46,33 +46,22 @@ unsigned BitOf(int field) {
   }
 }
 
-std::uint32_t DistanceTo(const tq::ItemRest* rest, const CSymbolItem* item) {
-  const auto bytes =
-      reinterpret_cast<const std::byte*>(rest) - reinterpret_cast<const std::byte*>(item);
-  return static_cast<std::uint32_t>(static_cast<std::size_t>(bytes) / sizeof(tq::ItemRest));
-}
-
 } // namespace
 
 CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
                          tq::ItemTextReader& reader)
-    : code_(tq::MakeKey(tq::ViewOf(place.id).substr(0, place.keyLength)).code), id_(place.id),
-      restAt_(DistanceTo(place.rest, this)), exchId_(place.exchId) {
-  new (place.rest) tq::ItemRest;
-  Rest().number = place.number;
+    : id_(place.id), number_(place.number), keyLength_(place.keyLength), exchId_(place.exchId) {
   UpdateFrom(key, reader);
 }
 
-CSymbolItem::~CSymbolItem() {
-  std::destroy_at(&Rest());
-}
+CSymbolItem::~CSymbolItem() = default;
 
 void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) {
   ReadNumbers(key);
   key.GetFieldString(FieldSymbolName, name_);
   mark_ = reader.ReadLetter(key, FieldMark);
   bool codeIsSymbol = false;
-  Rest().texts = reader.Read(key, Symbol(), codeIsSymbol);
+  texts_ = reader.Read(key, Symbol(), codeIsSymbol);
   if (codeIsSymbol)
     present_ |= static_cast<std::uint8_t>(CodeIsSymbolBit);
 }
@@ -86,11 +75,11 @@ void CSymbolItem::ReadNumbers(const CStaticKey& key) {
     return number;
   };
   kind_ = read(FieldKind);
-  Rest().board = read(FieldBoard);
-  Rest().legExchange = read(FieldLegExchange);
+  board_ = read(FieldBoard);
+  legExchange_ = read(FieldLegExchange);
   expiryDate_ = read(FieldExpiryDate);
   tradeLot_ = read(FieldTradeLot);
-  Rest().priceScale = read(FieldPriceScale);
+  priceScale_ = read(FieldPriceScale);
   int decimals = 0;
   if (key.GetFieldInt(FieldDecimals, decimals))
     present |= DecimalsBit;
@@ -109,13 +98,13 @@ int CSymbolItem::HeldNumber(int field) const {
   case FieldKind:
     return kind_;
   case FieldBoard:
-    return Rest().board;
+    return board_;
   case FieldLegExchange:
-    return Rest().legExchange;
+    return legExchange_;
   case FieldExpiryDate:
     return expiryDate_;
   case FieldPriceScale:
-    return Rest().priceScale;
+    return priceScale_;
   default:
     return decimals_;
   }
@@ -153,39 +142,38 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
 void CSymbolItem::GetHeldText(int index, CString& value) const {
   if (index == tq::ExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
     value.SetString(id_.GetString(), static_cast<int>(Symbol().size()));
-  else if (Rest().texts)
-    value = Rest().texts->texts[index];
+  else if (texts_)
+    value = texts_->texts[index];
   else
     value.Empty();
 }
 
 void CSymbolItem::Append(CSymbolItem* item) {
-  Rest().next = item;
-  item->Rest().previous = this;
+  next_ = item;
+  item->previous_ = this;
 }
 
 void CSymbolItem::RemoveFromChain(CSymbolItem* item) {
-  const tq::ItemRest& links = item->Rest();
-  links.previous->Rest().next = links.next;
-  if (links.next != nullptr)
-    links.next->Rest().previous = links.previous;
+  item->previous_->next_ = item->next_;
+  if (item->next_ != nullptr)
+    item->next_->previous_ = item->previous_;
 }
 
 CSymbolItem* CSymbolItem::LeaveAsHead() {
-  if (Rest().next != nullptr)
-    Rest().next->Rest().previous = nullptr;
-  return Rest().next;
+  if (next_ != nullptr)
+    next_->previous_ = nullptr;
+  return next_;
 }
 
 void CSymbolItem::AppendSame(CSymbolItem* item) {
-  CSymbolItem* const last = Rest().lastSame != nullptr ? Rest().lastSame : this;
-  last->Rest().nextSame = item;
-  Rest().lastSame = item;
+  CSymbolItem* const last = lastSame_ != nullptr ? lastSame_ : this;
+  last->nextSame_ = item;
+  lastSame_ = item;
 }
 
 CSymbolItem* CSymbolItem::LeaveSame() {
-  CSymbolItem* const next = Rest().nextSame;
-  if (next != nullptr && Rest().lastSame != next)
-    next->Rest().lastSame = Rest().lastSame;
+  CSymbolItem* const next = nextSame_;
+  if (next != nullptr && lastSame_ != next)
+    next->lastSame_ = lastSame_;
   return next;
 }

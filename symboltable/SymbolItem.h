@@ -20,23 +20,8 @@ namespace tq {
 // What field 1 answers: "2330.TW", or "2330".
 enum class IdPart { Full, Symbol };
 
-// What an item is seldom asked for, kept apart so that the rest of many items lies close together.
-struct alignas(64) ItemRest {
-  CSymbolItem* next = nullptr;
-  CSymbolItem* previous = nullptr;
-  CSymbolItem* nextSame = nullptr;
-  CSymbolItem* lastSame = nullptr; // kept in the first item of a key, when there are more
-  std::shared_ptr<const ItemTexts> texts;
-  std::uint32_t number = 0; // the table's number for the item
-  std::int32_t board = 0;
-  std::int32_t legExchange = 0;
-  std::int32_t priceScale = 0;
-};
-static_assert(sizeof(ItemRest) == 64);
-
 // What an item is made with, beside the service's key object.
 struct ItemPlace {
-  ItemRest* rest;          // behind the item in one block of memory, and lives as long
   const CString& id;       // full id in upper case
   std::uint32_t keyLength; // bytes of it that are the key in the item's table
   std::uint32_t number;    // the table's number for the item
@@ -45,8 +30,7 @@ struct ItemPlace {
 
 } // namespace tq
 
-// One cache line, with what a look-up compares and what is mostly asked for; the rest stands apart.
-class alignas(64) CSymbolItem final {
+class CSymbolItem final {
 public:
   // Copies the attributes out of `key`, which was set up.
   CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place, tq::ItemTextReader& reader);
@@ -55,14 +39,9 @@ public:
   CSymbolItem& operator=(const CSymbolItem&) = delete;
 
   // The key under which the table holds it: the start of the id, and never changed.
-  std::string_view Key() const { return {id_.GetString(), tq::SizeOf(code_)}; }
-  // Whether the key is this one, letter case included.
-  bool HasKey(const tq::SymbolKey& key) const {
-    // Whether the code is enough is asked of `key`, which is at hand long before this item's memory is.
-    return code_ == key.code && (key.text.size() <= tq::CodedBytes || Key() == key.text);
-  }
+  std::string_view Key() const { return {id_.GetString(), keyLength_}; }
   const CString& Name() const { return name_; }
-  std::uint32_t Number() const { return Rest().number; }
+  std::uint32_t Number() const { return number_; }
 
   // Takes over the attributes of `key`, which was set up for the same symbol. Id and place stay.
   void UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader);
@@ -77,8 +56,8 @@ public:
   int GetText(int field, CString& value, tq::IdPart part = tq::IdPart::Full) const;
 
   // The chain. The owner keeps its head and tail in step.
-  CSymbolItem* Next() const { return Rest().next; }
-  CSymbolItem* Previous() const { return Rest().previous; }
+  CSymbolItem* Next() const { return next_; }
+  CSymbolItem* Previous() const { return previous_; }
   // Puts `item` behind this one, which is the last of its chain.
   void Append(CSymbolItem* item);
   // Takes `item`, a later one of the chain that this one heads, out of it.
@@ -93,12 +72,6 @@ public:
   CSymbolItem* LeaveSame();
 
 private:
-  // By distance, which leaves room for all of the code in the one cache line.
-  tq::ItemRest& Rest() const {
-    const std::byte* const at = reinterpret_cast<const std::byte*>(this);
-    return *reinterpret_cast<tq::ItemRest*>(
-        const_cast<std::byte*>(at + restAt_ * sizeof(tq::ItemRest)));
-  }
   std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
   void ReadNumbers(const CStaticKey& key);
   int HeldNumber(int field) const;
@@ -108,17 +81,23 @@ private:
   int AskService(int field, CString& value) const;
   int AskTradeCode(CString& value) const;
 
-  tq::PackedText code_; // of the key
   CString id_;
   CString name_;
-  std::uint32_t restAt_; // how many times its size the other half stands behind this one
+  std::shared_ptr<const tq::ItemTexts> texts_;
+  CSymbolItem* next_ = nullptr;
+  CSymbolItem* previous_ = nullptr;
+  CSymbolItem* nextSame_ = nullptr;
+  CSymbolItem* lastSame_ = nullptr; // kept in the first item of a key, when there are more
+  std::uint32_t number_;            // the table's number for the item
+  std::uint32_t keyLength_;
   std::int32_t exchId_;
   std::int32_t kind_ = 0;
+  std::int32_t board_ = 0;
+  std::int32_t legExchange_ = 0;
   std::int32_t expiryDate_ = 0;
   std::int32_t tradeLot_ = 0;
+  std::int32_t priceScale_ = 0;
   std::int16_t decimals_ = 0;
   std::uint8_t present_ = 0; // what the service gave, see the body
   char mark_ = ' ';          // FieldMark
 };
-
-static_assert(sizeof(CSymbolItem) == 64);

@@ -37,12 +37,17 @@ inline std::size_t SizeOf(PackedText code) {
 // What MakeKey adds to the hash of a code for the bytes that are not in it.
 std::uint64_t MixRest(std::uint64_t state, std::string_view text);
 
+// The hash of a key that is not longer than its code.
+inline std::uint32_t HashOf(PackedText code) {
+  return static_cast<std::uint32_t>(MixWords(MixWords(0, code.low), code.high) >> 32);
+}
+
 // `head` is PackHead(text), for callers who have it.
 inline SymbolKey MakeKey(std::string_view text, PackedText head) {
   const PackedText code = CodeOf(text.size(), head);
-  std::uint64_t state = MixWords(MixWords(0, code.low), code.high);
-  if (text.size() > CodedBytes)
-    state = MixRest(state, text);
+  if (text.size() <= CodedBytes)
+    return {text, code, HashOf(code)};
+  const std::uint64_t state = MixRest(MixWords(MixWords(0, code.low), code.high), text);
   return {text, code, static_cast<std::uint32_t>(state >> 32)};
 }
 inline SymbolKey MakeKey(std::string_view text) {
@@ -59,17 +64,24 @@ struct IdParts {
 // SplitId for ids that are long or not ASCII.
 IdParts SplitLongId(std::string_view id);
 
+// The position of the last "." in sixteen bytes of ASCII; past them all when there is none.
+inline std::size_t LastDot(PackedText ascii) {
+  const std::uint64_t lowDots = AsciiBytesEqual(ascii.low, '.');
+  const std::uint64_t highDots = AsciiBytesEqual(ascii.high, '.');
+  if ((lowDots | highDots) == 0)
+    return std::string_view::npos;
+  // Without a branch on the half, which differs from id to id.
+  const bool isHigh = highDots != 0;
+  const int zeros = std::countl_zero(isHigh ? highDots : lowDots);
+  return (isHigh ? 15u : 7u) - static_cast<std::size_t>(zeros) / 8;
+}
+
 inline IdParts SplitId(std::string_view id, PackedText head) {
   if (id.size() > sizeof head || ((head.low | head.high) & TopBits) != 0)
     return SplitLongId(id);
-  const std::uint64_t lowDots = AsciiBytesEqual(head.low, '.');
-  const std::uint64_t highDots = AsciiBytesEqual(head.high, '.');
-  if ((lowDots | highDots) == 0)
+  const std::size_t dot = LastDot(head);
+  if (dot >= id.size())
     return {id, {}};
-  // The last one. Without a branch on the half, which differs from id to id.
-  const bool isHigh = highDots != 0;
-  const int zeros = std::countl_zero(isHigh ? highDots : lowDots);
-  const std::size_t dot = (isHigh ? 15u : 7u) - static_cast<std::size_t>(zeros) / 8;
   return {{id.data(), dot}, {id.data() + dot + 1, id.size() - dot - 1}};
 }
 inline IdParts SplitId(std::string_view id) {

@@ -3,41 +3,49 @@
 namespace tq {
 namespace {
 
-const CSymbolItem* FindOn(const TableSlots& slots, std::string_view id, std::string_view exchName) {
+FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffix) {
+  const CSymbolTable::Place place = table->Find(key);
+  if (place == CSymbolTable::NoSymbol)
+    return {};
+  return {table, place, bySuffix};
+}
+
+FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_view exchName) {
   constexpr int noId = -1;
   const int slot = slots.Find(exchName, noId);
-  return slot == TableSlots::None ? nullptr : slots.At(slot)->FindId(id);
+  if (slot == TableSlots::None)
+    return {};
+  const CSymbolTable* const table = slots.At(slot);
+  return FindIn(table, MakeKey(table->KeyOf(id)), false);
 }
 
 // Kept out of the way of FindSymbol, which mostly does without.
 //
 // A default exchange names the table, and the name finds it: with two tables of one name it is the
 // lower slot's that answers, whichever of them holds the symbol.
-[[gnu::noinline]] const CSymbolItem* FindOnDefaults(const TableSlots& slots, const UpperText& id,
-                                                    BareSymbol rule) {
+[[gnu::noinline]] FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperText& id,
+                                             BareSymbol rule) {
   const SymbolKey whole = MakeKey(id.text, id.head);
   const bool hasSuffix = SplitId(id.text, id.head).symbol.size() != id.text.size();
-  const CSymbolTable* holder = nullptr;
-  const CSymbolItem* item = nullptr;
+  FoundSymbol first;
   for (const CSymbolTable* table : slots.Defaults())
     table->Prefetch(whole);
   for (const CSymbolTable* table : slots.Defaults()) {
     // Mostly the whole id is the key on each of them, and is hashed once.
     const std::string_view key = hasSuffix ? table->KeyOf(id.text) : id.text;
-    const CSymbolItem* const found =
-        table->Find(key.size() == id.text.size() ? whole : MakeKey(key));
-    if (found == nullptr)
+    const FoundSymbol found =
+        FindIn(table, key.size() == id.text.size() ? whole : MakeKey(key), false);
+    if (!found)
       continue;
-    if (holder != nullptr)
-      return nullptr;
-    holder = table;
-    item = found;
+    if (first)
+      return {};
+    first = found;
     if (rule == BareSymbol::FirstDefault)
       break;
   }
-  if (holder == nullptr || slots.IsFirstOfName(*holder))
-    return item;
-  return FindOn(slots, id.text, ViewOf(holder->ExchName()));
+  if (!first || slots.IsFirstOfName(*first.table))
+    return first;
+  return FindOn(slots, id.text, ViewOf(first.table->ExchName()));
 }
 
 int FindSuffix(const TableSlots& slots, const UpperText& id, std::string_view suffix) {
@@ -50,7 +58,7 @@ int FindSuffix(const TableSlots& slots, const UpperText& id, std::string_view su
 bool IsIdOf(const FoundSymbol& found, const UpperText& id) {
   // Held ids have a "." and are in upper case. So one whose key has none is that key, "." and the
   // exchange's name, and by that name it was found.
-  return found.item != nullptr && found.bySuffix && HasSingleDot(id.text, id.head);
+  return found.bySuffix && HasSingleDot(id.text, id.head);
 }
 
 std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id) {
@@ -58,22 +66,22 @@ std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id) {
   return !suffix.empty() && slots.HasUpperName(suffix) ? suffix : std::string_view();
 }
 
-FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
-                       BareSymbol rule) {
+FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
+                          BareSymbol rule) {
   if (!exchName.empty())
-    return {FindOn(slots, id.text, exchName), false};
+    return FindOn(slots, id.text, exchName);
   const auto [symbol, suffix] = SplitId(id.text, id.head);
   if (!suffix.empty()) {
     if (const int slot = FindSuffix(slots, id, suffix); slot != TableSlots::None) {
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
-      return {slots.At(slot)->Find(key), true};
+      return FindIn(slots.At(slot), key, true);
     }
     // An exchange that the service writes in lower case is known by its suffix, but the upper-cased
     // suffix is not its name: such a symbol is found through the default exchanges alone, bare.
     if (slots.HasUpperName(suffix))
-      return {nullptr, false};
+      return {};
   }
-  return {FindOnDefaults(slots, id, rule), false};
+  return FindOnDefaults(slots, id, rule);
 }
 
 } // namespace tq

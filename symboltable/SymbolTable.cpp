@@ -21,8 +21,13 @@ void CSymbolTable::Clear() {
     }
     chain = {};
   }
-  index_.Reset(0);
-  arena_.Reset(0);
+  Reserve(0);
+}
+
+// Empties the table and makes room for `count` symbols.
+void CSymbolTable::Reserve(std::size_t count) {
+  index_.Reset(count);
+  arena_.Reset(count);
 }
 
 // The full id, in upper case. A service that leaves the suffix out gets this exchange's. 0 for no
@@ -44,11 +49,19 @@ void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
     Insert(key, id, reader);
 }
 
-void CSymbolTable::Insert(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader) {
+void CSymbolTable::Insert(const CStaticKey& attributes, const CString& id,
+                          tq::ItemTextReader& reader) {
   const std::uint32_t number = arena_.TakePlace();
-  const auto keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(id)).size());
-  const tq::ItemPlace place{arena_.RestAt(number), id, keyLength, number, exchId_};
-  Append(new (arena_.PlaceAt(number)) CSymbolItem(key, place, reader));
+  const std::string_view key = KeyOf(tq::ViewOf(id));
+  const tq::ItemPlace place{id, static_cast<std::uint32_t>(key.size()), number, exchId_};
+  Append(new (arena_.PlaceAt(number)) CSymbolItem(attributes, place, reader));
+}
+
+// What the index keeps of an item.
+tq::KeyIndex::Entry CSymbolTable::EntryOf(const CSymbolItem& item) {
+  tq::KeyIndex::Entry entry{item.Number(), 0};
+  item.GetNumber(FieldTradeLot, entry.value);
+  return entry;
 }
 
 void CSymbolTable::Append(CSymbolItem* item) {
@@ -62,7 +75,7 @@ void CSymbolTable::Append(CSymbolItem* item) {
   if (CSymbolItem* const first = FindItem(key))
     first->AppendSame(item);
   else
-    index_.Add(key.hash, item->Number(),
+    index_.Add(key, EntryOf(*item),
                [this](std::uint32_t number) { return tq::MakeKey(arena_.At(number)->Key()).hash; });
 }
 
@@ -96,13 +109,14 @@ void CSymbolTable::Remove(std::string_view id) {
   const tq::SymbolKey key = tq::MakeKey(upper.text, upper.head);
   if (&ChainOf(asked) != &ChainOf(key.text))
     return;
-  CSymbolItem* const item = FindItem(key);
-  if (item == nullptr)
+  const Place place = Find(key);
+  if (place == NoSymbol)
     return;
+  CSymbolItem* const item = arena_.At(index_.At(place).node);
   if (CSymbolItem* const next = item->LeaveSame())
-    index_.Replace(key.hash, item->Number(), next->Number());
+    index_.At(place) = EntryOf(*next);
   else
-    index_.Remove(key.hash, item->Number());
+    index_.Remove(place);
   Unchain(item);
   Destroy(item);
 }

@@ -6,6 +6,7 @@
 // one that walking the chain would give. All calls come from the terminal's user-interface thread.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -52,10 +53,22 @@ public:
 
   // The key of an id in this table.
   std::string_view KeyOf(std::string_view id) const { return tq::KeyOf(id, tq::ViewOf(exchName_)); }
-  // The symbol with this key, or null. Letter case matters: ids are held in upper case.
-  const CSymbolItem* Find(const tq::SymbolKey& key) const { return FindItem(key); }
+  // Where the symbol with this key stands, or NoSymbol; good until a symbol is added or removed. Letter
+  // case matters: ids are held in upper case.
+  using Place = tq::KeyIndex::Slot;
+  static constexpr Place NoSymbol = tq::KeyIndex::NoSlot;
+  Place Find(const tq::SymbolKey& key) const {
+    return index_.Find(key,
+                       [&](std::uint32_t number) { return arena_.At(number)->Key() == key.text; });
+  }
+  // The same for a key that is not longer than its code.
+  Place FindCode(tq::PackedText code) const { return index_.FindCode(code, tq::HashOf(code)); }
+  // What Find found, and its trade lot, or -1, for which the item is not touched.
+  const CSymbolItem* At(Place place) const { return arena_.At(index_.At(place).node); }
+  int TradeLotAt(Place place) const { return index_.At(place).value; }
   // Fetches what Find looks at first, for callers who ask several tables.
   void Prefetch(const tq::SymbolKey& key) const { index_.Prefetch(key.hash); }
+  // The symbol of an id, or null.
   const CSymbolItem* FindId(std::string_view id) const { return FindItem(tq::MakeKey(KeyOf(id))); }
   // The first symbol of that name, chain by chain, or null.
   const CSymbolItem* FindName(const CString& name) const;
@@ -75,19 +88,17 @@ private:
   };
 
   CSymbolItem* FindItem(const tq::SymbolKey& key) const {
-    CSymbolItem* item = nullptr;
-    const std::uint32_t number = index_.Find(key.hash, [&](std::uint32_t candidate) {
-      item = arena_.At(candidate);
-      return item->HasKey(key);
-    });
-    return number == tq::KeyIndex::NoNode ? nullptr : item;
+    const Place place = Find(key);
+    return place == NoSymbol ? nullptr : arena_.At(index_.At(place).node);
   }
   Chain& ChainOf(std::string_view key) {
     return chains_[static_cast<std::size_t>(tq::BucketOf(key, HashMode()))];
   }
+  void Reserve(std::size_t count);
   void InsertAll(std::span<const BaseAttr> records);
   void Insert(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader);
   int ReadId(const CStaticKey& key, CString& id) const;
+  static tq::KeyIndex::Entry EntryOf(const CSymbolItem& item);
   void Append(CSymbolItem* item);
   void Unchain(CSymbolItem* item);
   void Destroy(CSymbolItem* item);

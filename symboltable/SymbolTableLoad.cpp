@@ -13,8 +13,7 @@ int CSymbolTable::Load() {
   if (!VLGetBaseAttrs2(exchId_, allSections, symbols.List(), symbols.Count(), 0, 1))
     return 0;
   const std::span<const BaseAttr> records = symbols.Records();
-  arena_.Reset(records.size());
-  index_.Reset(records.size());
+  Reserve(records.size());
   InsertAll(records);
   return 1;
 }
@@ -58,8 +57,12 @@ int CSymbolTable::Update(const CString& symbols) {
     CString id;
     if (record.code[0] == '\0' || record.usable == 0 || !key.Setup(&record) || !ReadId(key, id))
       continue;
-    if (CSymbolItem* const item = FindItem(tq::MakeKey(KeyOf(tq::ViewOf(id)))))
-      item->UpdateFrom(key, reader);
+    const Place place = Find(tq::MakeKey(KeyOf(tq::ViewOf(id))));
+    if (place == NoSymbol)
+      continue;
+    CSymbolItem* const item = arena_.At(index_.At(place).node);
+    item->UpdateFrom(key, reader);
+    index_.At(place) = EntryOf(*item);
   }
   return 1;
 }

@@ -66,12 +66,12 @@ std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& i
 }
 
 CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {
-  const auto [symbol, exchName] = GetSymbolAndExchID(id);
-  if (exchName.IsEmpty())
+  const std::pair<CString, CString> parts = GetSymbolAndExchID(id);
+  if (parts.second.IsEmpty())
     return id;
   for (const CSymbolTable* table : slots_->Defaults())
-    if (table->ExchName() == exchName)
-      return symbol;
+    if (table->ExchName() == parts.second)
+      return parts.first;
   return id;
 }
 

@@ -27,23 +27,34 @@ int GetExchangeName(const tq::TableSlots& slots, const tq::UpperText& id, const 
   return 1;
 }
 
-const CSymbolItem* FindForNumber(const tq::TableSlots& slots, CString& id, CString& exchName) {
+tq::FoundSymbol FindForNumber(const tq::TableSlots& slots, CString& id, CString& exchName) {
   if (id.IsEmpty())
-    return nullptr;
+    return {};
   tq::UpperBuffer idBuffer;
   tq::UpperBuffer exchBuffer;
   return tq::FindSymbol(slots, tq::UpperCased(id, idBuffer),
-                        tq::UpperCased(exchName, exchBuffer).text, tq::BareSymbol::FirstDefault)
-      .item;
+                        tq::UpperCased(exchName, exchBuffer).text, tq::BareSymbol::FirstDefault);
 }
 
-int GetLong(const CSymbolItem* item, int field, long& value) {
-  if (item == nullptr)
+// Nothing found leaves `value` as it is.
+int GetNumber(const tq::FoundSymbol& found, int field, int& value) {
+  if (!found)
+    return 0;
+  // The lot comes out of the table, as the item's memory would have to be waited for.
+  const int lot = field == FieldTradeLot ? found.table->TradeLotAt(found.place) : -1;
+  if (lot < 0)
+    return found.Item().GetNumber(field, value);
+  value = lot;
+  return 1;
+}
+
+int GetLong(const tq::FoundSymbol& found, int field, long& value) {
+  if (!found)
     return 0;
   int number = 0;
-  const int found = item->GetNumber(field, number);
+  const int result = GetNumber(found, field, number);
   value = number;
-  return found;
+  return result;
 }
 
 } // namespace
@@ -73,19 +84,18 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
   const tq::BareSymbol rule =
       field == FieldSymbolId ? tq::BareSymbol::Refused : tq::BareSymbol::FirstDefault;
   const tq::FoundSymbol found = tq::FindSymbol(*slots_, upperId, upperExch, rule);
-  if (found.item == nullptr)
+  if (!found)
     return 0;
   if (field != FieldSymbolId || upperId.text.data() != id.GetString() ||
       !tq::IsIdOf(found, upperId))
-    return found.item->GetText(field, value);
+    return found.Item().GetText(field, value);
   // The asked text is at hand; sharing the item's would wait for its memory, too.
   value = std::move(id);
   return 1;
 }
 
 int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName, int& value) {
-  const CSymbolItem* const item = FindForNumber(*slots_, id, exchName);
-  return item != nullptr && item->GetNumber(field, value);
+  return GetNumber(FindForNumber(*slots_, id, exchName), field, value);
 }
 
 int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName, long& value) {

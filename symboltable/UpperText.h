@@ -30,8 +30,8 @@ struct UpperText {
   std::uint64_t tail;
 };
 
-// The tail of a string that is not empty. What lies in front of a short text is the string's own header,
-// so that one load serves every length.
+// The last eight bytes of a string that is not empty. What lies in front of a short text is the string's
+// own header, so that one load serves every length.
 inline std::uint64_t TailOf(const CString& text) {
   static_assert(sizeof(StringHeader) >= sizeof(std::uint64_t));
   std::uint64_t tail;
@@ -39,13 +39,19 @@ inline std::uint64_t TailOf(const CString& text) {
   return tail;
 }
 
-// PackHead of one to sixteen bytes with that tail.
-inline PackedText HeadOfShort(std::string_view text, std::uint64_t tail) {
-  constexpr std::size_t half = sizeof tail;
-  const std::size_t missing = 2 * half - text.size();
-  if (text.size() <= half)
-    return {tail >> 8 * (missing - half), 0};
-  return {PackWord(text), tail >> 8 * (missing % half)};
+// PackHead of a string of one to sixteen bytes with that tail, without a branch on its length, which differs
+// from id to id.
+inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
+  __extension__ using Wide = unsigned __int128;
+  constexpr int half = sizeof tail;
+  const int length = text.GetLength();
+  // As many bytes as the header has may be loaded in front of the text.
+  if (length < 2 * half - static_cast<int>(sizeof(StringHeader)))
+    return {tail >> 8 * (half - length), 0};
+  std::uint64_t before;
+  std::memcpy(&before, text.GetString() + length - 2 * half, sizeof before);
+  const Wide wide = (Wide{tail} << 64 | before) >> 8 * (2 * half - length);
+  return {static_cast<std::uint64_t>(wide), static_cast<std::uint64_t>(wide >> 64)};
 }
 
 // UpperCased for texts that are not short and in upper case.
@@ -58,10 +64,12 @@ inline UpperText UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
   if (view.empty())
     return {view, {}, 0};
-  const std::uint64_t tail = TailOf(text);
-  const PackedText head = HeadOfShort(view, tail);
-  if (view.size() <= sizeof head && IsUpperAscii(head))
-    return {view, head, tail};
+  if (view.size() <= sizeof(PackedText)) {
+    const std::uint64_t tail = TailOf(text);
+    const PackedText head = HeadOfShort(text, tail);
+    if (IsUpperAscii(head))
+      return {view, head, tail};
+  }
   return UpperCasedCopy(text, buffer);
 }
 

@@ -78,7 +78,13 @@ inline char* ShareText(char* text) {
 
 // Ends one share; the last one frees.
 inline void ReleaseText(char* text) {
-  if (HeaderOf(text)->refs.load(std::memory_order_relaxed) >= 0)
+  std::atomic<int>& refs = HeaderOf(text)->refs;
+  const int count = refs.load(std::memory_order_relaxed);
+  if (count < 0)
+    return;
+  if (count > 1 && HasOneThread())
+    refs.store(count - 1, std::memory_order_relaxed);
+  else
     ReleaseSharedText(text);
 }
 

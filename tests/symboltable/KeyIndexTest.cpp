@@ -4,26 +4,40 @@
 
 #include <map>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace {
 
 using tq::KeyIndex;
 
-// Nodes by number; several may have one hash, as different keys can.
+// Nodes by number, each with a key of its own; several may have one hash, as different keys can.
 class KeyIndexTest : public testing::Test {
 protected:
+  static tq::SymbolKey KeyOf(std::uint32_t node, std::uint32_t hash) {
+    return {"key", {node, 0}, hash};
+  }
   void Add(std::uint32_t node, std::uint32_t hash) {
     hashes[node] = hash;
-    index.Add(hash, node, [this](std::uint32_t other) { return hashes.at(other); });
+    index.Add(KeyOf(node, hash), {node, ValueOf(node)},
+              [this](std::uint32_t other) { return hashes.at(other); });
+  }
+  KeyIndex::Slot Find(std::uint32_t node, std::uint32_t hash) const {
+    return index.Find(KeyOf(node, hash), [](std::uint32_t) { return false; });
   }
   void Remove(std::uint32_t node) {
-    index.Remove(hashes.at(node), node);
+    index.Remove(Find(node, hashes.at(node)));
     hashes.erase(node);
   }
   bool Has(std::uint32_t node, std::uint32_t hash) const {
-    return index.Find(hash, [&](std::uint32_t other) { return other == node; }) == node;
+    const KeyIndex::Slot slot = Find(node, hash);
+    if (slot == KeyIndex::NoSlot)
+      return false;
+    EXPECT_EQ(index.At(slot).node, node);
+    EXPECT_EQ(index.At(slot).value, ValueOf(node));
+    return true;
   }
+  static std::int32_t ValueOf(std::uint32_t node) { return static_cast<std::int32_t>(node) * 3; }
 
   KeyIndex index;
   std::map<std::uint32_t, std::uint32_t> hashes;
@@ -48,6 +62,22 @@ TEST_F(KeyIndexTest, ManyNodesOfOneHashAreKeptApart) {
     Remove(node);
   for (std::uint32_t node = 0; node < 100; ++node)
     EXPECT_EQ(Has(node, 77), node % 2 == 1) << node;
+}
+
+TEST_F(KeyIndexTest, KeysLongerThanTheirCodesAreToldApartByTheirNodes) {
+  const std::string left = "a key that goes on to the left";
+  const std::string right = "a key that goes on to the righ";
+  const tq::SymbolKey leftKey{left, {1, 2}, 7};
+  const tq::SymbolKey rightKey{right, {1, 2}, 7};
+  const auto hashOf = [](std::uint32_t) { return 7u; };
+  index.Add(leftKey, {0, 10}, hashOf);
+  index.Add(rightKey, {1, 11}, hashOf);
+  const auto slotOf = [&](const tq::SymbolKey& key, std::uint32_t wanted) {
+    return index.Find(key, [&](std::uint32_t node) { return node == wanted; });
+  };
+  EXPECT_EQ(index.At(slotOf(leftKey, 0)).value, 10);
+  EXPECT_EQ(index.At(slotOf(rightKey, 1)).value, 11);
+  EXPECT_EQ(slotOf(leftKey, 2), KeyIndex::NoSlot);
 }
 
 TEST_F(KeyIndexTest, ReservedRoomIsNotOutgrown) {
@@ -88,12 +118,13 @@ TEST_F(KeyIndexTest, AnswersAsAMapDoesUnderRandomUse) {
       Remove(victim->first);
       continue;
     }
+    // Another node under the same key, as when the first of several equal symbols is removed.
     const auto [node, old] = *victim;
-    index.Replace(old, node, next);
-    hashes.erase(node);
-    hashes[next] = old;
-    EXPECT_FALSE(Has(node, old));
-    EXPECT_TRUE(Has(next++, old));
+    KeyIndex::Entry& entry = index.At(Find(node, old));
+    EXPECT_EQ(entry.node, node);
+    entry = {next, ValueOf(next)};
+    EXPECT_EQ(index.At(Find(node, old)).node, next);
+    entry = {node, ValueOf(node)};
   }
   for (const auto& [node, hash] : hashes)
     EXPECT_TRUE(Has(node, hash));
