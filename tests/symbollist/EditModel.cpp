@@ -205,7 +205,9 @@ std::vector<int> EditModel::Rows(const std::vector<std::string>& tokens) const {
 
 int EditModel::Remove(const std::string& id, int row) {
   ModelList* list = Find(id);
-  std::vector<std::string> tokens = list ? Tokens(*list) : std::vector<std::string>();
+  if (list == nullptr)
+    return 0;
+  std::vector<std::string> tokens = Tokens(*list);
   const std::vector<int> rows = Rows(tokens);
   if (row < 0 || row >= static_cast<int>(rows.size()))
     return 0;
@@ -216,7 +218,9 @@ int EditModel::Remove(const std::string& id, int row) {
 
 int EditModel::Swap(const std::string& id, int first, int second) {
   ModelList* list = Find(id);
-  std::vector<std::string> tokens = list ? Tokens(*list) : std::vector<std::string>();
+  if (list == nullptr)
+    return 0;
+  std::vector<std::string> tokens = Tokens(*list);
   const std::vector<int> rows = Rows(tokens);
   const int count = static_cast<int>(rows.size());
   if (first == second || first < 0 || second < 0 || first >= count || second >= count)
@@ -248,7 +252,9 @@ int EditModel::Insert(const std::string& id, int row, std::string text, bool bef
 
 int EditModel::Replace(const std::string& id, int row, const std::string& text) {
   ModelList* list = Find(id);
-  std::vector<std::string> tokens = list ? Tokens(*list) : std::vector<std::string>();
+  if (list == nullptr)
+    return 0;
+  std::vector<std::string> tokens = Tokens(*list);
   const std::vector<int> rows = Rows(tokens);
   if (row < 0 || row >= static_cast<int>(rows.size()) || text.empty() ||
       text.find(',') != std::string::npos)
