@@ -9,8 +9,8 @@
 // The operations by name, as FailCall, Calls and CountCalls know them: the flat ones by their own
 // name ("VLGetExch"), members as "CStaticKey::Setup", "CStockAttr::GetID",
 // "CCheckFileName::IsValidName", "TQLog::storage". Some can neither fail nor are recorded:
-// VLFree (see OutstandingArrays), IsTraditionChinese, and the constructors and destructors of
-// tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
+// VLFree and TQSFree (see OutstandingArrays), IsTraditionChinese, and the constructors and
+// destructors of tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
 // TQLog::write can be made to fail, but are not recorded: there are dozens for each symbol, and a
 // written line stands in LogLines.
 #pragma once
@@ -19,6 +19,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/services/TQSProxy.h"
+#include "platform/services/VLRecords.h"
 #include "terminal/StandInApi.h"
 
 namespace standin {
@@ -58,17 +60,36 @@ struct Instrument {
   std::vector<ExtendedText> extended = {}; // in the order of the service; a kind may stand twice
 };
 
-// A group of the service's group tree is not part of the market yet; sectors are.
-struct Sector {
-  int type = 1;
+// One group of the service's group tree. A group is a sub-group when it names a parent, which is a
+// group of the same type. Ids are ASCII. The service knows a group by type and id alone: of two with
+// the same, the first one's members count, and either has the sub-groups that name the id.
+struct Group {
+  int type = 1;       // 1 to 201
+  std::string parent; // id of the group above; empty: a top-level group
   std::string id, nameTw, nameCn;
-  std::vector<std::string> members; // full ids
+  std::vector<std::string> members; // full ids; those of a group with sub-groups may be empty.
+                                    // What the market does not list is left out of the answer.
+};
+
+struct TradingAccount {
+  int type = 1;          // a TqsAccType; 1 stocks, 2 futures in the sample market
+  std::string id;        // "9801234567"
+  std::string displayId; // what the user sees: "9801-***4567"
+  std::string holdings;  // as the service hands them out, bytes: full ids joined by ","
+};
+
+struct TradingSystem {
+  std::string id, nameTw, nameCn;
+  bool available = true; // false: TQSGetTSStatus is 0; all else is answered as before
+  std::vector<TradingAccount> accounts;
 };
 
 struct Market {
   std::vector<Exchange> exchanges; // in the service's order; an id or name may stand twice
   std::vector<Instrument> instruments;
-  std::vector<Sector> sectors;
+  std::vector<Group> groups; // in the service's order
+  // Those that the user is logged in to, in the proxy's order.
+  std::vector<TradingSystem> tradingSystems;
   std::string entitled = "";    // TQSGetUserInfo flag 0
   std::string defaults = "";    // TQSGetUserInfo flag 6
   std::string fullMenuKey = ""; // TQSGetUserExtraValue("", "FullMenuKey"); empty: the call fails
@@ -83,6 +104,26 @@ TQSTANDIN_API bool LoadMarket(const std::string& directory, Market& market, std:
 // Instruments of an exchange that the market does not list are not served.
 TQSTANDIN_API void SetMarket(Market market);
 TQSTANDIN_API const Market& CurrentMarket();
+
+// Changes of a trading system while it is in use, without setting the market again: an account's
+// holdings after a fill, and a log-out or a new log-in. False when there is no such system or account.
+TQSTANDIN_API bool SetHoldings(std::string_view tsId, std::string_view accountId, int type,
+                               std::string_view holdings);
+TQSTANDIN_API bool SetAvailable(std::string_view tsId, bool available);
+
+// Puts raw records in the place of what the market says, as a service gone wrong would: whatever
+// bytes, for this type and parent of VLGetSubGroup, and for this type and group of VLGetGroupSymbol;
+// `parent` and `group` are bytes, compared as they are. The array has the records that are given
+// (none: null), `count` is what the service claims. It may be less, and negative; a claim of more
+// has a reader run over the end of the array, which is for a test to answer for. Until Reset.
+TQSTANDIN_API void AnswerGroups(int type, std::string_view parent, std::vector<GroupInfo> records,
+                                int count);
+TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> records,
+                                 int count);
+// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts follow. A
+// trading system that the market does not have is available. Holdings stay those of the market.
+TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records);
+TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records);
 
 // Back to an empty market, no scripted failures, no recorded calls, log lines or messages, bad
 // releases forgotten; recording on, the language that of the start. Arrays handed out and not yet
@@ -111,8 +152,9 @@ TQSTANDIN_API void ClearCalls();
 // Recording costs time and memory: a benchmark turns it off.
 TQSTANDIN_API void RecordCalls(bool on);
 
-// Arrays handed out and not yet given to VLFree, and calls of VLFree with something that is not one
-// of them: never handed out, or released before. Such a release is counted and otherwise ignored.
+// Arrays and texts handed out and not yet given to VLFree or TQSFree, and releases of something that
+// is not one of them: never handed out, released before, or handed out by the other service. Such a
+// release is counted and otherwise ignored.
 TQSTANDIN_API int OutstandingArrays();
 TQSTANDIN_API int BadReleases();
 

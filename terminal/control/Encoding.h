@@ -16,7 +16,8 @@ enum class Language { Traditional, Simplified };
 // UTF-8 to the language's code page. What the code page lacks, and each byte that is no UTF-8,
 // becomes "?".
 std::string Encode(std::string_view utf8, Language language);
-// The code page's text as UTF-8; what it does not know becomes "?".
+// The code page's text as UTF-8; each character that it does not know becomes "?", or on Windows a
+// private one.
 std::string Decode(std::string_view text, Language language);
 
 // The language that the process starts in.

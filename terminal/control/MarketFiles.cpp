@@ -5,36 +5,19 @@
 
 #include "platform/services/VLRecords.h"
 #include "terminal/StandIn.h"
-#include "terminal/control/Encoding.h"
-#include "terminal/control/TableFile.h"
+#include "terminal/control/AccountRows.h"
+#include "terminal/control/GroupRows.h"
+#include "terminal/control/MarketText.h"
 
 namespace standin {
 namespace {
 
-constexpr std::string_view kNothing = "-";
 constexpr std::size_t kLongestId = sizeof(SymbolInfo::id) - 1;
 constexpr std::size_t kLongestName = sizeof(SymbolInfo::name) - 1;
 constexpr std::size_t kLongestExchange = sizeof(ExchInfo::name) - 1;
-constexpr std::size_t kLongestGroupId = sizeof(GroupInfo::szID) - 1;
-constexpr std::size_t kLongestGroupName = sizeof(GroupInfo::szName) - 1;
 constexpr int kMostDecimals = 9;
-constexpr int kMostGroupType = 201;
 
 using ExchangeIds = std::unordered_map<std::string_view, int>;
-
-bool IsPlain(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c <= '~'; });
-}
-
-// No code page makes a text longer than it is in UTF-8.
-bool Fits(std::string_view name, std::size_t size) {
-  return name.size() <= size || (Encode(name, Language::Traditional).size() <= size &&
-                                 Encode(name, Language::Simplified).size() <= size);
-}
-
-std::string Optional(std::string_view field) {
-  return field == kNothing ? std::string() : std::string(field);
-}
 
 bool IsPrice(std::string_view text) {
   const std::size_t point = std::min(text.find('.'), text.size());
@@ -91,8 +74,8 @@ bool AddInstrument(TableFile& file, const TableFile::Row& row, const ExchangeIds
                         *decimals,
                         *lot,
                         true,
-                        Optional(row[7]),
-                        Optional(row[8]),
+                        OptionalText(row[7]),
+                        OptionalText(row[8]),
                         {}};
   if (!instrument.price.empty() && !IsPrice(instrument.price))
     return file.Refuse("price is no decimal number");
@@ -102,36 +85,13 @@ bool AddInstrument(TableFile& file, const TableFile::Row& row, const ExchangeIds
   return true;
 }
 
-std::vector<std::string> SplitMembers(std::string_view text) {
-  std::vector<std::string> members;
-  while (!text.empty()) {
-    const std::size_t comma = std::min(text.find(','), text.size());
-    members.emplace_back(text.substr(0, comma));
-    text.remove_prefix(std::min(comma + 1, text.size()));
-  }
-  return members;
-}
-
-bool AddSector(TableFile& file, const TableFile::Row& row, Market& market) {
-  const std::optional<int> type = ParseNumber(row[0], 1, kMostGroupType);
-  if (!type)
-    return file.Refuse("the type is no number from 1 to 201");
-  if (row[1].empty() || row[1].size() > kLongestGroupId || !IsPlain(row[1]))
-    return file.Refuse("the id is not 1 to 16 ASCII characters");
-  if (!Fits(row[2], kLongestGroupName) || !Fits(row[3], kLongestGroupName))
-    return file.Refuse("a name is longer than 48 bytes");
-  market.sectors.push_back(
-      {*type, std::string(row[1]), std::string(row[2]), std::string(row[3]), SplitMembers(row[4])});
-  return true;
-}
-
 bool SetUserValue(TableFile& file, const TableFile::Row& row, Market& market) {
   if (row[0] == "entitled")
-    market.entitled = Optional(row[1]);
+    market.entitled = OptionalText(row[1]);
   else if (row[0] == "defaults")
-    market.defaults = Optional(row[1]);
+    market.defaults = OptionalText(row[1]);
   else if (row[0] == "full_menu_key")
-    market.fullMenuKey = Optional(row[1]);
+    market.fullMenuKey = OptionalText(row[1]);
   else
     return file.Refuse("unknown key");
   return true;
@@ -166,7 +126,8 @@ bool LoadMarket(const std::string& directory, Market& market, std::string& error
   TableFile exchanges("exchanges.tsv", "id\tname\ttitle_tw\ttitle_cn");
   TableFile symbols("symbols.tsv", "exchange\tcode\tname_tw\tname_cn\tkind\tdecimals\tlot\tprice\t"
                                    "exchange_code");
-  TableFile sectors("sectors.tsv", "type\tid\tname_tw\tname_cn\tmembers");
+  TableFile groups("groups.tsv", GroupRows::kColumns);
+  TableFile accounts("accounts.tsv", AccountRows::kColumns);
   TableFile user("user.tsv", "key\tvalue");
   Market read;
   const auto fail = [&error](const TableFile& file) {
@@ -181,9 +142,14 @@ bool LoadMarket(const std::string& directory, Market& market, std::string& error
   if (!ReadFile(symbols, directory, Presence::Required,
                 [&](const Row& row) { return AddInstrument(symbols, row, ids, read); }))
     return fail(symbols);
-  if (!ReadFile(sectors, directory, Presence::Optional,
-                [&](const Row& row) { return AddSector(sectors, row, read); }))
-    return fail(sectors);
+  GroupRows groupRows(groups, read.groups);
+  if (!ReadFile(groups, directory, Presence::Optional,
+                [&](const Row& row) { return groupRows.Add(row); }))
+    return fail(groups);
+  AccountRows accountRows(accounts, read.tradingSystems);
+  if (!ReadFile(accounts, directory, Presence::Optional,
+                [&](const Row& row) { return accountRows.Add(row); }))
+    return fail(accounts);
   if (!ReadFile(user, directory, Presence::Optional,
                 [&](const Row& row) { return SetUserValue(user, row, read); }))
     return fail(user);

@@ -6,6 +6,7 @@ namespace standin {
 void ResetScript();
 void ResetReleases();
 void ResetReports();
+void ResetAnswers();
 void ResetLanguage();
 
 } // namespace standin

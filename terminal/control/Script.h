@@ -35,7 +35,7 @@ inline void AppendArgument(std::string& text, int argument) {
 
 template <class... Arguments> std::string JoinArguments(Arguments... arguments) {
   std::string text;
-  const char* separator = "";
+  [[maybe_unused]] const char* separator = ""; // without arguments unused
   ((text += separator, AppendArgument(text, arguments), separator = ","), ...);
   return text;
 }

@@ -1,6 +1,7 @@
 #include "terminal/control/ServiceArrays.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <unordered_set>
 
 #include "terminal/StandIn.h"
@@ -9,36 +10,60 @@
 namespace standin {
 namespace {
 
-std::unordered_set<void*>& HandedOut() {
-  static std::unordered_set<void*> arrays;
+using Blocks = std::unordered_set<void*>;
+
+Blocks& Arrays() {
+  static Blocks arrays;
   return arrays;
+}
+
+Blocks& Texts() {
+  static Blocks texts;
+  return texts;
 }
 
 int badReleases = 0;
 
-} // namespace
-
-void* NewArray(std::size_t count, std::size_t size) {
-  if (count == 0)
-    return nullptr;
-  void* array = std::calloc(count, size);
-  if (array)
-    HandedOut().insert(array);
-  return array;
+void* NewBlock(Blocks& blocks, std::size_t count, std::size_t size) {
+  void* block = std::calloc(count, size);
+  if (block)
+    blocks.insert(block);
+  return block;
 }
 
-void ReleaseArray(void* array) {
-  if (!array)
+void Release(Blocks& blocks, void* block) {
+  if (!block)
     return;
-  if (HandedOut().erase(array) == 0) {
+  if (blocks.erase(block) == 0) {
     ++badReleases;
     return;
   }
-  std::free(array);
+  std::free(block);
+}
+
+} // namespace
+
+void* NewArray(std::size_t count, std::size_t size) {
+  return count == 0 ? nullptr : NewBlock(Arrays(), count, size);
+}
+
+void ReleaseArray(void* array) {
+  Release(Arrays(), array);
+}
+
+char* NewText(std::string_view text) {
+  char* copy = static_cast<char*>(NewBlock(Texts(), text.size() + 1, 1));
+  if (copy && !text.empty())
+    std::memcpy(copy, text.data(), text.size());
+  return copy;
+}
+
+void ReleaseText(void* text) {
+  Release(Texts(), text);
 }
 
 int OutstandingArrays() {
-  return static_cast<int>(HandedOut().size());
+  return static_cast<int>(Arrays().size() + Texts().size());
 }
 
 int BadReleases() {

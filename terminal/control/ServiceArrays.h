@@ -1,8 +1,10 @@
-// The arrays that the stand-in symbol-data service hands out, each known by its address until it is
-// released, so that a caller who forgets one, or releases one twice, is found out.
+// The arrays that the stand-in symbol-data service hands out and the texts of the trading-system
+// proxy, each known by its address until it is released, so that a caller who forgets one, releases
+// one twice, or gives it to the wrong service, is found out.
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 #include "terminal/StandInApi.h"
 
@@ -18,5 +20,10 @@ TQSTANDIN_API void ReleaseArray(void* array);
 template <class T> T* NewArray(std::size_t count) {
   return static_cast<T*>(NewArray(count, sizeof(T)));
 }
+
+// A NUL-terminated copy, an empty one too. Null when memory is short.
+TQSTANDIN_API char* NewText(std::string_view text);
+// The same as ReleaseArray, for what NewText returned.
+TQSTANDIN_API void ReleaseText(void* text);
 
 } // namespace standin

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <iconv.h>
 
+#include "platform/CodePage.h"
+
 namespace standin {
 namespace {
 
@@ -13,15 +15,16 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
-// How far to step over what cannot be converted: one character of UTF-8, one byte of a code page.
+// How far to step over what cannot be converted: one character, so that the trail of a user-defined
+// one is not taken for a letter or a lead byte.
 std::size_t Utf8Width(std::string_view rest) {
   std::size_t width = 1;
   while (width < rest.size() && (static_cast<unsigned char>(rest[width]) & 0xC0) == 0x80)
     ++width;
   return width;
 }
-std::size_t ByteWidth(std::string_view) {
-  return 1;
+std::size_t AnsiWidth(std::string_view rest) {
+  return tq::CharLength(rest.data(), rest.data() + rest.size());
 }
 
 class Converter {
@@ -81,7 +84,7 @@ std::string Encode(std::string_view utf8, Language language) {
 std::string Decode(std::string_view text, Language language) {
   static Converter traditional("UTF-8", "CP950");
   static Converter simplified("UTF-8", "CP936");
-  return (language == Language::Traditional ? traditional : simplified).Convert(text, ByteWidth);
+  return (language == Language::Traditional ? traditional : simplified).Convert(text, AnsiWidth);
 }
 
 Language StartLanguage() {

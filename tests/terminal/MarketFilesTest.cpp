@@ -1,38 +1,13 @@
-// LoadMarket: what a market directory may look like.
-#include "tests/support/StandInTest.h"
-#include "tests/support/TempDir.h"
+// LoadMarket: exchanges, symbols, the user.
+#include "tests/terminal/MarketFilesTest.h"
 
 namespace {
 
-const char kExchanges[] = "id\tname\ttitle_tw\ttitle_cn\n";
-const char kSymbols[] =
-    "exchange\tcode\tname_tw\tname_cn\tkind\tdecimals\tlot\tprice\texchange_code\n";
-const char kSectors[] = "type\tid\tname_tw\tname_cn\tmembers\n";
-const char kUser[] = "key\tvalue\n";
-const char kOneExchange[] = "1\tTW\t上市\t上市\n";
-
-class MarketFiles : public testing::Test {
-protected:
-  MarketFiles() {
-    directory.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
-    directory.Write("symbols.tsv", kSymbols);
-  }
-
-  bool Load() { return standin::LoadMarket(directory.Path(), market, error); }
-
-  TempDir directory;
-  standin::Market market;
-  std::string error;
-};
-
-TEST_F(MarketFiles, ReadsAllFourFiles) {
-  directory.Write("symbols.tsv", std::string(kSymbols) +
+TEST_F(MarketFiles, ReadsExchangesSymbolsAndTheUser) {
+  directory.Write("symbols.tsv", kSymbols +
                                      "TW\t2330\t台積電\t台积电\tstock\t2\t1000\t1085.5\tX2330\n"
                                      "TW\t2317\t鴻海\t鸿海\tstock\t2\t1000\t-\t-\n");
-  directory.Write("sectors.tsv",
-                  std::string(kSectors) + "1\tCHIP\t半導體\t半导体\t2330.TW,2317.TW\n");
-  directory.Write("user.tsv",
-                  std::string(kUser) + "entitled\t1,2\ndefaults\t1\nfull_menu_key\tK\n");
+  directory.Write("user.tsv", kUser + "entitled\t1,2\ndefaults\t1\nfull_menu_key\tK\n");
   ASSERT_TRUE(Load()) << error;
   ASSERT_EQ(market.exchanges.size(), 1u);
   EXPECT_EQ(market.exchanges[0].titleTw, "上市");
@@ -47,8 +22,8 @@ TEST_F(MarketFiles, ReadsAllFourFiles) {
   EXPECT_EQ(market.instruments[0].exchangeCode, "X2330");
   EXPECT_EQ(market.instruments[1].price, "");
   EXPECT_EQ(market.instruments[1].exchangeCode, "");
-  ASSERT_EQ(market.sectors.size(), 1u);
-  EXPECT_EQ(market.sectors[0].members, (std::vector<std::string>{"2330.TW", "2317.TW"}));
+  EXPECT_TRUE(market.groups.empty());
+  EXPECT_TRUE(market.tradingSystems.empty());
   EXPECT_EQ(market.entitled, "1,2");
   EXPECT_EQ(market.defaults, "1");
   EXPECT_EQ(market.fullMenuKey, "K");
@@ -69,6 +44,8 @@ TEST_F(MarketFiles, TheSampleMarketLoads) {
   EXPECT_FALSE(market.exchanges.empty());
   EXPECT_FALSE(market.instruments.empty());
   EXPECT_FALSE(market.defaults.empty());
+  EXPECT_FALSE(market.groups.empty());
+  EXPECT_EQ(market.tradingSystems.size(), 2u);
 }
 
 TEST_F(MarketFiles, AFailedLoadLeavesTheMarketAsItWas) {
@@ -81,19 +58,12 @@ TEST_F(MarketFiles, AFailedLoadLeavesTheMarketAsItWas) {
 
 TEST(MarketDirectory, WithoutSymbolsIsRefused) {
   const TempDir directory;
-  directory.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
+  directory.Write("exchanges.tsv", kExchanges + kOneExchange);
   standin::Market market;
   std::string error;
   EXPECT_FALSE(standin::LoadMarket(directory.Path(), market, error));
   EXPECT_EQ(error, "symbols.tsv: cannot be read");
 }
-
-struct Bad {
-  const char* what;
-  const char* file;
-  std::string text;
-  const char* error; // how it begins
-};
 
 std::string Symbol(const std::string& exchange, const std::string& code, const std::string& name,
                    const std::string& numbers = "2\t1000\t-\t-") {
@@ -101,35 +71,30 @@ std::string Symbol(const std::string& exchange, const std::string& code, const s
          "\n";
 }
 
-const std::string kFifteen = "一二三四五六七八九十甲乙丙丁戊";
-
-const Bad kBad[] = {
+const BadFile kBad[] = {
     {"no header", "exchanges.tsv", "", "exchanges.tsv: no header"},
     {"wrong header", "exchanges.tsv", "id\tname\n", "exchanges.tsv:1: the header"},
     {"records before the header", "symbols.tsv", "TW\t1\n", "symbols.tsv:1: the header"},
-    {"too few fields", "exchanges.tsv", std::string(kExchanges) + "1\tTW\n",
+    {"too few fields", "exchanges.tsv", kExchanges + "1\tTW\n",
      "exchanges.tsv:2: 4 fields expected, found 2"},
-    {"too many fields", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\t\t\n",
+    {"too many fields", "exchanges.tsv", kExchanges + "1\tTW\t\t\t\n",
      "exchanges.tsv:2: 4 fields expected, found 5"},
-    {"id no number", "exchanges.tsv", std::string(kExchanges) + "1x\tTW\t\t\n",
-     "exchanges.tsv:2: the id"},
-    {"id 0", "exchanges.tsv", std::string(kExchanges) + "0\tTW\t\t\n", "exchanges.tsv:2: the id"},
-    {"id too large", "exchanges.tsv", std::string(kExchanges) + "32768\tTW\t\t\n",
-     "exchanges.tsv:2: the id"},
-    {"long exchange name", "exchanges.tsv",
-     std::string(kExchanges) + "1\t" + std::string(20, 'X') + "\t\t\n",
+    {"id no number", "exchanges.tsv", kExchanges + "1x\tTW\t\t\n", "exchanges.tsv:2: the id"},
+    {"id 0", "exchanges.tsv", kExchanges + "0\tTW\t\t\n", "exchanges.tsv:2: the id"},
+    {"id too large", "exchanges.tsv", kExchanges + "32768\tTW\t\t\n", "exchanges.tsv:2: the id"},
+    {"long exchange name", "exchanges.tsv", kExchanges + "1\t" + std::string(20, 'X') + "\t\t\n",
      "exchanges.tsv:2: the name"},
-    {"exchange name with a dot", "exchanges.tsv", std::string(kExchanges) + "1\tT.W\t\t\n",
+    {"exchange name with a dot", "exchanges.tsv", kExchanges + "1\tT.W\t\t\n",
      "exchanges.tsv:2: the name"},
-    {"exchange twice", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\t\n#\n1\tTE\t\t\n",
+    {"exchange twice", "exchanges.tsv", kExchanges + "1\tTW\t\t\n#\n1\tTE\t\t\n",
      "exchanges.tsv:4: the id or the name stands twice"},
-    {"bad UTF-8", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xB3\x5C\t\n",
+    {"bad UTF-8", "exchanges.tsv", kExchanges + "1\tTW\t\xB3\x5C\t\n",
      "exchanges.tsv:2: not UTF-8"},
-    {"overlong UTF-8", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xC0\x80\t\n",
+    {"overlong UTF-8", "exchanges.tsv", kExchanges + "1\tTW\t\xC0\x80\t\n",
      "exchanges.tsv:2: not UTF-8"},
-    {"surrogate", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t\xED\xA0\x80\t\n",
+    {"surrogate", "exchanges.tsv", kExchanges + "1\tTW\t\xED\xA0\x80\t\n",
      "exchanges.tsv:2: not UTF-8"},
-    {"NUL", "exchanges.tsv", std::string(kExchanges) + "1\tTW\t" + std::string(1, '\0') + "\t\n",
+    {"NUL", "exchanges.tsv", kExchanges + "1\tTW\t" + std::string(1, '\0') + "\t\n",
      "exchanges.tsv:2: a NUL"},
     {"unknown exchange", "symbols.tsv", Symbol("TX", "2330", "n"),
      "symbols.tsv:2: unknown exchange"},
@@ -155,25 +120,12 @@ const Bad kBad[] = {
      "symbols.tsv:2: price"},
     {"exchange code", "symbols.tsv", Symbol("TW", "1", "n", "2\t1\t-\t" + std::string(20, '1')),
      "symbols.tsv:2: the code"},
-    {"group type", "sectors.tsv", std::string(kSectors) + "202\tA\t\t\t\n",
-     "sectors.tsv:2: the type"},
-    {"group id", "sectors.tsv", std::string(kSectors) + "1\t12345678901234567\t\t\t\n",
-     "sectors.tsv:2: the id"},
-    {"user key", "user.tsv", std::string(kUser) + "entitled\t1\nother\t1\n",
-     "user.tsv:3: unknown key"},
+    {"user key", "user.tsv", kUser + "entitled\t1\nother\t1\n", "user.tsv:3: unknown key"},
 };
 
-TEST_F(MarketFiles, RefusesABadFileWithItsLine) {
-  for (const Bad& bad : kBad) {
-    SCOPED_TRACE(bad.what);
-    const TempDir here;
-    here.Write("exchanges.tsv", std::string(kExchanges) + kOneExchange);
-    here.Write("symbols.tsv", kSymbols);
-    here.Write(bad.file, bad.text);
-    error.clear();
-    EXPECT_FALSE(standin::LoadMarket(here.Path(), market, error));
-    EXPECT_EQ(error.substr(0, std::string(bad.error).size()), bad.error) << error;
-  }
+TEST(MarketDirectory, RefusesABadFileWithItsLine) {
+  for (const BadFile& bad : kBad)
+    ExpectRefusal(bad);
 }
 
 TEST_F(MarketFiles, TakesWhatJustFits) {

@@ -1,84 +1,25 @@
 // The stand-in's means of testing: ordered failures, recorded calls, counted arrays.
-#include <functional>
-
 #include "platform/framework/CString.h"
-#include "platform/services/TQSObj.h"
 #include "platform/services/TQSProxy.h"
-#include "platform/services/tqCommon.h"
 #include "platform/services/tqStock.h"
-#include "platform/services/tqUtil.h"
+#include "tests/support/GroupMarket.h"
 #include "tests/support/StandInTest.h"
+#include "tests/support/TradingMarket.h"
 #include "tests/terminal/ArrayOwner.h"
+#include "tests/terminal/ServiceOperations.h"
 
 namespace {
-
-struct Operation {
-  const char* name;
-  std::function<int()> call; // one that succeeds unless it is ordered to fail
-};
 
 int GetExch() {
   Exchs exchanges;
   return VLGetExch(&exchanges.list, &exchanges.count, 1);
 }
 
-int SetUp() {
-  Attrs attrs;
-  VLGetBaseAttrs("2330.TW", &attrs.list, &attrs.count, 1);
-  return CStaticKey().Setup(attrs.list);
-}
-
-std::vector<Operation> Operations() {
-  static char buffer[TQSUserInfoSize];
-  static SymbolInfo info;
-  return {
-      {"VLGetExch", GetExch},
-      {"VLGetBaseAttrs2",
-       [] {
-         Attrs attrs;
-         return VLGetBaseAttrs2(1, -1, &attrs.list, &attrs.count, 0, 1);
-       }},
-      {"VLGetBaseAttrs",
-       [] {
-         Attrs attrs;
-         return VLGetBaseAttrs("2330", &attrs.list, &attrs.count, 1);
-       }},
-      {"VLGetSymbolInfos",
-       [] {
-         Infos infos;
-         return VLGetSymbolInfos("2330.TW", &infos.list, &infos.count);
-       }},
-      {"VLGetSymbolInfos2",
-       [] {
-         Infos infos;
-         return VLGetSymbolInfos2(1, -1, &infos.list, &infos.count, 0);
-       }},
-      {"VLGetSymbolInfo", [] { return VLGetSymbolInfo("2330.TW", &info); }},
-      {"VLFindSymbol",
-       [] {
-         Infos infos;
-         return VLFindSymbol("2330", &infos.list, &infos.count, 0, 0, -1);
-       }},
-      {"TQSGetUserInfo", [] { return TQSGetUserInfo(LoginInfoEntitledExchanges, buffer, ""); }},
-      {"TQSGetUserExtraValue",
-       [] { return TQSGetUserExtraValue("", "FullMenuKey", buffer, sizeof buffer); }},
-      {"tqShowDllMessage", [] { return tqShowDllMessage(nullptr, 1, 0); }},
-      {"CCheckFileName::IsValidName",
-       [] { return CCheckFileName::IsValidName(nullptr, "name", 0); }},
-      {"CStaticKey::Setup", SetUp},
-      {"CStaticKey::SetUpTrade", [] { return CStaticKey().SetUpTrade(1, "2330"); }},
-      {"tqStockGetFieldString",
-       [] {
-         CString value;
-         return tqStockGetFieldString(FieldReferencePrice, 1, "2330", value);
-       }},
-  };
-}
-
 class ScriptTest : public StandInTest {
 protected:
   ScriptTest() {
-    standin::Market market = SmallMarket();
+    standin::Market market = GroupMarket();
+    market.tradingSystems = TradingMarket().tradingSystems;
     market.fullMenuKey = "1";
     standin::SetMarket(market);
   }

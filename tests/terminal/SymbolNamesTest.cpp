@@ -74,6 +74,14 @@ TEST_F(SymbolNames, ConvertThereAndBack) {
   EXPECT_EQ(standin::FromAnsi(""), "");
 }
 
+// Its second byte is an "@", which must not show up as one.
+TEST_F(SymbolNames, AUserDefinedCharacterIsOneCharacterToo) {
+  const std::string text = standin::FromAnsi("\xFA\x40"
+                                             "B");
+  EXPECT_EQ(text.find('@'), std::string::npos) << text;
+  EXPECT_EQ(text.back(), 'B') << text;
+}
+
 TEST_F(SymbolNames, SearchMatchesTheBeginningOfCodesAndIdsAndAnyPartOfNames) {
   EXPECT_EQ(Found("233"), "2330.TW");
   EXPECT_EQ(Found("7777"), "7777.TW 7777.TE");

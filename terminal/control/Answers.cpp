@@ -1,0 +1,79 @@
+#include "terminal/control/Answers.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "terminal/StandIn.h"
+#include "terminal/control/Parts.h"
+
+namespace standin {
+namespace {
+
+template <class T> using ByGroup = std::map<std::pair<int, std::string>, Answer<T>>;
+
+struct Answers {
+  ByGroup<GroupInfo> groups;
+  ByGroup<SymbolInfo> members;
+  std::optional<std::vector<TQS_TSINFO>> systems;
+  std::map<std::string, std::vector<TQS_ACCOUNTINFO>, std::less<>> accounts;
+};
+
+Answers& TheAnswers() {
+  static Answers answers;
+  return answers;
+}
+
+// Every call of the services asks, so without answers it must cost nothing.
+template <class T>
+const Answer<T>* FindAnswer(const ByGroup<T>& answers, int type, std::string_view group) {
+  if (answers.empty())
+    return nullptr;
+  const auto found = answers.find({type, std::string(group)});
+  return found == answers.end() ? nullptr : &found->second;
+}
+
+} // namespace
+
+void AnswerGroups(int type, std::string_view parent, std::vector<GroupInfo> records, int count) {
+  TheAnswers().groups.insert_or_assign({type, std::string(parent)},
+                                       Answer<GroupInfo>{std::move(records), count});
+}
+
+void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> records, int count) {
+  TheAnswers().members.insert_or_assign({type, std::string(group)},
+                                        Answer<SymbolInfo>{std::move(records), count});
+}
+
+void AnswerTradingSystems(std::vector<TQS_TSINFO> records) {
+  TheAnswers().systems = std::move(records);
+}
+
+void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records) {
+  TheAnswers().accounts.insert_or_assign(std::string(tsId), std::move(records));
+}
+
+const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent) {
+  return FindAnswer(TheAnswers().groups, type, parent);
+}
+
+const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group) {
+  return FindAnswer(TheAnswers().members, type, group);
+}
+
+const std::vector<TQS_TSINFO>* AnsweredTradingSystems() {
+  const std::optional<std::vector<TQS_TSINFO>>& systems = TheAnswers().systems;
+  return systems ? &*systems : nullptr;
+}
+
+const std::vector<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId) {
+  const auto found = TheAnswers().accounts.find(tsId);
+  return found == TheAnswers().accounts.end() ? nullptr : &found->second;
+}
+
+void ResetAnswers() {
+  TheAnswers() = Answers();
+}
+
+} // namespace standin

@@ -1,0 +1,41 @@
+// What the fields of the market files have in common.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "terminal/control/Encoding.h"
+
+namespace standin {
+
+// Visible ASCII characters only.
+inline bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c <= '~'; });
+}
+
+// 1 to `longest` visible ASCII characters.
+inline bool IsPlainId(std::string_view text, std::size_t longest) {
+  return !text.empty() && text.size() <= longest && IsPlain(text);
+}
+
+// Whether a name takes at most `size` bytes in either language. No code page makes a text longer
+// than it is in UTF-8.
+inline bool Fits(std::string_view name, std::size_t size) {
+  return name.size() <= size || (Encode(name, Language::Traditional).size() <= size &&
+                                 Encode(name, Language::Simplified).size() <= size);
+}
+
+// A field in which "-" says that there is nothing.
+inline std::string OptionalText(std::string_view field) {
+  return field == "-" ? std::string() : std::string(field);
+}
+
+// Symbol ids joined by "," into `ids`; false when one is empty or no id.
+bool SplitIds(std::string_view text, std::vector<std::string>& ids);
+
+// ASCII letters made small: ids that differ in letter case only are the same to the services.
+std::string FoldedId(std::string_view id);
+
+} // namespace standin

@@ -1,0 +1,75 @@
+#include "terminal/control/TradingRecords.h"
+
+#include "platform/CodePage.h"
+#include "terminal/control/Encoding.h"
+#include "terminal/control/Reports.h"
+
+namespace standin {
+namespace {
+
+bool SameId(std::string_view left, std::string_view right) {
+  return tq::EqualNoCase(left.data(), left.size(), right.data(), right.size());
+}
+
+TQS_TSINFO MakeSystem(const TradingSystem& system, Language language) {
+  TQS_TSINFO info{};
+  tq::CopyCut(info.id, system.id.c_str());
+  const bool traditional = language == Language::Traditional;
+  tq::CopyCut(info.name, Encode(traditional ? system.nameTw : system.nameCn, language).c_str());
+  return info;
+}
+
+TQS_ACCOUNTINFO MakeAccount(const TradingAccount& account, Language language) {
+  TQS_ACCOUNTINFO info{};
+  info.type = static_cast<TqsAccType>(account.type);
+  tq::CopyCut(info.id, account.id.c_str());
+  tq::CopyCut(info.displayId, Encode(account.displayId, language).c_str());
+  return info;
+}
+
+} // namespace
+
+void TradingRecords::Build(const Market& market) {
+  const auto build = [&market](Records& records, Language language) {
+    records = Records();
+    for (const TradingSystem& system : market.tradingSystems) {
+      records.systems.push_back(MakeSystem(system, language));
+      std::vector<TQS_ACCOUNTINFO>& accounts = records.accounts.emplace_back();
+      for (const TradingAccount& account : system.accounts)
+        accounts.push_back(MakeAccount(account, language));
+    }
+  };
+  build(traditional_, Language::Traditional);
+  build(simplified_, Language::Simplified);
+}
+
+const TradingRecords::Records& TradingRecords::Now() const {
+  return InterfaceLanguage() == Language::Traditional ? traditional_ : simplified_;
+}
+
+const std::vector<TQS_TSINFO>& TradingRecords::Systems() const {
+  return Now().systems;
+}
+
+const std::vector<TQS_ACCOUNTINFO>& TradingRecords::Accounts(std::size_t system) const {
+  return Now().accounts[system];
+}
+
+const TradingSystem* FindSystem(std::string_view tsId) {
+  for (const TradingSystem& system : CurrentMarket().tradingSystems)
+    if (SameId(system.id, tsId))
+      return &system;
+  return nullptr;
+}
+
+const TradingAccount* FindAccount(std::string_view tsId, std::string_view accountId, int type) {
+  const TradingSystem* system = FindSystem(tsId);
+  if (!system)
+    return nullptr;
+  for (const TradingAccount& account : system->accounts)
+    if (account.type == type && SameId(account.id, accountId))
+      return &account;
+  return nullptr;
+}
+
+} // namespace standin

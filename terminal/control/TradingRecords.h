@@ -1,0 +1,40 @@
+// The market's trading systems as the proxy hands them out: records built once, when the market is
+// set.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "terminal/StandIn.h"
+
+namespace standin {
+
+class TQSTANDIN_API TradingRecords {
+public:
+  void Build(const Market& market);
+
+  // In the interface language, in the order of the market's systems and of their accounts.
+  const std::vector<TQS_TSINFO>& Systems() const;
+  const std::vector<TQS_ACCOUNTINFO>& Accounts(std::size_t system) const;
+
+private:
+  struct Records {
+    std::vector<TQS_TSINFO> systems;
+    std::vector<std::vector<TQS_ACCOUNTINFO>> accounts;
+  };
+  const Records& Now() const;
+
+  Records traditional_;
+  Records simplified_;
+};
+
+// The current market's.
+TQSTANDIN_API const TradingRecords& CurrentTradingRecords();
+
+// A trading system of the current market and an account of it, ASCII letter case of the ids
+// ignored; null for an unknown one.
+TQSTANDIN_API const TradingSystem* FindSystem(std::string_view tsId);
+TQSTANDIN_API const TradingAccount* FindAccount(std::string_view tsId, std::string_view accountId,
+                                                int type);
+
+} // namespace standin
