@@ -1,0 +1,30 @@
+// CGroupSet: a group, with its sub-groups, as the terminal pushes it into the manager.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "platform/framework/CString.h"
+#include "tqSymbolApi.h"
+
+// A value: copies are independent. Text is in the process's ANSI code page; what does not fit into a
+// group's record (16 bytes of id, 48 of name) is cut there, not here.
+class TQSYMBOL_API CGroupSet {
+public:
+  // Type -1, everything else empty.
+  CGroupSet();
+  CGroupSet(const CGroupSet& other);
+  CGroupSet& operator=(const CGroupSet& other);
+  ~CGroupSet();
+
+  // Equal types, equal texts (letter case counts), equal pairs in the same order.
+  bool operator==(const CGroupSet& other) const;
+  // Back to the state of a new one.
+  void Reset();
+
+  // The order of the fields is part of the interface.
+  int type;
+  CString id;
+  CString name;
+  std::vector<std::pair<CString, CString>> subGroups; // id and name of each
+};
