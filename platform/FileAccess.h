@@ -61,6 +61,10 @@ public:
   virtual bool DirectoryExists(const char* directory) = 0;
   // True for an existing file of any kind that is not a directory.
   virtual bool FileExists(const char* path) = 0;
+
+  // Gives a file another name in its directory. A file that has that name already is replaced, in one
+  // step. False when that cannot be done: both are then as they were.
+  virtual bool RenameFile(const char* from, const char* to) = 0;
 };
 
 // Hands every operation on to another object, so that a test overrides the one that it wants to fail.
@@ -79,6 +83,9 @@ public:
     return target_.DirectoryExists(directory);
   }
   bool FileExists(const char* path) override { return target_.FileExists(path); }
+  bool RenameFile(const char* from, const char* to) override {
+    return target_.RenameFile(from, to);
+  }
 
 private:
   FileAccess& target_;

@@ -58,6 +58,11 @@ public:
   // The child elements in document order; with a name only those of that name without a namespace.
   std::vector<XmlElement> Children(const char* name = nullptr) const;
 
+  // All child nodes in document order, for callers who number them: what is no element (a comment, a
+  // processing instruction, a CDATA section, a piece of text) is null. Text that is nothing but white
+  // space is no node here: it is how a file is laid out.
+  std::vector<XmlElement> ChildNodes() const;
+
 private:
   friend class XmlDocument;
   XmlElement(void* node, bool carried) : node_(node), carried_(carried) {}

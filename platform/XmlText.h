@@ -55,4 +55,9 @@ XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text);
 // `value` is assigned once.
 void AssignXmlText(std::string_view utf8, bool carried, CString& value);
 
+// Whether a text is nothing but white space, as XML has it.
+inline bool IsXmlBlank(std::string_view text) {
+  return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 } // namespace tq

@@ -3,6 +3,7 @@
 #include "platform/posix/SystemPath.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -63,6 +64,10 @@ public:
   bool FileExists(const char* path) override {
     struct stat info;
     return ::stat(SystemPath(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+  }
+
+  bool RenameFile(const char* from, const char* to) override {
+    return FileExists(from) && ::rename(SystemPath(from).c_str(), SystemPath(to).c_str()) == 0;
   }
 };
 

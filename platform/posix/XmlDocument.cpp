@@ -26,6 +26,10 @@ std::string_view TextOf(const xmlChar* text) {
                          : std::string_view();
 }
 
+bool IsBlank(const xmlNode* node) {
+  return node->type == XML_TEXT_NODE && IsXmlBlank(TextOf(node->content));
+}
+
 bool IsElement(const xmlNode* node, std::string_view name) {
   return node->type == XML_ELEMENT_NODE && node->ns == nullptr && TextOf(node->name) == name;
 }
@@ -128,6 +132,16 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
       children.push_back(XmlElement(child, carried_));
   }
   return children;
+}
+
+std::vector<XmlElement> XmlElement::ChildNodes() const {
+  std::vector<XmlElement> nodes;
+  xmlNode* child = node_ != nullptr ? NodeOf(node_)->children : nullptr;
+  for (; child != nullptr; child = child->next) {
+    if (!IsBlank(child))
+      nodes.push_back(child->type == XML_ELEMENT_NODE ? XmlElement(child, carried_) : XmlElement());
+  }
+  return nodes;
 }
 
 XmlDocument::XmlDocument() {

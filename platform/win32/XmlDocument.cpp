@@ -95,6 +95,11 @@ std::string TextPiece(Node* node) {
   return piece;
 }
 
+bool IsBlank(Node* node) {
+  DOMNodeType type = NODE_INVALID;
+  return SUCCEEDED(node->get_nodeType(&type)) && type == NODE_TEXT && IsXmlBlank(TextPiece(node));
+}
+
 // Calls take(child) for each child node in document order.
 template <typename Take> void ForEachChild(Node* parent, const Take& take) {
   ComPtr<Node> child;
@@ -189,6 +194,21 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
     children.push_back(XmlElement(child, carried_));
   });
   return children;
+}
+
+std::vector<XmlElement> XmlElement::ChildNodes() const {
+  std::vector<XmlElement> nodes;
+  ForEachChild(NodeOf(node_), [&](Node* child) {
+    if (IsBlank(child))
+      return;
+    if (!IsElement(child)) {
+      nodes.emplace_back();
+      return;
+    }
+    child->AddRef();
+    nodes.push_back(XmlElement(child, carried_));
+  });
+  return nodes;
 }
 
 XmlDocument::XmlDocument() : state_(new State) {}

@@ -1,0 +1,86 @@
+#include "groups/ImportFile.h"
+
+#include <string>
+
+#include "platform/FileAccess.h"
+#include "platform/XmlDocument.h"
+#include "platform/XmlText.h"
+#include "symbollist/IdString.h"
+#include "symbollist/LibraryString.h"
+
+namespace tq {
+namespace {
+
+// By product. Names come from the string table, ids never change with the language.
+constexpr const char* kIdPatterns[] = {"PellarPlus %d", "eOrvel %d", "eTamsin %d"};
+constexpr int kProducts = 3;
+
+// What the list file cannot carry: one such character would keep all of the user's lists from loading.
+constexpr char kNotForAFile[] = "'&<";
+
+bool ReadFile(const char* path, std::string& bytes) {
+  return Files().ReadWholeFile(path, XmlSizeLimit, bytes) == ReadResult::Ok;
+}
+
+CString WithoutBadIds(const CString& symbols) {
+  if (symbols.FindOneOf(kNotForAFile) < 0)
+    return symbols;
+  CStringArray tokens;
+  SplitIdString(symbols, tokens);
+  CString kept;
+  for (int i = 0; i < tokens.GetSize(); ++i) {
+    if (tokens[i].FindOneOf(kNotForAFile) >= 0)
+      continue;
+    if (!kept.IsEmpty())
+      kept += ',';
+    kept += tokens[i];
+  }
+  return kept;
+}
+
+CString SymbolsOf(const XmlElement& list) {
+  const std::vector<XmlElement> ids = list.Children("IDs");
+  CString symbols;
+  if (!ids.empty())
+    ids.front().Text(symbols);
+  return WithoutBadIds(symbols.Trim());
+}
+
+} // namespace
+
+bool ReadImportFile(const char* path, int product, std::vector<ImportedList>& lists) {
+  lists.clear();
+  std::string bytes;
+  XmlDocument document;
+  if (product < 0 || product >= kProducts || !ReadFile(path, bytes) ||
+      !document.Load(bytes.data(), bytes.size()))
+    return false;
+  const CString namePattern = LibraryString(kStringFirstProduct + static_cast<unsigned>(product));
+  int number = 0;
+  for (const XmlElement& node : document.SelectSingle("/HaldeUserList").ChildNodes()) {
+    // Every node counts, so that a list keeps its number whichever of the others has symbols.
+    ++number;
+    ImportedList list;
+    list.symbols = SymbolsOf(node);
+    if (list.symbols.IsEmpty())
+      continue;
+    list.id.Format(kIdPatterns[product], number);
+    list.name.Format(namePattern, number);
+    lists.push_back(std::move(list));
+  }
+  return true;
+}
+
+bool IsImported(const char* path, const char* importedPath) {
+  std::string bytes;
+  std::string imported;
+  return ReadFile(importedPath, imported) && ReadFile(path, bytes) && bytes == imported;
+}
+
+void SetAside(const char* path, const char* importedPath) {
+  std::string bytes;
+  if (!Files().RenameFile(path, importedPath) && ReadFile(path, bytes))
+    Files().SaveWholeFile(importedPath, bytes.data(), bytes.size());
+}
+
+} // namespace tq

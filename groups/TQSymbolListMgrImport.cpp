@@ -1,0 +1,87 @@
+// Lists of other products, and the texts that switch on a broker's edition.
+#include <algorithm>
+
+#include "groups/ImportFile.h"
+#include "platform/FileAccess.h"
+#include "symbollist/ListArray.h"
+#include "symbollist/ListIndex.h"
+#include "symbollist/ListName.h"
+#include "symbollist/Log.h"
+#include "symbollist/Notify.h"
+#include "symbollist/TQSymbolListMgr.h"
+
+int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) {
+  std::vector<tq::ImportedList> lists;
+  if (path.IsEmpty() || !tq::ReadImportFile(path, product, lists))
+    return 0;
+  ImportLists(lists);
+  return 1;
+}
+
+int CTQSymbolListMgr::LoadOtherProductList() {
+  const CString path = FilePath(tq::kImportFileName);
+  const CString imported = FilePath(tq::kImportedFileName);
+  if (path.IsEmpty() || !tq::Files().FileExists(path))
+    return 0;
+  // A file that could not be renamed when it was imported: what the user did to its lists since is not
+  // to be undone.
+  if (tq::IsImported(path, imported)) {
+    tq::Files().RenameFile(path, imported);
+    return 0;
+  }
+  std::vector<tq::ImportedList> lists;
+  if (!tq::ReadImportFile(path, tq::kImportedProduct, lists))
+    return 0;
+  // Lists that are not on the disk yet would be lost with the file.
+  if (ImportLists(lists) != 0)
+    tq::SetAside(path, imported);
+  return 1;
+}
+
+// What AddSymbolList does for each list, but with one save for all: an import may have thousands, and
+// each save writes all that came before. Returns 0 when they could not be saved.
+int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists) {
+  tq::ListIndex index(lists_);
+  const auto taken = std::count_if(lists.begin(), lists.end(), [&](const tq::ImportedList& list) {
+    return ImportList(list, index);
+  });
+  if (taken == 0)
+    return 1;
+  if (defaultIndex_ == -1)
+    defaultIndex_ = 0;
+  const int saved = SaveSymbolList();
+  for (auto i = taken; i > 0; --i) {
+    tq::LogLine(tq::kLogChange, "Add SymbolList");
+    tq::Notify(tq::kNotifyUserLists, "");
+  }
+  return saved;
+}
+
+bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& index) {
+  const int found = index.FindById(from.id);
+  if (found >= 0) {
+    // One that the user has renamed is the user's own.
+    if (!tq::ListAt(lists_, found)->IsSameName(from.name))
+      return false;
+    tq::ListAt(lists_, found)->Update1(from.symbols);
+    return true;
+  }
+  const auto taken = [&](const CString& name) { return index.HasName(name); };
+  const CString name = tq::FreeName(from.name, taken);
+  if (taken(name))
+    return false;
+  PutNewList(from.id, name, from.symbols, 1);
+  index.Add(*tq::ListAt(lists_, lists_.GetUpperBound()), lists_.GetUpperBound());
+  return true;
+}
+
+void CTQSymbolListMgr::AddExtraTQInfo(const CString& info) {
+  if (!info.IsEmpty() && std::find(extraInfo_.begin(), extraInfo_.end(), info) == extraInfo_.end())
+    extraInfo_.push_back(info);
+}
+
+void CTQSymbolListMgr::RemoveExtraTQInfo(const CString& info) {
+  const auto found = std::find(extraInfo_.begin(), extraInfo_.end(), info);
+  if (found != extraInfo_.end())
+    extraInfo_.erase(found);
+}

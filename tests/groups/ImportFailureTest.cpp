@@ -1,0 +1,138 @@
+// Imports whose file cannot be renamed, or whose lists cannot be saved.
+#include <string>
+
+#include "platform/FileAccess.h"
+#include "tests/interface/EditTest.h"
+
+namespace {
+
+// The system's files, except that renaming and saving can be told to fail.
+class StubbornFiles : public tq::FileAccessWrapper {
+public:
+  explicit StubbornFiles(tq::FileAccess& files) : FileAccessWrapper(files) {}
+  bool RenameFile(const char* from, const char* to) override {
+    return !renameFails && FileAccessWrapper::RenameFile(from, to);
+  }
+  tq::SaveResult SaveWholeFile(const char* path, const void* bytes, size_t size) override {
+    if (!failing.empty() && std::string(path).find(failing) != std::string::npos)
+      return tq::SaveResult::Failed;
+    ++saves;
+    return FileAccessWrapper::SaveWholeFile(path, bytes, size);
+  }
+  bool renameFails = false;
+  std::string failing; // part of the path whose saves fail
+  int saves = 0;
+};
+
+class ImportFailureTest : public EditTest {
+protected:
+  ImportFailureTest() : files(tq::Files()), before(tq::SetFiles(&files)) {}
+  ~ImportFailureTest() override { tq::SetFiles(before); }
+
+  void WriteImport(const std::string& ids) {
+    directory.Write("OldOTVList.xml",
+                    "<HaldeUserList><L><IDs>" + ids + "</IDs></L></HaldeUserList>");
+  }
+
+  StubbornFiles files;
+  tq::FileAccess* before;
+};
+
+TEST_F(ImportFailureTest, AFileThatCannotBeRenamedIsImportedOnceAllTheSame) {
+  WriteImport("2330.TW");
+  files.renameFails = true;
+  StartWith({});
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
+  EXPECT_EQ(directory.Read("Added_OldOTVList.xml"), directory.Read("OldOTVList.xml"));
+  // What the user does to the list stays over the next start.
+  CSymbolList* list = nullptr;
+  ASSERT_EQ(manager.GetSymbolList("eOrvel 1", &list, 1), 1);
+  list->Update1("1101.TW");
+  ASSERT_EQ(manager.SaveSymbolList(), 1);
+  ASSERT_EQ(StartWithTables(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/1101.TW");
+  ASSERT_EQ(manager.DeleteSymbolList("eOrvel 1"), 1);
+  ASSERT_EQ(StartWithTables(), 1);
+  EXPECT_EQ(Shape(), "");
+}
+
+TEST_F(ImportFailureTest, TheRenameIsTriedAgainAtTheNextStart) {
+  WriteImport("2330.TW");
+  files.renameFails = true;
+  StartWith({});
+  files.renameFails = false;
+  EXPECT_EQ(manager.LoadOtherProductList(), 0);
+  EXPECT_FALSE(directory.Exists("OldOTVList.xml"));
+  EXPECT_TRUE(directory.Exists("Added_OldOTVList.xml"));
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
+}
+
+TEST_F(ImportFailureTest, AnotherFileThatComesLaterIsImported) {
+  WriteImport("2330.TW");
+  files.renameFails = true;
+  StartWith({});
+  WriteImport("2317.TW");
+  EXPECT_EQ(manager.LoadOtherProductList(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2317.TW");
+}
+
+TEST_F(ImportFailureTest, WithoutACopyTheNextStartImportsAgainButLeavesRenamedLists) {
+  WriteImport("2330.TW");
+  files.renameFails = true;
+  files.failing = "Added_OldOTVList";
+  StartWith({});
+  EXPECT_FALSE(directory.Exists("Added_OldOTVList.xml"));
+  CSymbolList* list = nullptr;
+  ASSERT_EQ(manager.GetSymbolList("eOrvel 1", &list, 1), 1);
+  list->SetName("Mine");
+  list->Update1("1101.TW");
+  EXPECT_EQ(manager.LoadOtherProductList(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/Mine/1101.TW");
+}
+
+TEST_F(ImportFailureTest, ListsThatCouldNotBeSavedKeepTheirFile) {
+  StartWith({});
+  WriteImport("2330.TW");
+  files.failing = "\\SymbolList.xml";
+  EXPECT_EQ(manager.LoadOtherProductList(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
+  EXPECT_TRUE(directory.Exists("OldOTVList.xml"));
+  EXPECT_FALSE(directory.Exists("Added_OldOTVList.xml"));
+  ASSERT_EQ(standin::Messages().size(), 1u);
+  EXPECT_EQ(standin::Messages()[0].id, 48026u);
+  files.failing.clear();
+  ASSERT_EQ(StartWithTables(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
+  EXPECT_FALSE(directory.Exists("OldOTVList.xml"));
+}
+
+TEST_F(ImportFailureTest, ManyListsAreSavedOnce) {
+  StartWith({});
+  std::string file = "<HaldeUserList>";
+  for (int i = 0; i < 50; ++i)
+    file += "<L><IDs>2330.TW</IDs></L>";
+  directory.Write("OldOTVList.xml", file + "</HaldeUserList>");
+  files.saves = 0;
+  EXPECT_EQ(manager.LoadOtherProductList(), 1);
+  EXPECT_EQ(files.saves, 1);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 50);
+}
+
+// The file of trading systems is for others: when it cannot be written, nothing is said and the lists are
+// there.
+TEST_F(ImportFailureTest, ATradingFileThatCannotBeWrittenHoldsUpNothing) {
+  standin::Market market = SmallMarket();
+  market.tradingSystems = {{"T1", "one", "one", true, {{1, "a", "A", "2330.TW"}}}};
+  standin::SetMarket(market);
+  ASSERT_EQ(manager.Init(directory.Path().c_str(), 0, 1, 0, nullptr, 0, 1), 1);
+  files.failing = "TSList.xml";
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(manager.GetSymbolListCount(6), 2);
+  EXPECT_TRUE(standin::Messages().empty());
+  EXPECT_FALSE(directory.Exists("TSList.xml"));
+  files.failing.clear();
+  manager.UpdateTSLogin("T1");
+  EXPECT_TRUE(directory.Exists("TSList.xml"));
+}
+
+} // namespace
