@@ -5,15 +5,19 @@
 //                                                      creates
 //   CSymbolTableMgr    symboltable/SymbolTableMgr.h    the symbol tables behind it
 //   CSymbolList        symbollist/SymbolList.h         one list
+//   CGroupSet          groups/GroupSet.h               a group that the terminal pushes in
 //   CListID            symbollist/ListID.h             which source of symbols a page shows, as text
 //   CIDConvert         symboltable/IDConvert.h         an id and its kind in one text
 //   COptFutID          symboltable/OptFutID.h          combination orders of options and futures
 //   SymbolInfo         platform/services/VLProxy.h     one symbol
+//   GroupInfo          groups/GroupInfo.h              one group
 //
 // The library calls the terminal's services (platform/services/) and is not linked to them: the process
 // that loads it provides them, on Windows as DLLs of their names.
 #pragma once
 
+#include "groups/GroupInfo.h"
+#include "groups/GroupSet.h"
 #include "symbollist/ListID.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"

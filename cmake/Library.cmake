@@ -1,6 +1,7 @@
 # tqSymbol itself, from the objects of its subsystems.
 set(TQ_SUBSYSTEMS $<TARGET_OBJECTS:tqPlatform> $<TARGET_OBJECTS:tqSymbolTable>
-  $<TARGET_OBJECTS:tqSymbolList> $<TARGET_OBJECTS:tqDialogs>)
+  $<TARGET_OBJECTS:tqSymbolList> $<TARGET_OBJECTS:tqGroups>
+  $<TARGET_OBJECTS:tqDialogs>)
 
 add_library(tqSymbol SHARED ${TQ_SUBSYSTEMS})
 set_target_properties(tqSymbol PROPERTIES PREFIX "${CMAKE_SHARED_LIBRARY_PREFIX}" LINKER_LANGUAGE CXX)

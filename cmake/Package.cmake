@@ -24,6 +24,9 @@ set(TQ_FRAMEWORK_HEADERS
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h
   tqSymbolApi.h
+  groups/GroupInfo.h
+  groups/GroupSet.h
+  platform/services/TQSProxy.h
   platform/services/VLProxy.h
   platform/services/VLRecords.h
   symbollist/IDList.h

@@ -31,6 +31,7 @@ public:
   }
   bool DirectoryExists(const char*) override { return true; }
   bool FileExists(const char*) override { return true; }
+  bool RenameFile(const char*, const char*) override { return true; }
 
   std::string content;
   int saves = 0;

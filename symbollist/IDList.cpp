@@ -83,9 +83,10 @@ void CIDList::DiscardRecords() {
   count_ = 0;
 }
 
-// A list whose string was never replaced has nothing to ask for; one whose look-up failed asks again.
+// A list without a string has nothing to ask for; one whose look-up failed asks again, whether its string
+// came from a caller or from records.
 bool CIDList::ResolveIfDue() {
-  if (records_ == nullptr && modified_ != 0)
+  if (records_ == nullptr && (modified_ != 0 || !ids_.IsEmpty()))
     return Resolve();
   return records_ != nullptr;
 }

@@ -1,13 +1,11 @@
 #include "symbollist/ListFile.h"
 
-#include "platform/services/tqCommon.h"
+#include "symbollist/FileDeclaration.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {
 namespace {
 
-constexpr char kBig5Declaration[] = "<?xml version='1.0' encoding='big5' ?>\n";
-constexpr char kGb2312Declaration[] = "<?xml version='1.0' encoding='gb2312' ?>\n";
 constexpr char kTail[] = "</SymbolList>\n</Result>";
 
 CSymbolList& ListAt(const CPtrArray& lists, int index) {
@@ -27,7 +25,7 @@ size_t Length(const CPtrArray& lists) {
 std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
   std::string text;
   text.reserve(Length(lists));
-  text += IsTraditionChinese() ? kBig5Declaration : kGb2312Declaration;
+  text += FileDeclaration();
   text += "<Result>\n<SymbolList DefaultIdx='";
   text += std::to_string(defaultIndex);
   text += "'>\n";

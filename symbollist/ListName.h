@@ -46,4 +46,21 @@ template <typename TAKEN> CString FreeName(const CString& wanted, TAKEN taken) {
   return name;
 }
 
+// Times that a suffix is put behind a taken name. Part of the interface.
+inline constexpr int kSuffixAttempts = 5;
+
+// `name`, or where `taken` says yes, the name with `suffix` behind it, then with another behind that, up
+// to five. Names are tried as they are kept: one that does not fit is shortened in front of its suffixes.
+// After the last attempt the candidate comes back although it is taken.
+template <typename TAKEN>
+CString SuffixedName(const CString& wanted, const CString& suffix, TAKEN taken) {
+  CString name = WithSuffix(wanted, CString());
+  CString suffixes;
+  for (int i = 0; i < kSuffixAttempts && taken(name); ++i) {
+    suffixes += suffix;
+    name = WithSuffix(wanted, suffixes);
+  }
+  return name;
+}
+
 } // namespace tq

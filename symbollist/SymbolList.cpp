@@ -31,14 +31,18 @@ void CSymbolList::ToXml(CString& out) {
 }
 
 void CSymbolList::AppendXml(std::string& document) {
-  const CString& ids = GetIDs();
+  tq::AppendListElement(info_, GetIDs(), document);
+}
+
+void tq::AppendListElement(const TQSymbolListInfo& list, const CString& ids,
+                           std::string& document) {
   document += "<List ID='";
-  document += info_.ID;
+  document += list.ID;
   document += "' Name='";
-  document += info_.Name;
+  document += list.Name;
   document += "' Value='";
   document.append(ids.GetString(), static_cast<size_t>(ids.GetLength()));
-  document += tq::IsSystemListId(info_.ID) ? "' Flag='1'/>\n" : "' Flag='0'/>\n";
+  document += IsSystemListId(list.ID) ? "' Flag='1'/>\n" : "' Flag='0'/>\n";
 }
 
 size_t CSymbolList::XmlLength() {

@@ -9,7 +9,11 @@
 
 namespace tq {
 class XmlElement;
-}
+
+// A list as one element of the list file, put behind what `document` holds:
+// <List ID='%s' Name='%s' Value='%s' Flag='%d'/> and a line feed.
+void AppendListElement(const TQSymbolListInfo& list, const CString& ids, std::string& document);
+} // namespace tq
 
 // The terminal gets lists from CTQSymbolListMgr: live ones, which stay the manager's, or copies, which
 // it deletes.

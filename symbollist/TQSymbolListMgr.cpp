@@ -1,6 +1,10 @@
 // The manager's life: construction, Init, destruction and the switches.
 #include "symbollist/TQSymbolListMgr.h"
 
+#include "groups/CloudMap.h"
+#include "groups/CloudeListUtil.h"
+#include "groups/GroupStore.h"
+#include "groups/TradingTable.h"
 #include "platform/FileAccess.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
@@ -9,13 +13,20 @@
 CTQSymbolListMgr::CTQSymbolListMgr()
     : symbolTables_(nullptr), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
       systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
-      exchangeRecords_(nullptr) {}
+      exchangeRecords_(nullptr), groups_(nullptr), cloudMap_(new tq::CloudMap),
+      tradingTable_(nullptr) {
+  groups_ = new tq::GroupStore(
+      [this](CGroupMgr& cloudGroups) { CCloudeListUtil::Refresh(cloudGroups, *cloudMap_); });
+}
 
 CTQSymbolListMgr::~CTQSymbolListMgr() {
   ClearSymbolList();
   ClearTSSymbolList();
   ClearCloudSymbolList();
+  delete groups_;
+  delete cloudMap_;
   ClearAllSymbols();
+  delete tradingTable_;
   delete symbolTables_;
   ClearDefaultExchangeData();
 }
@@ -32,6 +43,7 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   // Here and not only when the file is loaded: a start that fails at the tables must not leave the
   // lists of the directory before, for the next save would put them into this one.
   ClearSymbolList();
+  StartTradingLists();
   ClearAllSymbols();
   delete symbolTables_;
   symbolTables_ = nullptr;
@@ -49,11 +61,15 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
       systemListNames_.Copy(*systemListNames);
     LoadSystemList(&systemListNames_);
   }
+  LoadOtherProductList();
+  if (tradingListsWanted_ != 0)
+    LoadTSList();
   InitDefaultExchange();
   if (initSymbolTables != 0)
     symbolTables_->InitDefaultExchList(defaultExchanges_);
   SortAllSymbolByExch();
-  return 1;
+  ClearGroupList();
+  return LoadGroupList() != 0 ? 1 : 0;
 }
 
 int CTQSymbolListMgr::BuildSymbolTables() {

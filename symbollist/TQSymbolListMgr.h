@@ -13,24 +13,38 @@
 //     compared ignoring letter case.
 //  5. The manager owns its lists and tables and frees them. What it hands out are copies, which belong
 //     to the caller, unless an operation says otherwise.
-//  6. The working list file is "\SymbolList.xml" in the data directory, its backup
+//  6. The user's lists come from the list file, groups from the symbol-data service, cloud lists from
+//     the terminal, and lists from trading accounts from the trading-system proxy. A group is addressed
+//     by type and id or by a handle, which is good until its type is loaded anew, removed or cleared or
+//     the group itself is replaced or removed.
+//  7. The working list file is "\SymbolList.xml" in the data directory, its backup
 //     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with an
 //     empty one no file is read or written. A save leaves the old file or the new one, never a part.
 #pragma once
 
 #include <utility>
+#include <vector>
 
+#include "groups/GroupSet.h"
 #include "platform/framework/CMapStringToString.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
+#include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"
 #include "tqSymbolApi.h"
 
 class CSymbolTableMgr;
+namespace tq {
+struct ImportedList;
+class CloudMap;
+class GroupStore;
+class ListIndex;
+class TradingTable;
+} // namespace tq
 
 // What is traded, as the terminal numbers it. Only the differences that the library makes are named.
 enum JT_DEAL : int {
@@ -311,6 +325,151 @@ public:
   int ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
                               const CString& newExchange);
 
+  // --- Groups --------------------------------------------------------------------------------------
+  // Read-mostly lists that the symbol-data service publishes: a tree of two levels for each group type.
+  // Types 1 to 21, 101 and 201 (the cloud groups) are loaded by Init; 1 to 200 may be added and removed.
+  // Members of a group are fetched when they are first asked for. Ids are compared ignoring the case of
+  // ASCII letters, unless said. A type is loaded when it has an entry in the map of types.
+
+  // Loads all types anew. Returns 1; a type that the service fails for is empty.
+  int LoadGroupList();
+  // Loads one type, 1 to 201, anew or for the first time. 0 for any other.
+  int LoadGroupList(int type);
+  // Adds a type, 1 to 200, whether or not it is there. 0 for any other.
+  int AddNewGroup(int type);
+  // LoadGroupList(type) or, with `reload` false, AddNewGroup(type).
+  int AddGroupList(int type, bool reload);
+  // Types 1 to 200 are loaded anew; with any other value, 201 included, all types are. Both are one; the
+  // text is not used.
+  int UpdateGroup(int type, const char* unused);
+  int UpdateGroupType(int type);
+  // Removes a type, 1 to 200, and frees its groups. The types behind it answer for their right neighbour
+  // until all types are loaded anew, the last of them as if it were empty. 0 when there was none.
+  int RemoveGroupList(int type);
+  void ClearGroupList();
+  // Position of a type among the loaded ones, or -1.
+  int GetGroupIdx(int type);
+  // Number of sub-groups of the handle's group; without a handle of the type's top-level groups. 0 when
+  // the type is not loaded.
+  int GetGroupCount(int type, void* handle);
+  // The same with an id in place of the handle; null: the top-level groups.
+  int GetGroupCounts(int type, const char* id);
+  // The record of one of them.
+  int GetGroupInfo(int type, void* handle, int index, GroupInfo* out);
+  int GetGroupInfos(int type, const char* id, int index, GroupInfo* out);
+  // Sets `*handle` to the first group of the type with that id, or null: each top-level group, then its
+  // sub-groups. `afterComma` non-zero: only the text behind the id's first comma counts.
+  int GetGroupHandle(int type, const char* id, void** handle, int afterComma);
+  // The group's member ids joined by ",". `ids` is emptied first.
+  int GetGroupListIDs(void* handle, CString& ids);
+  // The group's name, empty without a group. The type is not used.
+  int GetGroupName(int type, void* handle, CString& name);
+  // The name of the first sub-group of the type with exactly that id: letter case counts, and top-level
+  // groups are never found. `name` is emptied when there is none.
+  int GetGroupName(int type, const char* id, CString& name, int afterComma);
+  // Number of members, and the record of one: of the first sub-group of the type with that id (top-level
+  // groups are never found), or of the handle's group.
+  int GetGroupSymbolCount(int type, const char* id);
+  int GetGroupSymbolCount(void* handle);
+  int GetGroupSymbolInfo(int type, const char* id, int index, SymbolInfo* out);
+  int GetGroupSymbolInfo(void* handle, int index, SymbolInfo* out);
+  // 1 when the text stands anywhere in the member ids of a group of type 2, 7 or 8, inside of a longer id
+  // too. The text behind the group id's first comma counts.
+  int FindSymoblInGroupList(int type, const CString& groupId, const CString& symbol);
+
+  // Groups that the terminal pushes in, without asking the service. Each loaded type takes the sets of
+  // its type; a set's group is the first top-level one with its id. Returns 1 when something changed.
+
+  // Puts new groups in the place of those that have a set's id. Only when no set has one are all sets
+  // added, at the end.
+  int AddGroup(const std::vector<CGroupSet>& sets);
+  // Puts new groups in the place of those that have a set's id; other sets are passed over.
+  int UpdateGroup(const std::vector<CGroupSet>& sets);
+  int UpdateGroupName(const std::vector<CGroupSet>& sets);
+  int RemoveGroup(const std::vector<CGroupSet>& sets);
+  // The same with the sub-groups of the sets' groups. AddSubGroup adds the pairs of a set when none of
+  // them has a sub-group's id and the last set that named a group replaced nothing.
+  int AddSubGroup(const std::vector<CGroupSet>& sets);
+  int UpdateSubGroup(const std::vector<CGroupSet>& sets);
+  int UpdateSubGroupName(const std::vector<CGroupSet>& sets);
+  int RemoveSubGroup(const std::vector<CGroupSet>& sets);
+
+  // --- Cloud lists ---------------------------------------------------------------------------------
+  // The user's lists on the broker's server, which the terminal pushes in. The manager keeps them twice:
+  // as lists of kind 8, and in the cloud map, from which groups of type 201 take names and members when
+  // they are loaded. Symbols are ids joined by ",".
+
+  // Puts a list into the map and, with the same symbols, into the lists of kind 8.
+  void SetCloudeList(const CString& id, const CString& name, const CString& symbols);
+  // Puts a list into the map alone.
+  void UpdateCloudSymbolList(const CString& id, const CString& name, const CString& symbols);
+  // Gives the list of kind 8 with that id these symbols and tells the terminal with
+  // TQSCall("", -1, 41, ""); adds one when there is none. The type is not used.
+  void UpdateCloudSymbolList(const CString& id, int type, const CString& name,
+                             const CString& symbols, int allowEmpty);
+  // Adds a list of kind 8 (empty id: a new GUID). The symbols are not checked. 0, with nothing added, for
+  // an empty name, for empty symbols unless `allowEmpty`, and for an id that CheckValidSymbolList refuses.
+  int AddCloudSymbolList(const CString& id, const CString& name, const CString& symbols,
+                         int allowEmpty);
+  // Replaces the lists of kind 8 by copies of the CSymbolList pointers in `lists`, which stay the
+  // caller's; moved symbols are renamed in both. The number is not used. 0 when `lists` is null.
+  int SetCloudSymbolList(CPtrArray* lists, int unused);
+  // The map as text: <Cloud>, a List element for each list, </Cloud>.
+  CString GetCloudeList();
+  // Gives a cloud group without sub-groups name and members of the list of its id in the map.
+  void UpdateCloudGroup(void* handle);
+  // Loads the cloud groups anew and tells the terminal with TQSCall("", -1, 4, "ListNameChange").
+  void RefreshCloudeSymbol();
+
+  // --- Lists from trading accounts -----------------------------------------------------------------
+  // What the user holds, as lists of kind 6: one for each account, one for each trading system, and
+  // "ALLMYSTOCKLISTS" for all accounts of the trading system that was updated last. The table behind them
+  // is written to "\TSList.xml" in the data directory after every change. All of it does nothing, and
+  // asks the service nothing, unless Init was told to load trading lists.
+
+  // Adds "ALLMYSTOCKLISTS", empty, when it is missing. Returns 1 when it was added.
+  int LoadTSList();
+  // A login is complete: reads the trading system anew, rebuilds its lists, tells the terminal with
+  // TQSCall("", -1, 4, "TSSymbolList"). One of the table that is not available any more, or not listed,
+  // loses its account lists, and all holdings become empty; an unknown one changes no list.
+  void UpdateTSLogin(CString tsId);
+  // An account's holdings changed: the same for this account and "ALLMYSTOCKLISTS". What the service cannot
+  // tell stays as it was; an account that is not in the table has no list.
+  void UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type);
+  // Replaces all lists of kind 6 by one for each trading system of the table.
+  void BuildTSListToSymbolList();
+  // Adds a list with those of the symbols that the service knows (empty id: a new GUID). A name that a
+  // list of the kind has gets "-" and entry 48028 behind it, up to five times. 0, with nothing added, for
+  // an empty name, for empty symbols unless `allowEmpty`, for an id that CheckValidSymbolList refuses, and
+  // for a name that is taken all the same. The kind (1 or 6) is only what is checked.
+  int AddTSSymbolList(const CString& id, int kind, const CString& name, const CString& symbols,
+                      int allowEmpty);
+  // Gives the list of kind 6 with that id these symbols, not the name, and tells the terminal with
+  // TQSCall("", -1, 40, "TSSymbolList"); adds one when there is none. Returns 1 when done.
+  int UpdateTSSymbolList(const CString& id, int kind, const CString& name, const CString& symbols,
+                         int allowEmpty);
+  // Deletes the first list of kind 6 with that id.
+  int DeleteTSSymbolList(CString id);
+  // Holdings joined by ",": of an account; of the first account of that id and type; of all accounts of a
+  // type, each symbol once. 0, `symbols` untouched, when the table has no such trading system or account.
+  int GetTSAccHodling(const CString& tsId, const CString& accountId, CString& symbols);
+  int GetTSSymbolLists(const CString& tsId, TqsAccType type, const CString& accountId,
+                       CString& symbols);
+  int GetTSSymbolLists(const CString& tsId, TqsAccType type, CString& symbols);
+
+  // --- Lists of other products, extra information --------------------------------------------------
+  // Adds the lists of an older product's file (docs/import-file.md) behind the user's lists, numbered by
+  // their places in the file. `product` 0 to 2 chooses ids and names. 0 when the file could not be read.
+  int DoLoadOtherProductList(CString& path, int product);
+  // Imports "\OldOTVList.xml" of the data directory as product 1, once: the file is then renamed to
+  // "\Added_OldOTVList.xml". Returns 1 when it was imported.
+  int LoadOtherProductList();
+  // Texts by which the terminal switches on what a broker's edition does differently in the dialogs; each
+  // is kept once. Empty ones are ignored.
+  void AddExtraTQInfo(const CString& info);
+  void RemoveExtraTQInfo(const CString& info);
+  const std::vector<CString>& GetExtraTQInfo() const { return extraInfo_; }
+
   // --- Switches ----------------------------------------------------------------------------------
   int GetbCN() const { return bCN_; }
   void SetbCN(int bCN) { bCN_ = bCN; }
@@ -326,12 +485,16 @@ private:
   CSymbolList* FindList(const char* id, int kind);
   CSymbolList* FindUserList(const char* id);
   int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
+  void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
   void AdoptSymbolList(CSymbolList* list);
   void PutSymbolList(CSymbolList* list, int append);
   std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
   int DoSaveSymbolList(const CString& path);
   int DoLoadSymbolList(const CString& path);
+  void StartTradingLists();
+  bool ImportList(const tq::ImportedList& from, tq::ListIndex& index);
+  int ImportLists(const std::vector<tq::ImportedList>& lists);
   int BuildSymbolTables();
   void ClearAllSymbols();
 
@@ -353,4 +516,8 @@ private:
   ExchInfo* exchangeRecords_; // the service's array, released with VLFree
   CUIntArray userDefaultExchanges_;
   CUIntArray exchangeOrder_;
+  tq::GroupStore* groups_;         // owned
+  tq::CloudMap* cloudMap_;         // owned
+  tq::TradingTable* tradingTable_; // owned; null until Init was told to load trading lists
+  std::vector<CString> extraInfo_;
 };

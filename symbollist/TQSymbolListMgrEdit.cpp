@@ -2,13 +2,12 @@
 // writes its log line, then tells the terminal.
 #include <algorithm>
 
-#include "platform/CodePage.h"
-#include "platform/Guid.h"
-#include "platform/services/TQSProxy.h"
 #include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"
 #include "symbollist/Log.h"
+#include "symbollist/NewListId.h"
+#include "symbollist/Notify.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/MovedSymbols.h"
 
@@ -16,21 +15,6 @@ namespace {
 
 constexpr int kListExists = 1;
 constexpr int kListBearsName = 2;
-
-// Codes that the terminal knows: do not change.
-constexpr long kNotifyUserLists = 40;
-
-void NotifyUserLists() {
-  TQSCall("", -1, kNotifyUserLists, "");
-}
-
-CString NewListId() {
-  tq::Guid guid;
-  char text[tq::GuidTextLength + 1] = {};
-  if (tq::NewGuid(guid))
-    tq::FormatGuid(guid, text);
-  return CString(text);
-}
 
 } // namespace
 
@@ -52,7 +36,7 @@ int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CSt
     defaultIndex_ = 0;
   SaveSymbolList();
   tq::LogLine(tq::kLogChange, "Add SymbolList");
-  NotifyUserLists();
+  tq::Notify(tq::kNotifyUserLists, "");
   return 1;
 }
 
@@ -61,16 +45,21 @@ int CTQSymbolListMgr::AddNewList(const CString& id, const CString& name, const C
   const CString freeName = AdjustFileName(name);
   if (CheckNameExist(freeName, 0, -1, tq::kUserLists) != 0)
     return 0;
-  const CString listId = id.IsEmpty() ? NewListId() : id;
+  const CString listId = id.IsEmpty() ? tq::NewListId() : id;
   if (listId.IsEmpty())
     return 0;
+  PutNewList(listId, freeName, symbols, append);
+  return 1;
+}
+
+void CTQSymbolListMgr::PutNewList(const CString& id, const CString& name, const CString& symbols,
+                                  int append) {
   auto* list = new CSymbolList;
   list->Update1(symbols);
-  list->SetID(listId);
-  list->SetName(freeName);
+  list->SetID(id);
+  list->SetName(name);
   ReplaceSymbolListExchID(list, tq::kMovedFromExchange, tq::kMovedToExchange);
   PutSymbolList(list, append);
-  return 1;
 }
 
 int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
@@ -141,7 +130,7 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
     return 0;
   SaveSymbolList();
   tq::LogLine(tq::kLogChange, "ReplaceID");
-  NotifyUserLists();
+  tq::Notify(tq::kNotifyUserLists, "");
   return 1;
 }
 

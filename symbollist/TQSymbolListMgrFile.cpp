@@ -1,6 +1,7 @@
 // The manager's list file: loading, saving, backup.
 #include <string>
 
+#include "groups/TradingFile.h"
 #include "platform/FileAccess.h"
 #include "platform/ModulePath.h"
 #include "platform/services/tqCommon.h"
@@ -51,11 +52,15 @@ int CTQSymbolListMgr::UpdateTQSymbolList() {
     return 0;
   if (systemListsWanted_ != 0)
     LoadSystemList(&systemListNames_);
+  if (tradingListsWanted_ != 0)
+    LoadTSList();
   return 1;
 }
 
 void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
   dataDirectory_ = dataDirectory;
+  if (tradingTable_ != nullptr)
+    tradingTable_->SetPath(FilePath(tq::kTradingFileName));
   LoadSymbolList();
   if (systemListsWanted_ != 0)
     LoadSystemList(&systemListNames_);

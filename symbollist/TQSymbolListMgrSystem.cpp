@@ -1,15 +1,14 @@
 // The six system lists.
-#include "platform/services/TQSProxy.h"
 #include "symbollist/LibraryString.h"
 #include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
+#include "symbollist/Notify.h"
 #include "symbollist/SystemListId.h"
 #include "symbollist/TQSymbolListMgr.h"
 
 namespace {
 
-// Code and reason that the terminal knows: do not change.
-constexpr long kNotifySymbolsOrNames = 4;
+// The terminal knows this reason: do not change.
 constexpr char kReasonNames[] = "ListNameChange";
 
 CString SystemListName(const CStringArray* names, int index) {
@@ -84,6 +83,6 @@ int CTQSymbolListMgr::UpdateSystemList(CMapStringToString* symbols, CMapStringTo
     anyName = anyName || nameChanged != 0;
   }
   SaveSymbolList();
-  TQSCall("", -1, kNotifySymbolsOrNames, anyName ? kReasonNames : "");
+  tq::Notify(tq::kNotifySymbols, anyName ? kReasonNames : "");
   return 1;
 }

@@ -15,7 +15,7 @@
 
 namespace {
 
-// The one file of the manager, in memory.
+// The list file, in memory; there is no other.
 class OneFile : public tq::FileAccess {
 public:
   tq::ReadResult ReadWholeFile(const char*, size_t, std::string& out) override {
@@ -27,7 +27,10 @@ public:
     return tq::SaveResult::Saved;
   }
   bool DirectoryExists(const char*) override { return true; }
-  bool FileExists(const char*) override { return !bytes.empty(); }
+  bool FileExists(const char* path) override {
+    return !bytes.empty() && std::string(path).ends_with("\\SymbolList.xml");
+  }
+  bool RenameFile(const char*, const char*) override { return false; }
   std::string bytes;
 };
 

@@ -214,6 +214,17 @@ TEST_F(IDListTest, Update2TakesTheServicesArrayOverAndReleasesIt) {
   EXPECT_EQ(list.GetCount(), 0);
 }
 
+TEST_F(IDListTest, AListMadeOfRecordsAsksAgainAfterAFailedLookUp) {
+  SymbolInfo* records = nullptr;
+  int count = 0;
+  ASSERT_NE(VLGetSymbolInfos("2317.TW,2330.TW", &records, &count), 0);
+  CIDList list;
+  list.Update2(records, count);
+  standin::FailCall("VLGetSymbolInfos", 1);
+  list.Update3();
+  EXPECT_EQ(Rows(list), "2317.TW 2330.TW");
+}
+
 TEST_F(IDListTest, CopyHasItsOwnRecordsAndAsksNothing) {
   CIDList list;
   list.Update1("2330.TW,Head:,NOSUCH.TW");

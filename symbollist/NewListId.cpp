@@ -1,0 +1,15 @@
+#include "symbollist/NewListId.h"
+
+#include "platform/Guid.h"
+
+namespace tq {
+
+CString NewListId() {
+  Guid guid;
+  char text[GuidTextLength + 1] = {};
+  if (NewGuid(guid))
+    FormatGuid(guid, text);
+  return CString(text);
+}
+
+} // namespace tq
