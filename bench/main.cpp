@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "bench/Editing.h"
+#include "bench/Groups.h"
 #include "bench/ListFiles.h"
 #include "bench/LookUp.h"
 #include "bench/Options.h"
 #include "bench/Report.h"
 #include "bench/StartUp.h"
+#include "bench/Trading.h"
 #include "bench/Universe.h"
 #include "terminal/StandIn.h"
 
@@ -42,6 +44,7 @@ void MeasureGenerated(bench::Report& report, const bench::Options& options,
                  std::to_string(size.symbols) + " symbols of that universe");
   bench::MeasureListFiles(report, standin::CurrentMarket(), size, directory, repetitions);
   bench::MeasureEditing(report, standin::CurrentMarket(), directory, options.quick);
+  bench::MeasureTrading(report, standin::CurrentMarket(), options.quick);
   if (!options.quick)
     MeasureUniverse(report, bench::GenerateUniverse(1'000'000), options.quick);
 }
@@ -72,5 +75,6 @@ int main(int argc, char** argv) {
   else
     MeasureUniverse(report, std::move(listings), options.quick);
   MeasureGenerated(report, options, directory.string());
+  bench::MeasureGroups(report, options.quick);
   return report.Finish();
 }
