@@ -18,6 +18,18 @@ unsigned CodePoint(std::string_view text, size_t& at) {
   return point;
 }
 
+// The bytes of the characters at the start that fit, of one at least.
+size_t FittingBytes(std::string_view text, int cells) {
+  size_t fitting = 0;
+  for (size_t at = 0; at < text.size();) {
+    cells -= CodePoint(text, at) >= kFirstWide ? 2 : 1;
+    if (cells < 0 && fitting > 0)
+      break;
+    fitting = at;
+  }
+  return fitting;
+}
+
 std::string Blanks(std::string_view text, int cells) {
   return std::string(static_cast<size_t>(std::max(0, cells - CellWidth(text))), ' ');
 }
@@ -37,6 +49,37 @@ std::string Padded(std::string_view utf8, int cells) {
 
 std::string PaddedLeft(std::string_view utf8, int cells) {
   return Blanks(utf8, cells) + std::string(utf8);
+}
+
+std::string Fitted(std::string_view utf8, int cells) {
+  if (CellWidth(utf8) <= cells)
+    return std::string(utf8);
+  return std::string(utf8.substr(0, FittingBytes(utf8, cells - 2))) + "..";
+}
+
+std::string FittedList(std::string_view utf8, char separator, int cells) {
+  if (CellWidth(utf8) <= cells)
+    return std::string(utf8);
+  const std::string_view fitting = utf8.substr(0, FittingBytes(utf8, cells - 2));
+  const size_t last = fitting.rfind(separator);
+  return last == std::string_view::npos ? Fitted(utf8, cells)
+                                        : std::string(fitting.substr(0, last + 1)) + "..";
+}
+
+std::string Wrapped(std::string_view utf8, int cells, std::string_view indent) {
+  std::string lines(indent);
+  int room = cells - CellWidth(indent);
+  while (CellWidth(utf8) > room) {
+    size_t bytes = FittingBytes(utf8, room);
+    const size_t gap = utf8.find_last_of(" ,", bytes - 1);
+    if (gap != std::string_view::npos && gap > 0)
+      bytes = gap + 1;
+    const size_t shown = utf8[bytes - 1] == ' ' ? bytes - 1 : bytes;
+    lines.append(utf8.substr(0, shown)).append("\n").append(indent).append("    ");
+    utf8.remove_prefix(bytes);
+    room = cells - CellWidth(indent) - 4;
+  }
+  return lines.append(utf8);
 }
 
 } // namespace demo

@@ -10,6 +10,7 @@
 #include "terminal/demo/Files.h"
 #include "terminal/demo/Options.h"
 #include "terminal/demo/Report.h"
+#include "terminal/demo/Services.h"
 #include "tqSymbol.h"
 
 namespace {
@@ -70,7 +71,7 @@ int main(int argc, char** argv) {
     return result;
   if (!demo::WriteFile(options.edit + "/SymbolList.xml", before))
     return Fail(options.edit + ": cannot be written to");
-  if (!demo::ShowEditing(options.edit, error))
+  if (!demo::ShowEditing(options.edit, error) || !demo::ShowServices(options.edit, error))
     return Fail(error);
   demo::PrintCombinations();
   return 0;

@@ -1,0 +1,14 @@
+// Lists that come from the broker's server.
+#pragma once
+
+#include <string>
+
+#include "symbollist/TQSymbolListMgr.h"
+
+namespace demo {
+
+// Pushes a list in, twice, and shows it as a cloud group and as a list of kind 8. False, with `error` in
+// one line, when something was not there that should be.
+bool ShowCloud(CTQSymbolListMgr& manager, std::string& error);
+
+} // namespace demo
