@@ -49,7 +49,7 @@ inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
   if (length < 2 * half - static_cast<int>(sizeof(StringHeader)))
     return {tail >> 8 * (half - length), 0};
   std::uint64_t before;
-  std::memcpy(&before, text.GetString() + length - 2 * half, sizeof before);
+  std::memcpy(&before, text.GetString() + (length - 2 * half), sizeof before);
   const Wide wide = (Wide{tail} << 64 | before) >> 8 * (2 * half - length);
   return {static_cast<std::uint64_t>(wide), static_cast<std::uint64_t>(wide >> 64)};
 }
