@@ -7,6 +7,12 @@ set(TQ_FRAMEWORK_HEADERS
   platform/CodePage.h
   platform/framework/ArrayStorage.h
   platform/framework/CArray.h
+  platform/framework/CButton.h
+  platform/framework/CComboBox.h
+  platform/framework/CDialog.h
+  platform/framework/CEdit.h
+  platform/framework/CListBox.h
+  platform/framework/CListCtrl.h
   platform/framework/CMap.h
   platform/framework/CMapStringToString.h
   platform/framework/CPtrArray.h
@@ -14,12 +20,21 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/CStringArray.h
   platform/framework/CStringOperators.h
   platform/framework/CUIntArray.h
+  platform/framework/CWaitCursor.h
+  platform/framework/CWinApp.h
+  platform/framework/CWnd.h
+  platform/framework/DialogResources.inc
+  platform/framework/DialogRows.inc
+  platform/framework/DialogRowsEnd.inc
+  platform/framework/DialogTemplate.h
   platform/framework/FrameworkApi.h
   platform/framework/HashKey.h
   platform/framework/InvalidArgument.h
   platform/framework/MapStorage.h
+  platform/framework/ResourceContext.h
   platform/framework/Storage.h
   platform/framework/StringData.h
+  platform/framework/WindowTypes.h
   platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h
@@ -29,6 +44,7 @@ set(TQ_SYMBOL_HEADERS
   platform/services/TQSProxy.h
   platform/services/VLProxy.h
   platform/services/VLRecords.h
+  platform/services/tqStockFields.h
   symbollist/IDList.h
   symbollist/ListID.h
   symbollist/SymbolList.h

@@ -3,6 +3,8 @@
 #include "platform/win32/FileHandle.h"
 #include "platform/win32/SystemPath.h"
 
+#include <new>
+
 namespace tq {
 namespace {
 
@@ -60,7 +62,10 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  static WindowsFiles* const files = new WindowsFiles;
+  // Never destroyed, for files may be asked for until the process ends, and without storage of its own, for
+  // the library may be unloaded long before that.
+  alignas(WindowsFiles) static unsigned char room[sizeof(WindowsFiles)];
+  static WindowsFiles* const files = new (room) WindowsFiles;
   return *files;
 }
 

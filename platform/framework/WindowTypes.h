@@ -1,0 +1,47 @@
+// The words that the window layer speaks with: handles, events, keys, and how a row looks. No type and
+// no name of the operating system's headers is needed, and none is disturbed: the headers of this layer
+// compile before and after <windows.h>, and no method has the name of one of its macros (so it is
+// SetText and Post here, where the system's functions are SetWindowText and PostMessage).
+#pragma once
+
+// On Windows this is the HWND itself. Elsewhere it is a number that only this layer understands; it is
+// never given out twice.
+struct HWND__; // NOLINT(bugprone-reserved-identifier): the system names it so
+using WindowHandle = HWND__*;
+
+// What a control tells its dialog, and only because of something that the user did: no operation of
+// this layer that changes a control ever makes one.
+enum class ControlEvent {
+  Clicked, // button: clicked, or its key pressed
+  // List box, combo box: the user chose, perhaps what was chosen before. A click always tells so; a key that
+  // finds nothing further to choose does on some systems.
+  SelectionChanged,
+  DoubleClicked, // list box: on a row, which is selected by then
+  TextChanged,   // edit: after each character, paste or deletion
+  FocusGained,   // edit: the user went there
+  FocusLost,     // edit: the user went to another control of the same dialog
+};
+
+// What a list view tells its dialog.
+struct ListNotice {
+  enum class Kind {
+    SelectionChanged, // once for what the user did, however many rows changed
+    DoubleClicked,
+  };
+  Kind kind;
+  int row; // the row that was double-clicked, -1 beside the rows; -1 for SelectionChanged
+};
+
+// Keys that a dialog may want for itself before they take their usual way.
+enum class Key { Enter, Escape, Tab, Space, Up, Down, Home, End, Delete };
+
+// How an owner-drawn list box shows one row. The text is the row's own.
+struct ItemLook {
+  bool bold = false;
+  bool marked = false; // a mark in front of the text
+};
+
+// The pictures of icon buttons.
+enum class ButtonIcon { None, Up, Down, Left, Remove, Search };
+
+enum class CursorShape { Arrow, Wait };

@@ -1,0 +1,18 @@
+#include "platform/framework/CButton.h"
+
+#include "platform/headless/Windows.h"
+
+using namespace tq::headless;
+
+bool CButton::SetIcon(ButtonIcon icon) {
+  Control* const button = FindControl(handle_, tq::ControlKind::Button);
+  if (button == nullptr || (button->style & tq::TemplateIcon) == 0)
+    return false;
+  button->icon = icon;
+  return true;
+}
+
+ButtonIcon CButton::GetIcon() const {
+  const Control* const button = FindControl(handle_, tq::ControlKind::Button);
+  return button == nullptr ? ButtonIcon::None : button->icon;
+}

@@ -1,0 +1,127 @@
+// The modal run, timers and tooltips in memory.
+#include "platform/framework/CDialog.h"
+
+#include <algorithm>
+
+#include "platform/framework/DialogAccess.h"
+#include "platform/headless/Queue.h"
+
+using namespace tq::headless;
+
+namespace {
+
+// Keeps a parent from taking input while a dialog is up.
+class ParentDisabled {
+public:
+  explicit ParentDisabled(WindowHandle parent)
+      : parent_(parent), before_(parent_.IsWindowEnabled()) {
+    parent_.EnableWindow(false);
+  }
+  ~ParentDisabled() { parent_.EnableWindow(before_); }
+  ParentDisabled(const ParentDisabled&) = delete;
+  ParentDisabled& operator=(const ParentDisabled&) = delete;
+
+private:
+  CWnd parent_;
+  bool before_;
+};
+
+void FocusFirst(Dialog& dialog) {
+  for (const auto& control : dialog.controls) {
+    if (control->TakesFocus()) {
+      CWnd(control->handle).SetFocus();
+      return;
+    }
+  }
+}
+
+// Nobody is there who could end the dialog: the user is taken to give up.
+void GiveUp(CDialog& object) {
+  tq::DialogAccess::Command(object, CDialog::Cancelled, ControlEvent::Clicked);
+  if (!tq::DialogAccess::HasEnded(object))
+    tq::DialogAccess::SetEnd(object, CDialog::Cancelled);
+}
+
+void Run(Dialog& dialog, CDialog& object) {
+  const bool focusFirst = tq::DialogAccess::Init(object);
+  if (tq::DialogAccess::HasEnded(object))
+    return;
+  dialog.visible = true;
+  if (focusFirst)
+    FocusFirst(dialog);
+  Enqueue({dialog.handle, kModalMessage, 0, 0});
+  while (!tq::DialogAccess::HasEnded(object)) {
+    if (!tq::ServeMessage(tq::Serve::Timers))
+      GiveUp(object);
+  }
+}
+
+void Destroy(const Dialog& dialog) {
+  DropMessages(dialog.handle);
+  for (const auto& control : dialog.controls)
+    Forget(*control);
+  Forget(dialog);
+}
+
+} // namespace
+
+namespace tq {
+
+int RunModal(CDialog& object) {
+  const std::unique_ptr<Dialog> dialog = MakeDialog(DialogAccess::TemplateId(object));
+  if (dialog == nullptr)
+    return CDialog::Failed;
+  dialog->object = &object;
+  const ParentDisabled disabled(DialogAccess::Parent(object));
+  Running().push_back(dialog.get());
+  DialogAccess::Begin(object, dialog->handle);
+  Run(*dialog, object);
+  Running().pop_back();
+  Destroy(*dialog);
+  return DialogAccess::Finish(object);
+}
+
+void WakeModal(CDialog&) {} // the loop looks at the end code after each message
+
+bool ServeMessage(Serve what) {
+  return DeliverMessage() || (what == Serve::Timers && FireTimer());
+}
+
+} // namespace tq
+
+CDialog* CDialog::FromHandle(WindowHandle handle) {
+  Dialog* const dialog = FindDialog(handle);
+  return dialog == nullptr ? nullptr : dialog->object;
+}
+
+bool CDialog::SetTimer(unsigned id, unsigned milliseconds) {
+  Dialog* const dialog = FindDialog(handle_);
+  if (dialog == nullptr)
+    return false;
+  StartTimer(*dialog, id, milliseconds);
+  return true;
+}
+
+bool CDialog::KillTimer(unsigned id) {
+  Dialog* const dialog = FindDialog(handle_);
+  return dialog != nullptr && dialog->timers.erase(id) != 0;
+}
+
+void CDialog::SetToolTip(int controlId, const char* text) {
+  Dialog* const dialog = FindDialog(handle_);
+  if (dialog == nullptr || dialog->Find(controlId) == nullptr)
+    return;
+  const CString tip(text);
+  if (tip.IsEmpty())
+    dialog->tips.erase(controlId);
+  else
+    dialog->tips[controlId] = tip;
+}
+
+CString CDialog::GetToolTip(int controlId) const {
+  Dialog* const dialog = FindDialog(handle_);
+  if (dialog == nullptr)
+    return CString();
+  const auto found = dialog->tips.find(controlId);
+  return found == dialog->tips.end() ? CString() : found->second;
+}

@@ -1,0 +1,114 @@
+#include "platform/framework/CListBox.h"
+
+#include "platform/headless/Windows.h"
+
+using namespace tq::headless;
+
+namespace {
+
+Control* Find(WindowHandle handle) {
+  return FindControl(handle, tq::ControlKind::ListBox);
+}
+
+Row* FindRow(WindowHandle handle, int row) {
+  Control* const box = Find(handle);
+  return box == nullptr ? nullptr : box->rows.At(row);
+}
+
+} // namespace
+
+int CListBox::AddString(const char* text) {
+  return InsertString(-1, text);
+}
+
+int CListBox::InsertString(int row, const char* text) {
+  Control* const box = Find(handle_);
+  return box == nullptr ? -1 : box->rows.Insert(row, text);
+}
+
+bool CListBox::SetItemText(int row, const char* text) {
+  Row* const at = FindRow(handle_, row);
+  if (at != nullptr)
+    at->text = text;
+  return at != nullptr;
+}
+
+bool CListBox::DeleteString(int row) {
+  Control* const box = Find(handle_);
+  return box != nullptr && box->rows.Remove(row);
+}
+
+void CListBox::ResetContent() {
+  if (Control* const box = Find(handle_))
+    box->rows.Clear();
+}
+
+int CListBox::GetCount() const {
+  const Control* const box = Find(handle_);
+  return box == nullptr ? 0 : box->rows.Count();
+}
+
+CString CListBox::GetItemText(int row) const {
+  const Row* const at = FindRow(handle_, row);
+  return at == nullptr ? CString() : at->text;
+}
+
+bool CListBox::SetItemData(int row, intptr_t data) {
+  Row* const at = FindRow(handle_, row);
+  if (at != nullptr)
+    at->data = data;
+  return at != nullptr;
+}
+
+intptr_t CListBox::GetItemData(int row) const {
+  const Row* const at = FindRow(handle_, row);
+  return at == nullptr ? 0 : at->data;
+}
+
+int CListBox::GetCurSel() const {
+  return GetNextSelected(-1);
+}
+
+bool CListBox::SetCurSel(int row) {
+  Control* const box = Find(handle_);
+  return box != nullptr && box->rows.SelectOnly(row);
+}
+
+bool CListBox::SelectRow(int row, bool select) {
+  Control* const box = Find(handle_);
+  if (box == nullptr)
+    return false;
+  return select && !box->IsMulti() ? row >= 0 && box->rows.SelectOnly(row)
+                                   : box->rows.Select(row, select);
+}
+
+bool CListBox::IsSelected(int row) const {
+  const Row* const at = FindRow(handle_, row);
+  return at != nullptr && at->selected;
+}
+
+int CListBox::GetSelCount() const {
+  const Control* const box = Find(handle_);
+  return box == nullptr ? 0 : box->rows.CountSelected();
+}
+
+int CListBox::GetNextSelected(int after) const {
+  const Control* const box = Find(handle_);
+  return box == nullptr ? -1 : box->rows.NextSelected(after);
+}
+
+int CListBox::GetCaretIndex() const {
+  const Control* const box = Find(handle_);
+  return box == nullptr ? -1 : box->rows.Caret();
+}
+
+bool CListBox::SetCaretIndex(int row) {
+  Control* const box = Find(handle_);
+  return box != nullptr && box->rows.SetCaret(row);
+}
+
+bool CListBox::EnsureVisible(int row) {
+  return FindRow(handle_, row) != nullptr;
+}
+
+void CListBox::RedrawItems() {} // nothing is ever drawn

@@ -1,0 +1,88 @@
+#include "platform/headless/Queue.h"
+
+#include <algorithm>
+#include <deque>
+#include <tuple>
+
+#include "platform/framework/DialogAccess.h"
+
+namespace tq::headless {
+
+namespace {
+
+std::deque<Message>& Waiting() {
+  static std::deque<Message> messages;
+  return messages;
+}
+
+uint64_t now = 0; // milliseconds
+uint64_t timersSet = 0;
+
+struct DueTimer {
+  Dialog* dialog = nullptr;
+  unsigned id = 0;
+  Timer* timer = nullptr;
+};
+
+bool IsEarlier(const Timer& left, const Timer& right) {
+  return std::tie(left.due, left.order) < std::tie(right.due, right.order);
+}
+
+DueTimer NextTimer() {
+  DueTimer next;
+  for (Dialog* dialog : Running()) {
+    for (auto& [id, timer] : dialog->timers) {
+      if (next.timer == nullptr || IsEarlier(timer, *next.timer))
+        next = {dialog, id, &timer};
+    }
+  }
+  return next;
+}
+
+} // namespace
+
+std::vector<Dialog*>& Running() {
+  static std::vector<Dialog*> running;
+  return running;
+}
+
+void Enqueue(const Message& message) {
+  Waiting().push_back(message);
+}
+
+void DropMessages(WindowHandle dialog) {
+  std::erase_if(Waiting(), [dialog](const Message& message) { return message.dialog == dialog; });
+}
+
+void StartTimer(Dialog& dialog, unsigned id, unsigned milliseconds) {
+  const unsigned period = std::max(1U, milliseconds);
+  dialog.timers[id] = {period, now + period, ++timersSet};
+}
+
+bool DeliverMessage() {
+  if (Waiting().empty())
+    return false;
+  const Message message = Waiting().front();
+  Waiting().pop_front();
+  Dialog* const dialog = FindDialog(message.dialog);
+  if (dialog == nullptr)
+    return true;
+  if (message.code == kModalMessage)
+    DialogAccess::TellModalHandler(*dialog->object);
+  else
+    DialogAccess::Posted(*dialog->object, message.code, message.first, message.second);
+  return true;
+}
+
+bool FireTimer() {
+  const DueTimer next = NextTimer();
+  if (next.timer == nullptr)
+    return false;
+  now = std::max(now, next.timer->due);
+  next.timer->due = now + next.timer->period;
+  next.timer->order = ++timersSet; // behind the others that are due with it
+  DialogAccess::Timer(*next.dialog->object, next.id);
+  return true;
+}
+
+} // namespace tq::headless

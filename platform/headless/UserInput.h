@@ -1,0 +1,43 @@
+// What a user can do to windows in memory, with everything that follows from it: for tests that act as
+// the user, and for nothing else. The library does not call it.
+//
+// Each operation returns false, and nothing happens, when the user could not do it: the dialog is not up
+// or lies behind another, the control is disabled, hidden or of another kind, the row is not there.
+// Handlers have returned when the operation does; messages that they posted are still waiting.
+#pragma once
+
+#include <vector>
+
+#include "platform/framework/CDialog.h"
+#include "platform/framework/DialogTemplate.h"
+
+namespace tq::headless {
+
+enum class Modifier { None, Control, Shift };
+
+// The controls of a dialog in the order of its template.
+struct ControlView {
+  WindowHandle handle;
+  ControlKind kind;
+};
+TQFRAMEWORK_API std::vector<ControlView> ControlsOf(WindowHandle dialog);
+
+// Windows that are there, dialogs and controls: after a run as many as before it.
+TQFRAMEWORK_API size_t WindowCount();
+
+// A click on a button or an edit. The focus goes there.
+TQFRAMEWORK_API bool Click(WindowHandle control);
+// A click on a row of a list box or list view; -1 is beside the rows of a list view.
+TQFRAMEWORK_API bool ClickRow(WindowHandle control, int row, Modifier modifier);
+TQFRAMEWORK_API bool DoubleClickRow(WindowHandle control, int row, Modifier modifier);
+// The mouse rests on a row of a list view for its hover time.
+TQFRAMEWORK_API bool HoverRow(WindowHandle control, int row);
+// Drops a combo box down and picks an entry.
+TQFRAMEWORK_API bool PickEntry(WindowHandle control, int index);
+// Types into the edit that has the focus, a character at a time, until the dialog has ended or the focus
+// is somewhere else; "\b" takes back.
+TQFRAMEWORK_API bool TypeText(WindowHandle dialog, const char* text);
+TQFRAMEWORK_API bool PressKey(WindowHandle dialog, Key key);
+TQFRAMEWORK_API bool CloseByTitleBar(WindowHandle dialog);
+
+} // namespace tq::headless

@@ -1,0 +1,79 @@
+// Windows in memory: what a dialog and its controls are where there is no window system. Internal.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/framework/CDialog.h"
+#include "platform/framework/DialogTemplate.h"
+#include "platform/headless/Rows.h"
+
+namespace tq::headless {
+
+struct Dialog;
+
+struct Node {
+  virtual ~Node() = default;
+  WindowHandle handle = nullptr;
+  ControlKind kind = ControlKind::Dialog;
+  CString text;
+  bool enabled = true;
+  bool visible = true;
+};
+
+struct Column {
+  CString title;
+  int width;
+};
+
+struct Control : Node {
+  Dialog* owner = nullptr;
+  int id = 0;
+  unsigned style = 0;
+  Rows rows;                   // list box, combo box, list view
+  int anchor = 0;              // the row at which a selection by Shift begins
+  std::vector<Column> columns; // list view
+  unsigned listStyles = 0;
+  unsigned hoverTime = 0;
+  int limit = 0;                     // edit: bytes, 0 none
+  int selectionStart = 0;            // edit: bytes, whole characters
+  int selectionEnd = 0;              // the caret
+  WindowHandle placedOver = nullptr; // edit: the list box it lies on
+  ButtonIcon icon = ButtonIcon::None;
+
+  bool TakesInput() const { return enabled && visible; }
+  bool TakesFocus() const { return kind != ControlKind::Label && TakesInput(); }
+  bool IsMulti() const { return kind == ControlKind::ListView || (style & TemplateMulti) != 0; }
+};
+
+struct Timer {
+  unsigned period;
+  uint64_t due;
+  uint64_t order; // of setting: timers that are due together come in it
+};
+
+struct Dialog : Node {
+  CDialog* object = nullptr;
+  std::vector<std::unique_ptr<Control>> controls; // in the template's order
+  Control* focus = nullptr;
+  std::map<unsigned, Timer> timers;
+  std::map<int, CString> tips;
+
+  Control* Find(int id) const;
+};
+
+// Makes the windows of a template of the resources in force; null when there is none. The dialog is hidden.
+std::unique_ptr<Dialog> MakeDialog(unsigned templateId);
+
+// Every window that is there, by its handle. A handle is given once.
+void Register(Node& node);
+void Forget(const Node& node);
+size_t NodeCount();
+Node* FindNode(WindowHandle handle);
+Dialog* FindDialog(WindowHandle handle);
+// Null when the handle is not that of a control of this kind.
+Control* FindControl(WindowHandle handle);
+Control* FindControl(WindowHandle handle, ControlKind kind);
+
+} // namespace tq::headless

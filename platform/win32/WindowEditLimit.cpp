@@ -1,0 +1,93 @@
+#include "platform/win32/WindowEditLimit.h"
+
+#include <commctrl.h>
+
+#include "platform/CodePage.h"
+#include "platform/win32/WindowText.h"
+
+namespace tq {
+
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr wchar_t kLimitProperty[] = L"tqLimit";
+
+std::wstring TextOf(HWND edit) {
+  std::wstring text(static_cast<size_t>(::GetWindowTextLengthW(edit)) + 1, L'\0');
+  const int length = ::GetWindowTextW(edit, text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<size_t>(length));
+  return text;
+}
+
+// How many bytes fit in the place of what is selected.
+int Room(HWND edit, int limit) {
+  DWORD start = 0;
+  DWORD end = 0;
+  ::SendMessageW(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  std::wstring text = TextOf(edit);
+  text.erase(start, end - start);
+  return limit - FromWide(text).GetLength();
+}
+
+CString ClipboardText(HWND edit) {
+  CString text;
+  if (!::OpenClipboard(edit))
+    return text;
+  const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
+  if (const auto* wide =
+          data == nullptr ? nullptr : static_cast<const wchar_t*>(::GlobalLock(data))) {
+    text = FromWide(wide, static_cast<size_t>(::lstrlenW(wide)));
+    ::GlobalUnlock(data);
+  }
+  ::CloseClipboard();
+  return text;
+}
+
+// As much of the clipboard's text as there is room for, by whole characters.
+void Paste(HWND edit, int limit) {
+  CString text = ClipboardText(edit);
+  const int room = Room(edit, limit);
+  text.Truncate(room < 0 ? 0 : room);
+  if (!text.IsEmpty())
+    ::SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(ToWide(text).c_str()));
+}
+
+bool IsRefused(HWND edit, WPARAM character, int limit) {
+  const auto unit = static_cast<wchar_t>(character);
+  return unit >= L' ' && unit != 0x7F && FromWide(&unit, 1).GetLength() > Room(edit, limit);
+}
+
+LRESULT CALLBACK LimitProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR limit) {
+  const auto bytes = static_cast<int>(limit);
+  if (message == WM_CHAR && IsRefused(edit, wParam, bytes)) {
+    ::MessageBeep(MB_OK);
+    return 0;
+  }
+  if (message == WM_PASTE) {
+    Paste(edit, bytes);
+    return 0;
+  }
+  if (message == WM_NCDESTROY)
+    SetEditLimit(edit, 0);
+  return ::DefSubclassProc(edit, message, wParam, lParam);
+}
+
+} // namespace
+
+void SetEditLimit(HWND edit, int bytes) {
+  if (bytes > 0) {
+    const auto limit = static_cast<DWORD_PTR>(bytes);
+    ::SetWindowSubclass(edit, LimitProc, kSubclass, limit);
+    ::SetPropW(edit, kLimitProperty, reinterpret_cast<HANDLE>(limit));
+    return;
+  }
+  ::RemoveWindowSubclass(edit, LimitProc, kSubclass);
+  ::RemovePropW(edit, kLimitProperty);
+}
+
+int GetEditLimit(HWND edit) {
+  return static_cast<int>(reinterpret_cast<DWORD_PTR>(::GetPropW(edit, kLimitProperty)));
+}
+
+} // namespace tq

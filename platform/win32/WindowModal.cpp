@@ -1,0 +1,128 @@
+// The modal run: from the DIALOG resource to the end code.
+#include "platform/framework/DialogAccess.h"
+#include "platform/framework/ResourceContext.h"
+#include "platform/win32/WindowRun.h"
+
+namespace tq {
+
+namespace {
+
+constexpr WORD kTraditionalChinese = 1028;
+constexpr WORD kSimplifiedChinese = 2052;
+
+const DLGTEMPLATE* FindTemplate(const Resources& resources, unsigned id) {
+  const auto module = static_cast<HMODULE>(resources.module);
+  const WORD language = resources.traditional ? kTraditionalChinese : kSimplifiedChinese;
+  const HRSRC found = ::FindResourceExA(module, RT_DIALOG, MAKEINTRESOURCEA(id), language);
+  const HGLOBAL loaded = found == nullptr ? nullptr : ::LoadResource(module, found);
+  return loaded == nullptr ? nullptr : static_cast<const DLGTEMPLATE*>(::LockResource(loaded));
+}
+
+void RegisterControls() {
+  static const INITCOMMONCONTROLSEX classes = {sizeof classes,
+                                               ICC_LISTVIEW_CLASSES | ICC_BAR_CLASSES};
+  static const BOOL done = ::InitCommonControlsEx(&classes);
+  static_cast<void>(done);
+}
+
+// Keeps the parent's window from taking input while a dialog is up.
+class ParentDisabled {
+public:
+  explicit ParentDisabled(HWND parent)
+      : window_(::GetAncestor(parent, GA_ROOT)), before_(::IsWindowEnabled(window_)) {
+    ::EnableWindow(window_, FALSE);
+  }
+  ~ParentDisabled() { ::EnableWindow(window_, before_); }
+  ParentDisabled(const ParentDisabled&) = delete;
+  ParentDisabled& operator=(const ParentDisabled&) = delete;
+
+private:
+  HWND window_;
+  BOOL before_;
+};
+
+// The window on which a run is, gone with it.
+class RunWindow {
+public:
+  RunWindow(Run& run, HWND window) : run_(run) {
+    run_.window = window;
+    Runs().push_back(&run_);
+  }
+  ~RunWindow() {
+    const Silence silence;
+    const HWND window = run_.window;
+    run_.window = nullptr;
+    Runs().pop_back();
+    if (window != nullptr)
+      ::DestroyWindow(window);
+    if (run_.boldFont != nullptr)
+      ::DeleteObject(run_.boldFont);
+  }
+  RunWindow(const RunWindow&) = delete;
+  RunWindow& operator=(const RunWindow&) = delete;
+
+private:
+  Run& run_;
+};
+
+// Shows the window with the focus where OnInitDialog put it, or on the first control.
+void Open(const Run& run, bool focusFirst) {
+  const Silence silence;
+  const HWND focus = ::GetFocus();
+  const bool keep = !focusFirst && ::IsChild(run.window, focus);
+  ::ShowWindow(run.window, SW_SHOW);
+  const HWND target = keep ? focus : ::GetNextDlgTabItem(run.window, nullptr, FALSE);
+  if (target != nullptr && (keep || focusFirst))
+    ::SendMessageW(run.window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
+}
+
+void Loop(CDialog& dialog) {
+  while (!DialogAccess::HasEnded(dialog)) {
+    if (!ServeMessage(Serve::Timers))
+      DialogAccess::SetEnd(dialog, CDialog::Cancelled);
+  }
+}
+
+void RunWindowOf(Run& run) {
+  if (const bool focusFirst = DialogAccess::Init(*run.dialog);
+      !DialogAccess::HasEnded(*run.dialog)) {
+    Open(run, focusFirst);
+    ::PostMessageW(run.window, kModalMessage, 0, 0);
+    Loop(*run.dialog);
+  }
+}
+
+HWND Make(CDialog& dialog, HWND parent) {
+  const Silence silence;
+  const Resources& resources = ResourceContext::Current();
+  const DLGTEMPLATE* const found = FindTemplate(resources, DialogAccess::TemplateId(dialog));
+  if (found == nullptr)
+    return nullptr;
+  RegisterControls();
+  return ::CreateDialogIndirectParamW(static_cast<HINSTANCE>(resources.module), found, parent,
+                                      DialogProc, 0);
+}
+
+} // namespace
+
+int RunModal(CDialog& dialog) {
+  const HWND given = DialogAccess::Parent(dialog);
+  const HWND parent = ::IsWindow(given) ? given : nullptr;
+  const HWND window = Make(dialog, parent);
+  if (window == nullptr)
+    return CDialog::Failed;
+  Run run;
+  run.dialog = &dialog;
+  const RunWindow running(run, window);
+  // Enabled again before the window goes, so that the parent is the one to come to the front.
+  const ParentDisabled disabled(parent);
+  DialogAccess::Begin(dialog, window);
+  RunWindowOf(run);
+  return DialogAccess::Finish(dialog);
+}
+
+void WakeModal(CDialog& dialog) {
+  ::PostMessageW(dialog.GetSafeHwnd(), WM_NULL, 0, 0);
+}
+
+} // namespace tq

@@ -1,0 +1,64 @@
+// The dialogs that are up, and what the bodies of the window layer share. Internal.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <map>
+#include <set>
+#include <vector>
+
+#include "platform/framework/CDialog.h"
+#include "platform/framework/DialogTemplate.h"
+
+namespace tq {
+
+// One modal run.
+struct Run {
+  CDialog* dialog = nullptr;
+  HWND window = nullptr;       // null when it was destroyed under the run
+  std::set<unsigned> timers;   // those that are set: a killed one may still have a message waiting
+  std::set<int> selectionNews; // list views whose SelectionChanged is on its way
+  std::map<int, CString> tips; // by control
+  HWND tipWindow = nullptr;    // made for the first tip
+  HFONT boldFont = nullptr;    // made for the first bold row
+};
+
+// The innermost last.
+std::vector<Run*>& Runs();
+Run* FindRun(HWND dialog);
+
+// While one of these lives the program changes its controls, and what they tell of it is not heard.
+class Silence {
+public:
+  Silence() { ++depth_; }
+  ~Silence() { --depth_; }
+  Silence(const Silence&) = delete;
+  Silence& operator=(const Silence&) = delete;
+  static bool IsOn() { return depth_ != 0; }
+
+private:
+  static int depth_;
+};
+
+// The kind of a control by its window class; Dialog for any other window.
+ControlKind KindOf(HWND window);
+inline bool HasStyle(HWND window, LONG_PTR style) {
+  return (::GetWindowLongPtrW(window, GWL_STYLE) & style) != 0;
+}
+
+// Messages that a run sends itself, out of the range of CWnd::Post.
+inline constexpr UINT kModalMessage = WM_APP + 1;     // tells the modal handler
+inline constexpr UINT kSelectionMessage = WM_APP + 2; // wParam: the list view's id
+
+INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// WM_COMMAND and WM_NOTIFY of a dialog.
+void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam);
+void TranslateNotify(Run& run, const NMHDR& header);
+// WM_DRAWITEM of an owner-drawn list box.
+void DrawItem(Run& run, const DRAWITEMSTRUCT& item);
+void SetCursorNow(CursorShape shape);
+
+} // namespace tq

@@ -1,0 +1,206 @@
+#include "tests/support/User.h"
+
+#include <gtest/gtest.h>
+
+#include <deque>
+
+#include "platform/framework/CComboBox.h"
+#include "platform/framework/CEdit.h"
+#include "platform/framework/CListBox.h"
+#include "platform/framework/CListCtrl.h"
+#include "terminal/StandIn.h"
+
+namespace {
+
+std::deque<UserScript>& Scripts() {
+  static std::deque<UserScript> scripts;
+  return scripts;
+}
+
+void ActAsUser(CDialog& dialog) {
+  if (Scripts().empty()) {
+    ADD_FAILURE() << "a dialog opened for which the test has no script: "
+                  << standin::FromAnsi(dialog.GetText().GetString());
+    return dialog.EndDialog(CDialog::Cancelled);
+  }
+  const UserScript script = std::move(Scripts().front());
+  Scripts().pop_front();
+  User user(dialog);
+  script(user);
+  if (!user.IsUp() || user.MayStayUp())
+    return;
+  ADD_FAILURE() << "the script left the dialog up:\n" << user.Screen();
+  dialog.EndDialog(CDialog::Cancelled);
+}
+
+bool Settled(bool done) {
+  actions::Settle();
+  return done;
+}
+
+std::string Utf8(const CString& text) {
+  return standin::FromAnsi(
+      std::string_view(text.GetString(), static_cast<size_t>(text.GetLength())));
+}
+
+std::string RowOfView(const CListCtrl& view, int row) {
+  std::string text = Utf8(view.GetCellText(row, 0));
+  for (int column = 1; column < view.GetColumnCount(); ++column)
+    text += " | " + Utf8(view.GetCellText(row, column));
+  return text;
+}
+
+template <class LIST> std::vector<int> Selection(const LIST& list) {
+  std::vector<int> rows;
+  for (int row = list.GetNextSelected(-1); row != -1; row = list.GetNextSelected(row))
+    rows.push_back(row);
+  return rows;
+}
+
+} // namespace
+
+void WhenDialogOpens(UserScript script) {
+  tq::SetModalHandler(ActAsUser);
+  Scripts().push_back(std::move(script));
+}
+
+size_t TakeUnusedScripts() {
+  const size_t count = Scripts().size();
+  Scripts().clear();
+  return count;
+}
+
+int RunDialog(CDialog& dialog, UserScript script) {
+  WhenDialogOpens(std::move(script));
+  const int code = dialog.DoModal();
+  EXPECT_EQ(TakeUnusedScripts(), 0U) << "a dialog that the test has a script for did not open";
+  return code;
+}
+
+tq::ControlKind User::KindOf(int id) const {
+  const WindowHandle handle = Control(id).GetSafeHwnd();
+  for (const actions::ControlView& view : actions::ControlsOf(dialog_.GetSafeHwnd())) {
+    if (view.handle == handle)
+      return view.kind;
+  }
+  return tq::ControlKind::Dialog;
+}
+
+bool User::Click(int id) {
+  return IsUp() && Settled(actions::Click(Control(id).GetSafeHwnd()));
+}
+
+bool User::ClickRow(int id, int row, Modifier modifier) {
+  return IsUp() && Settled(actions::ClickRow(Control(id).GetSafeHwnd(), row, modifier));
+}
+
+bool User::DoubleClick(int id, int row, Modifier modifier) {
+  return IsUp() && Settled(actions::DoubleClickRow(Control(id).GetSafeHwnd(), row, modifier));
+}
+
+bool User::Hover(int id, int row) {
+  return IsUp() && Settled(actions::HoverRow(Control(id).GetSafeHwnd(), row));
+}
+
+bool User::Select(int id, int index) {
+  if (KindOf(id) != tq::ControlKind::ComboBox)
+    return ClickRow(id, index);
+  return IsUp() && Settled(actions::PickEntry(Control(id).GetSafeHwnd(), index));
+}
+
+bool User::Select(int id, const std::string& text) {
+  const std::vector<std::string> rows = Rows(id);
+  for (size_t i = 0; i < rows.size(); ++i) {
+    if (rows[i] == text)
+      return Select(id, static_cast<int>(i));
+  }
+  return false;
+}
+
+bool User::Type(const std::string& text) {
+  const std::string ansi = standin::ToAnsi(text);
+  return IsUp() && Settled(actions::TypeText(dialog_.GetSafeHwnd(), ansi.c_str()));
+}
+
+bool User::Fill(int id, const std::string& text) {
+  if (KindOf(id) != tq::ControlKind::Edit || !Click(id))
+    return false;
+  CEdit(dialog_, id).SelectAll();
+  return Type(text.empty() ? "\b" : text);
+}
+
+bool User::Press(Key key) {
+  return IsUp() && Settled(actions::PressKey(dialog_.GetSafeHwnd(), key));
+}
+
+bool User::CloseByTitleBar() {
+  return IsUp() && Settled(actions::CloseByTitleBar(dialog_.GetSafeHwnd()));
+}
+
+std::vector<std::string> User::Rows(int id) const {
+  std::vector<std::string> rows;
+  const tq::ControlKind kind = KindOf(id);
+  const CListCtrl view(dialog_, id);
+  const CListBox box(dialog_, id);
+  const CComboBox combo(dialog_, id);
+  if (kind == tq::ControlKind::ListView) {
+    for (int row = 0; row < view.GetRowCount(); ++row)
+      rows.push_back(RowOfView(view, row));
+  } else if (kind == tq::ControlKind::ListBox) {
+    for (int row = 0; row < box.GetCount(); ++row)
+      rows.push_back(Utf8(box.GetItemText(row)));
+  } else if (kind == tq::ControlKind::ComboBox) {
+    for (int index = 0; index < combo.GetCount(); ++index)
+      rows.push_back(Utf8(combo.GetItemText(index)));
+  }
+  return rows;
+}
+
+std::vector<int> User::SelectedRows(int id) const {
+  switch (KindOf(id)) {
+  case tq::ControlKind::ListView:
+    return Selection(CListCtrl(dialog_, id));
+  case tq::ControlKind::ListBox:
+    return Selection(CListBox(dialog_, id));
+  case tq::ControlKind::ComboBox: {
+    const int chosen = CComboBox(dialog_, id).GetCurSel();
+    return chosen == -1 ? std::vector<int>() : std::vector<int>{chosen};
+  }
+  default:
+    return {};
+  }
+}
+
+std::string User::Text(int id) const {
+  return Utf8(Control(id).GetText());
+}
+
+std::string User::Title() const {
+  return Utf8(dialog_.GetText());
+}
+
+std::string User::ToolTip(int id) const {
+  return Utf8(dialog_.GetToolTip(id));
+}
+
+bool User::IsEnabled(int id) const {
+  return Control(id).IsWindowEnabled();
+}
+
+bool User::IsVisible(int id) const {
+  return Control(id).IsWindowVisible();
+}
+
+bool User::HasFocus(int id) const {
+  return Control(id).HasFocus();
+}
+
+bool User::WaitFor(const std::function<bool()>& condition) {
+  while (IsUp()) {
+    if (condition())
+      return true;
+    if (!actions::ServeNext())
+      return false;
+  }
+  return false;
+}

@@ -1,0 +1,79 @@
+// A test that acts as the user of a dialog, the same on Windows with real windows and elsewhere with
+// windows in memory.
+//
+//   const int code = RunDialog(dialog, [](User& user) {
+//     user.Select(761, "美國");
+//     EXPECT_EQ(user.Rows(781), (std::vector<std::string>{"聯邦基金利率"}));
+//     user.DoubleClick(781, 0);
+//   });
+//
+// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there, the dialog is
+// closed or lies behind another one) returns false and does nothing. An action returns when all that
+// follows from it has happened, timers excepted: see WaitFor.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/framework/DialogAccess.h"
+#include "tests/support/UserActions.h"
+
+class User;
+using UserScript = std::function<void(User&)>;
+
+// The script of the next dialog that opens and has none yet: those of dialogs that open each other are
+// given in the order of opening. A script that ends while its dialog is up fails the test, and the dialog
+// is cancelled; so does a dialog without a script.
+void WhenDialogOpens(UserScript script);
+// Scripts that no dialog has opened for; they are forgotten.
+size_t TakeUnusedScripts();
+// WhenDialogOpens and DoModal. Fails the test when a script was left over.
+int RunDialog(CDialog& dialog, UserScript script);
+
+class User {
+public:
+  explicit User(CDialog& dialog) : dialog_(dialog) {}
+
+  bool Click(int id); // a button, or an edit to go there
+  bool ClickRow(int id, int row, Modifier modifier = Modifier::None);
+  bool DoubleClick(int id, int row, Modifier modifier = Modifier::None);
+  bool Hover(int id, int row);
+  // The entry of a combo box, or the row of a list, by number or as the first with that text.
+  bool Select(int id, int index);
+  bool Select(int id, const std::string& text);
+  // Into the edit that has the focus, in the place of what is selected; "\b" takes back.
+  bool Type(const std::string& text);
+  // In the place of the text of that edit.
+  bool Fill(int id, const std::string& text);
+  bool Press(Key key);
+  bool CloseByTitleBar();
+
+  // What can be seen. Rows of a list view have their columns joined by " | ".
+  std::vector<std::string> Rows(int id) const;
+  std::vector<int> SelectedRows(int id) const;
+  std::string Text(int id) const; // of a combo box the chosen entry
+  std::string Title() const;
+  std::string ToolTip(int id) const;
+  bool IsEnabled(int id) const;
+  bool IsVisible(int id) const;
+  bool HasFocus(int id) const;
+  // The whole dialog as text, a line for each control and row. Ends with a line end.
+  std::string Screen() const;
+
+  bool IsUp() const { return dialog_.IsRunning() && !tq::DialogAccess::HasEnded(dialog_); }
+  // Has messages and timers arrive until `condition` holds. False when the dialog ends first, or nothing
+  // more can happen (on Windows: nothing does for ten seconds).
+  bool WaitFor(const std::function<bool()>& condition);
+  // The script may end with the dialog up: something else will end it.
+  void LeaveUp() { leaveUp_ = true; }
+  bool MayStayUp() const { return leaveUp_; }
+
+private:
+  CWnd Control(int id) const { return CWnd(dialog_, id); }
+  tq::ControlKind KindOf(int id) const;
+  std::string ScreenRows(int id) const;
+
+  CDialog& dialog_;
+  bool leaveUp_ = false;
+};

@@ -1,0 +1,36 @@
+// What the user's hands do, on one kind of windows: each system has its body. User.h is for tests.
+//
+// Each returns false when the user could not do it. Messages that follow are delivered by Settle.
+#pragma once
+
+#include <vector>
+
+#include "platform/framework/CDialog.h"
+#include "platform/framework/DialogTemplate.h"
+
+enum class Modifier { None, Control, Shift };
+
+namespace actions {
+
+struct ControlView {
+  WindowHandle handle;
+  tq::ControlKind kind;
+};
+// In the order of the template.
+std::vector<ControlView> ControlsOf(WindowHandle dialog);
+
+bool Click(WindowHandle control);
+bool ClickRow(WindowHandle control, int row, Modifier modifier);
+bool DoubleClickRow(WindowHandle control, int row, Modifier modifier);
+bool HoverRow(WindowHandle control, int row);
+bool PickEntry(WindowHandle control, int index);
+bool TypeText(WindowHandle dialog, const char* ansi);
+bool PressKey(WindowHandle dialog, Key key);
+bool CloseByTitleBar(WindowHandle dialog);
+
+// Delivers what waits, timers excepted.
+void Settle();
+// Delivers the next message or timer; false when none will come.
+bool ServeNext();
+
+} // namespace actions

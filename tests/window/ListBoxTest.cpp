@@ -1,0 +1,288 @@
+// List boxes of a single selection.
+#include <climits>
+
+#include "platform/framework/CListBox.h"
+#include "tests/window/WindowTest.h"
+
+namespace {
+
+constexpr int kBox = 781;
+
+class ListBoxTest : public WindowTest {
+protected:
+  // A box with rows A, B, C and data 10, 20, 30.
+  void InBox(const std::function<void(User&, TestDialog&, CListBox)>& script) {
+    InDialog([&](User& user, TestDialog& dialog) {
+      CListBox box(dialog, kBox);
+      int data = 0;
+      for (const char* text : {"A", "B", "C"})
+        box.SetItemData(box.AddString(text), data += 10);
+      script(user, dialog, box);
+    });
+  }
+};
+
+TEST_F(ListBoxTest, ANewBoxIsEmpty) {
+  InDialog([](User& user, TestDialog& dialog) {
+    const CListBox box(dialog, kBox);
+    EXPECT_EQ(box.GetCount(), 0);
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_EQ(box.GetSelCount(), 0);
+    EXPECT_EQ(box.GetCaretIndex(), -1);
+    EXPECT_EQ(box.GetNextSelected(-1), -1);
+    EXPECT_EQ(user.Rows(kBox), std::vector<std::string>());
+  });
+}
+
+TEST_F(ListBoxTest, AddingAppendsWithoutSorting) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CListBox box(dialog, kBox);
+    EXPECT_EQ(box.AddString("z"), 0);
+    EXPECT_EQ(box.AddString("a"), 1);
+    EXPECT_EQ(box.InsertString(0, "m"), 0);
+    EXPECT_EQ(box.InsertString(3, "end"), 3);
+    EXPECT_EQ(box.InsertString(-1, ""), 4);
+    EXPECT_EQ(user.Rows(kBox), (std::vector<std::string>{"m", "z", "a", "end", ""}));
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_EQ(box.GetItemData(4), 0);
+    EXPECT_EQ(box.AddString(nullptr), 5);
+    EXPECT_TRUE(box.GetItemText(5).IsEmpty());
+  });
+}
+
+TEST_F(ListBoxTest, IndexOutOfRangeChangesNothing) {
+  InBox([](User& user, TestDialog&, CListBox box) {
+    box.SetCurSel(1);
+    for (const int row : {-2, 3, 1000000, INT_MIN, INT_MAX}) {
+      if (row != 3) {
+        EXPECT_EQ(box.InsertString(row, "x"), -1) << row;
+      }
+      EXPECT_FALSE(box.SetCurSel(row)) << row;
+      EXPECT_FALSE(box.SelectRow(row)) << row;
+    }
+    for (const int row : {-1, 3, INT_MIN, INT_MAX}) {
+      EXPECT_FALSE(box.DeleteString(row)) << row;
+      EXPECT_FALSE(box.SetItemText(row, "x")) << row;
+      EXPECT_FALSE(box.SetItemData(row, 1)) << row;
+      EXPECT_EQ(box.GetItemData(row), 0) << row;
+      EXPECT_TRUE(box.GetItemText(row).IsEmpty()) << row;
+      EXPECT_FALSE(box.IsSelected(row)) << row;
+      EXPECT_FALSE(box.EnsureVisible(row)) << row;
+      EXPECT_FALSE(box.SetCaretIndex(row)) << row;
+    }
+    EXPECT_EQ(box.GetNextSelected(5), -1);
+    EXPECT_EQ(box.GetNextSelected(-2), -1);
+    EXPECT_EQ(box.GetCurSel(), 1);
+    EXPECT_EQ(user.Rows(kBox), (std::vector<std::string>{"A", "B", "C"}));
+  });
+}
+
+TEST_F(ListBoxTest, SelectingAndClearing) {
+  InBox([](User& user, TestDialog&, CListBox box) {
+    EXPECT_TRUE(box.SetCurSel(2));
+    EXPECT_EQ(box.GetCurSel(), 2);
+    EXPECT_EQ(box.GetSelCount(), 1);
+    EXPECT_EQ(box.GetCaretIndex(), 2);
+    EXPECT_TRUE(box.SetCurSel(0));
+    EXPECT_EQ(user.SelectedRows(kBox), std::vector<int>{0});
+    EXPECT_TRUE(box.SetCurSel(-1));
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_EQ(box.GetSelCount(), 0);
+    EXPECT_TRUE(box.SelectRow(1));
+    EXPECT_TRUE(box.SelectRow(0, false)); // was not selected: nothing changes
+    EXPECT_EQ(box.GetCurSel(), 1);
+    EXPECT_TRUE(box.SelectRow(1, false));
+    EXPECT_EQ(box.GetCurSel(), -1);
+  });
+}
+
+TEST_F(ListBoxTest, TheSelectionStaysWithItsRow) {
+  InBox([](User&, TestDialog&, CListBox box) {
+    box.SetCurSel(1);
+    box.InsertString(0, "front");
+    EXPECT_EQ(box.GetCurSel(), 2);
+    box.InsertString(3, "behind");
+    EXPECT_EQ(box.GetCurSel(), 2);
+    box.DeleteString(0);
+    EXPECT_EQ(box.GetCurSel(), 1);
+    box.DeleteString(2);
+    EXPECT_EQ(box.GetCurSel(), 1);
+    box.DeleteString(1);
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_EQ(box.GetCount(), 2);
+  });
+}
+
+TEST_F(ListBoxTest, ChangingATextKeepsDataAndSelection) {
+  InBox([](User& user, TestDialog&, CListBox box) {
+    box.SetCurSel(1);
+    EXPECT_TRUE(box.SetItemText(1, "new"));
+    EXPECT_TRUE(box.SetItemText(0, "first"));
+    EXPECT_TRUE(box.SetItemText(2, "last"));
+    EXPECT_EQ(user.Rows(kBox), (std::vector<std::string>{"first", "new", "last"}));
+    EXPECT_EQ(box.GetCurSel(), 1);
+    EXPECT_EQ(box.GetItemData(0), 10);
+    EXPECT_EQ(box.GetItemData(1), 20);
+    EXPECT_EQ(box.GetItemData(2), 30);
+  });
+}
+
+TEST_F(ListBoxTest, ItemDataHoldsAPointer) {
+  InBox([](User&, TestDialog&, CListBox box) {
+    EXPECT_TRUE(box.SetItemData(1, INTPTR_MIN));
+    EXPECT_EQ(box.GetItemData(1), INTPTR_MIN);
+    EXPECT_TRUE(box.SetItemData(1, -1));
+    EXPECT_EQ(box.GetItemData(1), -1);
+    box.DeleteString(0);
+    EXPECT_EQ(box.GetItemData(0), -1);
+  });
+}
+
+TEST_F(ListBoxTest, ClearingEmptiesAll) {
+  InBox([](User&, TestDialog&, CListBox box) {
+    box.SetCurSel(1);
+    box.ResetContent();
+    EXPECT_EQ(box.GetCount(), 0);
+    EXPECT_EQ(box.GetCurSel(), -1);
+    box.ResetContent();
+    EXPECT_EQ(box.AddString("again"), 0);
+    EXPECT_EQ(box.GetItemData(0), 0);
+    EXPECT_EQ(box.GetCurSel(), -1);
+  });
+}
+
+TEST_F(ListBoxTest, DuplicateTextsAreRowsOfTheirOwn) {
+  InDialog([](User&, TestDialog& dialog) {
+    CListBox box(dialog, kBox);
+    for (int i = 0; i < 3; ++i)
+      box.SetItemData(box.AddString("same"), i + 1);
+    EXPECT_EQ(box.GetCount(), 3);
+    box.SetCurSel(2);
+    box.DeleteString(1);
+    EXPECT_EQ(box.GetItemData(0), 1);
+    EXPECT_EQ(box.GetItemData(1), 3);
+    EXPECT_EQ(box.GetCurSel(), 1);
+  });
+}
+
+TEST_F(ListBoxTest, SettingDoesNotNotify) {
+  InBox([](User&, TestDialog& dialog, CListBox box) {
+    box.SetCurSel(1);
+    box.SelectRow(2);
+    box.SetCaretIndex(0);
+    box.SetItemText(1, "x");
+    box.DeleteString(1);
+    box.EnsureVisible(0);
+    box.ResetContent();
+    box.SetFocus();
+    actions::Settle();
+    EXPECT_EQ(dialog.log, Log());
+  });
+}
+
+TEST_F(ListBoxTest, AClickSelectsAndTells) {
+  InBox([](User& user, TestDialog& dialog, CListBox box) {
+    int seen = -1;
+    dialog.onCommand = [&](int, ControlEvent) { seen = box.GetCurSel(); };
+    EXPECT_TRUE(user.ClickRow(kBox, 1));
+    EXPECT_EQ(dialog.Take(), Log{"781 selection"});
+    EXPECT_EQ(seen, 1);
+    EXPECT_TRUE(box.HasFocus());
+    EXPECT_TRUE(user.ClickRow(kBox, 1)); // the selected row tells again
+    EXPECT_EQ(dialog.Take(), Log{"781 selection"});
+    EXPECT_FALSE(user.ClickRow(kBox, 3));
+    EXPECT_EQ(dialog.Take(), Log());
+  });
+}
+
+TEST_F(ListBoxTest, ADoubleClickTellsItAfterTheSelection) {
+  InBox([](User& user, TestDialog& dialog, CListBox box) {
+    EXPECT_TRUE(user.DoubleClick(kBox, 2));
+    EXPECT_EQ(dialog.Take(), (Log{"781 selection", "781 double"}));
+    EXPECT_EQ(box.GetCurSel(), 2);
+  });
+}
+
+TEST_F(ListBoxTest, KeysMoveTheSelection) {
+  InBox([](User& user, TestDialog& dialog, CListBox box) {
+    box.SetCurSel(0);
+    box.SetFocus();
+    user.Press(Key::Down);
+    EXPECT_EQ(box.GetCurSel(), 1);
+    user.Press(Key::End);
+    EXPECT_EQ(box.GetCurSel(), 2);
+    user.Press(Key::Up);
+    EXPECT_EQ(box.GetCurSel(), 1);
+    user.Press(Key::Home);
+    EXPECT_EQ(box.GetCurSel(), 0);
+    EXPECT_EQ(dialog.log.size(), 4U);
+    EXPECT_EQ(dialog.log.front(), "781 selection");
+  });
+}
+
+TEST_F(ListBoxTest, ADisabledBoxTakesNoClick) {
+  InBox([](User& user, TestDialog& dialog, CListBox box) {
+    box.EnableWindow(false);
+    EXPECT_FALSE(user.ClickRow(kBox, 1));
+    EXPECT_FALSE(user.DoubleClick(kBox, 1));
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_EQ(dialog.log, Log());
+    EXPECT_TRUE(box.SetCurSel(1)); // the program may
+    EXPECT_EQ(box.GetCurSel(), 1);
+  });
+}
+
+TEST_F(ListBoxTest, DoubleByteText) {
+  InBox([](User& user, TestDialog&, CListBox box) {
+    const CString tricky = TrickyText();
+    EXPECT_EQ(box.AddString(tricky), 3);
+    EXPECT_EQ(box.GetItemText(3), tricky);
+    box.SetItemText(0, tricky);
+    EXPECT_EQ(box.GetItemText(0), tricky);
+    EXPECT_EQ(user.Rows(kBox).back(), Utf8(tricky));
+  });
+}
+
+TEST_F(ListBoxTest, TenThousandRows) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CListBox box(dialog, kBox);
+    {
+      const CRedrawLock lock(box);
+      for (int i = 0; i < 10000; ++i)
+        box.SetItemData(box.AddString(std::to_string(i).c_str()), i);
+    }
+    EXPECT_EQ(box.GetCount(), 10000);
+    EXPECT_EQ(box.GetItemText(9999), "9999");
+    EXPECT_TRUE(user.ClickRow(kBox, 9999));
+    EXPECT_EQ(box.GetItemData(box.GetCurSel()), 9999);
+    box.ResetContent();
+    EXPECT_EQ(box.GetCount(), 0);
+  });
+}
+
+TEST_F(ListBoxTest, ALongText) {
+  InBox([](User&, TestDialog&, CListBox box) {
+    const CString text('x', 5000);
+    box.AddString(text);
+    EXPECT_EQ(box.GetItemText(3), text);
+  });
+}
+
+TEST_F(ListBoxTest, WithoutAWindowItIsAnEmptyBox) {
+  for (CListBox box : {CListBox(), CListBox(CWnd(), kBox)}) {
+    EXPECT_EQ(box.AddString("x"), -1);
+    EXPECT_EQ(box.InsertString(0, "x"), -1);
+    EXPECT_FALSE(box.DeleteString(0));
+    box.ResetContent();
+    EXPECT_EQ(box.GetCount(), 0);
+    EXPECT_EQ(box.GetCurSel(), -1);
+    EXPECT_FALSE(box.SetCurSel(-1));
+    EXPECT_EQ(box.GetSelCount(), 0);
+    EXPECT_EQ(box.GetCaretIndex(), -1);
+    EXPECT_TRUE(box.GetItemText(0).IsEmpty());
+    EXPECT_EQ(box.GetItemData(0), 0);
+    box.RedrawItems();
+  }
+}
+
+} // namespace

@@ -1,0 +1,57 @@
+// Opening and closing again and again gives everything back.
+#include "platform/framework/CButton.h"
+#include "platform/framework/CComboBox.h"
+#include "platform/framework/CListBox.h"
+#include "platform/framework/CListCtrl.h"
+#include "tests/window/TestModule.h"
+#include "tests/window/WindowTest.h"
+
+namespace {
+
+class ManyTest : public WindowTest {};
+
+// Uses what takes memory or objects of the system: rows, a tooltip, an icon, a timer, a message.
+void OpenAndClose() {
+  TestDialog dialog;
+  dialog.onItemLook = [](int, int, ItemLook& look) { look.bold = true; };
+  dialog.onInit = [&] {
+    CListBox(dialog, 783).AddString("bold");
+    CComboBox(dialog, 761).AddString("entry");
+    CListCtrl table(dialog, 791);
+    table.AddColumn("x", 0);
+    table.AddRow("row");
+    CButton(dialog, 804).SetIcon(ButtonIcon::Up);
+    dialog.SetToolTip(804, "tip");
+    dialog.SetTimer(1, 1000);
+    dialog.Post(CWnd::kFirstMessage);
+  };
+  const int code = RunDialog(dialog, [&](User& user) {
+    actions::Settle(); // has the rows drawn where they are
+    dialog.Post(CWnd::kFirstMessage);
+    EXPECT_TRUE(user.IsUp());
+    dialog.EndDialog(3);
+  });
+  ASSERT_EQ(code, 3);
+}
+
+TEST_F(ManyTest, NothingIsLeftBehind) {
+  for (int i = 0; i < 3; ++i) // what is made once and kept
+    OpenAndClose();
+  const size_t before = WindowResources();
+  for (int i = 0; i < ManyRuns(); ++i)
+    OpenAndClose();
+  EXPECT_LE(WindowResources(), before + ResourceSlack());
+}
+
+TEST_F(ManyTest, FailedRunsLeaveNothingBehind) {
+  const size_t before = WindowResources();
+  for (int i = 0; i < 100; ++i) {
+    TestDialog missing(4711);
+    ASSERT_EQ(missing.DoModal(), CDialog::Failed);
+    TestDialog refused(109);
+    ASSERT_EQ(refused.DoModal(), CDialog::Failed);
+  }
+  EXPECT_LE(WindowResources(), before + ResourceSlack());
+}
+
+} // namespace

@@ -1,0 +1,128 @@
+#include "tests/window/WindowTest.h"
+
+#include <iterator>
+
+#include "platform/services/tqCommon.h"
+#include "tests/window/TestModule.h"
+
+namespace {
+
+// In this order: the macros, the templates, the end of the macros.
+// clang-format off
+constexpr tq::TemplateRow kRows[] = {
+#include "platform/framework/DialogRows.inc"
+#include "tests/window/TestDialogs.inc"
+#include "platform/framework/DialogRowsEnd.inc"
+};
+// clang-format on
+
+const char* NameOf(ControlEvent event) {
+  static const char* const names[] = {"clicked", "selection", "double", "text", "focus", "left"};
+  return names[static_cast<int>(event)];
+}
+
+const char* TestString(unsigned id, int traditional) {
+  if (id != 1)
+    return nullptr;
+  return traditional != 0 ? "許功蓋" : "许功盖";
+}
+
+} // namespace
+
+tq::Resources TestResources() {
+  tq::Resources resources;
+  resources.traditional = IsTraditionChinese() != 0;
+  resources.module = TestModule();
+  resources.rows = kRows;
+  resources.rowCount = std::size(kRows);
+  resources.string = TestString;
+  resources.toAnsi = Ansi;
+  return resources;
+}
+
+CString TrickyText() {
+  return Ansi(IsTraditionChinese() != 0 ? "許功蓋" : "乗亅億");
+}
+
+Log TestDialog::Take() {
+  Log taken;
+  taken.swap(log);
+  return taken;
+}
+
+bool TestDialog::OnInitDialog() {
+  log.push_back("init");
+  if (onInit)
+    onInit();
+  return focusFirst;
+}
+
+void TestDialog::OnOK() {
+  log.push_back("ok");
+  onOk ? onOk() : CDialog::OnOK();
+}
+
+void TestDialog::OnCancel() {
+  log.push_back("cancel");
+  onCancel ? onCancel() : CDialog::OnCancel();
+}
+
+void TestDialog::OnCommand(int id, ControlEvent event) {
+  log.push_back(std::to_string(id) + " " + NameOf(event));
+  if (onCommand)
+    onCommand(id, event);
+}
+
+void TestDialog::OnNotify(int id, const ListNotice& notice) {
+  const bool isDouble = notice.kind == ListNotice::Kind::DoubleClicked;
+  log.push_back(std::to_string(id) +
+                (isDouble ? " double " + std::to_string(notice.row) : " selection"));
+  if (onNotify)
+    onNotify(id, notice);
+}
+
+void TestDialog::OnTimer(unsigned id) {
+  log.push_back("timer " + std::to_string(id));
+  if (onTimer)
+    onTimer(id);
+}
+
+intptr_t TestDialog::OnMessage(unsigned code, intptr_t first, intptr_t second) {
+  log.push_back("message " + std::to_string(code - kFirstMessage) + " " + std::to_string(first) +
+                " " + std::to_string(second));
+  return onMessage ? onMessage(code, first, second) : 0;
+}
+
+bool TestDialog::OnKey(int id, Key key) {
+  if (!onKey)
+    return false;
+  log.push_back("key " + std::to_string(id) + " " + std::to_string(static_cast<int>(key)));
+  return onKey(id, key);
+}
+
+void TestDialog::OnItemLook(int id, int row, ItemLook& look) {
+  if (onItemLook)
+    onItemLook(id, row, look);
+}
+
+WindowTest::WindowTest() : context_(TestResources()) {}
+
+WindowTest::~WindowTest() {
+  EXPECT_EQ(TakeUnusedScripts(), 0U);
+  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+}
+
+void WindowTest::In(TestDialog& dialog, const UserScript& script) {
+  const int code = RunDialog(dialog, [&](User& user) {
+    dialog.Take();
+    script(user);
+    EXPECT_TRUE(user.IsUp());
+    dialog.EndDialog(77);
+  });
+  EXPECT_EQ(code, 77);
+}
+
+void WindowTest::InDialog(const std::function<void(User&, TestDialog&)>& script) {
+  TestDialog dialog;
+  In(dialog, [&](User& user) { script(user, dialog); });
+}

@@ -1,0 +1,74 @@
+// What the window tests share: a dialog that writes down what it hears, and the fixture that puts the
+// test program's templates in force.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/framework/CDialog.h"
+#include "platform/framework/ResourceContext.h"
+#include "terminal/StandIn.h"
+#include "tests/support/User.h"
+
+// The test program's templates, in the stand-in's language of this moment.
+tq::Resources TestResources();
+
+// 許功蓋 in Traditional Chinese, whose trail bytes are all a backslash in code page 950; in Simplified
+// Chinese three characters whose trail bytes are a backslash and bars in 936. As bytes of the code page.
+CString TrickyText();
+inline CString Ansi(const char* utf8) {
+  return CString(standin::ToAnsi(utf8).c_str());
+}
+inline std::string Utf8(const CString& text) {
+  return standin::FromAnsi(text.GetString());
+}
+
+using Log = std::vector<std::string>;
+
+class TestDialog : public CDialog {
+public:
+  explicit TestDialog(unsigned templateId = 100, const CWnd* parent = nullptr)
+      : CDialog(templateId, parent) {}
+
+  Log log;
+  // Called after the line is written; null: nothing more. OnOK and OnCancel end the dialog without one.
+  std::function<void()> onInit, onOk, onCancel;
+  std::function<void(int, ControlEvent)> onCommand;
+  std::function<void(int, const ListNotice&)> onNotify;
+  std::function<void(unsigned)> onTimer;
+  std::function<intptr_t(unsigned, intptr_t, intptr_t)> onMessage;
+  std::function<bool(int, Key)> onKey; // written down only where one is set
+  std::function<void(int, int, ItemLook&)> onItemLook;
+  bool focusFirst = true;
+
+  // What was written since the last time.
+  Log Take();
+
+protected:
+  bool OnInitDialog() override;
+  void OnOK() override;
+  void OnCancel() override;
+  void OnCommand(int id, ControlEvent event) override;
+  void OnNotify(int id, const ListNotice& notice) override;
+  void OnTimer(unsigned id) override;
+  intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
+  bool OnKey(int id, Key key) override;
+  void OnItemLook(int id, int row, ItemLook& look) override;
+};
+
+class WindowTest : public testing::Test {
+protected:
+  WindowTest();
+  ~WindowTest() override;
+
+  // Runs the dialog with the script, which ends by cancelling it.
+  void In(TestDialog& dialog, const UserScript& script);
+  // The same on a new dialog of template 100.
+  void InDialog(const std::function<void(User&, TestDialog&)>& script);
+
+private:
+  tq::ResourceContext context_;
+};
