@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -74,7 +75,10 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  static PosixFiles* const files = new PosixFiles;
+  // Never destroyed, for files may be asked for until the process ends, and without storage of its own, for
+  // the library may be unloaded long before that.
+  alignas(PosixFiles) static unsigned char room[sizeof(PosixFiles)];
+  static PosixFiles* const files = new (room) PosixFiles;
   return *files;
 }
 
