@@ -8,8 +8,15 @@ set_target_properties(tqSymbol PROPERTIES PREFIX "${CMAKE_SHARED_LIBRARY_PREFIX}
 if(WIN32)
   set_target_properties(tqSymbol PROPERTIES PREFIX "")
   enable_language(RC)
-  target_sources(tqSymbol PRIVATE dialogs/resources/tqSymbol.rc)
-  set_source_files_properties(dialogs/resources/tqSymbol.rc PROPERTIES COMPILE_OPTIONS "-c65001")
+  configure_file(dialogs/resources/Version.rc.in Version.rc @ONLY)
+  set(resources dialogs/resources/tqSymbol.rc ${CMAKE_CURRENT_BINARY_DIR}/Version.rc)
+  target_sources(tqSymbol PRIVATE ${resources})
+  set_source_files_properties(${resources} PROPERTIES COMPILE_OPTIONS "-c65001")
+  # The resource compiler does not tell which files it includes.
+  file(GLOB texts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/dialogs/resources/*.inc)
+  set(TQ_RESOURCE_TEXTS ${texts} ${PROJECT_SOURCE_DIR}/platform/framework/DialogResources.inc)
+  set_source_files_properties(dialogs/resources/tqSymbol.rc PROPERTIES OBJECT_DEPENDS
+    "${TQ_RESOURCE_TEXTS}")
 endif()
 target_link_libraries(tqSymbol PUBLIC tqFramework PRIVATE tqOptions tqPlatformLibs tqServices)
 

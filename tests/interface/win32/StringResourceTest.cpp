@@ -1,37 +1,44 @@
 // The DLL's string resources, as the terminal's message box loads them.
-#include <windows.h>
-
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "dialogs/resources/StringTable.h"
+#include "tests/interface/win32/Resource.h"
 
 namespace {
 
+constexpr unsigned kIds[] = {
+#define TQ_STRING(id, traditional, simplified) id,
+#include "dialogs/resources/Strings.inc"
+#undef TQ_STRING
+};
+
 // String resources come in blocks of 16, each string behind its length.
-std::wstring ResourceText(HMODULE module, unsigned id, WORD language) {
-  HRSRC found = FindResourceExW(module, reinterpret_cast<LPCWSTR>(RT_STRING),
-                                MAKEINTRESOURCEW(id / 16 + 1), language);
-  if (found == nullptr)
+std::wstring ResourceText(unsigned id, WORD language) {
+  const Resource block = FindResourceOf(RT_STRING, static_cast<WORD>(id / 16 + 1), language);
+  if (block.bytes == nullptr)
     return L"<no resource>";
-  const auto* text = static_cast<const WCHAR*>(LockResource(LoadResource(module, found)));
+  const auto* text = reinterpret_cast<const WCHAR*>(block.bytes);
   for (unsigned i = 0; i < id % 16; ++i)
     text += *text + 1;
   return std::wstring(text + 1, *text);
 }
 
-std::wstring Wide(const char* utf8) {
-  wchar_t text[256] = {};
-  MultiByteToWideChar(CP_UTF8, 0, utf8, -1, text, 256);
-  return text;
+TEST(StringResource, EveryEntryIsTheTablesOwnInBothLanguages) {
+  ASSERT_NE(Library(), nullptr);
+  for (const unsigned id : kIds) {
+    EXPECT_EQ(ResourceText(id, kTraditional), Wide(tqSymbolString(id, 1))) << id;
+    EXPECT_EQ(ResourceText(id, kSimplified), Wide(tqSymbolString(id, 0))) << id;
+  }
 }
 
-TEST(StringResource, MessagesOfBothLanguagesAreTheTablesOwn) {
-  HMODULE module = GetModuleHandleA("tqSymbol.dll");
-  ASSERT_NE(module, nullptr);
-  EXPECT_EQ(ResourceText(module, 48026, 1028), Wide(tqSymbolString(48026, 1)));
-  EXPECT_EQ(ResourceText(module, 48026, 2052), Wide(tqSymbolString(48026, 0)));
+TEST(StringResource, LanguagesAreNotMixedUp) {
+  EXPECT_EQ(ResourceText(48026, kTraditional), Wide("存檔失敗"));
+  EXPECT_EQ(ResourceText(48026, kSimplified), Wide("存档失败"));
+}
+
+TEST(StringResource, UnknownEntriesAreEmpty) {
+  EXPECT_EQ(ResourceText(48024, kTraditional), L"");
+  EXPECT_EQ(ResourceText(48040, kSimplified), L"");
 }
 
 } // namespace

@@ -1,0 +1,41 @@
+#include "dialogs/resources/DialogTable.h"
+
+#include <iterator>
+
+#include "dialogs/resources/StringTable.h"
+#include "platform/ModulePath.h"
+#include "platform/XmlText.h"
+#include "platform/services/tqCommon.h"
+
+namespace tq {
+namespace {
+
+// In this order: the macros, the templates, the end of the macros.
+// clang-format off
+constexpr TemplateRow kRows[] = {
+#include "platform/framework/DialogRows.inc"
+#include "dialogs/resources/Dialogs.inc"
+#include "platform/framework/DialogRowsEnd.inc"
+};
+// clang-format on
+
+CString ToAnsi(const char* utf8) {
+  CString text;
+  AssignXmlText(utf8, false, text);
+  return text;
+}
+
+} // namespace
+
+Resources LibraryResources() {
+  Resources resources;
+  resources.traditional = IsTraditionChinese() != 0;
+  resources.module = OwnModule();
+  resources.rows = kRows;
+  resources.rowCount = std::size(kRows);
+  resources.string = tqSymbolString;
+  resources.toAnsi = ToAnsi;
+  return resources;
+}
+
+} // namespace tq

@@ -1,0 +1,166 @@
+// Where the controls of each dialog template stand: nothing overlaps or is cut in either language, and
+// tab goes through them as one reads. Everything is in dialog units.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "tests/dialogs/Measure.h"
+
+namespace {
+
+using tq::ControlKind;
+using tq::TemplateRow;
+
+constexpr int kMargin = 7;       // to the border of the dialog
+constexpr int kGap = 4;          // the least between two controls
+constexpr int kLeastButton = 50; // width of a button with a text
+constexpr int kLeastIcon = 20;   // width of one with a picture, and of anything else
+constexpr int kButtonHeight = 14;
+constexpr int kEditPadding = 2; // above and below its line, border included
+
+bool IsHidden(const TemplateRow& row) {
+  return (row.style & tq::TemplateHidden) != 0;
+}
+
+class DialogLayout : public testing::TestWithParam<Template> {
+protected:
+  // Those that are seen when the dialog opens.
+  static Controls Shown() {
+    Controls shown;
+    for (const TemplateRow& row : GetParam().controls) {
+      if (!IsHidden(row))
+        shown.push_back(row);
+    }
+    return shown;
+  }
+};
+
+TEST_P(DialogLayout, KeepsItsMargins) {
+  const TemplateRow& dialog = GetParam().dialog;
+  const Box inner = {kMargin, kMargin, dialog.width - kMargin, dialog.height - kMargin};
+  for (const TemplateRow& row : GetParam().controls)
+    EXPECT_TRUE(Contains(inner, Place(row))) << Describe(row);
+}
+
+TEST_P(DialogLayout, UsesAllOfItsArea) {
+  int right = 0, bottom = 0;
+  for (const TemplateRow& row : Shown()) {
+    right = std::max(right, Place(row).right);
+    bottom = std::max(bottom, Place(row).bottom);
+  }
+  EXPECT_EQ(GetParam().dialog.width, right + kMargin);
+  EXPECT_EQ(GetParam().dialog.height, bottom + kMargin);
+}
+
+TEST_P(DialogLayout, KeepsControlsApart) {
+  const Controls shown = Shown();
+  for (size_t i = 0; i < shown.size(); ++i) {
+    for (size_t j = i + 1; j < shown.size(); ++j)
+      EXPECT_FALSE(AreCloser(Place(shown[i]), Place(shown[j]), kGap))
+          << Describe(shown[i]) << " and " << Describe(shown[j]);
+  }
+}
+
+// An editor of names waits inside the list box over whose rows it is laid.
+TEST_P(DialogLayout, HidesOnlyAnEditInAListBox) {
+  for (const TemplateRow& row : GetParam().controls) {
+    if (!IsHidden(row))
+      continue;
+    EXPECT_EQ(row.kind, ControlKind::Edit);
+    int lists = 0;
+    for (const TemplateRow& list : Shown())
+      lists += list.kind == ControlKind::ListBox && Contains(Place(list), Place(row)) ? 1 : 0;
+    EXPECT_EQ(lists, 1) << Describe(row);
+  }
+}
+
+// From left to right in a row of controls, row by row downwards; and where columns stand side by side, down
+// one and then the next.
+TEST_P(DialogLayout, TabsAsOneReads) {
+  const Controls shown = Shown();
+  for (size_t i = 0; i < shown.size(); ++i) {
+    const Box before = Place(shown[i]);
+    for (size_t j = i + 1; j < shown.size(); ++j) {
+      const Box behind = Place(shown[j]);
+      EXPECT_TRUE(behind.left >= before.right || behind.top >= before.bottom)
+          << Describe(shown[j]) << " comes behind " << Describe(shown[i]);
+    }
+  }
+}
+
+TEST_P(DialogLayout, HasRoomForItsTexts) {
+  Controls rows = GetParam().controls;
+  rows.push_back(GetParam().dialog);
+  for (const TemplateRow& row : rows) {
+    EXPECT_LE(TextWidth(row.traditional), RoomForText(row)) << row.traditional;
+    EXPECT_LE(TextWidth(row.simplified), RoomForText(row)) << row.simplified;
+  }
+}
+
+// The least height that a control can be used with.
+int LeastHeight(const TemplateRow& row) {
+  switch (row.kind) {
+  case ControlKind::Button:
+    return kButtonHeight;
+  case ControlKind::Edit:
+    return kLineHeight + 2 * kEditPadding;
+  case ControlKind::ComboBox:
+    return 5 * kClosedCombo; // several entries drop down
+  case ControlKind::ListBox:
+  case ControlKind::ListView:
+    return 10 * kLineHeight;
+  default:
+    return kLineHeight;
+  }
+}
+
+TEST_P(DialogLayout, HasControlsOfUsableSize) {
+  for (const TemplateRow& row : GetParam().controls) {
+    EXPECT_GE(row.height, LeastHeight(row)) << Describe(row);
+    const bool hasText = row.kind == ControlKind::Button && (row.style & tq::TemplateIcon) == 0;
+    EXPECT_GE(row.width, hasText ? kLeastButton : kLeastIcon) << Describe(row);
+  }
+}
+
+TEST_P(DialogLayout, HasEachAccessKeyOnceAndTheSameInBothLanguages) {
+  std::set<char> keys;
+  for (const TemplateRow& row : GetParam().controls) {
+    const std::string own = AccessKeys(row.traditional);
+    EXPECT_EQ(own, AccessKeys(row.simplified)) << Describe(row);
+    EXPECT_LE(own.size(), 1u) << Describe(row);
+    for (const char key : own) {
+      EXPECT_TRUE(key >= 'A' && key <= 'Z') << Describe(row);
+      EXPECT_TRUE(keys.insert(key).second) << Describe(row);
+    }
+  }
+}
+
+TEST_P(DialogLayout, HasOneDefaultButtonAtMost) {
+  int defaults = 0;
+  for (const TemplateRow& row : GetParam().controls) {
+    if ((row.style & tq::TemplateDefault) == 0)
+      continue;
+    EXPECT_EQ(row.kind, ControlKind::Button) << Describe(row);
+    ++defaults;
+  }
+  EXPECT_LE(defaults, 1);
+}
+
+// A label's access key goes to the control behind it, so there has to be one that takes it.
+TEST_P(DialogLayout, PutsEachLabelInFrontOfAField) {
+  const Controls& controls = GetParam().controls;
+  for (size_t i = 0; i < controls.size(); ++i) {
+    if (controls[i].kind != ControlKind::Label)
+      continue;
+    ASSERT_LT(i + 1, controls.size());
+    const ControlKind next = controls[i + 1].kind;
+    EXPECT_TRUE(next == ControlKind::Edit || next == ControlKind::ComboBox)
+        << Describe(controls[i]);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, DialogLayout, testing::ValuesIn(Templates()),
+                         [](const auto& tested) { return tested.param.Name(); });
+
+} // namespace
