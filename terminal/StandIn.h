@@ -1,6 +1,6 @@
 // The stand-in terminal: what a test, the demo or a benchmark says to the services that this folder
-// provides under the real ones' names (VLProxy, TQSProxy, TQSObj, tqStock, tqCommon, tqUtil,
-// TQLog).
+// provides under the real ones' names (VLProxy, TQSProxy, TQSObj, tqStock, tqCommon, tqUI,
+// tqUtil, TQLog).
 //
 // One process holds one stand-in. All of it runs on the caller's thread. Text in this header is
 // UTF-8 unless a member says "bytes"; the services hand it out in the process's code page, cut at a
@@ -84,14 +84,24 @@ struct TradingSystem {
   std::vector<TradingAccount> accounts;
 };
 
+// One row of an info table, as CStockKey::GetInfoArray answers it. Code and market are ASCII. Without a
+// name the row ends with its code, without a market with its name.
+struct Indicator {
+  int type = 8; // an InfoType of tqStock
+  std::string regionTw, regionCn;
+  std::string categoryTw, categoryCn;
+  std::string code, nameTw, nameCn, market;
+};
+
 struct Market {
   std::vector<Exchange> exchanges; // in the service's order; an id or name may stand twice
   std::vector<Instrument> instruments;
   std::vector<Group> groups; // in the service's order
   // Those that the user is logged in to, in the proxy's order.
   std::vector<TradingSystem> tradingSystems;
-  std::string entitled = "";    // TQSGetUserInfo flag 0
-  std::string defaults = "";    // TQSGetUserInfo flag 6
+  std::vector<Indicator> indicators = {}; // those of one type in the order of its table
+  std::string entitled = "";              // TQSGetUserInfo flag 0
+  std::string defaults = "";              // TQSGetUserInfo flag 6
   std::string fullMenuKey = ""; // TQSGetUserExtraValue("", "FullMenuKey"); empty: the call fails
 };
 
@@ -124,6 +134,10 @@ TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<S
 // trading system that the market does not have is available. Holdings stay those of the market.
 TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records);
 TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records);
+
+// Puts rows in the place of an info table, as GetInfoArray answers it from now on: columns of any number,
+// none too, the same in both languages. Until Reset.
+TQSTANDIN_API void SetIndicators(int type, std::vector<std::vector<std::string>> rows);
 
 // Back to an empty market, no scripted failures, no recorded calls, log lines or messages, bad
 // releases forgotten; recording on, the language that of the start. Arrays handed out and not yet

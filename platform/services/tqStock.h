@@ -62,9 +62,11 @@ public:
   // Keys are compared as they are, blanks included, and of equal ones the first counts. A value has no
   // ";". An empty value counts as none.
   static int ParseExtAttr(const char* text, const char* key, CString& value);
-  // The rows of an info table: each entry of `rows`, which is emptied first, points to a
-  // CStringArray of columns, counted from 0, of which 2 and 3 are the texts that a search hands
-  // back. The rows belong to this library and stay valid until the next call.
+  // The rows of an info table, in its order: each entry of `rows`, which is emptied first, points to a
+  // CStringArray of columns (see InfoColumn), texts in the terminal's interface language; a region or a
+  // category may be empty. The rows belong to this library and stay valid until the next call, whatever
+  // its type and result: a caller who goes on asking copies them. Succeeds without rows for a table that
+  // is empty or not known.
   static int GetInfoArray(InfoType type, CPtrArray& rows);
 };
 

@@ -34,6 +34,16 @@ enum Field : int {
   FieldPriceScale = 3007,      // number: ten to the power of the decimal places
 };
 
+// The columns of those tables. A row has the first three; one that ends before a column does not have it.
+enum InfoColumn : int {
+  InfoRegion = 0,   // where the series is from: what a search can be narrowed down to
+  InfoCategory = 1, // what it is about: the same
+  InfoCode = 2,     // the series' code, ASCII, which no other row of the table has
+  InfoName = 3,     // what a person reads
+  InfoMarket =
+      4, // futures: the market that trades them, ASCII; a search hands it back as its third text
+};
+
 // Values of FieldKind.
 enum InstrumentKind : int {
   InstrumentOther = 0,
@@ -51,5 +61,6 @@ enum InstrumentKind : int {
 // The info tables of CStockKey::GetInfoArray. The caller's other values are passed through.
 enum InfoType : int {
   InfoEconomicIndicators = 8,
+  InfoCommodities = 10, // the terminal may have more tables of commodities under other numbers
   InfoInternationalFutures = 11,
 };

@@ -80,6 +80,7 @@ void Reset() {
   ResetReleases();
   ResetReports();
   ResetAnswers();
+  ResetIndicators();
 }
 
 } // namespace standin

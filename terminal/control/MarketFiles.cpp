@@ -7,6 +7,7 @@
 #include "terminal/StandIn.h"
 #include "terminal/control/AccountRows.h"
 #include "terminal/control/GroupRows.h"
+#include "terminal/control/IndicatorRows.h"
 #include "terminal/control/MarketText.h"
 
 namespace standin {
@@ -128,6 +129,7 @@ bool LoadMarket(const std::string& directory, Market& market, std::string& error
                                    "exchange_code");
   TableFile groups("groups.tsv", GroupRows::kColumns);
   TableFile accounts("accounts.tsv", AccountRows::kColumns);
+  TableFile indicators("indicators.tsv", IndicatorRows::kColumns);
   TableFile user("user.tsv", "key\tvalue");
   Market read;
   const auto fail = [&error](const TableFile& file) {
@@ -150,6 +152,10 @@ bool LoadMarket(const std::string& directory, Market& market, std::string& error
   if (!ReadFile(accounts, directory, Presence::Optional,
                 [&](const Row& row) { return accountRows.Add(row); }))
     return fail(accounts);
+  IndicatorRows indicatorRows(indicators, read.indicators);
+  if (!ReadFile(indicators, directory, Presence::Optional,
+                [&](const Row& row) { return indicatorRows.Add(row); }))
+    return fail(indicators);
   if (!ReadFile(user, directory, Presence::Optional,
                 [&](const Row& row) { return SetUserValue(user, row, read); }))
     return fail(user);

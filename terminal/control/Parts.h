@@ -7,6 +7,7 @@ void ResetScript();
 void ResetReleases();
 void ResetReports();
 void ResetAnswers();
+void ResetIndicators();
 void ResetLanguage();
 
 } // namespace standin

@@ -1,5 +1,6 @@
 #include "tests/terminal/ServiceOperations.h"
 
+#include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "platform/services/TQSObj.h"
 #include "platform/services/TQSProxy.h"
@@ -91,10 +92,16 @@ std::vector<Operation> SymbolAndUserOperations() {
       {"TQSGetUserExtraValue",
        [] { return TQSGetUserExtraValue("", "FullMenuKey", buffer, sizeof buffer); }},
       {"tqShowDllMessage", [] { return tqShowDllMessage(nullptr, 1, 0); }},
+      {"tqShowMessageStr", [] { return tqShowMessageStr("text", 0); }},
       {"CCheckFileName::IsValidName",
        [] { return CCheckFileName::IsValidName(nullptr, "name", 0); }},
       {"CStaticKey::Setup", SetUp},
       {"CStaticKey::SetUpTrade", [] { return CStaticKey().SetUpTrade(1, "2330"); }},
+      {"CStockKey::GetInfoArray",
+       [] {
+         CPtrArray rows;
+         return CStockKey::GetInfoArray(InfoEconomicIndicators, rows);
+       }},
       {"tqStockGetFieldString",
        [] {
          CString value;

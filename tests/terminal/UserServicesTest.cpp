@@ -75,6 +75,21 @@ TEST_F(UserServices, AMessageThatCannotBeShownIsNotKept) {
   EXPECT_TRUE(standin::Messages().empty());
 }
 
+TEST_F(UserServices, AMessageOfATextIsKeptAsItIs) {
+  const std::string text = standin::ToAnsi("許功蓋") + " 100%s";
+  standin::AnswerMessages(6);
+  EXPECT_EQ(tqShowMessageStr(text.c_str(), 4), 6);
+  EXPECT_EQ(tqShowMessageStr(nullptr, 0), 6);
+  standin::FailCall("tqShowMessageStr", 1);
+  EXPECT_EQ(tqShowMessageStr("unseen", 0), 0);
+  ASSERT_EQ(standin::Messages().size(), 2u);
+  EXPECT_EQ(standin::Messages()[0].id, 0u);
+  EXPECT_EQ(standin::Messages()[0].type, 4u);
+  EXPECT_EQ(standin::Messages()[0].resources, nullptr);
+  EXPECT_EQ(standin::Messages()[0].text, text);
+  EXPECT_EQ(standin::Messages()[1].text, "");
+}
+
 TEST_F(UserServices, AFileNameHasNoneOfNineCharactersAndNoControlCharacter) {
   for (const char refused : std::string("\\/:*?\"<>|\t\n\x1F")) {
     const std::string name = std::string("a") + refused + "b";

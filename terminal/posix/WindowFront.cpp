@@ -1,0 +1,3 @@
+#include "terminal/tqUI/WindowFront.h"
+
+void standin::BringToFront(WindowHandle) {}
