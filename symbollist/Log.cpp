@@ -1,6 +1,7 @@
 #include "symbollist/Log.h"
 
 #include <new>
+#include <utility>
 
 #include "platform/ModulePath.h"
 #include "platform/framework/CString.h"
@@ -26,6 +27,10 @@ void OpenLog() {
   directory.Format("%s\\%s", OwnModuleDirectory().c_str(), "Log");
   theLog->storage(directory, "tqSymbol", "TQ", true, false);
   LogLine(kLogGeneral, "CTQSymbolListMgr::Init Log init");
+}
+
+void CloseLog() {
+  delete std::exchange(theLog, nullptr);
 }
 
 } // namespace tq

@@ -31,8 +31,10 @@
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
+#include "platform/framework/WindowTypes.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
+#include "platform/services/tqStockFields.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"
 #include "tqSymbolApi.h"
@@ -469,6 +471,28 @@ public:
   void AddExtraTQInfo(const CString& info);
   void RemoveExtraTQInfo(const CString& info);
   const std::vector<CString>& GetExtraTQInfo() const { return extraInfo_; }
+
+  // --- Dialogs -------------------------------------------------------------------------------------
+  // Each runs one modal dialog on the parent (null: none) and returns its end code: 1 when the user has
+  // chosen, 2 when the dialog was cancelled, -1 when it could not be created. Outputs are written when
+  // the user has chosen, and otherwise stay as they were. The text `input` is a code or a name: its row is
+  // selected when the dialog opens.
+
+  // The searches in the stock library's tables of economic indicators, international commodities (of the
+  // table `type`; `input2` and `input3` count when the inputs before them mean no row) and international
+  // futures. `name` becomes "Undefined" for a row that has none; `market` is the one that trades the future.
+  static int DoSearchFinIndi(WindowHandle parent, const CString& input, CString& name,
+                             CString& code);
+  static int DoSearchCommIndi(WindowHandle parent, const CString& input, CString& name,
+                              CString& code, const CString& input2, const CString& input3,
+                              InfoType type);
+  static int DoSearchOptionIndi(WindowHandle parent, const CString& input, CString& name,
+                                CString& code, CString& market);
+  // 1 exactly while the list selection is open, else 0.
+  static int m_bDoModal;
+  // Ends the dialog that runs in that window with an end code of the caller's. Only while m_bDoModal is
+  // set: an editor must not be closed over its user's head. 0 when nothing was ended, else 1.
+  static int EndDomodal(WindowHandle dialog, int result);
 
   // --- Switches ----------------------------------------------------------------------------------
   int GetbCN() const { return bCN_; }

@@ -1,0 +1,108 @@
+#include "dialogs/IndicatorDlg.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/framework/CComboBox.h"
+#include "platform/framework/CListCtrl.h"
+#include "platform/framework/ResourceContext.h"
+
+namespace tq {
+namespace {
+
+constexpr int kRegions = 761; // the search for commodities has none: all regions are meant
+constexpr int kCategories = 762;
+constexpr int kList = 781;
+
+// The entries for all of them, as in the library's other searches.
+constexpr unsigned kAllRegions = 48008;
+constexpr unsigned kAllCategories = 48009;
+
+constexpr unsigned kHoverMilliseconds = 10;
+
+// The number of the region or category that is chosen.
+int ChoiceOf(const CComboBox& combo) {
+  return std::max(combo.GetCurSel(), IndicatorTable::All);
+}
+
+} // namespace
+
+IndicatorDlg::IndicatorDlg(const Kind& kind, const CWnd& parent, IndicatorInputs inputs)
+    : CDialog(kind.templateId, &parent), kind_(kind), inputs_(std::move(inputs)) {}
+
+int IndicatorDlg::Search(CString& name, CString& code, CString* market) {
+  chosen_.reset();
+  const int result = DoModal();
+  if (result != Accepted || !chosen_)
+    return result;
+  name = chosen_->name;
+  code = chosen_->code;
+  if (market != nullptr)
+    *market = chosen_->market;
+  return result;
+}
+
+bool IndicatorDlg::OnInitDialog() {
+  table_ = IndicatorTable::Read(kind_.table);
+  FillCombo(kRegions, kAllRegions, table_.Regions());
+  FillCombo(kCategories, kAllCategories, table_.Categories());
+  PrepareList();
+  FillList();
+  SelectInput();
+  return true;
+}
+
+void IndicatorDlg::FillCombo(int id, unsigned allEntry, const CStringArray& texts) {
+  CComboBox combo(*this, id);
+  combo.AddString(ResourceContext::Text(allEntry));
+  for (const CString& text : texts)
+    combo.AddString(text);
+  combo.SetCurSel(IndicatorTable::All);
+}
+
+void IndicatorDlg::PrepareList() {
+  CListCtrl list(*this, kList);
+  list.SetStyles(CListCtrl::FullRowSelect | CListCtrl::HoverSelect | CListCtrl::GridLines);
+  list.SetHoverTime(kHoverMilliseconds);
+  list.AddColumn(ResourceContext::Text(kind_.columnTitle), 0);
+}
+
+void IndicatorDlg::FillList() {
+  const int region = ChoiceOf(CComboBox(*this, kRegions));
+  const int category = ChoiceOf(CComboBox(*this, kCategories));
+  CListCtrl list(*this, kList);
+  const CRedrawLock lock(list);
+  list.DeleteAllRows();
+  for (const int row : table_.RowsOf(region, category))
+    list.SetItemData(list.AddRow(table_.Title(row)), row);
+}
+
+void IndicatorDlg::SelectInput() {
+  for (const CString& input : inputs_) {
+    const int row = table_.Find(input);
+    if (row >= 0) {
+      CListCtrl(*this, kList)
+          .SetCurSel(row); // all rows are shown, so this is its place in the list
+      return;
+    }
+  }
+}
+
+// Enter chooses nothing: the dialog would close as if a row had been double-clicked.
+void IndicatorDlg::OnOK() {}
+
+void IndicatorDlg::OnCommand(int id, ControlEvent event) {
+  if (event == ControlEvent::SelectionChanged && (id == kRegions || id == kCategories))
+    FillList();
+}
+
+void IndicatorDlg::OnNotify(int id, const ListNotice& notice) {
+  const CListCtrl list(*this, kList);
+  if (id != kList || notice.kind != ListNotice::Kind::DoubleClicked || notice.row < 0 ||
+      list.GetSelectedCount() > 1)
+    return;
+  chosen_ = table_.Texts(static_cast<int>(list.GetItemData(notice.row)));
+  EndDialog(Accepted);
+}
+
+} // namespace tq

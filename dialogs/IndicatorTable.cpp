@@ -1,0 +1,94 @@
+#include "dialogs/IndicatorTable.h"
+
+#include "platform/framework/CMap.h"
+#include "platform/services/tqStock.h"
+
+namespace tq {
+namespace {
+
+// Terminals ask for this text: do not translate it.
+constexpr char kNoName[] = "Undefined";
+
+CString ColumnOf(const CStringArray& columns, int column) {
+  return column < columns.GetSize() ? columns[column] : CString();
+}
+
+// Gives each new text the next number.
+class Numbering {
+public:
+  explicit Numbering(CStringArray& texts) : texts_(texts) {}
+
+  int NumberOf(const CString& text) {
+    if (text.IsEmpty())
+      return IndicatorTable::All;
+    int& number = numbers_[text];
+    if (number == 0)
+      number = static_cast<int>(texts_.Add(text)) + 1;
+    return number;
+  }
+
+private:
+  CStringArray& texts_;
+  CMap<CString, const char*, int, int> numbers_;
+};
+
+} // namespace
+
+IndicatorTable::IndicatorTable(const CPtrArray& rows) : rows_(static_cast<size_t>(rows.GetSize())) {
+  Numbering regions(regions_);
+  Numbering categories(categories_);
+  for (int i = 0; i < rows.GetSize(); ++i) {
+    Row& row = rows_[static_cast<size_t>(i)];
+    if (rows[i] != nullptr)
+      row.columns.Copy(*static_cast<const CStringArray*>(rows[i]));
+    row.region = regions.NumberOf(ColumnOf(row.columns, InfoRegion));
+    row.category = categories.NumberOf(ColumnOf(row.columns, InfoCategory));
+  }
+}
+
+IndicatorTable IndicatorTable::Read(InfoType type) {
+  // The rows are copied at once: the terminal may ask for another table while the search is open.
+  CPtrArray rows;
+  return CStockKey::GetInfoArray(type, rows) != 0 ? IndicatorTable(rows) : IndicatorTable();
+}
+
+std::vector<int> IndicatorTable::RowsOf(int region, int category) const {
+  std::vector<int> found;
+  found.reserve(rows_.size());
+  for (int i = 0; i < GetRowCount(); ++i) {
+    const Row& row = rows_[static_cast<size_t>(i)];
+    if ((region == All || row.region == region) && (category == All || row.category == category))
+      found.push_back(i);
+  }
+  return found;
+}
+
+CString IndicatorTable::Column(int row, int column) const {
+  return ColumnOf(rows_[static_cast<size_t>(row)].columns, column);
+}
+
+CString IndicatorTable::Title(int row) const {
+  const CString name = Column(row, InfoName);
+  return name.IsEmpty() ? Column(row, InfoCode) : name;
+}
+
+IndicatorTexts IndicatorTable::Texts(int row) const {
+  const bool named = rows_[static_cast<size_t>(row)].columns.GetSize() > InfoName;
+  return {named ? Column(row, InfoName) : CString(kNoName), Column(row, InfoCode),
+          Column(row, InfoMarket)};
+}
+
+int IndicatorTable::Find(const char* text) const {
+  if (text == nullptr || *text == '\0')
+    return -1;
+  int named = -1;
+  for (int i = 0; i < GetRowCount(); ++i) {
+    if (Column(i, InfoCode).CompareNoCase(text) == 0)
+      return i;
+    if (named < 0 && Column(i, InfoName).CompareNoCase(text) == 0)
+      named = i;
+  }
+  return named;
+}
+
+} // namespace tq

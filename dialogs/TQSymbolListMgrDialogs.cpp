@@ -1,0 +1,38 @@
+// The operations that open dialogs. Each puts the library's resources in force while it runs, and converts
+// the terminal's window handle.
+#include "dialogs/FinIndiSearchDlg.h"
+#include "dialogs/NationalCommodityDlg.h"
+#include "dialogs/NationalOptionDlg.h"
+#include "dialogs/resources/DialogTable.h"
+#include "symbollist/TQSymbolListMgr.h"
+
+int CTQSymbolListMgr::m_bDoModal = 0;
+
+int CTQSymbolListMgr::EndDomodal(WindowHandle dialog, int result) {
+  if (m_bDoModal == 0)
+    return 0;
+  CDialog* const running = CDialog::FromHandle(dialog);
+  if (running == nullptr)
+    return 0;
+  running->EndDialog(result);
+  return 1;
+}
+
+int CTQSymbolListMgr::DoSearchFinIndi(WindowHandle parent, const CString& input, CString& name,
+                                      CString& code) {
+  const tq::ResourceContext context(tq::LibraryResources());
+  return CFinIndiSearchDlg(CWnd(parent), input).Search(name, code);
+}
+
+int CTQSymbolListMgr::DoSearchCommIndi(WindowHandle parent, const CString& input, CString& name,
+                                       CString& code, const CString& input2, const CString& input3,
+                                       InfoType type) {
+  const tq::ResourceContext context(tq::LibraryResources());
+  return CNationalCommodityDlg(CWnd(parent), type, {input, input2, input3}).Search(name, code);
+}
+
+int CTQSymbolListMgr::DoSearchOptionIndi(WindowHandle parent, const CString& input, CString& name,
+                                         CString& code, CString& market) {
+  const tq::ResourceContext context(tq::LibraryResources());
+  return CNationalOptionDlg(CWnd(parent), input).Search(name, code, &market);
+}

@@ -1,0 +1,270 @@
+// The searches for indicators as their user meets them: what they show, and what choosing does.
+#include "tests/interface/IndicatorTest.h"
+
+#include "platform/framework/CPtrArray.h"
+#include "platform/services/tqStock.h"
+
+namespace {
+
+class IndicatorSearch : public IndicatorTest {};
+
+// --- What is seen when a search opens -------------------------------------------------------------------
+
+TEST_F(IndicatorSearch, EconomicIndicatorsAtTheStart) {
+  SearchEconomic([](User& user) {
+    EXPECT_EQ(user.Screen(), Text(R"(=== 經濟指標查詢
+label: 地區:
+combo 761: 所有商品 (focus)
+label: 類別:
+combo 762: 全部商品
+table 781: 經濟指標名稱
+    台灣物價
+    美國物價
+    出口
+    USNFP
+)",
+                                  R"(=== 经济指标查询
+label: 地区:
+combo 761: 所有商品 (focus)
+label: 类别:
+combo 762: 全部商品
+table 781: 经济指标名称
+    台灣物價
+    美國物價
+    出口
+    USNFP
+)"));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, CommoditiesAtTheStartHaveNoRegions) {
+  SearchCommodity([](User& user) {
+    EXPECT_EQ(user.Screen(), Text(R"(=== 國際商品查詢
+label: 類別:
+combo 762: 全部商品 (focus)
+table 781: 國際商品指標名稱
+    原油
+    玉米
+)",
+                                  R"(=== 国际商品查询
+label: 类别:
+combo 762: 全部商品 (focus)
+table 781: 国际商品指标名称
+    原油
+    玉米
+)"));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, FuturesAtTheStart) {
+  SearchFuture([](User& user) {
+    EXPECT_EQ(user.Screen(), Text(R"(=== 國際期貨查詢
+label: 地區:
+combo 761: 所有商品 (focus)
+label: 類別:
+combo 762: 全部商品
+table 781: 國際期貨指標名稱
+    日經
+    標普
+    輕原油
+)",
+                                  R"(=== 国际期货查询
+label: 地区:
+combo 761: 所有商品 (focus)
+label: 类别:
+combo 762: 全部商品
+table 781: 国际期货指标名称
+    日經
+    標普
+    輕原油
+)"));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, TheBoxesHaveAnEntryForAllAndEachTextOnce) {
+  SearchEconomic([](User& user) {
+    EXPECT_EQ(user.Rows(kRegions), (Lines{"所有商品", "台灣", "美國"}));
+    EXPECT_EQ(user.Rows(kCategories), (Lines{"全部商品", "物價", "貿易", "就業"}));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, TheTableIsTheOneThatWasAskedFor) {
+  Serve(static_cast<InfoType>(42), {{"", "", "X", "另一個"}});
+  WhenDialogOpens([](User& user) {
+    EXPECT_EQ(user.Rows(kList), Lines{"另一個"});
+    user.Press(Key::Escape);
+  });
+  CTQSymbolListMgr::DoSearchCommIndi(nullptr, "", name, code, "", "", static_cast<InfoType>(42));
+  EXPECT_EQ(standin::CountCalls("CStockKey::GetInfoArray"), 1);
+}
+
+// --- Narrowing down -------------------------------------------------------------------------------------
+
+TEST_F(IndicatorSearch, ARegionLeavesItsRows) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.Select(kRegions, "美國"));
+    EXPECT_EQ(user.Rows(kList), (Lines{"美國物價", "USNFP"}));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, ACategoryLeavesItsRows) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.Select(kCategories, "物價"));
+    EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "美國物價"}));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, BothTogetherLeaveTheRowsThatHaveBoth) {
+  SearchFuture([](User& user) {
+    EXPECT_TRUE(user.Select(kRegions, "美國"));
+    EXPECT_TRUE(user.Select(kCategories, "指數"));
+    EXPECT_EQ(user.Rows(kList), Lines{"標普"});
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, ACommodityIsNarrowedDownByItsCategory) {
+  SearchCommodity([](User& user) {
+    EXPECT_TRUE(user.Select(kCategories, "農產品"));
+    EXPECT_EQ(user.Rows(kList), Lines{"玉米"});
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, AChoiceThatNoRowHasLeavesNone) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.Select(kRegions, "台灣"));
+    EXPECT_TRUE(user.Select(kCategories, "就業"));
+    EXPECT_EQ(user.Rows(kList), Lines{});
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, TheEntryForAllBringsTheRowsBack) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.Select(kRegions, "台灣"));
+    EXPECT_TRUE(user.Select(kRegions, 0));
+    EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "美國物價", "出口", "USNFP"}));
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, NarrowingDownTakesTheSelectionAway) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.ClickRow(kList, 1));
+    EXPECT_TRUE(user.Select(kRegions, "美國"));
+    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{});
+    user.Press(Key::Escape);
+  });
+}
+
+// --- Choosing -------------------------------------------------------------------------------------------
+
+TEST_F(IndicatorSearch, ADoubleClickGivesNameAndCodeOfAnEconomicIndicator) {
+  EXPECT_EQ(SearchEconomic([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 2)); }), 1);
+  EXPECT_EQ(Outputs(), "出口/TWEXP/was");
+}
+
+TEST_F(IndicatorSearch, ADoubleClickGivesNameAndCodeOfACommodity) {
+  EXPECT_EQ(SearchCommodity([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 0)); }), 1);
+  EXPECT_EQ(Outputs(), "原油/WTI/was");
+}
+
+TEST_F(IndicatorSearch, ADoubleClickGivesNameCodeAndMarketOfAFuture) {
+  EXPECT_EQ(SearchFuture([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 1)); }), 1);
+  EXPECT_EQ(Outputs(), "標普/ES/CME");
+}
+
+TEST_F(IndicatorSearch, TheRowThatIsSeenCountsAndNotItsPlaceInTheTable) {
+  SearchFuture([](User& user) {
+    EXPECT_TRUE(user.Select(kCategories, "能源"));
+    EXPECT_TRUE(user.DoubleClick(kList, 0));
+  });
+  EXPECT_EQ(Outputs(), "輕原油/CL/");
+}
+
+TEST_F(IndicatorSearch, ARowOfThreeColumnsIsUndefined) {
+  EXPECT_EQ(SearchEconomic([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 3)); }), 1);
+  EXPECT_EQ(Outputs(), "Undefined/USNFP/was");
+}
+
+TEST_F(IndicatorSearch, ARowOfNoColumnsIsUndefinedAndHasNoCode) {
+  Serve(InfoInternationalFutures, {{}});
+  EXPECT_EQ(SearchFuture([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 0)); }), 1);
+  EXPECT_EQ(Outputs(), "Undefined//");
+}
+
+TEST_F(IndicatorSearch, ADoubleClickWithSeveralRowsSelectedChoosesNone) {
+  const int result = SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.ClickRow(kList, 0));
+    EXPECT_TRUE(user.DoubleClick(kList, 2, Modifier::Shift));
+    EXPECT_EQ(user.SelectedRows(kList), (std::vector<int>{0, 1, 2}));
+    EXPECT_TRUE(user.IsUp());
+    user.Press(Key::Escape);
+  });
+  EXPECT_EQ(result, 2);
+  EXPECT_EQ(Outputs(), untouched);
+}
+
+TEST_F(IndicatorSearch, AClickSelectsAndChoosesNothing) {
+  SearchEconomic([](User& user) {
+    EXPECT_TRUE(user.ClickRow(kList, 1));
+    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
+    EXPECT_TRUE(user.IsUp());
+    user.Press(Key::Escape);
+  });
+  EXPECT_EQ(Outputs(), untouched);
+}
+
+// The rows of the stock library are gone with its next call, which the terminal may make at any time.
+TEST_F(IndicatorSearch, AnotherTableReadMeanwhileChangesNothing) {
+  SearchEconomic([](User& user) {
+    CPtrArray rows;
+    CStockKey::GetInfoArray(InfoInternationalFutures, rows);
+    EXPECT_TRUE(user.Select(kRegions, "美國"));
+    EXPECT_TRUE(user.DoubleClick(kList, 0));
+  });
+  EXPECT_EQ(Outputs(), "美國物價/USCPI/was");
+}
+
+TEST_F(IndicatorSearch, AnOutputMayBeTheInput) {
+  name = Ansi("出口");
+  WhenDialogOpens([](User& user) {
+    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{2});
+    EXPECT_TRUE(user.DoubleClick(kList, 0));
+  });
+  CTQSymbolListMgr::DoSearchFinIndi(nullptr, name, name, code);
+  EXPECT_EQ(Outputs(), "台灣物價/TWCPI/was");
+}
+
+// --- Many rows ------------------------------------------------------------------------------------------
+
+TEST_F(IndicatorSearch, TenThousandRowsAreShownNarrowedDownAndChosen) {
+  std::vector<Row> rows;
+  for (int i = 0; i < 10000; ++i) {
+    const std::string number = std::to_string(i);
+    rows.push_back({"R" + std::to_string(i % 100), "C" + std::to_string(i % 7), "ID" + number,
+                    "Name" + number, "M" + number});
+  }
+  Serve(InfoInternationalFutures, rows);
+  SearchFuture(
+      [](User& user) {
+        EXPECT_EQ(user.Rows(kList).size(), 10000u);
+        EXPECT_EQ(user.Rows(kRegions).size(), 101u);
+        EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{9999});
+        EXPECT_TRUE(user.Select(kRegions, "R42"));
+        EXPECT_EQ(user.Rows(kList).size(), 100u);
+        EXPECT_TRUE(user.Select(kRegions, 0));
+        EXPECT_TRUE(user.DoubleClick(kList, 9998));
+      },
+      "ID9999");
+  EXPECT_EQ(Outputs(), "Name9998/ID9998/M9998");
+}
+
+} // namespace

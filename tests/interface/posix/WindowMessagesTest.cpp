@@ -1,0 +1,19 @@
+// Numbers are given in the order of asking, which shows what was there when the program started.
+#include <gtest/gtest.h>
+
+#include "platform/framework/RegisteredMessage.h"
+#include "symbollist/TQSymbolListMgr.h"
+
+namespace {
+
+TEST(WindowMessages, AreRegisteredWhenTheLibraryIsLoaded) {
+  const CTQSymbolListMgr manager; // keeps the library from being left out by the linker
+  const unsigned later = tq::RegisterMessage("TQTEST_Later");
+  for (const char* name :
+       {"KORVANT_Msg", "KORVANT_PostMsg", "KORVANT_AlertGrid", "KORVANT_AlertListGrou",
+        "KORVANT_AlertHistDlg", "KORVANT_SymbolAlertMgr", "KORVANT_TSMatchGrid", "KORVANT_SignalUI",
+        "KORVANT_QuotePaneSignalUI", "KORVANT_DDE"})
+    EXPECT_LT(tq::RegisterMessage(name), later) << name;
+}
+
+} // namespace
