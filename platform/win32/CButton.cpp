@@ -24,15 +24,16 @@ constexpr uint16_t kPictures[kIcons][kSize] = {
      0x001C, 0x000E, 0x0006, 0},
 };
 
-// Black where the picture is, elsewhere what is behind.
+// Black where the picture is, elsewhere what is behind. In colour, although one colour would do: Wine takes
+// the size of a picture from its colours, and puts one without them beside the middle of the button.
 HICON MakeIcon(const uint16_t (&picture)[kSize]) {
   BYTE keep[kSize * 2];
-  const BYTE black[kSize * 2] = {};
+  static constexpr BYTE black[kSize * kSize * 4] = {};
   for (int row = 0; row < kSize; ++row) {
     keep[row * 2] = static_cast<BYTE>(~(picture[row] >> 8));
     keep[row * 2 + 1] = static_cast<BYTE>(~picture[row]);
   }
-  return ::CreateIcon(nullptr, kSize, kSize, 1, 1, keep, black);
+  return ::CreateIcon(nullptr, kSize, kSize, 1, 32, keep, black);
 }
 
 // Made once and kept for the life of the process: every dialog shows the same few.
