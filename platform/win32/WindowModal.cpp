@@ -13,6 +13,9 @@ constexpr WORD kSimplifiedChinese = 2052;
 const DLGTEMPLATE* FindTemplate(const Resources& resources, unsigned id) {
   const auto module = static_cast<HMODULE>(resources.module);
   const WORD language = resources.traditional ? kTraditionalChinese : kSimplifiedChinese;
+  // To the system no module means the program itself, whose dialogs are not meant.
+  if (module == nullptr)
+    return nullptr;
   const HRSRC found = ::FindResourceExA(module, RT_DIALOG, MAKEINTRESOURCEA(id), language);
   const HGLOBAL loaded = found == nullptr ? nullptr : ::LoadResource(module, found);
   return loaded == nullptr ? nullptr : static_cast<const DLGTEMPLATE*>(::LockResource(loaded));
