@@ -19,7 +19,7 @@ void KeyIndex::Reset(std::size_t count) {
   groupCount_ = count * Tenths / (SlotCount * FullestTenths) + 1;
   groups_ = std::make_unique<Group[]>(groupCount_);
   codes_ = std::make_unique_for_overwrite<PackedText[]>(groupCount_ * SlotCount);
-  entries_ = std::make_unique_for_overwrite<Entry[]>(groupCount_ * SlotCount);
+  entries_ = std::make_unique<Entry[]>(groupCount_ * SlotCount);
 }
 
 bool KeyIndex::HasRoom() const {
@@ -37,7 +37,7 @@ void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
     *tag = TagOf(hash);
     const Slot slot = SlotOf(at, static_cast<std::size_t>(tag - group.tags));
     codes_[slot] = code;
-    entries_[slot] = entry;
+    entries_[slot] = std::move(entry);
     return;
   }
 }
@@ -45,6 +45,7 @@ void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
 void KeyIndex::Remove(Slot slot) {
   Group& group = groups_[slot / SlotCount];
   group.tags[slot % SlotCount] = NoTag;
+  entries_[slot] = {};
   --size_;
   if (group.passed != 0)
     ++worn_;

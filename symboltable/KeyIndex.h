@@ -13,6 +13,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/framework/CString.h"
 #include "symboltable/SymbolKey.h"
 
 namespace tq {
@@ -27,6 +28,7 @@ public:
   struct Entry {
     std::uint32_t node;
     std::int32_t value; // the caller's, at hand without the node
+    CString text = {};  // the same
   };
 
   // Empties the index and makes room for `count` keys, so that adding them moves nothing.
@@ -56,7 +58,7 @@ public:
   template <typename HashOf> void Add(const SymbolKey& key, Entry entry, HashOf hashOf) {
     if (!HasRoom())
       Rebuild(hashOf);
-    Put(key.hash, key.code, entry);
+    Put(key.hash, key.code, std::move(entry));
     ++size_;
   }
   void Remove(Slot slot);

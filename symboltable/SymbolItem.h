@@ -40,6 +40,7 @@ public:
 
   // The key under which the table holds it: the start of the id, and never changed.
   std::string_view Key() const { return {id_.GetString(), keyLength_}; }
+  const CString& Id() const { return id_; } // in full
   const CString& Name() const { return name_; }
   std::uint32_t Number() const { return number_; }
 

@@ -59,7 +59,7 @@ void CSymbolTable::Insert(const CStaticKey& attributes, const CString& id,
 
 // What the index keeps of an item.
 tq::KeyIndex::Entry CSymbolTable::EntryOf(const CSymbolItem& item) {
-  tq::KeyIndex::Entry entry{item.Number(), 0};
+  tq::KeyIndex::Entry entry{item.Number(), 0, item.Id()};
   item.GetNumber(FieldTradeLot, entry.value);
   return entry;
 }

@@ -63,8 +63,9 @@ public:
   }
   // The same for a key that is not longer than its code.
   Place FindCode(tq::PackedText code) const { return index_.FindCode(code, tq::HashOf(code)); }
-  // What Find found, and its trade lot, or -1, for which the item is not touched.
+  // What Find found, and its full id and its trade lot (or -1), for which the item is not touched.
   const CSymbolItem* At(Place place) const { return arena_.At(index_.At(place).node); }
+  const CString& IdAt(Place place) const { return index_.At(place).text; }
   int TradeLotAt(Place place) const { return index_.At(place).value; }
   // Fetches what Find looks at first, for callers who ask several tables.
   void Prefetch(const tq::SymbolKey& key) const { index_.Prefetch(key.hash); }

@@ -86,10 +86,13 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
   const tq::FoundSymbol found = tq::FindSymbol(*slots_, upperId, upperExch, rule);
   if (!found)
     return 0;
-  if (field != FieldSymbolId || upperId.text.data() != id.GetString() ||
-      !tq::IsIdOf(found, upperId))
+  if (field != FieldSymbolId)
     return found.Item().GetText(field, value);
-  // The asked text is at hand; sharing the item's would wait for its memory, too.
+  if (upperId.text.data() != id.GetString() || !tq::IsIdOf(found, upperId)) {
+    value = found.table->IdAt(found.place);
+    return 1;
+  }
+  // The asked text is at hand; sharing the held one would wait for its memory.
   value = std::move(id);
   return 1;
 }
