@@ -18,11 +18,20 @@ const CMapStringToString& DefaultNames() {
   return names;
 }
 
+// Whether there is anything to do for a group or below it. Of most there is not, and they are to stay the
+// records that they are.
+bool IsConcerned(const tq::GroupLevel& level, int index, const tq::CloudMap& lists) {
+  return level.SubCountAt(index) > 0 || lists.Find(level.InfoAt(index).szID) != nullptr;
+}
+
 } // namespace
 
 void CCloudeListUtil::Refresh(CGroupMgr& cloudGroups, const tq::CloudMap& lists) {
-  for (int i = 0; i < cloudGroups.GetCount(); ++i) {
-    const GroupInfo info = cloudGroups.GetAt(i)->GetInfo();
+  const tq::GroupLevel& groups = cloudGroups.Groups();
+  for (int i = 0; i < groups.Count(); ++i) {
+    if (!IsConcerned(groups, i, lists))
+      continue;
+    const GroupInfo info = groups.InfoAt(i);
     // By its id and not by its place: of several groups with one id the first one takes it all.
     if (CGroupList* group = cloudGroups.Find(info.szID))
       DoModifyList(*group, lists, info.szID);
@@ -30,6 +39,7 @@ void CCloudeListUtil::Refresh(CGroupMgr& cloudGroups, const tq::CloudMap& lists)
 }
 
 void CCloudeListUtil::DoModifyList(CGroupList& group, const tq::CloudMap& lists, const char* id) {
+  const tq::GroupLevel* const subs = group.Subs();
   if (group.GetSubCount() == 0) {
     if (TakeOver(group, lists, id))
       tq::LogLine(tq::kLogChange, "CCloudeListUtil::DoModifyList ListName=%s, Symbols=%s",
@@ -39,8 +49,10 @@ void CCloudeListUtil::DoModifyList(CGroupList& group, const tq::CloudMap& lists,
   CString name;
   if (DefaultNames().Lookup(group.GetInfo().szID, name))
     group.SetName(name);
-  for (int i = 0; i < group.GetSubCount(); ++i) {
-    const GroupInfo info = group.GetSub(i)->GetInfo();
+  for (int i = 0; i < subs->Count(); ++i) {
+    if (!IsConcerned(*subs, i, lists))
+      continue;
+    const GroupInfo info = subs->InfoAt(i);
     if (CGroupList* sub = group.FindSub(info.szID))
       DoModifyList(*sub, lists, info.szID);
   }
