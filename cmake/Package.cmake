@@ -32,6 +32,7 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/InvalidArgument.h
   platform/framework/MapStorage.h
   platform/framework/ResourceContext.h
+  platform/framework/SeededHash.h
   platform/framework/Storage.h
   platform/framework/StringData.h
   platform/framework/WindowTypes.h

@@ -9,8 +9,18 @@
 #include "fuzz/Input.h"
 #include "symbollist/IDList.h"
 #include "symbollist/IdString.h"
+#include "symbollist/StorableText.h"
 
 namespace fuzz {
+
+inline bool IsPlainBlank(const std::string& token) {
+  return token.find_first_not_of(" \t\n\v\f\r") == std::string::npos;
+}
+
+inline std::string PlainId(std::string token) {
+  token.erase(token.find_last_not_of(" \t\n\v\f\r") + 1);
+  return token.erase(0, token.find_first_not_of(" \t\n\v\f\r"));
+}
 
 inline std::vector<std::string> PlainTokens(std::string_view ids) {
   std::vector<std::string> tokens;
@@ -20,11 +30,11 @@ inline std::vector<std::string> PlainTokens(std::string_view ids) {
       token += byte;
       continue;
     }
-    if (!token.empty())
+    if (!IsPlainBlank(token))
       tokens.push_back(token);
     token.clear();
   }
-  if (!token.empty())
+  if (!IsPlainBlank(token))
     tokens.push_back(token);
   return tokens;
 }
@@ -47,16 +57,18 @@ inline std::string CheckSplitting(std::string_view ids) {
   int headings = 0;
   std::string lookup;
   for (std::size_t i = 0; i < expected.size(); ++i) {
-    if (TextOf(tokens[static_cast<int>(i)]) != expected[i])
+    const bool heading = IsPlainHeading(expected[i]);
+    const std::string written = heading ? expected[i] : PlainId(expected[i]);
+    CString token(written.data(), static_cast<int>(written.size()));
+    if (tokens[static_cast<int>(i)] != (heading ? token : token.MakeUpper()))
       return "another token";
-    if (IsPlainHeading(expected[i]))
-      ++headings;
-    else
-      lookup += (lookup.empty() ? "" : ",") + expected[i];
+    headings += heading ? 1 : 0;
+    if (!heading)
+      lookup += (lookup.empty() ? "" : ",") + written;
   }
   if (split.headings != headings)
     return "another number of headings";
-  if (TextOf(tq::LookupString(tokens)) != lookup)
+  if (TextOf(tq::LookupString(text)) != lookup)
     return "another look-up string";
   if (split.plain != (ids == lookup))
     return "the id string is the look-up string, or not, unlike said";
@@ -86,9 +98,12 @@ inline std::string CheckRows(CIDList& list) {
              : "";
 }
 
-inline std::string CheckList(const CString& ids) {
+inline std::string CheckList(const CString& text) {
   CIDList list;
-  if (list.Update1(ids) != (ids.IsEmpty() ? 0 : 1) || list.IsModified() != (ids.IsEmpty() ? 0 : 1))
+  const CString ids = tq::StorableText(text);
+  if (!tq::IsStorable(ids) || (tq::IsStorable(text) && ids != text))
+    return "what can be stored is not what is kept";
+  if (list.Update1(text) != (ids.IsEmpty() ? 0 : 1) || list.IsModified() != (ids.IsEmpty() ? 0 : 1))
     return "Update1 did not tell whether the string was replaced";
   if (list.GetIDs() != ids)
     return "the id string is not the one that was set";

@@ -3,15 +3,16 @@
 #include <string>
 
 #include "platform/CodePage.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {
 
 const CloudList& CloudMap::Set(const CString& id, const CString& name, const CString& symbols) {
   CloudList& list = lists_[id];
-  CopyCut(list.info.ID, id);
-  CopyCut(list.info.Name, name);
-  list.symbols = symbols;
+  CopyCut(list.info.ID, StorableText(id));
+  CopyCut(list.info.Name, StorableText(name));
+  list.symbols = StorableText(symbols);
   return list;
 }
 

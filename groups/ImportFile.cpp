@@ -25,15 +25,14 @@ bool ReadFile(const char* path, std::string& bytes) {
 CString WithoutBadIds(const CString& symbols) {
   if (symbols.FindOneOf(kNotForAFile) < 0)
     return symbols;
-  CStringArray tokens;
-  SplitIdString(symbols, tokens);
   CString kept;
-  for (int i = 0; i < tokens.GetSize(); ++i) {
-    if (tokens[i].FindOneOf(kNotForAFile) >= 0)
+  std::string_view piece;
+  for (size_t at = 0; NextPiece(View(symbols), at, piece);) {
+    if (piece.find_first_of(kNotForAFile) != std::string_view::npos)
       continue;
     if (!kept.IsEmpty())
       kept += ',';
-    kept += tokens[i];
+    kept.Append(piece.data(), static_cast<int>(piece.size()));
   }
   return kept;
 }

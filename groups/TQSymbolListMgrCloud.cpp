@@ -7,6 +7,7 @@
 #include "symbollist/Log.h"
 #include "symbollist/NewListId.h"
 #include "symbollist/Notify.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/MovedSymbols.h"
 
@@ -58,7 +59,7 @@ void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, int /*type*/, co
 
 int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
                                          const CString& symbols, int allowEmpty) {
-  if (name.IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
+  if (tq::StorableText(name).IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
     return 0;
   if (CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
     return 0;

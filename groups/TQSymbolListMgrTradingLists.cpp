@@ -22,7 +22,7 @@ constexpr char kReasonTrading[] = "TSSymbolList";
 void AddKnownSymbols(CSymbolList& list, const CString& symbols) {
   CStringArray tokens;
   const tq::SplitIds split = tq::SplitIdString(symbols, tokens);
-  const CString ids = split.plain ? symbols : tq::LookupString(tokens);
+  const CString ids = split.plain ? symbols : tq::LookupString(symbols);
   SymbolInfo* records = nullptr;
   int count = 0;
   if (!ids.IsEmpty() && VLGetSymbolInfos(ids, &records, &count) != 0)

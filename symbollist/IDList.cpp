@@ -2,43 +2,53 @@
 
 #include <algorithm>
 #include <cstring>
-#include <span>
+#include <memory>
+#include <utility>
 
 #include "symbollist/IdString.h"
+#include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"
+#include "symbollist/StorableText.h"
 #include "symboltable/ServiceArray.h"
 
 namespace {
 
 // A resolved list has an array even when it has no rows: that is how it knows not to ask again.
-SymbolInfo* NewRecords(int count) {
-  return new SymbolInfo[static_cast<size_t>(std::max(count, 1))]();
+std::unique_ptr<SymbolInfo[]> NewRecords(int count) {
+  return std::make_unique<SymbolInfo[]>(static_cast<size_t>(std::max(count, 1)));
+}
+
+bool NamesASymbol(const SymbolInfo& record) {
+  const std::string_view id = tq::IdOf(record);
+  return tq::IsOneToken(id) && tq::IsStorable({id.data(), static_cast<int>(id.size())});
 }
 
 } // namespace
 
-CIDList::CIDList() : records_(nullptr), count_(0), modified_(0) {}
+CIDList::CIDList() : watch_(nullptr), records_(nullptr), count_(0), modified_(0) {}
 
 CIDList::CIDList(const CIDList& other)
-    : ids_(other.ids_), records_(nullptr), count_(other.count_), modified_(other.modified_) {
+    : watch_(nullptr), ids_(other.ids_), records_(nullptr), count_(other.count_),
+      modified_(other.modified_) {
   tokens_.Copy(other.tokens_);
+  rowTokens_.Copy(other.rowTokens_);
   if (other.records_ == nullptr)
     return;
-  records_ = NewRecords(count_);
+  records_ = NewRecords(count_).release();
   std::memcpy(records_, other.records_, static_cast<size_t>(count_) * sizeof(SymbolInfo));
 }
 
 CIDList::~CIDList() {
+  tq::LifeWatch::Cut(watch_);
   delete[] records_;
 }
 
 int CIDList::GetCount() {
-  ResolveIfDue();
-  return count_;
+  return ResolveIfDue() == Rows::There ? count_ : 0;
 }
 
 bool CIDList::GetAt(int index, SymbolInfo* out) {
-  if (!ResolveIfDue() || out == nullptr || index < 0 || index >= count_)
+  if (ResolveIfDue() != Rows::There || out == nullptr || index < 0 || index >= count_)
     return false;
   std::memcpy(out, &records_[index], sizeof(SymbolInfo));
   return true;
@@ -51,24 +61,33 @@ int CIDList::Update3() {
 }
 
 int CIDList::Update2(SymbolInfo* records, int count) {
-  const int taken = records == nullptr ? 0 : std::max(count, 0);
+  const int given = records == nullptr ? 0 : std::max(count, 0);
   DiscardRecords();
-  records_ = NewRecords(taken);
-  count_ = taken;
-  if (taken > 0)
-    std::memcpy(records_, records, static_cast<size_t>(taken) * sizeof(SymbolInfo));
+  records_ = NewRecords(given).release();
+  std::vector<std::string_view> ids;
+  ids.reserve(static_cast<size_t>(given));
+  for (int i = 0; i < given; ++i) {
+    if (!NamesASymbol(records[i]))
+      continue;
+    std::memcpy(&records_[count_], &records[i], sizeof(SymbolInfo));
+    ids.push_back(tq::IdOf(records_[count_++]));
+  }
   if (records != nullptr)
     VLFree(records);
-  RebuildFromRecords();
+  StoreEntries(ids);
+  tq::SplitIdString(ids_, tokens_);
+  for (int row = 0; row < count_; ++row)
+    rowTokens_.Add(static_cast<unsigned>(row));
   return 1;
 }
 
 int CIDList::Update1(const CString& ids) {
-  if (ids == ids_)
+  const CString kept = tq::StorableText(ids);
+  if (kept == ids_)
     return 0;
   modified_ = 1;
   DiscardRecords();
-  ids_ = ids;
+  ids_ = kept;
   Resolve();
   return 1;
 }
@@ -78,63 +97,65 @@ const CString& CIDList::GetIDs() {
 }
 
 void CIDList::DiscardRecords() {
-  delete[] records_;
-  records_ = nullptr;
+  delete[] std::exchange(records_, nullptr);
   count_ = 0;
+  rowTokens_.RemoveAll();
 }
 
 // A list without a string has nothing to ask for; one whose look-up failed asks again, whether its string
 // came from a caller or from records.
-bool CIDList::ResolveIfDue() {
+CIDList::Rows CIDList::ResolveIfDue() {
   if (records_ == nullptr && (modified_ != 0 || !ids_.IsEmpty()))
     return Resolve();
-  return records_ != nullptr;
+  return State();
 }
 
-// Fills the records from the string. False when the service failed: the list then has no rows, and the
-// next question asks the service again.
-bool CIDList::Resolve() {
+// Fills the rows from the string. There are none when the service failed, and the next question asks it
+// again.
+CIDList::Rows CIDList::Resolve() {
   const tq::SplitIds split = tq::SplitIdString(ids_, tokens_);
   if (ids_.IsEmpty()) {
     count_ = 0;
-    return false;
+    return Rows::None;
   }
   tq::ServiceArray<SymbolInfo> answer;
   if (tokens_.GetSize() > split.headings) {
-    const CString lookup = split.plain ? ids_ : tq::LookupString(tokens_);
-    if (VLGetSymbolInfos(lookup, answer.List(), answer.Count()) == 0)
-      return false;
+    const CString asked = ids_;
+    const CString lookup = split.plain ? asked : tq::LookupString(asked);
+    const tq::LifeWatch watch(watch_);
+    const int answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count());
+    if (watch.IsGone())
+      return Rows::ListGone;
+    // What the list has now, if the terminal changed it from within the call, was resolved then or could
+    // not be; this answer is to another question.
+    if (answered == 0 || ids_ != asked)
+      return State();
   }
   const std::span<const SymbolInfo> found = answer.Records();
-  const int capacity = static_cast<int>(found.size()) + split.headings;
-  records_ = NewRecords(capacity);
-  tq::RecordIndex index(found);
-  int row = 0;
-  for (int i = 0; i < tokens_.GetSize(); ++i) {
-    CString& token = tokens_[i];
-    const bool heading = tq::IsHeading(token.GetString(), token.GetLength());
-    if (!heading)
-      tq::NormaliseId(token);
-    if (row == capacity)
+  TakeRows(found.data(), static_cast<int>(found.size()), split.headings);
+  return Rows::There;
+}
+
+void CIDList::TakeRows(const SymbolInfo* found, int foundCount, int headings) {
+  const int capacity = foundCount + headings;
+  std::unique_ptr<SymbolInfo[]> records = NewRecords(capacity);
+  DiscardRecords();
+  rowTokens_.SetSize(capacity);
+  tq::RecordIndex index({found, static_cast<size_t>(foundCount)});
+  std::string_view piece;
+  unsigned token = 0;
+  for (size_t at = 0; count_ < capacity && tq::NextPiece(tq::View(ids_), at, piece); ++token) {
+    SymbolInfo& row = records[static_cast<size_t>(count_)];
+    if (tq::IsHeading(piece))
+      std::memcpy(row.id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
+    else if (const SymbolInfo* record = index.Find(tq::WithoutBlanks(piece)))
+      std::memcpy(&row, record, sizeof(SymbolInfo));
+    else
       continue;
-    if (heading)
-      std::memcpy(records_[row++].id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
-    else if (const SymbolInfo* record = index.Find(token))
-      std::memcpy(&records_[row++], record, sizeof(SymbolInfo));
+    rowTokens_[count_++] = token;
   }
   // A record that belongs to no token (the service answered with another id) gets no row: an empty
   // row would be a symbol that the user never asked for.
-  count_ = row;
-  return true;
-}
-
-void CIDList::RebuildFromRecords() {
-  CString ids;
-  for (int i = 0; i < count_; ++i) {
-    if (i > 0)
-      ids += ',';
-    ids.Append(records_[i].id, static_cast<int>(strnlen(records_[i].id, sizeof(records_[i].id))));
-  }
-  ids_ = ids;
-  tq::SplitIdString(ids_, tokens_);
+  rowTokens_.SetSize(count_);
+  records_ = records.release();
 }

@@ -7,14 +7,23 @@
 // A token of the string with ":" after its first character is a heading (sub-title) row. It takes a
 // row of its own whose record has the id ":"; its text is in the tokens.
 //
-// All calls come from the terminal's user-interface thread.
+// All calls come from the terminal's user-interface thread. The service may call the terminal back while
+// a list asks it, and the terminal may change or delete that list then: what was changed stands, and the
+// call that asked returns as for a list without rows when there is none any more.
 #pragma once
+
+#include <string_view>
+#include <vector>
 
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
 #include "platform/services/VLProxy.h"
 #include "tqSymbolApi.h"
+
+namespace tq {
+class LifeWatch;
+}
 
 // Terminals call lists through these virtual operations; their order is part of the interface.
 class TQSYMBOL_API CIDList {
@@ -32,29 +41,31 @@ public:
   virtual bool GetAt(int index, SymbolInfo* out);
   // Asks the service for the whole string again. Returns 1.
   virtual int Update3();
-  // Takes over `count` records (at most `count`; null means none) that the symbol-data service handed
-  // out: they are copied, the array is released with VLFree at once, and the string is rebuilt from
-  // their ids. Returns 1.
+  // Takes over `count` records (null means none) that the symbol-data service handed out: they are
+  // copied, the array is released with VLFree at once, and the string is rebuilt from their ids. A record
+  // whose id cannot stand in the string (none, only blanks, one with a "," or with bytes that are no
+  // characters) names no symbol and is left out. Returns 1.
   virtual int Update2(SymbolInfo* records, int count);
-  // Replaces the string and resolves it. Returns 0 and does nothing when `ids` equals the present
-  // string exactly, else 1.
+  // Replaces the string and resolves it. Bytes that the list file cannot hold (half characters, control
+  // bytes) are left out of what is stored, with a line in the log. Returns 0 and does nothing when
+  // the text to be stored equals the present string exactly, else 1.
   virtual int Update1(const CString& ids);
   // The id string. The reference is good until the list changes.
   virtual const CString& GetIDs();
 
   // 1 once Update1 has replaced the string; the list itself never clears it.
   int IsModified() const { return modified_; }
-  // The string's tokens in order, headings and unknown ids included; ids trimmed and in upper case
-  // once they have been resolved.
+  // The string's tokens in order, headings and unknown ids included; ids trimmed and in upper case.
   const CStringArray& GetTokens() const { return tokens_; }
 
   // Entry edits, by row. All of them resolve first when that is due, return 0 and change nothing for a
-  // row that is not there or a list that cannot be resolved, and 1 when done. The id string is rebuilt: a row contributes its record's id,
-  // a heading its text; ids that the service does not know have no row, but keep their places.
+  // row that is not there or a list that cannot be resolved, and 1 when done. The id string is rebuilt: a
+  // row contributes its record's id, a heading its text; ids that the service does not know have no row,
+  // but keep their places and stay as they are written.
   int RemoveEntry(int row);
   int SwapEntries(int first, int second); // 0 too when both are one
-  // These resolve the list again. `text` is one id, or a heading with its ":"; 0 for an empty one and for
-  // one that holds a ",".
+  // These resolve the list again. `text` is one id, or a heading with its ":"; 0 for one that is empty or
+  // nothing but blanks and for one that holds a ",". What the file cannot hold is left out of it.
   int ReplaceEntry(int row, const CString& text);
   // Puts `text` in front of the row (`before`) or behind it; a row before the first is the start of the
   // list, one behind the last its end. An id that the list holds already is refused; headings may repeat.
@@ -71,16 +82,24 @@ protected:
   // Drops the records, so that the next GetCount or GetAt asks the service anew.
   void DiscardRecords();
 
+  // The innermost watch on this list's life, see symbollist/LifeWatch.h.
+  tq::LifeWatch* watch_;
+
 private:
-  bool ResolveIfDue();
-  bool Resolve();
-  void RebuildFromRecords();
-  CUIntArray RowTokens() const;
-  void JoinTokens();
+  enum class Rows { There, None, ListGone };
+
+  Rows ResolveIfDue();
+  Rows Resolve();
+  Rows State() const { return records_ != nullptr ? Rows::There : Rows::None; }
+  void TakeRows(const SymbolInfo* found, int foundCount, int headings);
+  std::vector<std::string_view> Entries() const;
+  void StoreEntries(const std::vector<std::string_view>& entries);
+  int ChangeEntries(const std::vector<std::string_view>& entries);
 
   CString ids_;
   SymbolInfo* records_; // owned, null until resolved
   int count_;           // rows in records_
   int modified_;
   CStringArray tokens_;
+  CUIntArray rowTokens_; // for each row the index of its token, ascending
 };

@@ -5,76 +5,80 @@
 
 #include "symbollist/IDList.h"
 #include "symbollist/IdString.h"
-
-namespace {
-
-bool IsOneEntry(const CString& text) {
-  return !text.IsEmpty() && text.Find(',') < 0;
-}
-
-} // namespace
+#include "symbollist/RecordIndex.h"
+#include "symbollist/StorableText.h"
 
 int CIDList::RemoveEntry(int row) {
-  ResolveIfDue();
-  if (row < 0 || row >= count_)
+  if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)
     return 0;
-  tokens_.RemoveAt(static_cast<int>(RowTokens()[row]));
+  const auto token = rowTokens_[row];
+  std::vector<std::string_view> entries = Entries();
+  entries.erase(entries.begin() + token);
+  StoreEntries(entries);
+  tokens_.RemoveAt(static_cast<int>(token));
   const auto behind = static_cast<size_t>(count_ - row - 1);
   std::memmove(&records_[row], &records_[row + 1], behind * sizeof(SymbolInfo));
   std::memset(&records_[--count_], 0, sizeof(SymbolInfo));
-  JoinTokens();
+  rowTokens_.RemoveAt(row);
+  for (int i = row; i < count_; ++i)
+    --rowTokens_[i];
   return 1;
 }
 
 int CIDList::SwapEntries(int first, int second) {
-  ResolveIfDue();
-  if (first == second || std::min(first, second) < 0 || std::max(first, second) >= count_)
+  if (ResolveIfDue() != Rows::There || first == second || std::min(first, second) < 0 ||
+      std::max(first, second) >= count_)
     return 0;
-  const CUIntArray tokenOf = RowTokens();
-  std::swap(tokens_[static_cast<int>(tokenOf[first])], tokens_[static_cast<int>(tokenOf[second])]);
+  const auto firstToken = rowTokens_[first];
+  const auto secondToken = rowTokens_[second];
+  std::vector<std::string_view> entries = Entries();
+  std::swap(entries[firstToken], entries[secondToken]);
+  StoreEntries(entries);
+  std::swap(tokens_[static_cast<int>(firstToken)], tokens_[static_cast<int>(secondToken)]);
   std::swap(records_[first], records_[second]);
-  JoinTokens();
   return 1;
 }
 
 int CIDList::ReplaceEntry(int row, const CString& text) {
-  ResolveIfDue();
-  if (row < 0 || row >= count_ || !IsOneEntry(text))
+  const CString kept = tq::StorableText(text);
+  if (ResolveIfDue() != Rows::There || row < 0 || row >= count_ || !tq::IsOneToken(tq::View(kept)))
     return 0;
-  tokens_[static_cast<int>(RowTokens()[row])] = text;
-  JoinTokens();
-  modified_ = 1;
-  Update3();
-  return 1;
+  std::vector<std::string_view> entries = Entries();
+  entries[rowTokens_[row]] = tq::View(kept);
+  return ChangeEntries(entries);
 }
 
 int CIDList::InsertEntry(int row, const CString& text, bool before) {
+  const CString kept = tq::StorableText(text);
   // Without its rows a list that has ids cannot tell which place is meant.
-  if (!ResolveIfDue() && !ids_.IsEmpty())
+  const Rows rows = ResolveIfDue();
+  if (rows == Rows::ListGone || (rows == Rows::None && !ids_.IsEmpty()))
     return 0;
-  if (!IsOneEntry(text) || (!tq::IsHeading(text, text.GetLength()) && Holds(text)))
+  if (!tq::IsOneToken(tq::View(kept)) || (!tq::IsHeading(tq::View(kept)) && Holds(kept)))
     return 0;
-  int token = 0;
+  std::vector<std::string_view> entries = Entries();
+  size_t place = 0;
   if (row >= count_)
-    token = tokens_.GetSize();
+    place = entries.size();
   else if (row >= 0)
-    token = static_cast<int>(RowTokens()[row]) + (before ? 0 : 1);
-  tokens_.InsertAt(token, text);
-  JoinTokens();
-  modified_ = 1;
-  Update3();
-  return 1;
+    place = rowTokens_[row] + (before ? 0 : 1);
+  entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(place), tq::View(kept));
+  return ChangeEntries(entries);
 }
 
 void CIDList::JoinRows(CString& out) {
-  ResolveIfDue();
-  const CUIntArray tokenOf = RowTokens();
+  if (ResolveIfDue() != Rows::There) {
+    out.Empty();
+    return;
+  }
+  const std::vector<std::string_view> entries = Entries();
   CString rows;
   rows.Preallocate(ids_.GetLength());
   for (int row = 0; row < count_; ++row) {
     if (row > 0)
       rows += ',';
-    rows += tokens_[static_cast<int>(tokenOf[row])];
+    const std::string_view entry = entries[rowTokens_[row]];
+    rows.Append(entry.data(), static_cast<int>(entry.size()));
   }
   out = rows;
 }
@@ -82,41 +86,42 @@ void CIDList::JoinRows(CString& out) {
 bool CIDList::Holds(const CString& id) const {
   CString wanted = id;
   tq::NormaliseId(wanted);
-  for (int i = 0; i < tokens_.GetSize(); ++i) {
-    CString token = tokens_[i];
-    tq::NormaliseId(token);
-    if (token == wanted)
-      return true;
-  }
-  return false;
+  return std::find(tokens_.begin(), tokens_.end(), wanted) != tokens_.end();
 }
 
-// The token of each row. Rows stand in the order of the tokens, and a token without a row is one whose
-// id is not that of the next record.
-CUIntArray CIDList::RowTokens() const {
-  CUIntArray tokenOf;
-  tokenOf.SetSize(count_);
-  int row = 0;
-  for (int i = 0; i < tokens_.GetSize() && row < count_; ++i) {
-    const CString& token = tokens_[i];
-    const bool heading = tq::IsHeading(token, token.GetLength());
-    const char* wanted = heading ? tq::kHeadingMarker : token.GetString();
-    if (std::strncmp(records_[row].id, wanted, sizeof(SymbolInfo::id)) == 0)
-      tokenOf[row++] = static_cast<unsigned>(i);
+// What each token contributes when the string is rebuilt: its record's id, or where it has no record (a
+// heading, an id that the service does not know) the text as it is written.
+std::vector<std::string_view> CIDList::Entries() const {
+  std::vector<std::string_view> entries;
+  entries.reserve(static_cast<size_t>(tokens_.GetSize()));
+  std::string_view piece;
+  for (size_t at = 0; tq::NextPiece(tq::View(ids_), at, piece);)
+    entries.push_back(piece);
+  for (int row = 0; row < count_; ++row) {
+    std::string_view& entry = entries[rowTokens_[row]];
+    if (!tq::IsHeading(entry))
+      entry = tq::IdOf(records_[row]);
   }
-  return tokenOf;
+  return entries;
 }
 
-void CIDList::JoinTokens() {
-  int length = 0;
-  for (int i = 0; i < tokens_.GetSize(); ++i)
-    length += tokens_[i].GetLength() + 1;
+void CIDList::StoreEntries(const std::vector<std::string_view>& entries) {
+  size_t length = 0;
+  for (const std::string_view& entry : entries)
+    length += entry.size() + 1;
   CString ids;
-  ids.Preallocate(length);
-  for (int i = 0; i < tokens_.GetSize(); ++i) {
-    if (i > 0)
+  ids.Preallocate(static_cast<int>(length));
+  for (const std::string_view& entry : entries) {
+    if (&entry != entries.data())
       ids += ',';
-    ids += tokens_[i];
+    ids.Append(entry.data(), static_cast<int>(entry.size()));
   }
-  ids_ = ids;
+  ids_ = ids; // the entries may have referred to the string of before
+}
+
+int CIDList::ChangeEntries(const std::vector<std::string_view>& entries) {
+  StoreEntries(entries);
+  modified_ = 1;
+  Update3();
+  return 1;
 }

@@ -1,59 +1,80 @@
 #include "symbollist/IdString.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace tq {
 namespace {
 
-int CountTokens(const char* text, const char* end) {
+// Those that CString trims. None of them is the second byte of a character in either code page.
+constexpr std::string_view kBlanks = " \t\n\v\f\r";
+
+int CountPieces(std::string_view ids) {
   int count = 0;
-  for (const char* at = text; at < end;) {
-    const void* comma = std::memchr(at, ',', static_cast<size_t>(end - at));
-    const char* stop = comma ? static_cast<const char*>(comma) : end;
-    count += stop > at;
-    at = stop + 1;
-  }
+  std::string_view piece;
+  for (size_t at = 0; NextPiece(ids, at, piece);)
+    ++count;
   return count;
 }
 
 } // namespace
 
-bool IsHeading(const char* token, int length) {
-  return length > 1 && std::memchr(token + 1, ':', static_cast<size_t>(length - 1)) != nullptr;
+bool IsHeading(std::string_view token) {
+  return token.find(':', 1) != std::string_view::npos;
+}
+
+bool NextPiece(std::string_view ids, size_t& at, std::string_view& piece) {
+  while (at < ids.size()) {
+    const size_t end = std::min(ids.find(',', at), ids.size());
+    piece = ids.substr(at, end - at);
+    at = end + 1;
+    if (piece.find_first_not_of(kBlanks) != std::string_view::npos)
+      return true;
+  }
+  return false;
+}
+
+std::string_view WithoutBlanks(std::string_view piece) {
+  const size_t first = std::min(piece.find_first_not_of(kBlanks), piece.size());
+  return piece.substr(first, piece.find_last_not_of(kBlanks) + 1 - first);
+}
+
+bool IsOneToken(std::string_view text) {
+  return text.find_first_not_of(kBlanks) != std::string_view::npos &&
+         text.find(',') == std::string_view::npos;
 }
 
 SplitIds SplitIdString(const CString& ids, CStringArray& tokens) {
   SplitIds result;
-  const char* at = ids.GetString();
-  const char* end = at + ids.GetLength();
-  tokens.SetSize(CountTokens(at, end));
+  const std::string_view text = View(ids);
+  tokens.SetSize(CountPieces(text));
+  size_t plainLength = 0; // of the look-up string, were every piece an id without blanks
+  std::string_view piece;
   int index = 0;
-  while (at < end) {
-    const void* comma = std::memchr(at, ',', static_cast<size_t>(end - at));
-    const char* stop = comma ? static_cast<const char*>(comma) : end;
-    int length = static_cast<int>(stop - at);
-    if (length == 0 || (comma && stop + 1 == end))
-      result.plain = false;
-    if (length > 0) {
-      tokens[index++].SetString(at, length);
-      result.headings += IsHeading(at, length);
-    }
-    at = stop + 1;
+  for (size_t at = 0; NextPiece(text, at, piece); ++index) {
+    const bool heading = IsHeading(piece);
+    const std::string_view token = heading ? piece : WithoutBlanks(piece);
+    tokens[index].SetString(token.data(), static_cast<int>(token.size()));
+    if (heading)
+      ++result.headings;
+    else
+      tokens[index].MakeUpper();
+    plainLength += token.size() + (index > 0 ? 1 : 0);
   }
-  if (result.headings > 0)
-    result.plain = false;
+  result.plain = result.headings == 0 && plainLength == text.size();
   return result;
 }
 
-CString LookupString(const CStringArray& tokens) {
+CString LookupString(const CString& ids) {
   CString lookup;
-  for (int i = 0; i < tokens.GetSize(); ++i) {
-    const CString& token = tokens[i];
-    if (IsHeading(token.GetString(), token.GetLength()))
+  lookup.Preallocate(ids.GetLength());
+  std::string_view piece;
+  for (size_t at = 0; NextPiece(View(ids), at, piece);) {
+    if (IsHeading(piece))
       continue;
     if (!lookup.IsEmpty())
       lookup += ',';
-    lookup += token;
+    const std::string_view id = WithoutBlanks(piece);
+    lookup.Append(id.data(), static_cast<int>(id.size()));
   }
   return lookup;
 }

@@ -6,6 +6,7 @@
 #include <unordered_set>
 
 #include "platform/framework/CPtrArray.h"
+#include "platform/framework/SeededHash.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {
@@ -23,8 +24,13 @@ public:
   void Add(const CSymbolList& list, int position);
 
 private:
-  std::unordered_map<std::string, int> positions_;
-  std::unordered_set<std::string> names_;
+  // Whoever writes a file or an import chooses ids and names, those of equal hash values too.
+  struct TextHash {
+    size_t operator()(const std::string& text) const { return SeededHash(text); }
+  };
+
+  std::unordered_map<std::string, int, TextHash> positions_;
+  std::unordered_set<std::string, TextHash> names_;
 };
 
 } // namespace tq

@@ -1,21 +1,25 @@
 #include "symbollist/RecordIndex.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstring>
-#include <functional>
-#include <string_view>
+
+#include "platform/CodePage.h"
+#include "platform/framework/SeededHash.h"
 
 namespace tq {
 namespace {
+
+bool SameNoCase(std::string_view left, std::string_view right) {
+  return EqualNoCase(left.data(), left.size(), right.data(), right.size());
+}
+
+} // namespace
 
 std::string_view IdOf(const SymbolInfo& record) {
   return {record.id, strnlen(record.id, sizeof(record.id))};
 }
 
-} // namespace
-
-const SymbolInfo* RecordIndex::Find(const char* id) {
+const SymbolInfo* RecordIndex::Find(std::string_view id) {
   if (slots_.empty()) {
     if (next_ < records_.size() && IdOf(records_[next_]) == id)
       return &records_[next_++];
@@ -23,25 +27,32 @@ const SymbolInfo* RecordIndex::Find(const char* id) {
       return nullptr;
     Build();
   }
-  const uint32_t found = slots_[Slot(id)];
-  return found == 0 ? nullptr : &records_[found - 1];
+  const SymbolInfo* alike = nullptr;
+  const size_t mask = slots_.size() - 1;
+  for (size_t slot = StartOf(id); slots_[slot] != 0; slot = (slot + 1) & mask) {
+    const SymbolInfo& record = records_[slots_[slot] - 1];
+    if (IdOf(record) == id)
+      return &record;
+    if (SameNoCase(IdOf(record), id))
+      alike = &record;
+  }
+  return alike;
 }
 
 void RecordIndex::Build() {
   slots_.assign(std::bit_ceil(records_.size() * 2), 0);
+  const size_t mask = slots_.size() - 1;
   for (size_t i = 0; i < records_.size(); ++i) {
-    char id[sizeof(SymbolInfo::id) + 1] = {};
-    std::memcpy(id, records_[i].id, sizeof(SymbolInfo::id));
-    slots_[Slot(id)] = static_cast<uint32_t>(i) + 1;
+    const std::string_view id = IdOf(records_[i]);
+    size_t slot = StartOf(id);
+    while (slots_[slot] != 0 && IdOf(records_[slots_[slot] - 1]) != id)
+      slot = (slot + 1) & mask;
+    slots_[slot] = static_cast<uint32_t>(i) + 1;
   }
 }
 
-uint32_t RecordIndex::Slot(const char* id) const {
-  const size_t mask = slots_.size() - 1;
-  size_t slot = std::hash<std::string_view>{}(id)&mask;
-  while (slots_[slot] != 0 && IdOf(records_[slots_[slot] - 1]) != id)
-    slot = (slot + 1) & mask;
-  return static_cast<uint32_t>(slot);
+size_t RecordIndex::StartOf(std::string_view id) const {
+  return SeededHashNoCase(id) & (slots_.size() - 1);
 }
 
 } // namespace tq

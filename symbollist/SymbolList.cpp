@@ -4,6 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/XmlDocument.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/SystemListId.h"
 
 CSymbolList::CSymbolList() : info_(), flag_(0) {}
@@ -15,12 +16,12 @@ CSymbolList::CSymbolList(const CSymbolList& other) : CIDList(other), info_(other
 CSymbolList::~CSymbolList() = default;
 
 void CSymbolList::SetID(const char* id) {
-  tq::CopyCut(info_.ID, sizeof(info_.ID), id);
+  tq::CopyCut(info_.ID, tq::StorableText(id));
   UpdateFlag();
 }
 
 void CSymbolList::SetName(const char* name) {
-  tq::CopyCut(info_.Name, sizeof(info_.Name), name);
+  tq::CopyCut(info_.Name, tq::StorableText(name));
 }
 
 void CSymbolList::ToXml(CString& out) {

@@ -48,8 +48,9 @@ public:
   // element carries no attributes at all, else 1. The ids are resolved at once.
   int FillFromElement(const tq::XmlElement& element);
 
-  // Identifiers are kept up to 36 bytes and names up to 64, both cut at a whole character. Setting
-  // the identifier works the system flag out anew.
+  // Identifiers are kept up to 36 bytes and names up to 64, both cut at a whole character; bytes that the
+  // list file cannot hold are left out, with a line in the log. Setting the identifier works the system
+  // flag out anew.
   void SetID(const char* id);
   void SetName(const char* name);
 

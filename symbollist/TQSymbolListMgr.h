@@ -17,7 +17,10 @@
 //     the terminal, and lists from trading accounts from the trading-system proxy. A group is addressed
 //     by type and id or by a handle, which is good until its type is loaded anew, removed or cleared or
 //     the group itself is replaced or removed.
-//  7. The working list file is "\SymbolList.xml" in the data directory, its backup
+//  7. Names and id strings are kept without bytes that the list file could not give back (halves of
+//     double-byte characters, control bytes); a line in the log tells of it. An apostrophe, "&" and "<"
+//     are kept, and a file that holds one cannot be loaded: the terminal screens names on entry.
+//  8. The working list file is "\SymbolList.xml" in the data directory, its backup
 //     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with an
 //     empty one no file is read or written. A save leaves the old file or the new one, never a part.
 #pragma once
@@ -127,7 +130,8 @@ public:
   // fails shows its message and the change stays in memory.
 
   // Adds a list, or gives an existing one other symbols.
-  //   id         empty: a new list with a new GUID
+  //   id         empty: a new list with a new GUID. Refused when it is longer than 36 bytes or holds
+  //              bytes that are no characters, for the list would bear another one
   //   name       for a new list; made unique with AdjustFileName. Empty: refused
   //   symbols    ids joined by ",". Empty: refused
   //   append     non-zero: the last list, 0: the first
@@ -168,8 +172,8 @@ public:
   int DeleteSymbolList(CString id, int entry);
   // Puts `text` behind the entry at `position` (`before` 0) or in front of it; a position before the
   // first entry is the start, one behind the last the end. `heading` non-zero: a heading, ":" is put
-  // behind the text. A symbol that the list holds already is refused, and so are an empty text and one
-  // with a ",".
+  // behind the text. A symbol that the list holds already is refused, and so are a text that is empty
+  // or only blanks and one with a ",".
   int InsertSymbolList(CString id, int position, CString text, int before, int heading);
   // Lets two entries change places; 0 when they are one.
   int SwapSymbolList(CString id, int first, int second);
@@ -193,8 +197,8 @@ public:
   // The same against the cloud lists, without an index.
   bool IsModifyCountList(CPtrArray* lists);
   // Why a list with that id cannot be added to a kind (201 counts as 8): bit 0 a list has the id, bit 1
-  // it is longer than 36 bytes, bit 2 it holds an apostrophe, "&" or "<", which the list file cannot
-  // carry. 0 when it can; the empty id can, a GUID takes its place.
+  // it is longer than 36 bytes, bit 2 it holds what the list file cannot carry: an apostrophe, "&", "<",
+  // bytes that are no characters. 0 when it can; the empty id can, a GUID takes its place.
   int CheckValidSymbolList(const CString& id, int kind);
   // Takes the first field off a parameter string: `before` gets the text up to `separator`, `text` keeps
   // what is behind it. Without a separator all of it is taken. An empty text changes nothing.

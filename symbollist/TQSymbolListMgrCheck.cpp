@@ -2,6 +2,7 @@
 #include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ParameterText.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 
 int CTQSymbolListMgr::CheckNameExist(const CString& name, int skipOne, int skip, int kind) {
@@ -52,7 +53,7 @@ int CTQSymbolListMgr::CheckValidSymbolList(const CString& id, int kind) {
     problems |= kTaken;
   if (id.GetLength() > kIdLimit)
     problems |= kTooLong;
-  if (id.FindOneOf("'&<") >= 0)
+  if (id.FindOneOf("'&<") >= 0 || !tq::IsStorable(id))
     problems |= kNotForAFile;
   return problems;
 }

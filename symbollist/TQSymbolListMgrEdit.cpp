@@ -8,6 +8,7 @@
 #include "symbollist/Log.h"
 #include "symbollist/NewListId.h"
 #include "symbollist/Notify.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/MovedSymbols.h"
 
@@ -20,17 +21,21 @@ constexpr int kListBearsName = 2;
 
 int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CString& name,
                                     const CString& symbols, int append, int overwrite) {
-  if (name.IsEmpty() || symbols.IsEmpty())
+  // Name and symbols as they are going to be kept: what the file cannot hold does not make a name another
+  // one, and is no symbol.
+  const CString keptName = tq::StorableText(name);
+  const CString keptSymbols = tq::StorableText(symbols);
+  if (keptName.IsEmpty() || keptSymbols.IsEmpty() || !tq::IsKeptWhole(id))
     return 0;
-  const int found = id.IsEmpty() ? 0 : CheckIDandName(id, name, tq::kUserLists);
+  const int found = id.IsEmpty() ? 0 : CheckIDandName(id, keptName, tq::kUserLists);
   if ((found & kListExists) == 0) {
-    if (AddNewList(id, name, symbols, append) == 0)
+    if (AddNewList(id, keptName, keptSymbols, append) == 0)
       return 0;
   } else {
     // A list of another name is overwritten only when the caller says so; its name stays.
     if ((found & kListBearsName) == 0 && overwrite == 0)
       return 0;
-    tq::ListAt(lists_, tq::FindListById(lists_, id))->Update1(symbols);
+    tq::ListAt(lists_, tq::FindListById(lists_, id))->Update1(keptSymbols);
   }
   if (defaultIndex_ == -1)
     defaultIndex_ = 0;
@@ -135,6 +140,7 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
 }
 
 CString CTQSymbolListMgr::AdjustFileName(CString name) {
-  return tq::FreeName(
-      name, [this](const CString& wanted) { return tq::FindListByName(lists_, wanted) >= 0; });
+  return tq::FreeName(tq::StorableText(name), [this](const CString& wanted) {
+    return tq::FindListByName(lists_, wanted) >= 0;
+  });
 }

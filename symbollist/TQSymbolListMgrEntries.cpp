@@ -1,5 +1,7 @@
 // Editing of the entries of one list. In memory only: the caller saves.
+#include "symbollist/IdString.h"
 #include "symbollist/ListArray.h"
+#include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 
 CSymbolList* CTQSymbolListMgr::FindUserList(const char* id) {
@@ -15,9 +17,11 @@ int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) {
 int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, int before,
                                        int heading) {
   CSymbolList* list = FindUserList(id);
-  if (list == nullptr || text.IsEmpty())
+  // Cleaned before the ":" is put behind it: a heading of nothing is no heading.
+  const CString kept = tq::StorableText(text);
+  if (list == nullptr || !tq::IsOneToken(tq::View(kept)))
     return 0;
-  return list->InsertEntry(position, heading != 0 ? text + ":" : text, before != 0);
+  return list->InsertEntry(position, heading != 0 ? kept + ":" : kept, before != 0);
 }
 
 int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) {

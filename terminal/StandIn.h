@@ -15,6 +15,7 @@
 // written line stands in LogLines.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -153,6 +154,11 @@ TQSTANDIN_API void SetTraditional(bool traditional);
 TQSTANDIN_API void FailCall(std::string_view operation, int n);
 // Every call of the operation fails until Reset or FailCall(operation, 0).
 TQSTANDIN_API void FailAlways(std::string_view operation);
+
+// Runs `action` inside each call of one service operation, before the call is answered or fails, as a
+// service does that lets the terminal handle messages meanwhile. Not for calls from within an action.
+// Until Reset; an empty function takes it back. Field reads of a key object run none.
+TQSTANDIN_API void OnCall(std::string_view operation, std::function<void()> action);
 
 struct Call {
   std::string operation;

@@ -63,7 +63,7 @@ TQFRAMEWORK_API int CompareText(const CString& left, const char* right);
 // The same key for a string and for equal characters, so that a map of strings is asked without
 // one.
 inline size_t HashKey(const CString& text) {
-  return HashBytes(text.GetString(), static_cast<size_t>(text.GetLength()));
+  return SeededHash(text.GetString(), static_cast<size_t>(text.GetLength()));
 }
 } // namespace tq
 

@@ -7,6 +7,8 @@
 #include <functional>
 #include <type_traits>
 
+#include "platform/framework/SeededHash.h"
+
 namespace tq {
 
 // Spreads a number over all bits of the result, the low ones too, which pick the bucket.
@@ -17,26 +19,10 @@ inline size_t MixBits(uint64_t value) {
   return static_cast<size_t>(value ^ (value >> 32));
 }
 
-// Hash of `length` bytes, eight at a time: ids are short, and most take two steps.
-inline size_t HashBytes(const char* bytes, size_t length) {
-  constexpr uint64_t odd = 0xD6E8FEB86659FD93u;
-  uint64_t hash = length * odd;
-  for (; length >= sizeof hash; bytes += sizeof hash, length -= sizeof hash) {
-    uint64_t word;
-    std::memcpy(&word, bytes, sizeof word);
-    hash = (hash ^ word) * odd;
-    hash ^= hash >> 32;
-  }
-  uint64_t rest = 0;
-  for (size_t i = 0; i < length; ++i)
-    rest = rest << 8 | static_cast<unsigned char>(bytes[i]);
-  return MixBits(hash ^ rest);
-}
-
 // Characters up to their NUL, not the address; null counts as empty, as everywhere in the
 // framework.
 inline size_t HashKey(const char* text) {
-  return text == nullptr ? HashBytes("", 0) : HashBytes(text, std::strlen(text));
+  return SeededHash(text, text == nullptr ? 0 : std::strlen(text));
 }
 inline size_t HashKey(char* text) {
   return HashKey(static_cast<const char*>(text));

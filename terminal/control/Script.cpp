@@ -2,6 +2,7 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 #include "terminal/StandIn.h"
 #include "terminal/control/Parts.h"
@@ -14,6 +15,8 @@ constexpr std::string_view kEveryOperation = "*";
 struct Script {
   std::map<std::string, int, std::less<>> countdowns;
   std::set<std::string, std::less<>> always;
+  std::map<std::string, std::function<void()>, std::less<>> actions;
+  bool acting = false;
   std::vector<Call> calls;
   bool recording = true;
 };
@@ -35,11 +38,13 @@ bool CountDown(Script& script, std::string_view operation) {
 // To be called whenever an order came or went.
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
+  actionsOrdered = !TheScript().actions.empty();
 }
 
 } // namespace
 
 bool failuresOrdered = false;
+bool actionsOrdered = false;
 
 bool Recording() {
   return TheScript().recording;
@@ -71,6 +76,24 @@ void FailCall(std::string_view operation, int n) {
 void FailAlways(std::string_view operation) {
   TheScript().always.emplace(operation);
   NoteOrders();
+}
+
+void OnCall(std::string_view operation, std::function<void()> action) {
+  Script& script = TheScript();
+  script.actions.erase(std::string(operation));
+  if (action)
+    script.actions.emplace(operation, std::move(action));
+  NoteOrders();
+}
+
+void RunAction(std::string_view operation) {
+  const auto found = TheScript().actions.find(operation);
+  if (found == TheScript().actions.end() || TheScript().acting)
+    return;
+  const std::function<void()> action = found->second; // which may take its own order back
+  TheScript().acting = true;
+  action();
+  TheScript().acting = false;
 }
 
 const std::vector<Call>& Calls() {

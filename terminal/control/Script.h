@@ -15,6 +15,10 @@ TQSTANDIN_API void Record(std::string_view operation, std::string arguments);
 extern TQSTANDIN_API bool failuresOrdered;
 TQSTANDIN_API bool CountAgainstOrders(std::string_view operation);
 
+// Whether there are any actions of OnCall; the second runs that of an operation.
+extern TQSTANDIN_API bool actionsOrdered;
+TQSTANDIN_API void RunAction(std::string_view operation);
+
 // Whether this call has to fail. Reading an attribute asks too, so without orders it must cost nothing.
 inline bool OrderedToFail(std::string_view operation) {
   return failuresOrdered && CountAgainstOrders(operation);
@@ -44,6 +48,8 @@ template <class... Arguments> std::string JoinArguments(Arguments... arguments) 
 template <class... Arguments> bool Begin(std::string_view operation, Arguments... arguments) {
   if (Recording())
     Record(operation, JoinArguments(arguments...));
+  if (actionsOrdered)
+    RunAction(operation);
   return !OrderedToFail(operation);
 }
 

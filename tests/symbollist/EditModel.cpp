@@ -190,7 +190,7 @@ void EditModel::UpdateSystem(const TextPairs& symbols, const TextPairs& names) {
 std::vector<std::string> EditModel::Tokens(const ModelList& list) const {
   std::vector<std::string> tokens = Split(list.ids);
   for (std::string& token : tokens)
-    token = IsHeading(token) ? token : Upper(token);
+    token = IsHeading(token) || known.count(Upper(token)) == 0 ? token : Upper(token);
   return tokens;
 }
 
@@ -237,7 +237,8 @@ int EditModel::Insert(const std::string& id, int row, std::string text, bool bef
     return 0;
   std::vector<std::string> tokens = Tokens(*list);
   text += heading ? ":" : "";
-  if (!IsHeading(text) && std::count(tokens.begin(), tokens.end(), Upper(text)) != 0)
+  const auto held = [&](const std::string& token) { return Upper(token) == Upper(text); };
+  if (!IsHeading(text) && std::any_of(tokens.begin(), tokens.end(), held))
     return 0;
   const std::vector<int> rows = Rows(tokens);
   int at = 0;

@@ -28,10 +28,18 @@ const Row kRows[] = {
     {"A,x:y,B", {"A", "x:y", "B"}, 1, false, "A,B"},
     {"only:", {"only:"}, 1, false, ""},
     {":", {":"}, 0, true, ":"},
+    {":,Head:,A", {":", "Head:", "A"}, 1, false, ":,A"},
     {":A,B", {":A", "B"}, 0, true, ":A,B"},
     {"::", {"::"}, 1, false, ""},
-    {" A , B ", {" A ", " B "}, 0, true, " A , B "},
+    {" A , B ", {"A", "B"}, 0, false, "A,B"},
+    {"A, B", {"A", "B"}, 0, false, "A,B"},
+    {"A,B ", {"A", "B"}, 0, false, "A,B"},
+    {" , \t\r\n,A", {"A"}, 0, false, "A"},
+    {"  ", {}, 0, false, ""},
+    {" two words: ,a", {" two words: ", "A"}, 1, false, "a"},
+    {"2330.tw,PFDa.NYSE", {"2330.TW", "PFDA.NYSE"}, 0, true, "2330.tw,PFDa.NYSE"},
     {"\xB3\x5C:,\xA5\x5C", {"\xB3\x5C:", "\xA5\x5C"}, 1, false, "\xA5\x5C"},
+    {"\xA4,B", {"\xA4", "B"}, 0, true, "\xA4,B"},
 };
 
 TEST(IdString, SplitsAtEveryCommaAndCountsHeadings) {
@@ -45,7 +53,7 @@ TEST(IdString, SplitsAtEveryCommaAndCountsHeadings) {
       EXPECT_STREQ(tokens[static_cast<int>(i)], row.tokens[i].c_str());
     EXPECT_EQ(split.headings, row.headings);
     EXPECT_EQ(split.plain, row.plain);
-    EXPECT_STREQ(tq::LookupString(tokens), row.lookup);
+    EXPECT_STREQ(tq::LookupString(row.ids), row.lookup);
   }
 }
 
@@ -54,7 +62,7 @@ TEST(IdString, PlainSaysThatTheStringIsItsOwnLookupString) {
     SCOPED_TRACE(row.ids);
     CStringArray tokens;
     if (tq::SplitIdString(row.ids, tokens).plain) {
-      EXPECT_STREQ(tq::LookupString(tokens), row.ids);
+      EXPECT_STREQ(tq::LookupString(row.ids), row.ids);
     }
   }
 }

@@ -55,6 +55,22 @@ TEST_F(ScriptTest, EveryOperationIsRecordedByItsName) {
   }
 }
 
+TEST_F(ScriptTest, EveryOperationRunsItsActionOnceACall) {
+  for (const Operation& operation : Operations()) {
+    SCOPED_TRACE(operation.name);
+    int runs = 0;
+    standin::OnCall(operation.name, [&] {
+      ++runs;
+      operation.call(); // from within an action no action runs
+    });
+    operation.call();
+    EXPECT_EQ(runs, 1);
+    standin::OnCall(operation.name, {});
+    operation.call();
+    EXPECT_EQ(runs, 1);
+  }
+}
+
 TEST_F(ScriptTest, TheStarCountsTheCallsOfEveryOperation) {
   SymbolInfo info;
   standin::FailCall("*", 2);

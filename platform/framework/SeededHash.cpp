@@ -1,0 +1,119 @@
+#include "platform/framework/SeededHash.h"
+
+#include <bit>
+#include <chrono>
+#include <cstdint>
+#include <cstring>
+#include <exception>
+#include <random>
+
+namespace tq {
+namespace {
+
+struct Seed {
+  uint64_t low;
+  uint64_t high;
+};
+
+Seed MakeSeed() {
+  try {
+    std::random_device source;
+    const auto half = [&source] { return static_cast<uint64_t>(source()) << 32 | source(); };
+    const uint64_t low = half();
+    return {low, half()};
+  } catch (const std::exception&) { // no source of secrets: at least not the same for every process
+    const auto now = std::chrono::high_resolution_clock::now().time_since_epoch().count();
+    return {static_cast<uint64_t>(now), ~static_cast<uint64_t>(now)};
+  }
+}
+
+const Seed& TheSeed() {
+  static const Seed seed = MakeSeed();
+  return seed;
+}
+
+// SipHash with one round for each word and three at the end: made for hash tables under attack.
+class Sip {
+public:
+  explicit Sip(const Seed& seed)
+      : a_(seed.low ^ 0x736F6D6570736575u), b_(seed.high ^ 0x646F72616E646F6Du),
+        c_(seed.low ^ 0x6C7967656E657261u), d_(seed.high ^ 0x7465646279746573u) {}
+
+  void Add(uint64_t word) {
+    d_ ^= word;
+    Round();
+    a_ ^= word;
+  }
+
+  uint64_t Value() {
+    c_ ^= 0xFF;
+    Round();
+    Round();
+    Round();
+    return a_ ^ b_ ^ c_ ^ d_;
+  }
+
+private:
+  void Round() {
+    a_ += b_;
+    c_ += d_;
+    b_ = std::rotl(b_, 13) ^ a_;
+    d_ = std::rotl(d_, 16) ^ c_;
+    a_ = std::rotl(a_, 32);
+    c_ += b_;
+    a_ += d_;
+    b_ = std::rotl(b_, 17) ^ c_;
+    d_ = std::rotl(d_, 21) ^ a_;
+    c_ = std::rotl(c_, 32);
+  }
+
+  uint64_t a_;
+  uint64_t b_;
+  uint64_t c_;
+  uint64_t d_;
+};
+
+uint64_t AsIs(uint64_t word) {
+  return word;
+}
+
+constexpr uint64_t EachByte(uint64_t byte) {
+  return byte * 0x0101010101010101u;
+}
+
+// Lower-cases the ASCII letters among eight bytes. Second bytes of characters are taken for letters too:
+// texts that count as equal still come out equal.
+uint64_t Folded(uint64_t word) {
+  const uint64_t low = word & EachByte(0x7F);
+  const uint64_t fromA = low + EachByte(0x80 - 'A');
+  const uint64_t aboveZ = low + EachByte(0x7F - 'Z');
+  return word | ((fromA & ~aboveZ & ~word & EachByte(0x80)) >> 2);
+}
+
+template <uint64_t (*CHANGE)(uint64_t)> size_t Hash(std::string_view text) {
+  Sip sip(TheSeed());
+  size_t at = 0;
+  for (; text.size() - at >= sizeof(uint64_t); at += sizeof(uint64_t)) {
+    uint64_t word;
+    std::memcpy(&word, text.data() + at, sizeof word);
+    sip.Add(CHANGE(word));
+  }
+  uint64_t rest = 0;
+  if (at != text.size())
+    std::memcpy(&rest, text.data() + at, text.size() - at);
+  sip.Add(CHANGE(rest));
+  sip.Add(text.size());
+  return static_cast<size_t>(sip.Value());
+}
+
+} // namespace
+
+size_t SeededHash(const char* text, size_t length) {
+  return Hash<AsIs>({text, length});
+}
+
+size_t SeededHashNoCase(const char* text, size_t length) {
+  return Hash<Folded>({text, length});
+}
+
+} // namespace tq

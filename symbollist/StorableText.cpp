@@ -1,0 +1,71 @@
+#include "symbollist/StorableText.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "platform/TextTables.h"
+#include "platform/XmlCharacters.h"
+#include "symbollist/IdString.h"
+#include "symbollist/Log.h"
+#include "symbollist/TQSymbolListInfo.h"
+
+namespace tq {
+namespace {
+
+bool IsStorableAscii(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return (value >= 0x20 && value < 0x80) || byte == '\t' || byte == '\n' || byte == '\r';
+}
+
+// Bytes of the character at `at`; 0 for a byte that the file cannot hold.
+size_t StorableLength(unsigned codePage, const char* at, const char* end) {
+  if (static_cast<unsigned char>(*at) < 0x80)
+    return IsStorableAscii(*at) ? 1 : 0;
+  return AnsiCharLength(codePage, at, end);
+}
+
+// The place of the first byte that the file cannot hold, or the end.
+size_t FirstBadByte(std::string_view text) {
+  const auto* plain = std::find_if_not(text.begin(), text.end(), IsStorableAscii);
+  if (plain == text.end())
+    return text.size();
+  const unsigned codePage = AnsiCodePage();
+  for (const char* at = plain; at != text.end();) {
+    const size_t length = StorableLength(codePage, at, text.end());
+    if (length == 0)
+      return static_cast<size_t>(at - text.begin());
+    at += length;
+  }
+  return text.size();
+}
+
+} // namespace
+
+bool IsStorable(const CString& text) {
+  return FirstBadByte(View(text)) == View(text).size();
+}
+
+bool IsKeptWhole(const CString& id) {
+  constexpr int kIdLimit = sizeof(TQSymbolListInfo::ID) - 1;
+  return id.GetLength() <= kIdLimit && IsStorable(id);
+}
+
+CString StorableText(const CString& text) {
+  const std::string_view all = View(text);
+  const size_t bad = FirstBadByte(all);
+  if (bad == all.size())
+    return text;
+  std::string kept(all.substr(0, bad));
+  const unsigned codePage = AnsiCodePage();
+  for (const char* at = all.data() + bad; at != all.end();) {
+    const size_t length = StorableLength(codePage, at, all.end());
+    kept.append(at, length);
+    at += std::max<size_t>(length, 1);
+  }
+  LogLine(kLogChange, "%d bytes that the list file cannot hold are left out of \"%s\"",
+          static_cast<int>(all.size() - kept.size()), kept.c_str());
+  return {kept.data(), static_cast<int>(kept.size())};
+}
+
+} // namespace tq
