@@ -1,6 +1,7 @@
-// A file system of one file in memory, so that no fuzzer touches the disk.
+// A file system in memory, so that no fuzzer touches the disk: the list file, and copies of it.
 #pragma once
 
+#include <map>
 #include <string>
 #include <utility>
 
@@ -17,24 +18,38 @@ public:
   MemoryFiles(const MemoryFiles&) = delete;
   MemoryFiles& operator=(const MemoryFiles&) = delete;
 
-  tq::ReadResult ReadWholeFile(const char*, std::size_t limit, std::string& bytes) override {
+  tq::ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
     bytes.clear();
-    if (content.size() > limit)
+    const std::string& held = IsCopy(path) ? copies[path] : content;
+    if (held.size() > limit)
       return tq::ReadResult::TooLarge;
-    bytes = content;
+    bytes = held;
     return tq::ReadResult::Ok;
   }
-  tq::SaveResult SaveWholeFile(const char*, const void* bytes, std::size_t size) override {
-    content.assign(static_cast<const char*>(bytes), size);
-    ++saves;
+  tq::SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
+    (IsCopy(path) ? copies[path] : content).assign(static_cast<const char*>(bytes), size);
+    saves += IsCopy(path) ? 0 : 1;
     return tq::SaveResult::Saved;
   }
   bool DirectoryExists(const char*) override { return true; }
   bool FileExists(const char*) override { return true; }
+  tq::FileState StateOf(const char* path, tq::FileStamp& stamp) override {
+    stamp = {};
+    if (IsCopy(path) && copies.count(path) == 0)
+      return tq::FileState::Missing;
+    stamp.size = (IsCopy(path) ? copies[path] : content).size();
+    stamp.modified = static_cast<std::uint64_t>(saves) + 1;
+    return tq::FileState::File;
+  }
   bool RenameFile(const char*, const char*) override { return true; }
 
+  static bool IsCopy(const char* path) {
+    return std::string(path).find("_Kept") != std::string::npos;
+  }
+
   std::string content;
-  int saves = 0;
+  int saves = 0; // of the list file
+  std::map<std::string, std::string> copies;
 
 private:
   tq::FileAccess* before_;

@@ -18,14 +18,15 @@ enum ByteClass : std::uint16_t {
   Quotation = 32,
   Greater = 64,
   Closer = 128, // '-', ']' and '?', which begin the end of comment, CDATA section and instruction
-  Colon = 256,
+  NameStart = 256, // ASCII that a name may begin with
+  NamePart = 512,  // ASCII that may stand anywhere else in it
+  Blank = 1024,
 };
 
 constexpr std::array<std::uint16_t, 256> BuildByteClasses() {
   std::array<std::uint16_t, 256> classes{};
   for (unsigned byte = 0; byte < 0x20; ++byte)
     classes[byte] = Forbidden;
-  classes['\t'] = classes['\n'] = classes['\r'] = 0;
   for (unsigned byte = 0x80; byte < 0x100; ++byte)
     classes[byte] = NotAscii;
   classes['<'] = Less;
@@ -34,7 +35,15 @@ constexpr std::array<std::uint16_t, 256> BuildByteClasses() {
   classes['"'] = Quotation;
   classes['>'] = Greater;
   classes['-'] = classes[']'] = classes['?'] = Closer;
-  classes[':'] = Colon;
+  for (const char c : {' ', '\t', '\n', '\r'})
+    classes[static_cast<unsigned char>(c)] = Blank;
+  for (unsigned letter = 'A'; letter <= 'Z'; ++letter)
+    classes[letter] = classes[letter + ('a' - 'A')] = NameStart | NamePart;
+  classes['_'] = classes[':'] = NameStart | NamePart;
+  for (unsigned digit = '0'; digit <= '9'; ++digit)
+    classes[digit] = NamePart;
+  classes['-'] |= NamePart;
+  classes['.'] = NamePart;
   return classes;
 }
 

@@ -13,9 +13,12 @@ struct EncodingName {
   XmlEncoding encoding;
 };
 constexpr EncodingName EncodingNames[] = {
-    {"big5", XmlEncoding::Big5},  {"cp950", XmlEncoding::Big5},     {"x-x-big5", XmlEncoding::Big5},
-    {"gb2312", XmlEncoding::Gbk}, {"gbk", XmlEncoding::Gbk},        {"cp936", XmlEncoding::Gbk},
-    {"utf-8", XmlEncoding::Utf8}, {"us-ascii", XmlEncoding::Ascii},
+    {"big5", XmlEncoding::Big5},     {"cp950", XmlEncoding::Big5},
+    {"x-x-big5", XmlEncoding::Big5}, {"gb2312", XmlEncoding::Gbk},
+    {"gbk", XmlEncoding::Gbk},       {"cp936", XmlEncoding::Gbk},
+    {"utf-8", XmlEncoding::Utf8},    {"us-ascii", XmlEncoding::Ascii},
+    {"ascii", XmlEncoding::Ascii},   {"iso-8859-1", XmlEncoding::Latin1},
+    {"utf-16", XmlEncoding::Utf16},
 };
 
 bool IsBlank(char c) {
@@ -94,9 +97,8 @@ bool TakeDeclaration(Reader& reader, std::string_view& encoding) {
 } // namespace
 
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration) {
-  declaration = {};
   Reader reader(file);
-  const bool marked = reader.Take(Utf8Mark);
+  const bool marked = declaration.encoding == XmlEncoding::Utf8 && reader.Take(Utf8Mark);
   declaration.length = file.size() - reader.Left();
   // A longer name, as of an instruction for style sheets, is no declaration.
   constexpr std::string_view opening = "<?xml";

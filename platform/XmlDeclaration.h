@@ -5,7 +5,7 @@
 
 namespace tq {
 
-enum class XmlEncoding { Utf8, Ascii, Big5, Gbk };
+enum class XmlEncoding { Utf8, Ascii, Big5, Gbk, Latin1, Utf16 };
 
 struct XmlDeclaration {
   XmlEncoding encoding =
@@ -14,7 +14,8 @@ struct XmlDeclaration {
 };
 
 // Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without declaration
-// is Ok.
+// is Ok. `declaration.encoding` is what the file is in unless it names one; a file in UTF-16 is given
+// decoded.
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration);
 
 } // namespace tq

@@ -1,7 +1,9 @@
 #include "platform/XmlScan.h"
 
+#include "platform/TextTables.h"
 #include "platform/XmlByteClass.h"
 #include "platform/XmlCharacters.h"
+#include "platform/XmlNames.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,6 +36,10 @@ private:
   void Replace(std::size_t length, std::string_view with);
   void TakeReference();
   bool TakeMarkup();
+  bool TakeNameCharacter(bool first);
+  bool TakeName(std::string_view& name);
+  bool TakeBlanks();
+  bool TakeEquals();
   bool TakeInstruction();
   bool TakeEndTag();
   bool TakeStartTag();
@@ -46,6 +52,8 @@ private:
   const unsigned codePage_;
   std::string& out_;
   int depth_ = 0;
+  int pieces_ = 0;
+  XmlNameTable names_;
   bool anyElement_ = false;
   XmlVerdict verdict_ = XmlVerdict::Ok;
 };
@@ -75,7 +83,7 @@ bool Scanner::SkipTo(unsigned stops) {
 
 // Moves behind the next `closing`, whose first byte is of class Closer or Greater.
 bool Scanner::SkipBehind(std::string_view closing) {
-  while (SkipTo(ClassOf(closing.front()))) {
+  while (SkipTo(ClassOf(closing.front()) & (Closer | Greater))) {
     if (at_ == end_)
       return Refuse(XmlVerdict::Malformed);
     if (StartsWith(closing)) {
@@ -155,32 +163,115 @@ void Scanner::TakeReference() {
     Replace(static_cast<std::size_t>(p + 1 - at_), "?");
 }
 
+// At a byte beyond ASCII in a name.
+bool Scanner::TakeNameCharacter(bool first) {
+  const char* character = at_;
+  std::string decoded;
+  switch (charset_) {
+  case XmlCharset::Utf8:
+    if (!TakeUtf8())
+      return false;
+    break;
+  case XmlCharset::Carried: {
+    const std::size_t length = AnsiCharLength(codePage_, at_, end_);
+    if (length == 0 || !DecodeText(codePage_, {at_, length}, decoded) || decoded.empty())
+      return false;
+    at_ += length;
+    character = decoded.data();
+    break;
+  }
+  case XmlCharset::Ascii:
+    return false;
+  }
+  return IsNameCharacter(TakeUtf8Char(character), first);
+}
+
+bool Scanner::TakeName(std::string_view& name) {
+  const char* const start = at_;
+  bool foreign = false;
+  while (at_ != end_) {
+    const unsigned found = ClassOf(*at_);
+    const bool first = at_ == start;
+    if ((found & NotAscii) != 0) {
+      if (!TakeNameCharacter(first))
+        return Refuse(XmlVerdict::BadCharacters);
+      foreign = true;
+      continue;
+    }
+    if ((found & (first ? NameStart : NamePart)) == 0)
+      break;
+    foreign |= *at_ == ':';
+    ++at_;
+  }
+  name = {start, static_cast<std::size_t>(at_ - start)};
+  if (name.empty())
+    return Refuse(XmlVerdict::Malformed);
+  if (name.size() > XmlNameLengthLimit || !names_.Add(name))
+    return Refuse(XmlVerdict::TooMany);
+  if (foreign || name.starts_with(ForeignNameMark)) {
+    std::string travelling;
+    AppendForeignName(name, travelling);
+    at_ = start;
+    Replace(name.size(), travelling);
+  }
+  return true;
+}
+
+bool Scanner::TakeBlanks() {
+  const char* const before = at_;
+  while (at_ != end_ && (ClassOf(*at_) & Blank) != 0)
+    ++at_;
+  return at_ != before;
+}
+
+// Up to the quotation mark of an attribute's value.
+bool Scanner::TakeEquals() {
+  TakeBlanks();
+  if (at_ == end_ || *at_ != '=')
+    return Refuse(XmlVerdict::Malformed);
+  ++at_;
+  TakeBlanks();
+  if (at_ == end_ || (ClassOf(*at_) & (Apostrophe | Quotation)) == 0)
+    return Refuse(XmlVerdict::Malformed);
+  return true;
+}
+
 // At "<?".
 bool Scanner::TakeInstruction() {
+  at_ += 2;
+  std::string_view target;
+  if (!TakeName(target))
+    return false;
   // "<?xml ...?>" is for the start of a file only, and that one has been taken off.
-  const bool reserved = end_ - at_ > 5 && (at_[2] | 0x20) == 'x' && (at_[3] | 0x20) == 'm' &&
-                        (at_[4] | 0x20) == 'l' && (ClassOf(at_[5]) == Closer || at_[5] <= ' ');
-  if (reserved)
+  if (target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' &&
+      (target[2] | 0x20) == 'l')
     return Refuse(XmlVerdict::BadDeclaration);
-  for (at_ += 2; at_ != end_ && *at_ > ' ' && *at_ != '?'; ++at_) {
-    if (*at_ == ':')
-      return Refuse(XmlVerdict::ForeignName);
-  }
+  if (!StartsWith("?>") && !TakeBlanks())
+    return Refuse(XmlVerdict::Malformed);
   return SkipBehind("?>");
 }
 
 bool Scanner::TakeEndTag() {
   at_ += 2;
   --depth_;
-  return depth_ < 0 ? Refuse(XmlVerdict::Malformed) : SkipBehind(">");
+  std::string_view name;
+  if (depth_ < 0)
+    return Refuse(XmlVerdict::Malformed);
+  if (!TakeName(name))
+    return false;
+  TakeBlanks();
+  if (at_ == end_ || *at_ != '>')
+    return Refuse(XmlVerdict::Malformed);
+  ++at_;
+  return true;
 }
 
 // At a quotation mark of either kind: moves behind the next of its kind.
 bool Scanner::TakeQuoted() {
   const unsigned mark = ClassOf(*at_);
   ++at_;
-  while (SkipTo(mark | Ampersand)) {
-    if (at_ == end_)
+  while (SkipTo(mark | Ampersand | Less)) {
+    if (at_ == end_ || *at_ == '<')
       return Refuse(XmlVerdict::Malformed);
     if ((ClassOf(*at_) & mark) != 0) {
       ++at_;
@@ -199,26 +290,36 @@ bool Scanner::TakeStartTag() {
   anyElement_ = true;
   if (depth_ == XmlDepthLimit)
     return Refuse(XmlVerdict::TooDeep);
-  for (++at_; at_ != end_;) {
-    const unsigned found = ClassOf(*at_);
-    if ((found & Greater) != 0) {
-      if (at_[-1] != '/')
-        ++depth_;
-      ++at_;
+  ++at_;
+  std::string_view name;
+  if (!TakeName(name))
+    return false;
+  for (int attributes = 0;; ++attributes) {
+    const bool blank = TakeBlanks();
+    if (StartsWith("/>")) {
+      at_ += 2;
       return true;
     }
-    if ((found & (NotAscii | Colon | Forbidden)) != 0)
-      return Refuse(XmlVerdict::ForeignName);
-    if ((found & (Apostrophe | Quotation)) == 0)
+    if (at_ != end_ && *at_ == '>') {
       ++at_;
-    else if (!TakeQuoted())
+      ++depth_;
+      return true;
+    }
+    if (!blank)
+      return Refuse(XmlVerdict::Malformed);
+    if (attributes == XmlAttributeLimit)
+      return Refuse(XmlVerdict::TooMany);
+    if (!TakeName(name) || !TakeEquals() || !TakeQuoted())
       return false;
   }
-  return Refuse(XmlVerdict::Malformed);
 }
 
 // At "<".
 bool Scanner::TakeMarkup() {
+  if (StartsWith("</"))
+    return TakeEndTag();
+  if (++pieces_ > XmlPieceLimit)
+    return Refuse(XmlVerdict::TooMany);
   if (StartsWith("<!--")) {
     at_ += 4;
     return SkipBehind("-->");
@@ -229,9 +330,7 @@ bool Scanner::TakeMarkup() {
   }
   if (StartsWith("<!"))
     return Refuse(XmlVerdict::DocumentType);
-  if (StartsWith("<?"))
-    return TakeInstruction();
-  return StartsWith("</") ? TakeEndTag() : TakeStartTag();
+  return StartsWith("<?") ? TakeInstruction() : TakeStartTag();
 }
 
 XmlVerdict Scanner::Scan() {

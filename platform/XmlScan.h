@@ -1,4 +1,5 @@
-// One pass over XML text before the DOM sees it: characters, markup declarations, nesting.
+// One pass over XML text before the DOM sees it: characters, markup declarations, names, nesting and the
+// bounds of XmlText.h.
 #pragma once
 
 #include "platform/XmlText.h"
@@ -15,8 +16,10 @@ enum class XmlCharset {
 // and quoted values, so that markup inside of them is not taken for markup; leaves everything else of
 // well-formedness to the DOM.
 //
-// Carried: `rewritten` receives the text in UTF-8 when it differs from `text`, and is empty otherwise.
-// A character reference into the private plane would come out as a double-byte character that nobody
+// `rewritten` receives the text for the DOM when it differs from `text`, and is empty otherwise: names that
+// the DOMs would treat differently are replaced (platform/XmlNames.h), and carried characters are put into
+// UTF-8.
+// Carried: a character reference into the private plane would come out as a double-byte character that nobody
 // wrote; it becomes "?", like any other character that the code page lacks.
 XmlVerdict ScanXml(std::string_view text, XmlCharset charset, unsigned codePage,
                    std::string& rewritten);

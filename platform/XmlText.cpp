@@ -3,7 +3,9 @@
 #include "platform/TextTables.h"
 #include "platform/XmlCharacters.h"
 #include "platform/XmlDeclaration.h"
+#include "platform/XmlNames.h"
 #include "platform/XmlScan.h"
+#include "platform/XmlUtf16.h"
 #include "platform/framework/CString.h"
 #include "platform/services/tqCommon.h"
 
@@ -35,14 +37,36 @@ bool IsStructured(unsigned codePage, std::string_view text) {
   return true;
 }
 
+// The buffer holds the text, in UTF-8.
+XmlVerdict ScanDecoded(XmlText& text) {
+  std::string rewritten;
+  const XmlVerdict verdict = ScanXml(text.buffer, XmlCharset::Utf8, CodePageBig5, rewritten);
+  if (!rewritten.empty())
+    text.buffer.swap(rewritten);
+  text.utf8 = text.buffer;
+  return verdict;
+}
+
 // Text of the other Chinese code page. The structure is checked by us, so that all platforms refuse the
 // same bytes whatever their tables make of them.
 XmlVerdict PrepareForeign(unsigned codePage, std::string_view body, XmlText& text) {
   if (!IsStructured(codePage, body) || !DecodeText(codePage, body, text.buffer))
     return XmlVerdict::BadCharacters;
-  std::string none;
-  text.utf8 = text.buffer;
-  return ScanXml(text.utf8, XmlCharset::Utf8, codePage, none);
+  return ScanDecoded(text);
+}
+
+// Text of ISO 8859-1: each byte is the code point.
+void DecodeLatin(std::string_view body, std::string& utf8) {
+  utf8.reserve(2 * body.size());
+  for (const char c : body) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < 0x80) {
+      utf8 += c;
+      continue;
+    }
+    utf8 += static_cast<char>(0xC0 | byte >> 6);
+    utf8 += static_cast<char>(0x80 | (byte & 0x3F));
+  }
 }
 
 XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& text) {
@@ -50,6 +74,10 @@ XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& tex
   const bool chinese = encoding == XmlEncoding::Big5 || encoding == XmlEncoding::Gbk;
   if (chinese && !IsProcessText(declared))
     return PrepareForeign(declared, body, text);
+  if (encoding == XmlEncoding::Latin1) {
+    DecodeLatin(body, text.buffer);
+    return ScanDecoded(text);
+  }
   text.carried = chinese;
   XmlCharset charset = chinese ? XmlCharset::Carried : XmlCharset::Utf8;
   if (encoding == XmlEncoding::Ascii)
@@ -57,6 +85,23 @@ XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& tex
   const XmlVerdict verdict = ScanXml(body, charset, AnsiCodePage(), text.buffer);
   text.utf8 = text.buffer.empty() ? body : std::string_view(text.buffer);
   return verdict;
+}
+
+// A text in UTF-16 begins with its mark, as the recommendation has it.
+XmlVerdict PrepareUtf16(std::string_view file, XmlText& text) {
+  std::string decoded;
+  if (!DecodeUtf16(file, decoded))
+    return XmlVerdict::BadCharacters;
+  XmlDeclaration declaration;
+  declaration.encoding = XmlEncoding::Utf16;
+  const XmlVerdict verdict = ReadXmlDeclaration(decoded, declaration);
+  if (verdict != XmlVerdict::Ok)
+    return verdict;
+  if (declaration.encoding != XmlEncoding::Utf16)
+    return XmlVerdict::BadDeclaration; // the mark says otherwise
+  decoded.erase(0, declaration.length);
+  text.buffer.swap(decoded);
+  return ScanDecoded(text);
 }
 
 // Takes the two bytes, or the one, that a carried character at `at` stands for. False when it is none.
@@ -108,11 +153,29 @@ XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text) {
   if (size > XmlSizeLimit)
     return XmlVerdict::TooLarge;
   const std::string_view file(data, size);
+  if (IsUtf16(file))
+    return PrepareUtf16(file, text);
   XmlDeclaration declaration;
   const XmlVerdict verdict = ReadXmlDeclaration(file, declaration);
   if (verdict != XmlVerdict::Ok)
     return verdict;
+  if (declaration.encoding == XmlEncoding::Utf16)
+    return XmlVerdict::BadDeclaration; // it is not
   return PrepareBody(declaration.encoding, file.substr(declaration.length), text);
+}
+
+void AssignXmlName(std::string_view name, bool carried, CString& value) {
+  std::string bytes;
+  if (!ReadForeignName(name, bytes))
+    AssignXmlText(name, carried, value);
+  else if (carried)
+    value.SetString(bytes.data(), static_cast<int>(bytes.size()));
+  else
+    AssignXmlText(bytes, carried, value);
+}
+
+bool IsXmlNamespace(std::string_view name) {
+  return name == "xmlns" || name.starts_with(ForeignDeclarationMark);
 }
 
 void AssignXmlText(std::string_view utf8, bool carried, CString& value) {

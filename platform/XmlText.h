@@ -1,7 +1,7 @@
 // What both bodies of XmlDocument do before the DOM sees a file and after it hands out text.
 //
 // Before: the bytes are checked against everything that the DOMs treat differently (encodings,
-// declarations, document types, nesting) and become UTF-8 without a byte-order mark and declaration.
+// declarations, document types, names, nesting) and become UTF-8 without a byte-order mark and declaration.
 //
 // Carrying: a file in the process's own code page is not decoded with conversion tables. Each
 // double-byte character travels through the DOM as one private code point that names its two bytes,
@@ -23,6 +23,13 @@ namespace tq {
 inline constexpr std::size_t XmlSizeLimit = std::size_t{64} << 20;
 // Deepest nesting of elements, the root being 1. The list files have 3.
 inline constexpr int XmlDepthLimit = 64;
+// What a hostile file could make a DOM slow with: pieces of markup (elements, comments, CDATA sections,
+// instructions) of the whole text, attributes of one element, different names, bytes of a name. The list
+// files have an element for each list, four attributes and eight names.
+inline constexpr int XmlPieceLimit = 1'000'000;
+inline constexpr int XmlAttributeLimit = 64;
+inline constexpr int XmlNameLimit = 256;
+inline constexpr std::size_t XmlNameLengthLimit = 256;
 // First code point of the plane that carries double-byte characters.
 inline constexpr char32_t CarriedBase = 0xF0000;
 
@@ -30,12 +37,12 @@ enum class XmlVerdict {
   Ok,
   TooLarge,
   BadDeclaration,  // not "version, encoding, standalone" as the XML recommendation writes them
-  UnknownEncoding, // none of big5 cp950 x-x-big5, gb2312 gbk cp936, utf-8, us-ascii
+  UnknownEncoding, // none of those that XmlDeclaration.cpp names
   BadCharacters,   // bytes that the encoding does not have, or characters that XML does not allow
   DocumentType,    // "<!DOCTYPE" or another markup declaration
   TooDeep,
-  ForeignName, // a name with a namespace prefix, or with characters beyond ASCII
-  Malformed,   // an open comment, CDATA section, instruction or tag at the end, and the like
+  TooMany, // more markup, attributes or names than the limits, or a name that is too long
+  Malformed, // a tag that is none, an open comment, CDATA section or instruction at the end, and the like
 };
 
 struct XmlText {
@@ -54,6 +61,12 @@ XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text);
 // Text of the DOM, in UTF-8, to the process's code page. `carried` is that of the document's XmlText.
 // `value` is assigned once.
 void AssignXmlText(std::string_view utf8, bool carried, CString& value);
+
+// The same with a name, as the file has it: its prefix included.
+void AssignXmlName(std::string_view name, bool carried, CString& value);
+
+// Whether the DOM's name of an attribute declares a namespace.
+bool IsXmlNamespace(std::string_view name);
 
 // Whether a text is nothing but white space, as XML has it.
 inline bool IsXmlBlank(std::string_view text) {

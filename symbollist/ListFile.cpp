@@ -1,5 +1,6 @@
 #include "symbollist/ListFile.h"
 
+#include "platform/XmlText.h"
 #include "symbollist/FileDeclaration.h"
 #include "symbollist/SymbolList.h"
 
@@ -35,6 +36,11 @@ std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
   }
   text += kTail;
   return text;
+}
+
+bool CanBeLoaded(const std::string& text, int lists) {
+  constexpr int kFrameElements = 2;
+  return text.size() <= XmlSizeLimit && lists <= XmlPieceLimit - kFrameElements;
 }
 
 } // namespace tq

@@ -16,4 +16,8 @@ inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 // file of a manager that has no lists. Text is in the process's ANSI code page, unescaped.
 std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 
+// Whether a file of that text and that many lists is within the bounds that hold for loading one
+// (platform/XmlText.h): what is saved must be readable.
+bool CanBeLoaded(const std::string& text, int lists);
+
 } // namespace tq

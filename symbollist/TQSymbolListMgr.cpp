@@ -6,6 +6,7 @@
 #include "groups/GroupStore.h"
 #include "groups/TradingTable.h"
 #include "platform/FileAccess.h"
+#include "symbollist/KeptFiles.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
 #include "symboltable/SymbolTableMgr.h"
@@ -14,7 +15,7 @@ CTQSymbolListMgr::CTQSymbolListMgr()
     : symbolTables_(nullptr), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
       systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
       exchangeRecords_(nullptr), groups_(nullptr), cloudMap_(new tq::CloudMap),
-      tradingTable_(nullptr) {
+      tradingTable_(nullptr), keptFiles_(new tq::KeptFiles) {
   groups_ = new tq::GroupStore(
       [this](CGroupMgr& cloudGroups) { CCloudeListUtil::Refresh(cloudGroups, *cloudMap_); });
 }
@@ -29,6 +30,7 @@ CTQSymbolListMgr::~CTQSymbolListMgr() {
   delete tradingTable_;
   delete symbolTables_;
   ClearDefaultExchangeData();
+  delete keptFiles_;
 }
 
 int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
@@ -41,8 +43,10 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   bCN_ = bCN;
 
   // Here and not only when the file is loaded: a start that fails at the tables must not leave the
-  // lists of the directory before, for the next save would put them into this one.
+  // lists of the directory before, for the next save would put them into this one. Nor may that save take
+  // the file for one that has been seen.
   ClearSymbolList();
+  keptFiles_->ForgetAll();
   StartTradingLists();
   ClearAllSymbols();
   delete symbolTables_;
@@ -53,7 +57,10 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
     return 0;
 
   const CString listFile = FilePath(tq::kListFileName);
-  if (tq::Files().DirectoryExists(dataDirectory_) && !tq::Files().FileExists(listFile))
+  // Only where the system says that there is none: an error of a drive must not cost the user's lists.
+  tq::FileStamp stamp;
+  if (tq::Files().DirectoryExists(dataDirectory_) &&
+      tq::Files().StateOf(listFile, stamp) == tq::FileState::Missing)
     CreateEmptySymbolListFile();
   LoadSymbolList();
   if (loadSystemLists != 0) {

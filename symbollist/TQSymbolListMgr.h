@@ -47,6 +47,7 @@ namespace tq {
 struct ImportedList;
 class CloudMap;
 class GroupStore;
+class KeptFiles;
 class ListIndex;
 class TradingTable;
 } // namespace tq
@@ -83,7 +84,8 @@ public:
   //   useUserDefExch        non-zero: the default exchanges are the user's own
   //   loadTradingLists      non-zero: lists from trading accounts are wanted
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and there
-  // are no lists. A list file that cannot be read is no failure: the manager starts without lists.
+  // are no lists. A list file that cannot be read is no failure: the manager starts without lists. Where
+  // the system does not tell whether there is a list file, none is created.
   int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists);
 
@@ -91,11 +93,21 @@ public:
   CSymbolTableMgr* GetSymbolTableMgr() const { return symbolTables_; }
 
   // --- The list file -----------------------------------------------------------------------------
+  // A save writes over nothing that nobody has seen. When the file on the disk is not, as it is now, one
+  // that this manager has read whole or written itself (its load failed or ended early, Init failed at the
+  // tables, another program wrote it since), or when it holds what cannot be written back, its bytes are
+  // first copied beside it: "\SymbolList_Kept.xml", then "\SymbolList_Kept1.xml" to
+  // "\SymbolList_Kept9.xml", then in the place of the oldest copy; of the backup file as
+  // "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says why. A missing file, one
+  // without lists, and bytes that are kept already are not copied. A copy that cannot be made refuses the
+  // save.
+
   // Reads the working file. The lists in memory are destroyed first, so a file that cannot be read
   // leaves none. Always 1: judge a load by the lists that it made. Ids are resolved as they are read.
   int LoadSymbolList();
   // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0, after
-  // message 48026 to the user, when the file could not be written; file and lists are then unchanged.
+  // message 48026 to the user, when the file could not be written, a copy of it could not be made, or the
+  // lists are too large to be loaded again (64 MiB as text); file and lists are then unchanged.
   int SaveSymbolList();
   // The same with the backup file.
   int BackupSymbolList();
@@ -106,9 +118,21 @@ public:
   CString GetBackSymbolListPath();
   // Writes the working file without any list, whatever is in memory. Results as SaveSymbolList.
   int CreateEmptySymbolListFile();
-  // LoadSymbolList as a terminal asks for it after somebody else changed the file. Returns 1.
+  // Writes the lists and the default index to any file, with the results of SaveSymbolList. `path` is a
+  // directory joined with one backslash to a plain ASCII file name, as the working file's path is. An empty
+  // one does nothing and returns 0.
+  int DoSaveSymbolList(const CString& path);
+  // Reads any list file in the place of the lists in memory, as LoadSymbolList does; always 1. With an
+  // empty path the lists are gone and nothing is read. A file without any list makes the working file be
+  // written anew at once, empty.
+  int DoLoadSymbolList(const CString& path);
+  // What a terminal asks for after somebody else changed the file: LoadSymbolList, then, as Init was told,
+  // LoadSystemList with the names of Init, which adds the system lists that the file lacks, and LoadTSList,
+  // which adds the list of all holdings when it is missing. Nothing is saved. Returns 1.
   int UpdateTQSymbolList();
-  // Goes over to another data directory and loads its lists.
+  // Goes over to another data directory: LoadSymbolList there, then, if Init was told to load system lists,
+  // LoadSystemList with the names of Init, which adds those that the file lacks. The lists from trading
+  // accounts stay as they are, and their file is written in the new directory from the next change on.
   void ReLoadList(const CString& dataDirectory);
 
   // --- The list shown first ----------------------------------------------------------------------
@@ -518,8 +542,6 @@ private:
   void PutSymbolList(CSymbolList* list, int append);
   std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
-  int DoSaveSymbolList(const CString& path);
-  int DoLoadSymbolList(const CString& path);
   void StartTradingLists();
   bool ImportList(const tq::ImportedList& from, tq::ListIndex& index);
   int ImportLists(const std::vector<tq::ImportedList>& lists);
@@ -547,5 +569,6 @@ private:
   tq::GroupStore* groups_;         // owned
   tq::CloudMap* cloudMap_;         // owned
   tq::TradingTable* tradingTable_; // owned; null until Init was told to load trading lists
+  tq::KeptFiles* keptFiles_;       // owned
   std::vector<CString> extraInfo_;
 };

@@ -1,10 +1,11 @@
 // The manager's list file: loading, saving, backup.
 #include <string>
+#include <utility>
 
 #include "groups/TradingFile.h"
-#include "platform/FileAccess.h"
 #include "platform/ModulePath.h"
 #include "platform/services/tqCommon.h"
+#include "symbollist/KeptFiles.h"
 #include "symbollist/LibraryString.h"
 #include "symbollist/ListArray.h"
 #include "symbollist/ListFile.h"
@@ -15,8 +16,12 @@ namespace {
 
 constexpr unsigned kButtonOk = 0;
 
-void ShowSaveFailed() {
+// What a save returns, after the message for one that failed.
+int Report(tq::SaveResult result) {
+  if (result == tq::SaveResult::Saved)
+    return 1;
   tqShowDllMessage(tq::OwnModule(), tq::kMessageSaveFailed, kButtonOk);
+  return 0;
 }
 
 } // namespace
@@ -82,32 +87,29 @@ int CTQSymbolListMgr::CreateEmptySymbolListFile() {
   const CString path = FilePath(tq::kListFileName);
   if (path.IsEmpty())
     return 0;
-  const std::string text = tq::ListFileText(CPtrArray(), defaultIndex_);
-  if (tq::Files().SaveWholeFile(path, text.data(), text.size()) == tq::SaveResult::Saved)
-    return 1;
-  ShowSaveFailed();
-  return 0;
+  return Report(keptFiles_->Save(path, tq::ListFileText(CPtrArray(), defaultIndex_)));
 }
 
 int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
   if (path.IsEmpty())
     return 0;
   const int index = defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_;
-  const std::string text = tq::ListFileText(lists_, index);
-  const tq::SaveResult result = tq::Files().SaveWholeFile(path, text.data(), text.size());
+  std::string text = tq::ListFileText(lists_, index);
+  const tq::SaveResult result = tq::CanBeLoaded(text, lists_.GetSize())
+                                    ? keptFiles_->Save(path, std::move(text))
+                                    : tq::SaveResult::NotOpened;
   if (result != tq::SaveResult::NotOpened)
     defaultIndex_ = index;
-  if (result == tq::SaveResult::Saved)
-    return 1;
-  ShowSaveFailed();
-  return 0;
+  return Report(result);
 }
 
 int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) {
   // Before the file is even opened: a file that cannot be read leaves no lists.
   ClearSymbolList();
-  if (path.IsEmpty())
+  if (path.IsEmpty()) {
+    keptFiles_->ForgetAll();
     return 1;
+  }
   CXMLDOMParser(*this).LoadSymbolList(path);
   return 1;
 }

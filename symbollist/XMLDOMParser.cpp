@@ -1,15 +1,18 @@
 #include "symbollist/XMLDOMParser.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <system_error>
+#include <utility>
 
-#include "platform/FileAccess.h"
 #include "platform/XmlText.h"
+#include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
 #include "symbollist/TQSymbolListMgr.h"
+#include "symbollist/WriteBack.h"
 
 namespace {
 
@@ -28,12 +31,31 @@ bool ReadShort(CString text, int& value) {
   return true;
 }
 
+// As long as the bytes have not become a document.
+tq::LoadOutcome OutcomeOf(tq::ReadResult result) {
+  switch (result) {
+  case tq::ReadResult::Missing:
+    return tq::LoadOutcome::Missing;
+  case tq::ReadResult::TooLarge:
+    return tq::LoadOutcome::TooLarge;
+  case tq::ReadResult::Failed:
+    return tq::LoadOutcome::Unreadable;
+  case tq::ReadResult::Ok:
+    break;
+  }
+  return tq::LoadOutcome::Damaged;
+}
+
 } // namespace
 
 bool CXMLDOMParser::Load(const CString& path) {
-  std::string bytes;
-  return tq::Files().ReadWholeFile(path, tq::XmlSizeLimit, bytes) == tq::ReadResult::Ok &&
-         document_.Load(bytes.data(), bytes.size());
+  const tq::ReadResult result = tq::ReadContents(path, tq::XmlSizeLimit, contents_);
+  outcome_ = OutcomeOf(result);
+  const bool loaded = result == tq::ReadResult::Ok &&
+                      document_.Load(contents_.bytes.data(), contents_.bytes.size());
+  if (loaded)
+    outcome_ = tq::LoadOutcome::Whole;
+  return loaded;
 }
 
 int CXMLDOMParser::GetDefaultIndex(const tq::XmlElement& symbolList) {
@@ -46,22 +68,30 @@ int CXMLDOMParser::GetDefaultIndex(const tq::XmlElement& symbolList) {
 }
 
 void CXMLDOMParser::LoadSymbolList(const CString& path) {
-  if (!Load(path))
-    return;
+  manager_.keptFiles_->BeginLoad();
+  if (Load(path))
+    outcome_ = FillManager();
+  manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
+  if (outcome_ == tq::LoadOutcome::Empty)
+    manager_.SaveSymbolList();
+}
+
+tq::LoadOutcome CXMLDOMParser::FillManager() {
   const tq::XmlElement symbolList = document_.SelectSingle("/Result/SymbolList");
   if (symbolList.IsNull())
-    return;
+    return tq::LoadOutcome::NoListFile;
   // Nothing bounds the index by the number of lists: callers do.
   manager_.SetDefaultIndex(GetDefaultIndex(symbolList));
   const std::vector<tq::XmlElement> elements = document_.Select("/Result/SymbolList/List");
   for (const tq::XmlElement& element : elements) {
     auto list = std::make_unique<CSymbolList>();
     if (list->FillFromElement(element) == 0)
-      return;
+      return tq::LoadOutcome::EndedEarly;
     manager_.AdoptSymbolList(list.release());
   }
-  if (elements.empty())
-    manager_.SaveSymbolList();
+  const std::string text = tq::ListFileText(manager_.lists_, std::max(manager_.defaultIndex_, 0));
+  contents_.returns = tq::ComesBack(contents_.bytes, document_, text);
+  return elements.empty() ? tq::LoadOutcome::Empty : tq::LoadOutcome::Whole;
 }
 
 CString CXMLDOMParser::FormatStatus(int status, const char* body) {

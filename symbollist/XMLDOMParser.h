@@ -3,6 +3,7 @@
 
 #include "platform/XmlDocument.h"
 #include "platform/framework/CString.h"
+#include "symbollist/KeptFiles.h"
 
 class CTQSymbolListMgr;
 
@@ -12,16 +13,19 @@ public:
   explicit CXMLDOMParser(CTQSymbolListMgr& manager) : manager_(manager) {}
 
   // Reads the file through the platform's DOM. True only for a well-formed document; a missing file,
-  // one over the size limit or one that cannot be read is none.
+  // one over the size limit or one that cannot be read is none. Outcome() tells which.
   bool Load(const CString& path);
+  // How the latest load ended.
+  tq::LoadOutcome Outcome() const { return outcome_; }
 
   // The attribute DefaultIdx of the SymbolList element, a 16-bit signed decimal number. 0, with a line
   // in the log, when it is missing or no such number.
   static int GetDefaultIndex(const tq::XmlElement& symbolList);
 
   // Loads the file and appends its lists to the manager, in document order, its default index with
-  // them; nothing happens when there is no document or it is no list file. A list file without any
-  // list is written anew at once, to the working file whichever file it was.
+  // them; nothing happens when there is no document or it is no list file. The manager's knowledge of
+  // its files is told how that ended. A list file without any list is written anew at once, to the
+  // working file whichever file it was.
   void LoadSymbolList(const CString& path);
 
   // Status answers in their two forms: <Result Status='%d'>%s</Result> and
@@ -30,6 +34,10 @@ public:
   static CString FormatStatus(int status, const char* reason, const char* body);
 
 private:
+  tq::LoadOutcome FillManager();
+
   CTQSymbolListMgr& manager_;
   tq::XmlDocument document_;
+  tq::FileContents contents_;
+  tq::LoadOutcome outcome_ = tq::LoadOutcome::NotTried;
 };

@@ -1,8 +1,10 @@
+#include "platform/ReadSteps.h"
 #include "platform/SaveSteps.h"
 #include "platform/SystemFiles.h"
 #include "platform/posix/SystemPath.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <fcntl.h>
 #include <new>
@@ -12,32 +14,56 @@
 namespace tq {
 namespace {
 
-bool ReadExactly(int file, std::string& bytes) {
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t got = ::read(file, bytes.data() + done, bytes.size() - done);
-    if (got < 0 && errno == EINTR)
-      continue;
-    if (got <= 0)
-      return false;
-    done += static_cast<std::size_t>(got);
-  }
-  char more;
-  return ::read(file, &more, 1) == 0;
+constexpr useconds_t ReadPause = 10'000; // microseconds
+
+constexpr std::uint64_t NanosecondsOfASecond = 1'000'000'000;
+
+FileStamp StampOf(const struct stat& info) {
+  FileStamp stamp;
+  stamp.size = static_cast<std::uint64_t>(info.st_size);
+  stamp.modified = static_cast<std::uint64_t>(info.st_mtim.tv_sec) * NanosecondsOfASecond +
+                   static_cast<std::uint64_t>(info.st_mtim.tv_nsec);
+  stamp.volume = info.st_dev;
+  stamp.index = info.st_ino;
+  return stamp;
 }
 
-ReadResult ReadOpenFile(int file, std::size_t limit, std::string& bytes) {
-  struct stat info;
-  if (::fstat(file, &info) != 0 || !S_ISREG(info.st_mode))
-    return ReadResult::Failed;
-  const auto size = static_cast<std::size_t>(info.st_size);
-  if (size > limit)
-    return ReadResult::TooLarge;
-  bytes.resize(size);
-  if (ReadExactly(file, bytes))
-    return ReadResult::Ok;
-  bytes.clear();
-  return ReadResult::Failed;
+class PosixReadSteps : public ReadSteps {
+public:
+  // The file is the caller's.
+  explicit PosixReadSteps(int file) : file_(file) {}
+
+  bool Stamp(FileStamp& stamp) override {
+    struct stat info;
+    if (::fstat(file_, &info) != 0 || !S_ISREG(info.st_mode))
+      return false;
+    stamp = StampOf(info);
+    return true;
+  }
+
+  bool Read(std::string& bytes) override {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+      const ssize_t got =
+          ::pread(file_, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
+      if (got < 0 && errno == EINTR)
+        continue;
+      if (got <= 0)
+        return false;
+      done += static_cast<std::size_t>(got);
+    }
+    return true;
+  }
+
+  void Pause() override { ::usleep(ReadPause); }
+
+private:
+  const int file_;
+};
+
+// Of errno, after a call that takes a path has failed.
+bool IsMissing() {
+  return errno == ENOENT || errno == ENOTDIR;
 }
 
 class PosixFiles : public FileAccess {
@@ -47,8 +73,9 @@ public:
     // Non-blocking, so that a pipe of this name cannot hang the terminal.
     const int file = ::open(SystemPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0)
-      return errno == ENOENT || errno == ENOTDIR ? ReadResult::Missing : ReadResult::Failed;
-    const ReadResult result = ReadOpenFile(file, limit, bytes);
+      return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
+    PosixReadSteps steps(file);
+    const ReadResult result = RunRead(steps, limit, bytes);
     ::close(file);
     return result;
   }
@@ -65,6 +92,17 @@ public:
   bool FileExists(const char* path) override {
     struct stat info;
     return ::stat(SystemPath(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+  }
+
+  FileState StateOf(const char* path, FileStamp& stamp) override {
+    stamp = {};
+    struct stat info;
+    if (::stat(SystemPath(path).c_str(), &info) != 0)
+      return IsMissing() ? FileState::Missing : FileState::Unknown;
+    if (!S_ISREG(info.st_mode))
+      return FileState::Other;
+    stamp = StampOf(info);
+    return FileState::File;
   }
 
   bool RenameFile(const char* from, const char* to) override {

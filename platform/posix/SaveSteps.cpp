@@ -34,7 +34,7 @@ std::string FollowLinks(std::string path) {
 }
 
 // Errors that concern the way of replacing (rights on the directory, a file mounted on its own, a name
-// without room for the suffix), not the disk.
+// without room for the suffix, something under the temporary name that is no file), not the disk.
 StepResult WhyNotReplaced() {
   switch (errno) {
   case EACCES:
@@ -42,7 +42,11 @@ StepResult WhyNotReplaced() {
   case EBUSY:
   case EXDEV:
   case ENAMETOOLONG:
-  case ELOOP: // somebody put a link under the temporary name
+  case ELOOP:  // somebody put a link under the temporary name,
+  case EISDIR: // a directory,
+  case ENXIO:  // a pipe that nobody reads, a socket, a device that is not there,
+  case ENODEV:
+  case ETXTBSY: // a program that runs
     return StepResult::Refused;
   default:
     return StepResult::Failed;
@@ -101,7 +105,8 @@ public:
   void RemoveNewTarget() override;
 
 private:
-  bool LockTemporary(struct stat& locked);
+  bool IsTemporary(const struct stat& open) const;
+  StepResult LockTemporary(struct stat& locked);
   StepResult EmptyTemporary(const struct stat& left);
 
   const std::string target_;
@@ -121,28 +126,42 @@ StepResult PosixSaveSteps::OpenTarget() {
   return existed_ ? StepResult::Ok : StepResult::Failed;
 }
 
+// Whether the file that is open still bears the temporary name.
+bool PosixSaveSteps::IsTemporary(const struct stat& open) const {
+  struct stat named;
+  return ::stat(temporary_.c_str(), &named) == 0 && named.st_ino == open.st_ino &&
+         named.st_dev == open.st_dev;
+}
+
 // The lock keeps a second process from writing into a temporary file that is about to take the
-// target's place; it goes with the process that holds it. False with errno set, EAGAIN when somebody
-// else holds it throughout.
-bool PosixSaveSteps::LockTemporary(struct stat& locked) {
+// target's place; it goes with the process that holds it. Failed when somebody else holds it throughout.
+StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
   for (int i = 0; i < LockTries; ++i) {
     if (!temporaryFile_.Open(temporary_, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK,
                              existed_ ? old_.st_mode & 07777 : NewFileMode))
-      return false;
+      return WhyNotReplaced();
+    if (::fstat(temporaryFile_.Get(), &locked) != 0)
+      return StepResult::Failed;
+    if (!S_ISREG(locked.st_mode))
+      return StepResult::Refused;
+    if (locked.st_nlink > 1 && IsTemporary(locked)) {
+      // No save made this: it is a second name of another file, perhaps of the target itself. The name
+      // goes, the file stays.
+      if (::unlink(temporary_.c_str()) != 0 && errno != ENOENT)
+        return WhyNotReplaced();
+      continue;
+    }
     // A file system without locks is used without.
     if (::flock(temporaryFile_.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) {
-      struct stat named;
       if (::fstat(temporaryFile_.Get(), &locked) != 0)
-        return false;
-      if (::stat(temporary_.c_str(), &named) == 0 && named.st_ino == locked.st_ino &&
-          named.st_dev == locked.st_dev)
-        return true;
+        return StepResult::Failed;
+      if (IsTemporary(locked))
+        return StepResult::Ok;
       continue; // its holder has just renamed or deleted it
     }
     ::usleep(LockPause);
   }
-  errno = EAGAIN;
-  return false;
+  return StepResult::Failed;
 }
 
 // `left` is the temporary file as it was found, perhaps with what a killed save left in it.
@@ -165,12 +184,12 @@ StepResult PosixSaveSteps::OpenTemporary() {
   if (existed_ && !S_ISREG(old_.st_mode))
     return StepResult::Refused;
   struct stat left;
-  if (!LockTemporary(left)) {
-    const StepResult why = WhyNotReplaced();
+  StepResult result = LockTemporary(left);
+  if (result != StepResult::Ok) {
     temporaryFile_.Close();
-    return why;
+    return result;
   }
-  const StepResult result = S_ISREG(left.st_mode) ? EmptyTemporary(left) : StepResult::Refused;
+  result = EmptyTemporary(left);
   if (result != StepResult::Ok)
     RemoveTemporary();
   return result;

@@ -92,7 +92,10 @@ XmlElement& XmlElement::operator=(XmlElement other) noexcept {
 XmlElement::~XmlElement() = default;
 
 bool XmlElement::HasAttributes() const {
-  return node_ != nullptr && NodeOf(node_)->properties != nullptr;
+  const xmlAttr* attribute = node_ != nullptr ? NodeOf(node_)->properties : nullptr;
+  while (attribute != nullptr && IsXmlNamespace(TextOf(attribute->name)))
+    attribute = attribute->next;
+  return attribute != nullptr;
 }
 
 bool XmlElement::Attribute(const char* name, CString& value) const {
@@ -108,7 +111,7 @@ bool XmlElement::Attribute(const char* name, CString& value) const {
 
 bool XmlElement::Name(CString& name) const {
   if (node_ != nullptr)
-    AssignXmlText(TextOf(NodeOf(node_)->name), carried_, name);
+    AssignXmlName(TextOf(NodeOf(node_)->name), carried_, name);
   return node_ != nullptr;
 }
 

@@ -1,29 +1,64 @@
+#include "platform/ReadSteps.h"
 #include "platform/SaveSteps.h"
 #include "platform/SystemFiles.h"
 #include "platform/win32/FileHandle.h"
 #include "platform/win32/SystemPath.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <new>
 
 namespace tq {
 namespace {
 
-ReadResult ReadOpenFile(HANDLE file, std::size_t limit, std::string& bytes) {
-  constexpr LONGLONG oneCall = std::numeric_limits<DWORD>::max() - 1;
-  LARGE_INTEGER size;
-  if (::GetFileType(file) != FILE_TYPE_DISK || ::GetFileSizeEx(file, &size) == 0)
-    return ReadResult::Failed;
-  if (static_cast<std::size_t>(size.QuadPart) > limit || size.QuadPart > oneCall)
-    return ReadResult::TooLarge;
-  bytes.resize(static_cast<std::size_t>(size.QuadPart));
-  DWORD got = 0;
-  DWORD more = 0;
-  char next;
-  if (::ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr) != 0 &&
-      got == bytes.size() && ::ReadFile(file, &next, 1, &more, nullptr) != 0 && more == 0)
-    return ReadResult::Ok;
-  bytes.clear();
-  return ReadResult::Failed;
+constexpr DWORD ReadPause = 10; // milliseconds
+constexpr std::uint64_t OneCall = std::numeric_limits<DWORD>::max() - 1;
+
+std::uint64_t Join(DWORD high, DWORD low) {
+  return static_cast<std::uint64_t>(high) << 32 | low;
+}
+
+FileStamp StampOf(const BY_HANDLE_FILE_INFORMATION& info) {
+  FileStamp stamp;
+  stamp.size = Join(info.nFileSizeHigh, info.nFileSizeLow);
+  stamp.modified = Join(info.ftLastWriteTime.dwHighDateTime, info.ftLastWriteTime.dwLowDateTime);
+  stamp.volume = info.dwVolumeSerialNumber;
+  stamp.index = Join(info.nFileIndexHigh, info.nFileIndexLow);
+  return stamp;
+}
+
+class WindowsReadSteps : public ReadSteps {
+public:
+  // The file is the caller's.
+  explicit WindowsReadSteps(HANDLE file) : file_(file) {}
+
+  bool Stamp(FileStamp& stamp) override {
+    BY_HANDLE_FILE_INFORMATION info;
+    if (::GetFileType(file_) != FILE_TYPE_DISK || ::GetFileInformationByHandle(file_, &info) == 0)
+      return false;
+    stamp = StampOf(info);
+    return true;
+  }
+
+  bool Read(std::string& bytes) override {
+    const LARGE_INTEGER start = {};
+    DWORD got = 0;
+    return ::SetFilePointerEx(file_, start, nullptr, FILE_BEGIN) != 0 &&
+           ::ReadFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr) != 0 &&
+           got == bytes.size();
+  }
+
+  void Pause() override { ::Sleep(ReadPause); }
+
+private:
+  const HANDLE file_;
+};
+
+// Of the system's last error, after a call that takes a path has failed.
+bool IsMissing() {
+  const DWORD error = ::GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
 class WindowsFiles : public FileAccess {
@@ -31,11 +66,10 @@ public:
   ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
     bytes.clear();
     FileHandle file;
-    if (file.Open(SystemPath(path), GENERIC_READ, ShareAll, OPEN_EXISTING))
-      return ReadOpenFile(file.Get(), limit, bytes);
-    const DWORD error = ::GetLastError();
-    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ? ReadResult::Missing
-                                                                          : ReadResult::Failed;
+    if (!file.Open(SystemPath(path), GENERIC_READ, ShareAll, OPEN_EXISTING))
+      return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
+    WindowsReadSteps steps(file.Get());
+    return RunRead(steps, std::min<std::uint64_t>(limit, OneCall), bytes);
   }
 
   SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
@@ -50,6 +84,23 @@ public:
   bool FileExists(const char* path) override {
     const DWORD attributes = ::GetFileAttributesW(SystemPath(path).c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  }
+
+  FileState StateOf(const char* path, FileStamp& stamp) override {
+    stamp = {};
+    FileHandle file; // for its attributes alone, which nobody's sharing forbids
+    if (!file.Open(SystemPath(path), FILE_READ_ATTRIBUTES, ShareAll, OPEN_EXISTING,
+                   FILE_FLAG_BACKUP_SEMANTICS))
+      return IsMissing() ? FileState::Missing : FileState::Unknown;
+    BY_HANDLE_FILE_INFORMATION info;
+    if (::GetFileType(file.Get()) != FILE_TYPE_DISK)
+      return FileState::Other;
+    if (::GetFileInformationByHandle(file.Get(), &info) == 0)
+      return FileState::Unknown;
+    if ((info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+      return FileState::Other;
+    stamp = StampOf(info);
+    return FileState::File;
   }
 
   bool RenameFile(const char* from, const char* to) override {

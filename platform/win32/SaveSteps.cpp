@@ -29,6 +29,24 @@ StepResult WhyNotReplaced() {
   }
 }
 
+// Longer names need a form that not every program of the user opens files by.
+bool IsTooLong(const std::wstring& path) {
+  return path.size() >= MAX_PATH && !path.starts_with(L"\\\\?\\");
+}
+
+// Opens a file that another program may hold for a moment without sharing it, as a second saver or a
+// program that copies it does.
+bool OpenPatiently(FileHandle& file, const std::wstring& path, DWORD disposition) {
+  for (int i = 0; i < SharingTries; ++i) {
+    if (file.Open(path, GENERIC_WRITE, ShareAll, disposition))
+      return true;
+    if (::GetLastError() != ERROR_SHARING_VIOLATION)
+      return false;
+    ::Sleep(SharingPause);
+  }
+  return false;
+}
+
 class WindowsSaveSteps : public SaveSteps {
 public:
   explicit WindowsSaveSteps(const char* path) : target_(SystemPath(path)) {}
@@ -52,6 +70,7 @@ public:
 
 private:
   void FollowLink();
+  StepResult EmptyTemporary(bool found);
   bool SetTargetLength(LONGLONG length);
 
   std::wstring target_;
@@ -64,7 +83,7 @@ private:
 };
 
 StepResult WindowsSaveSteps::OpenTarget() {
-  const bool opened = targetFile_.Open(target_, GENERIC_WRITE, ShareAll, OPEN_EXISTING);
+  const bool opened = OpenPatiently(targetFile_, target_, OPEN_EXISTING);
   if (!opened && ::GetLastError() != ERROR_FILE_NOT_FOUND)
     return StepResult::Failed;
   existed_ = opened;
@@ -95,13 +114,38 @@ void WindowsSaveSteps::FollowLink() {
   target_ = real;
 }
 
+// The temporary file is open; `found` when it was there before, perhaps with what a killed save left in
+// it. Missing: it was none of ours and its name is free now.
+StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
+  BY_HANDLE_FILE_INFORMATION info;
+  if (::GetFileInformationByHandle(temporaryFile_.Get(), &info) == 0)
+    return StepResult::Failed;
+  if (info.nNumberOfLinks > 1 || (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    // A link, or a second name of another file, perhaps of the target itself: the name goes, the file
+    // stays.
+    temporaryFile_.Close();
+    return ::DeleteFileW(temporary_.c_str()) != 0 ? StepResult::Missing : StepResult::Refused;
+  }
+  if (!found)
+    return StepResult::Ok;
+  ::SetFileAttributesW(temporary_.c_str(), FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes));
+  return ::SetEndOfFile(temporaryFile_.Get()) != 0 ? StepResult::Ok : StepResult::Failed;
+}
+
 StepResult WindowsSaveSteps::OpenTemporary() {
+  if (IsTooLong(temporary_))
+    return StepResult::Refused;
   // Shared for deletion alone, so that it can be renamed while it is open: from its creation until it
   // bears the target's name no other save can write into it.
   for (int i = 0; i < SharingTries; ++i) {
-    if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, CREATE_ALWAYS,
-                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes)))
-      return StepResult::Ok;
+    if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, OPEN_ALWAYS,
+                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes) |
+                                FILE_FLAG_OPEN_REPARSE_POINT)) {
+      const StepResult result = EmptyTemporary(::GetLastError() == ERROR_ALREADY_EXISTS);
+      if (result != StepResult::Missing)
+        return result;
+      continue;
+    }
     if (::GetLastError() != ERROR_SHARING_VIOLATION)
       return WhyNotReplaced();
     ::Sleep(SharingPause);
@@ -132,7 +176,7 @@ bool WindowsSaveSteps::SetTargetLength(LONGLONG length) {
 }
 
 bool WindowsSaveSteps::ReserveTarget(std::size_t size) {
-  if (!targetFile_.Open(target_, GENERIC_WRITE, ShareAll, existed_ ? OPEN_EXISTING : CREATE_NEW))
+  if (!OpenPatiently(targetFile_, target_, existed_ ? OPEN_EXISTING : CREATE_NEW))
     return false;
   created_ = !existed_;
   LARGE_INTEGER old;

@@ -74,7 +74,7 @@ bool IsNamed(Node* node, std::wstring_view name) {
 }
 
 bool IsNamespaceDeclaration(std::wstring_view name) {
-  return name == L"xmlns" || name.starts_with(L"xmlns:");
+  return IsXmlNamespace(ToUtf8(name));
 }
 
 void AssignText(const ComText& text, bool carried, CString& value) {
@@ -171,7 +171,7 @@ bool XmlElement::Name(CString& name) const {
   ComText base;
   if (node_ == nullptr || FAILED(NodeOf(node_)->get_baseName(base.Receive())))
     return false;
-  AssignText(base, carried_, name);
+  AssignXmlName(ToUtf8(base.View()), carried_, name);
   return true;
 }
 

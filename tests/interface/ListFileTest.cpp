@@ -269,4 +269,55 @@ TEST_F(ListFileTest, TheOtherLanguagesFileIsReadByItsDeclaredEncoding) {
   EXPECT_EQ(std::string(info.Name), ours);
 }
 
+// Both operations could not be called: they were private.
+TEST_F(ListFileTest, AnyFileIsSavedAndLoadedByItsPath) {
+  WriteWorking(File(1, {kSystem, kUser}));
+  StartWithoutTables();
+  const CString other = directory.Joined("Other.xml").c_str();
+  EXPECT_EQ(manager.DoSaveSymbolList(other), 1);
+  EXPECT_EQ(directory.Read("Other.xml"), File(1, {kSystem, kUser}));
+  manager.ClearSymbolList();
+  manager.SetDefaultIndex(-1);
+  EXPECT_EQ(manager.DoLoadSymbolList(other), 1);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 2);
+  int index = 0;
+  EXPECT_EQ(manager.GetDefaultListIdx(index), 1);
+  EXPECT_EQ(index, 1);
+  EXPECT_EQ(ReadWorking(), File(1, {kSystem, kUser}));
+  EXPECT_TRUE(standin::Messages().empty());
+}
+
+TEST_F(ListFileTest, AnEmptyPathSavesNothingAndLoadsNoLists) {
+  WriteWorking(File(0, {kSystem}));
+  StartWithoutTables();
+  EXPECT_EQ(manager.DoSaveSymbolList(""), 0);
+  EXPECT_TRUE(standin::Messages().empty());
+  EXPECT_EQ(manager.DoLoadSymbolList(""), 1);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 0);
+}
+
+TEST_F(ListFileTest, AFileThatCannotBeOpenedByItsPathIsReportedOnce) {
+  WriteWorking(File(-1, {kSystem}));
+  StartWithoutTables();
+  const CString nowhere = (directory.Path() + "-none\\Other.xml").c_str();
+  EXPECT_EQ(manager.DoSaveSymbolList(nowhere), 0);
+  ASSERT_EQ(standin::Messages().size(), 1u);
+  EXPECT_EQ(standin::Messages().back().id, 48026u);
+  int index = 0;
+  manager.GetDefaultListIdx(index);
+  EXPECT_EQ(index, -1);
+  EXPECT_EQ(manager.DoLoadSymbolList(nowhere), 1);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 0);
+  EXPECT_EQ(standin::Messages().size(), 1u);
+}
+
+TEST_F(ListFileTest, LoadingAnEmptyFileByItsPathRewritesTheWorkingFile) {
+  WriteWorking(File(0, {kSystem}));
+  StartWithoutTables();
+  directory.Write("Other.xml", File(3, {}));
+  EXPECT_EQ(manager.DoLoadSymbolList(directory.Joined("Other.xml").c_str()), 1);
+  EXPECT_EQ(ReadWorking(), File(3, {}));
+  EXPECT_EQ(directory.Read("Other.xml"), File(3, {}));
+}
+
 } // namespace

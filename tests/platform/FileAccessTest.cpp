@@ -65,6 +65,45 @@ TEST(FileAccess, AFileIsNoDirectory) {
   EXPECT_FALSE(Files().DirectoryExists(""));
 }
 
+// A file that could not be asked for, as on a drive that does not answer, counted as missing.
+TEST(FileAccess, OnlyWhatTheSystemCallsMissingIsMissing) {
+  using tq::FileState;
+  const TestDirectory directory("data");
+  const std::string path = directory.File("SymbolList.xml");
+  tq::FileStamp stamp;
+  stamp.size = 7;
+  EXPECT_EQ(FileState::Missing, Files().StateOf(path.c_str(), stamp));
+  EXPECT_EQ(tq::FileStamp(), stamp);
+  const std::string nowhere = directory.Path() + "none\\SymbolList.xml";
+  EXPECT_EQ(FileState::Missing, Files().StateOf(nowhere.c_str(), stamp));
+  EXPECT_EQ(FileState::Other, Files().StateOf(directory.Path().c_str(), stamp));
+  EXPECT_EQ(tq::FileStamp(), stamp);
+  EXPECT_EQ(SaveResult::Saved, Save(directory, "12345"));
+  EXPECT_EQ(FileState::File, Files().StateOf(path.c_str(), stamp));
+  EXPECT_EQ(5u, stamp.size);
+}
+
+TEST(FileAccess, AStampTellsAFileFromWhatItWasAndFromOthers) {
+  const TestDirectory directory("data");
+  const std::string path = directory.File("SymbolList.xml");
+  tq::FileStamp first;
+  tq::FileStamp again;
+  ASSERT_EQ(SaveResult::Saved, Save(directory, "12345"));
+  Files().StateOf(path.c_str(), first);
+  std::string bytes;
+  EXPECT_EQ(ReadResult::Ok, Read(path, bytes));
+  Files().StateOf(path.c_str(), again);
+  EXPECT_EQ(first, again) << "reading changes nothing";
+  ASSERT_EQ(SaveResult::Saved, Save(directory, "54321"));
+  Files().StateOf(path.c_str(), again);
+  EXPECT_NE(first, again) << "another file of the same size";
+  EXPECT_LE(first.modified, again.modified);
+  directory.Write("Other.xml", "12345");
+  tq::FileStamp other;
+  Files().StateOf(directory.File("Other.xml").c_str(), other);
+  EXPECT_NE(other.index, again.index);
+}
+
 TEST(FileAccess, TheLimitIsTheLargestSizeThatIsRead) {
   const TestDirectory directory("data");
   directory.Write("SymbolList.xml", "12345");

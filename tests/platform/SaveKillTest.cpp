@@ -1,6 +1,7 @@
 // The process is killed in the middle of a save: the file is the old one or the new one, and what the
 // kill left behind disturbs no later save.
 #include "platform/FileAccess.h"
+#include "symbollist/KeptFiles.h"
 #include "tests/platform/HookedSteps.h"
 #include "tests/platform/TestSystem.h"
 
@@ -56,6 +57,35 @@ void SaveForEverWithoutFlushing(const std::string& path) {
   }
 }
 
+// Each save of this process, the one of a copy among them, ends at a step.
+class EndingFiles : public tq::FileAccessWrapper {
+public:
+  EndingFiles(bool before, Step end) : FileAccessWrapper(tq::Files()), before_(before), end_(end) {}
+  tq::SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
+    const auto hook = [this](bool now) {
+      return [this, now](Step step) {
+        if (now && step == end_)
+          EndAtOnce();
+        return Fate::Proceed;
+      };
+    };
+    HookedSteps steps(path, hook(before_), hook(!before_));
+    return tq::RunSave(steps, bytes, size);
+  }
+
+private:
+  const bool before_;
+  const Step end_;
+};
+
+// The argument is SaveAndEndAtStep's.
+void KeepAndEndAtStep(const std::string& argument) {
+  EndingFiles files(argument[0] == 'b', static_cast<Step>(argument[1] - 'A'));
+  tq::SetFiles(&files);
+  tq::KeptFiles().MayWrite(argument.c_str() + 2);
+  tq::SetFiles(nullptr);
+}
+
 bool IsWhole(const std::string& bytes) {
   return bytes == Old || bytes == New;
 }
@@ -69,10 +99,10 @@ void ExpectThatSavingGoesOn(const TestDirectory& directory) {
 
 } // namespace
 
-constexpr ChildBody Bodies[] = {SaveAndEndAtStep, SaveForEver};
+constexpr ChildBody Bodies[] = {SaveAndEndAtStep, SaveForEver, KeepAndEndAtStep};
 
 int ChildBodyNumber(ChildBody body) {
-  return body == Bodies[0] ? 0 : 1;
+  return static_cast<int>(std::find(std::begin(Bodies), std::end(Bodies), body) - Bodies);
 }
 
 ChildBody ChildBodyByNumber(int number) {
@@ -96,6 +126,31 @@ TEST(SaveKill, AKillAroundAnyStepLeavesTheOldFileOrTheNew) {
       EXPECT_EQ(replaced ? New.size() : Old.size(), directory.Read(FileName).size());
       EXPECT_TRUE(IsWhole(directory.Read(FileName)));
       ExpectThatSavingGoesOn(directory);
+    }
+  }
+  EXPECT_EQ(12, killed);
+}
+
+// The file that is kept stays as it is, and its copy is whole or not there yet; the next save makes it.
+TEST(SaveKill, AKillAroundAnyStepOfKeepingLosesNothing) {
+  constexpr char copy[] = "SymbolList_Kept.xml";
+  int killed = 0;
+  for (Step step : AllSteps) {
+    if (step > Step::FlushDirectory)
+      break;
+    for (char when : {'b', 'a'}) {
+      SCOPED_TRACE(std::string(1, when) + std::to_string(static_cast<int>(step)));
+      const TestDirectory directory("data");
+      const std::string path = directory.File(FileName);
+      directory.Write(FileName, Old);
+      const char letter = static_cast<char>('A' + static_cast<int>(step));
+      killed += RunChild(KeepAndEndAtStep, std::string{when, letter} + path) ? 0 : 1;
+      EXPECT_EQ(Old, directory.Read(FileName));
+      const std::string kept = directory.Read(copy);
+      EXPECT_TRUE(kept == Old || kept == "(none)") << kept.size();
+      EXPECT_TRUE(tq::KeptFiles().MayWrite(path.c_str()));
+      EXPECT_EQ(Old, directory.Read(copy));
+      EXPECT_EQ("SymbolList.xml SymbolList_Kept.xml", directory.List());
     }
   }
   EXPECT_EQ(12, killed);

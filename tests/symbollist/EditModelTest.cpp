@@ -30,6 +30,13 @@ public:
   bool FileExists(const char* path) override {
     return !bytes.empty() && std::string(path).ends_with("\\SymbolList.xml");
   }
+  tq::FileState StateOf(const char* path, tq::FileStamp& stamp) override {
+    stamp = {};
+    if (!FileExists(path))
+      return tq::FileState::Missing;
+    stamp.size = bytes.size();
+    return tq::FileState::File;
+  }
   bool RenameFile(const char*, const char*) override { return false; }
   std::string bytes;
 };

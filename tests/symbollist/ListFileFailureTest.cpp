@@ -18,6 +18,20 @@ public:
     lastBytes.assign(static_cast<const char*>(bytes), size);
     return result;
   }
+  tq::ReadResult ReadWholeFile(const char* path, size_t limit, std::string& bytes) override {
+    bytes.clear();
+    return unreadable ? tq::ReadResult::Failed
+                      : FileAccessWrapper::ReadWholeFile(path, limit, bytes);
+  }
+  // What a network drive says that does not answer, or a disk with an error.
+  bool FileExists(const char* path) override {
+    return !silent && FileAccessWrapper::FileExists(path);
+  }
+  tq::FileState StateOf(const char* path, tq::FileStamp& stamp) override {
+    return silent ? tq::FileState::Unknown : FileAccessWrapper::StateOf(path, stamp);
+  }
+  bool unreadable = false;
+  bool silent = false;
   tq::SaveResult result = tq::SaveResult::Saved;
   int saves = 0;
   std::string lastPath;
@@ -163,6 +177,79 @@ TEST_F(ListFileFailureTest, AHundredMegabyteFileIsNotReadAndStays) {
   EXPECT_EQ(StartWithoutTables(), 1);
   EXPECT_EQ(manager.GetSymbolListCount(1), 0);
   EXPECT_EQ(ReadWorking().size(), file.size());
+}
+
+// One failing question for the file at a start, and an empty file took the place of all lists.
+TEST_F(ListFileFailureTest, WhereTheSystemDoesNotTellOfAFileNoneIsMade) {
+  WriteWorking(OneList("0"));
+  files.silent = true;
+  EXPECT_EQ(StartWithoutTables(), 1);
+  EXPECT_EQ(files.saves, 0);
+  EXPECT_TRUE(standin::Messages().empty());
+  EXPECT_EQ(manager.GetSymbolListCount(1), 1) << "what can be read is read";
+}
+
+TEST_F(ListFileFailureTest, AFileThatCannotBeReadIsNotWrittenOver) {
+  WriteWorking(OneList("0"));
+  files.unreadable = true;
+  EXPECT_EQ(StartWithoutTables(), 1);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 0);
+  EXPECT_TRUE(standin::Messages().empty());
+  EXPECT_EQ(manager.AddSymbolList("", 0, "added", "2330.TW", 1, 0), 1);
+  ExpectSaveFailedMessage(1);
+  EXPECT_EQ(files.saves, 0);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 1);
+  EXPECT_EQ(ReadWorking(), OneList("0"));
+}
+
+// A refused copy is a file that could not be opened: the default index is not repaired either.
+TEST_F(ListFileFailureTest, ARefusedCopyLeavesTheIndex) {
+  StartOn(OneList("-1"));
+  WriteWorking("damaged");
+  files.result = tq::SaveResult::Failed;
+  EXPECT_EQ(manager.SaveSymbolList(), 0);
+  ExpectSaveFailedMessage(1);
+  EXPECT_EQ(files.lastPath, directory.Joined("SymbolList_Kept.xml"));
+  EXPECT_EQ(files.saves, 1);
+  int index = 0;
+  manager.GetDefaultListIdx(index);
+  EXPECT_EQ(index, -1);
+}
+
+// What a save wrote beyond 64 MiB no load read again.
+TEST_F(ListFileFailureTest, ListsThatWouldNotLoadAgainAreNotSaved) {
+  StartOn(OneList("-1"));
+  CSymbolList* list = nullptr;
+  ASSERT_EQ(manager.GetSymbolList("a", &list, 1), 1);
+  std::string empty;
+  {
+    list->Update1("x");
+    files.saves = 0;
+    ASSERT_EQ(manager.SaveSymbolList(), 1);
+    empty = files.lastBytes;
+  }
+  const size_t most = (size_t{64} << 20) - (empty.size() - 1);
+  list->Update1(std::string(most, 'x').c_str());
+  EXPECT_EQ(manager.SaveSymbolList(), 1);
+  EXPECT_EQ(files.lastBytes.size(), size_t{64} << 20);
+  files.saves = 0;
+  manager.SetDefaultIndex(-1);
+  list->Update1(std::string(most + 1, 'x').c_str());
+  EXPECT_EQ(manager.SaveSymbolList(), 0);
+  ExpectSaveFailedMessage(1);
+  EXPECT_EQ(files.saves, 0);
+  int index = 0;
+  manager.GetDefaultListIdx(index);
+  EXPECT_EQ(index, -1);
+}
+
+TEST_F(ListFileFailureTest, AFileTooLargeToBeLoadedIsKeptBeforeItIsWrittenOver) {
+  const std::string file = OneList("0") + std::string(65u << 20, ' ');
+  StartOn(file);
+  ASSERT_EQ(manager.GetSymbolListCount(1), 0);
+  EXPECT_EQ(manager.SaveSymbolList(), 1);
+  EXPECT_EQ(files.saves, 2);
+  EXPECT_NE(standin::LogLines().back().text.find("too large to be loaded"), std::string::npos);
 }
 
 } // namespace

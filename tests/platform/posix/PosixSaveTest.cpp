@@ -218,6 +218,74 @@ TEST(PosixSave, ALinkUnderTheTemporaryNameIsNotFollowed) {
   EXPECT_EQ("precious", directory.Read("victim.txt"));
 }
 
+// A directory of the temporary file's name, or a pipe, a socket, a device, made each save fail.
+TEST(PosixSave, WhatBearsTheTemporaryNameAndIsNoFileIsPassedBy) {
+  constexpr char temporary[] = "SymbolList.xml.tmp";
+  const auto makers = {
+      +[](const char* path) { ASSERT_EQ(0, ::mkdir(path, 0700)); },
+      +[](const char* path) { ASSERT_EQ(0, ::mkfifo(path, 0600)); },
+      +[](const char* path) { ASSERT_EQ(0, ::mknod(path, S_IFSOCK | 0600, 0)); },
+      +[](const char* path) { ASSERT_EQ(0, ::symlink("/dev/full", path)); },
+  };
+  for (const auto& make : makers) {
+    const TestDirectory directory("data");
+    make(directory.OsFile(temporary).c_str());
+    struct stat before;
+    struct stat after;
+    ASSERT_EQ(0, ::lstat(directory.OsFile(temporary).c_str(), &before));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "first"));
+    EXPECT_EQ("first", directory.Read(Name));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "second, longer"));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "third"));
+    EXPECT_EQ("third", directory.Read(Name));
+    ASSERT_EQ(0, ::lstat(directory.OsFile(temporary).c_str(), &after));
+    EXPECT_EQ(before.st_ino, after.st_ino) << "it is not ours to remove";
+  }
+}
+
+TEST(PosixSave, APipeThatSomebodyReadsUnderTheTemporaryNameGetsNoByte) {
+  const TestDirectory directory("data");
+  const std::string pipe = directory.OsFile("SymbolList.xml.tmp");
+  ASSERT_EQ(0, ::mkfifo(pipe.c_str(), 0600));
+  const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "lists"));
+  EXPECT_EQ("lists", directory.Read(Name));
+  char byte;
+  EXPECT_GE(0, ::read(reader, &byte, 1));
+  ::close(reader);
+  EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+// A second name of one of the user's files, or of the list file itself, was written over.
+TEST(PosixSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
+  const TestDirectory directory("data");
+  directory.Write(Name, "old");
+  directory.Write("victim.txt", "precious, and longer than the lists");
+  for (const char* file : {"victim.txt", Name}) {
+    fs::create_hard_link(directory.OsFile(file), directory.OsFile("SymbolList.xml.tmp"));
+    const auto node = [&](const char* name) {
+      struct stat info;
+      EXPECT_EQ(0, ::stat(directory.OsFile(name).c_str(), &info));
+      return info.st_ino;
+    };
+    const ino_t target = node(Name);
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+    EXPECT_EQ("new", directory.Read(Name));
+    EXPECT_NE(target, node(Name)) << "replaced, not written in place";
+    EXPECT_EQ("precious, and longer than the lists", directory.Read("victim.txt"));
+    EXPECT_EQ("SymbolList.xml victim.txt", directory.List());
+  }
+}
+
+TEST(PosixSave, ALinkThatLeadsInACircleIsNotMissing) {
+  const TestDirectory directory("data");
+  fs::create_symlink(Name, directory.OsFile(Name));
+  tq::FileStamp stamp;
+  EXPECT_EQ(tq::FileState::Unknown, Files().StateOf(directory.File(Name).c_str(), stamp));
+  fs::create_symlink("/dev/null", directory.OsFile("null"));
+  EXPECT_EQ(tq::FileState::Other, Files().StateOf(directory.File("null").c_str(), stamp));
+}
+
 // Directory names are bytes in any encoding, and a UTF-8 name can end in a byte that opens a double-byte
 // character.
 TEST(PosixSave, DirectoryNamesMayBeInAnyEncoding) {

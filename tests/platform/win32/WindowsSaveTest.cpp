@@ -6,6 +6,9 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <thread>
+
 namespace {
 
 using tq::Files;
@@ -89,6 +92,73 @@ TEST(WindowsSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
   EXPECT_EQ(SaveResult::Saved, Save(directory));
   EXPECT_EQ("new", directory.Read(Name));
   EXPECT_EQ(Name, directory.List());
+}
+
+// A target that another program held without share-write for a moment was given up at once.
+TEST(WindowsSave, ATargetHeldWithoutShareWriteIsWaitedFor) {
+  const TestDirectory directory("data");
+  directory.Write(Name, Old);
+  auto holder = std::make_unique<Holder>(directory.File(Name), FILE_SHARE_READ);
+  std::thread releaser([&] {
+    ::Sleep(100);
+    holder.reset();
+  });
+  EXPECT_EQ(SaveResult::Saved, Save(directory));
+  releaser.join();
+  EXPECT_EQ("new", directory.Read(Name));
+}
+
+// A second name of one of the user's files, or of the list file itself, was emptied.
+TEST(WindowsSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
+  const TestDirectory directory("data");
+  directory.Write(Name, Old);
+  directory.Write("victim.txt", "precious");
+  for (const char* file : {"victim.txt", Name}) {
+    ASSERT_TRUE(::CreateHardLinkA(directory.File("SymbolList.xml.tmp").c_str(),
+                                  directory.File(file).c_str(), nullptr));
+    EXPECT_EQ(SaveResult::Saved, Save(directory));
+    EXPECT_EQ("new", directory.Read(Name));
+    EXPECT_EQ("precious", directory.Read("victim.txt"));
+    EXPECT_EQ("SymbolList.xml victim.txt", directory.List());
+  }
+}
+
+TEST(WindowsSave, ADirectoryUnderTheTemporaryNameIsPassedBy) {
+  const TestDirectory directory("data");
+  directory.Write(Name, Old);
+  ASSERT_TRUE(::CreateDirectoryA(directory.File("SymbolList.xml.tmp").c_str(), nullptr));
+  EXPECT_EQ(SaveResult::Saved, Save(directory));
+  EXPECT_EQ("new", directory.Read(Name));
+  ::RemoveDirectoryA(directory.File("SymbolList.xml.tmp").c_str());
+}
+
+// The temporary name is longer than the system takes: saved in place, so that the file stays the same one.
+TEST(WindowsSave, APathWithoutRoomForTheTemporaryNameIsSavedInPlace) {
+  const TestDirectory directory("data");
+  const std::size_t start = directory.File("").size();
+  for (std::size_t length = 252; length < MAX_PATH; ++length) {
+    SCOPED_TRACE(length);
+    const std::string name = std::string(length - start - 4, 'n') + ".xml";
+    const std::string path = directory.File(name);
+    directory.Write(name, Old);
+    tq::FileStamp before;
+    tq::FileStamp after;
+    Files().StateOf(path.c_str(), before);
+    EXPECT_EQ(SaveResult::Saved, Files().SaveWholeFile(path.c_str(), "new", 3));
+    Files().StateOf(path.c_str(), after);
+    EXPECT_EQ("new", directory.Read(name));
+    EXPECT_EQ(before.index == after.index, length + 4 >= MAX_PATH);
+    ::DeleteFileA(path.c_str());
+  }
+}
+
+TEST(WindowsSave, AFileThatSomebodyHoldsIsThereAllTheSame) {
+  const TestDirectory directory("data");
+  directory.Write(Name, Old);
+  const Holder holder(directory.File(Name), 0);
+  tq::FileStamp stamp;
+  EXPECT_EQ(tq::FileState::File, Files().StateOf(directory.File(Name).c_str(), stamp));
+  EXPECT_EQ(Old.size(), stamp.size);
 }
 
 TEST(WindowsSave, AReaderWithoutSharingMakesReadingFail) {

@@ -1,0 +1,159 @@
+#include "symbollist/KeptFiles.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/XmlDocument.h"
+#include "symbollist/KeptCopies.h"
+#include "symbollist/Log.h"
+
+namespace tq {
+namespace {
+
+// Files of other paths, which a terminal may save to, are remembered up to this number.
+constexpr std::size_t kMostFiles = 8;
+
+bool IsStamped(const FileStamp& stamp) {
+  return stamp != FileStamp();
+}
+
+// Such a file has nothing that could be lost.
+bool HoldsNoList(const std::string& bytes) {
+  if (bytes.empty())
+    return true;
+  XmlDocument document;
+  return document.Load(bytes.data(), bytes.size()) &&
+         !document.SelectSingle("/Result/SymbolList").IsNull() &&
+         document.SelectSingle("/Result/SymbolList/List").IsNull();
+}
+
+const char* WhyUnknown(LoadOutcome outcome) {
+  switch (outcome) {
+  case LoadOutcome::TooLarge:
+    return "it was too large to be loaded";
+  case LoadOutcome::Unreadable:
+    return "it could not be read when it was loaded";
+  case LoadOutcome::Damaged:
+    return "it is damaged";
+  case LoadOutcome::NoListFile:
+    return "it is no list file";
+  case LoadOutcome::EndedEarly:
+    return "a bad list ended its load";
+  case LoadOutcome::Whole:
+  case LoadOutcome::Empty:
+  case LoadOutcome::Missing:
+  case LoadOutcome::NotTried:
+    break;
+  }
+  return "the lists in memory do not come from it";
+}
+
+} // namespace
+
+ReadResult ReadContents(const CString& path, std::size_t limit, FileContents& contents) {
+  contents = {};
+  FileStamp after;
+  Files().StateOf(path, contents.stamp);
+  const ReadResult result = Files().ReadWholeFile(path, limit, contents.bytes);
+  Files().StateOf(path, after);
+  if (after != contents.stamp || after.size != contents.bytes.size())
+    contents.stamp = {};
+  return result;
+}
+
+void KeptFiles::ForgetAll() {
+  for (File& file : files_) {
+    file.known = false;
+    file.outcome = LoadOutcome::NotTried;
+    file.contents = {};
+  }
+}
+
+KeptFiles::File& KeptFiles::FileAt(const CString& path) {
+  const auto found = std::find_if(files_.begin(), files_.end(),
+                                  [&](const File& file) { return file.path == path; });
+  if (found != files_.end())
+    return *found;
+  if (files_.size() == kMostFiles)
+    files_.erase(files_.begin());
+  files_.emplace_back().path = path;
+  return files_.back();
+}
+
+void KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents contents) {
+  --loads_;
+  if (outcome != LoadOutcome::Whole)
+    ForgetAll();
+  File& file = FileAt(path);
+  file.outcome = outcome;
+  file.known = outcome == LoadOutcome::Whole || outcome == LoadOutcome::Empty;
+  file.contents = file.known ? std::move(contents) : FileContents();
+}
+
+SaveResult KeptFiles::Save(const CString& path, std::string bytes) {
+  if (!MayWrite(path))
+    return SaveResult::NotOpened;
+  const SaveResult result = Files().SaveWholeFile(path, bytes.data(), bytes.size());
+  if (result == SaveResult::Saved)
+    NoteSaved(path, std::move(bytes));
+  return result;
+}
+
+void KeptFiles::NoteSaved(const CString& path, std::string bytes) {
+  File& file = FileAt(path);
+  file.outcome = LoadOutcome::Whole;
+  file.known = true;
+  file.contents = {};
+  Files().StateOf(path, file.contents.stamp);
+  // Another size is another program's, which was quicker than this question.
+  if (file.contents.stamp.size != bytes.size())
+    file.contents.stamp = {};
+  file.contents.bytes = std::move(bytes);
+}
+
+bool KeptFiles::MayWrite(const CString& path) {
+  FileStamp stamp;
+  const FileState state = Files().StateOf(path, stamp);
+  if (state == FileState::Missing || state == FileState::Other)
+    return true;
+  File& file = FileAt(path);
+  if (Knows(file) && file.contents.returns && stamp == file.contents.stamp && IsStamped(stamp))
+    return true;
+  FileContents now;
+  const ReadResult result = ReadContents(path, kKeptSizeLimit, now);
+  if (result == ReadResult::Missing)
+    return true;
+  if (result != ReadResult::Ok) {
+    LogLine(kLogChange, "List file %s is not saved: what it holds cannot be read and kept",
+            path.GetString());
+    return false;
+  }
+  const bool same = Knows(file) && now.bytes == file.contents.bytes;
+  if (same && file.contents.returns) {
+    file.contents.stamp = now.stamp;
+    return true;
+  }
+  return HoldsNoList(now.bytes) || Keep(file, std::move(now));
+}
+
+// `now` is what the file holds. Once it has been kept it is known.
+bool KeptFiles::Keep(File& file, FileContents now) {
+  const bool same = file.known && now.bytes == file.contents.bytes;
+  const char* why = WhyUnknown(file.outcome);
+  if (Knows(file))
+    why = same ? "it holds what cannot be written back" : "another program has written it";
+  const KeepResult result = KeepCopy(file.path, now.bytes, file.lastCopy);
+  if (result == KeepResult::Failed) {
+    LogLine(kLogChange, "List file %s is not saved: what it holds cannot be kept beside it",
+            file.path.GetString());
+    return false;
+  }
+  if (result == KeepResult::Kept)
+    LogLine(kLogChange, "List file %s is kept as %s: %s", file.path.GetString(),
+            KeptCopyPath(file.path, file.lastCopy).GetString(), why);
+  file.known = true;
+  file.contents = std::move(now);
+  return true;
+}
+
+} // namespace tq
