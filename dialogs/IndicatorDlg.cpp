@@ -53,8 +53,8 @@ bool IndicatorDlg::OnInitDialog() {
   return true;
 }
 
-// The terminal's own market comes first in its tables. A row that the terminal asks for is to be
-// seen.
+// Tables begin with the region that their users ask for most. A row that the terminal asks for is
+// to be seen.
 int IndicatorDlg::StartRegion(int input) const {
   if (input != IndicatorTable::NoRow)
     return table_.RegionOf(input);
