@@ -14,9 +14,9 @@ constexpr int kRegions = 761; // the search for commodities has none: all region
 constexpr int kCategories = 762;
 constexpr int kList = 781;
 
-// The entries for all of them, as in the library's other searches.
-constexpr unsigned kAllRegions = 48008;
-constexpr unsigned kAllCategories = 48009;
+// The first entries of the two boxes.
+constexpr unsigned kAllRegions = 48201;
+constexpr unsigned kAllCategories = 48202;
 
 constexpr unsigned kHoverMilliseconds = 10;
 
@@ -44,20 +44,29 @@ int IndicatorDlg::Search(CString& name, CString& code, CString* market) {
 
 bool IndicatorDlg::OnInitDialog() {
   table_ = IndicatorTable::Read(kind_.table);
-  FillCombo(kRegions, kAllRegions, table_.Regions());
-  FillCombo(kCategories, kAllCategories, table_.Categories());
+  const int input = InputRow();
+  FillCombo(kRegions, kAllRegions, table_.Regions(), StartRegion(input));
+  FillCombo(kCategories, kAllCategories, table_.Categories(), IndicatorTable::All);
   PrepareList();
   FillList();
-  SelectInput();
+  SelectRow(input);
   return true;
 }
 
-void IndicatorDlg::FillCombo(int id, unsigned allEntry, const CStringArray& texts) {
+// Tables begin with the region that their users ask for most. A row that the terminal asks for is
+// to be seen.
+int IndicatorDlg::StartRegion(int input) const {
+  if (input != IndicatorTable::NoRow)
+    return table_.RegionOf(input);
+  return table_.Regions().IsEmpty() ? IndicatorTable::All : IndicatorTable::FirstRegion;
+}
+
+void IndicatorDlg::FillCombo(int id, unsigned allEntry, const CStringArray& texts, int chosen) {
   CComboBox combo(*this, id);
   combo.AddString(ResourceContext::Text(allEntry));
   for (const CString& text : texts)
     combo.AddString(text);
-  combo.SetCurSel(IndicatorTable::All);
+  combo.SetCurSel(chosen);
 }
 
 void IndicatorDlg::PrepareList() {
@@ -73,16 +82,27 @@ void IndicatorDlg::FillList() {
   CListCtrl list(*this, kList);
   const CRedrawLock lock(list);
   list.DeleteAllRows();
-  for (const int row : table_.RowsOf(region, category))
-    list.SetItemData(list.AddRow(table_.Title(row)), row);
+  const std::vector<int> rows = table_.RowsOf(region, category);
+  const std::vector<CString> titles = table_.Titles(rows);
+  for (size_t i = 0; i < rows.size(); ++i)
+    list.SetItemData(list.AddRow(titles[i]), rows[i]);
 }
 
-void IndicatorDlg::SelectInput() {
+int IndicatorDlg::InputRow() const {
   for (const CString& input : inputs_) {
     const int row = table_.Find(input);
-    if (row >= 0) {
-      CListCtrl(*this, kList)
-          .SetCurSel(row); // all rows are shown, so this is its place in the list
+    if (row != IndicatorTable::NoRow)
+      return row;
+  }
+  return IndicatorTable::NoRow;
+}
+
+void IndicatorDlg::SelectRow(int row) {
+  CListCtrl list(*this, kList);
+  const int count = row == IndicatorTable::NoRow ? 0 : list.GetRowCount();
+  for (int i = 0; i < count; ++i) {
+    if (list.GetItemData(i) == row) {
+      list.SetCurSel(i);
       return;
     }
   }

@@ -67,9 +67,29 @@ CString IndicatorTable::Column(int row, int column) const {
   return ColumnOf(rows_[static_cast<size_t>(row)].columns, column);
 }
 
-CString IndicatorTable::Title(int row) const {
+CString IndicatorTable::NameOrCode(int row) const {
   const CString name = Column(row, InfoName);
   return name.IsEmpty() ? Column(row, InfoCode) : name;
+}
+
+std::vector<CString> IndicatorTable::Titles(const std::vector<int>& rows) const {
+  std::vector<CString> titles;
+  titles.reserve(rows.size());
+  CMap<CString, const char*, int, int> counts;
+  for (const int row : rows) {
+    titles.push_back(NameOrCode(row));
+    ++counts[titles.back()];
+  }
+  for (size_t i = 0; i < rows.size(); ++i) {
+    const int region = RegionOf(rows[i]);
+    if (region != All && counts[titles[i]] > 1)
+      titles[i] += "(" + regions_[region - FirstRegion] + ")";
+  }
+  return titles;
+}
+
+int IndicatorTable::RegionOf(int row) const {
+  return rows_[static_cast<size_t>(row)].region;
 }
 
 IndicatorTexts IndicatorTable::Texts(int row) const {
@@ -80,12 +100,12 @@ IndicatorTexts IndicatorTable::Texts(int row) const {
 
 int IndicatorTable::Find(const char* text) const {
   if (text == nullptr || *text == '\0')
-    return -1;
-  int named = -1;
+    return NoRow;
+  int named = NoRow;
   for (int i = 0; i < GetRowCount(); ++i) {
     if (Column(i, InfoCode).CompareNoCase(text) == 0)
       return i;
-    if (named < 0 && Column(i, InfoName).CompareNoCase(text) == 0)
+    if (named == NoRow && Column(i, InfoName).CompareNoCase(text) == 0)
       named = i;
   }
   return named;

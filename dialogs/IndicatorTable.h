@@ -1,9 +1,9 @@
-// The rows of one of the stock library's info tables, as the searches for indicators see them: what there is
-// to choose from, which rows a choice leaves, and the texts of a row. Everything about these searches that
-// needs no window.
+// The rows of one of the stock library's info tables, as the searches for indicators see them: what
+// there is to choose from, which rows a choice leaves, and the texts of a row. Everything about
+// these searches that needs no window.
 //
-// Columns are those of CStockKey::GetInfoArray (InfoColumn). A row may have any number of them; a column that it lacks is
-// an empty text, unless said.
+// Columns are those of CStockKey::GetInfoArray (InfoColumn). A row may have any number of them; a
+// column that it lacks is an empty text, unless said.
 #pragma once
 
 #include <vector>
@@ -31,21 +31,28 @@ public:
 
   // The number that stands for all regions, or all categories. The others count from 1.
   static constexpr int All = 0;
-  // Each text that a row has, once, in the order in which they first come: number 1 is the first of them.
+  static constexpr int FirstRegion = 1;
+  // In place of a row's number where there is none.
+  static constexpr int NoRow = -1;
+  // Each text that a row has, once, in the order in which they first come: number 1 is the first of
+  // them.
   const CStringArray& Regions() const { return regions_; }
   const CStringArray& Categories() const { return categories_; }
-  // The rows of a region and a category, in the order of the table. A row that lacks one of the two, or has
-  // it empty, is only in all of them. Of a number that is not there, there are none.
+  // The rows of a region and a category, in the order of the table. A row that lacks one of the
+  // two, or has it empty, is only in all of them. Of a number that is not there, there are none.
   std::vector<int> RowsOf(int region, int category) const;
+  // What the list shows for these rows, which are there: their names, or the code of a row without
+  // one. Where two of them would be the same, the row's region stands behind it in brackets, if it
+  // has one.
+  std::vector<CString> Titles(const std::vector<int>& rows) const;
 
   int GetRowCount() const { return static_cast<int>(rows_.size()); }
   // These take the number of a row, which is there.
-  // What the list shows: the name, or for a row without one the code.
-  CString Title(int row) const;
   IndicatorTexts Texts(int row) const;
+  int RegionOf(int row) const; // its number; All for a row without one
 
-  // The first row whose code is the text, or else the first with that name; letter case is ignored. -1 for
-  // none, and for an empty text.
+  // The first row whose code is the text, or else the first with that name; letter case is ignored.
+  // NoRow when there is none, and for an empty text.
   int Find(const char* text) const;
 
 private:
@@ -56,6 +63,7 @@ private:
   };
 
   CString Column(int row, int column) const;
+  CString NameOrCode(int row) const;
 
   std::vector<Row> rows_;
   CStringArray regions_;

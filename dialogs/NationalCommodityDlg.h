@@ -1,5 +1,5 @@
-// CNationalCommodityDlg: the search for an international commodity, which the terminal keeps in several
-// tables. It has no choice of regions.
+// CNationalCommodityDlg: the search for an international commodity, which the terminal keeps in
+// several tables. It has no choice of regions.
 #pragma once
 
 #include "dialogs/IndicatorDlg.h"

@@ -5,7 +5,7 @@
 
 class CTqSymbolApp : public CWinApp {
 public:
-  // Destroys the library's logger, which closes its file. Nothing else is left to do: managers belong to the
-  // terminal. Harmless without a logger, and a second time.
+  // Destroys the library's logger, which closes its file. Nothing else is left to do: managers
+  // belong to the terminal. Harmless without a logger, and a second time.
   int ExitInstance() override;
 };

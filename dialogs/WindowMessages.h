@@ -1,7 +1,7 @@
-// The window messages by which the terminal's libraries know each other. Every library of the terminal
-// registers all of them when it is loaded, whether or not it uses them: so their numbers exist, and are the
-// same, before the first window is there. This library's dialogs send none of them: they talk to the terminal
-// through TQSCall alone.
+// The window messages by which the terminal's libraries know each other. Every library of the
+// terminal registers all of them when it is loaded, whether or not it uses them: so their numbers
+// exist, and are the same, before the first window is there. This library's dialogs send none of
+// them: they talk to the terminal through TQSCall alone.
 #pragma once
 
 namespace tq {

@@ -1,4 +1,5 @@
-// The lists that a dialog edits: copies of the manager's, which nobody else sees until they are committed.
+// The lists that a dialog edits: copies of the manager's, which nobody else sees until they are
+// committed.
 #pragma once
 
 #include "platform/framework/CPtrArray.h"

@@ -4,12 +4,12 @@
 // carries the list's name and content, so that it can be shown where the list is not known.
 //
 // Conventions that hold for all of it
-//  1. A value: copies are independent. It may be used on any thread, one object at a time, except that
-//     the operations that take a manager belong to the user-interface thread.
+//  1. A value: copies are independent. It may be used on any thread, one object at a time, except
+//     that the operations that take a manager belong to the user-interface thread.
 //  2. Text is in the process's ANSI code page, of any length.
 //  3. Results are int: non-zero for success or "yes", 0 for failure or "no". Nothing throws, and no
-//     text makes an operation fail loudly: what cannot be read becomes type 1 with an empty id, which
-//     is not valid.
+//     text makes an operation fail loudly: what cannot be read gets an empty id, and mostly type 1,
+//     which is not valid.
 //  4. Of a group with a sub-group the id is both, joined by a comma: "2,01".
 //  5. The text forms are stored by terminals: do not change them.
 #pragma once
@@ -31,8 +31,8 @@ enum ListIDType : int {
   ListIDCloudGroup = 8, // id: a group of group type 201, the cloud lists
 };
 
-// What CListID can do, for those who pass identities on without knowing the class. The slots stand in
-// this order: add none in between. Nothing is deleted through this base.
+// What CListID can do, for those who pass identities on without knowing the class. The slots stand
+// in this order: add none in between. Nothing is deleted through this base.
 class TQSYMBOL_API CListIDUtil {
 public:
   virtual ListIDType GetType() const = 0;
@@ -53,13 +53,14 @@ protected:
   ~CListIDUtil() = default;
 };
 
-class TQSYMBOL_API CListID final : public CListIDUtil {
+// A terminal may derive from it. What a derived class overrides holds for CListIDUtil as well.
+class TQSYMBOL_API CListID : public CListIDUtil {
 public:
   // Type 0, all texts empty.
   CListID();
   CListID(const CListID& other);
   CListID& operator=(const CListID& other);
-  ~CListID();
+  virtual ~CListID();
   // Exchanges all that two of them hold.
   void swap(CListID& other);
 
@@ -81,29 +82,30 @@ public:
   // interface language stands in place of the id.
   CString ToString() const override;
   // The same, and for a user list with name and content ";<name>,<content>" behind it:
-  // "1,A1;Favourites,2330.TW,2317.TW". A name with a comma is cut there when it is read back, and an
-  // id with a semicolon likewise.
+  // "1,A1;Favourites,2330.TW,2317.TW". A name with a comma is cut there when it is read back, and
+  // an id with a semicolon likewise.
   CString ToStringForList() const override;
-  // Reads what ToString writes: one character of type, a comma, the id. A text that reads as the number
-  // 6 need not have the comma in second place: its id begins at the third character all the same.
-  // Other texts give type 1 with an empty id. Name and content stay as they are. Returns whether the
-  // result is valid: a type of 0 to 8 and, for types 1, 2, 3, 7 and 8, an id. Of the other types name
-  // and content are emptied unless both are there.
+  // Reads what ToString writes: one character of type, a comma, the id. A text that reads as the
+  // number 6 need not have the comma in second place: its id begins at the third character all the
+  // same. The digit alone of a type that needs an id (1, 2, 3, 7, 8) gives that type with an empty
+  // id. Other texts give type 1 with an empty id. Name and content stay as they are. Returns
+  // whether the result is valid: a type of 0 to 8 and, for types 1, 2, 3, 7 and 8, an id. Of the
+  // other types name and content are emptied unless both are there.
   int FromString(const CString& text) override;
-  // Reads what ToStringForList writes; the id ends at the first ";". For type 1 name and content are
-  // the texts around the first comma behind it; what is missing is empty. Texts whose first comma is
-  // not in second place give type 1 with an empty id. Returns as FromString does.
+  // Reads what ToStringForList writes; the id ends at the first ";". For type 1 name and content
+  // are the texts around the first comma behind it; what is missing is empty. Texts whose first
+  // comma is not in second place give type 1 with an empty id. Returns as FromString does.
   int FromStringForList(const CString& text) override;
 
-  // Takes over a group of the service, "<group type>,<id>" with one digit of type: 1 becomes type 2,
-  // 3 type 3. Returns 1, or 0 with nothing changed for any other text. An empty id is taken over too,
-  // and 0 returned, as it names no group.
+  // Takes over a group of the service, "<group type>,<id>" with one digit of type: 1 becomes type
+  // 2, 3 type 3. Returns 1, or 0 with nothing changed for any other text. An empty id is taken over
+  // too, and 0 returned, as it names no group.
   int ConvertFromGroupID(const char* groupId);
   // The id up to its first comma, and behind it: the group, and the sub-group or "".
   CString GetGroupID() const;
   CString GetSubGroupID() const;
-  // Whether both are groups (types 2, 3, 7, 8), of one type and with the same group part, letter case
-  // regarded. Other types are no groups, so never.
+  // Whether both are groups (types 2, 3, 7, 8), of one type and with the same group part, letter
+  // case regarded. Other types are no groups, so never.
   bool IsEqualGroup(const CListID& other) const;
 
   // Type and id, letter case regarded; nothing else is compared.
@@ -113,8 +115,8 @@ public:
   // Sets name and content of a user list. 0 for any other type, with nothing changed.
   int SetNameAndList(const CString& name, const CString& list);
   // The same with what the manager's user list of this id has. A name of the manager's goes before
-  // `name`, which stands when the manager does not know the list; the content is then empty. 0, with
-  // nothing changed, without a manager. The manager stays the caller's.
+  // `name`, which stands when the manager does not know the list; the content is then empty. 0,
+  // with nothing changed, without a manager. The manager stays the caller's.
   int SetNameAndList(const CString& name, CTQSymbolListMgr* mgr);
   int SetNameAndList(CTQSymbolListMgr* mgr);
 

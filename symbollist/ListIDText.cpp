@@ -1,4 +1,6 @@
 // The text forms of identities.
+#include <string_view>
+
 #include "symbollist/LibraryString.h"
 #include "symbollist/ListID.h"
 #include "symbollist/ParameterText.h"
@@ -21,13 +23,19 @@ bool HasMarkInPlace(const CString& text) {
   return text.Find(TypeMark) == TypeMarkPosition;
 }
 
+// The digit of a type that needs an id, and nothing behind it.
+bool IsTypeWithoutItsId(const CString& text) {
+  constexpr std::string_view typesWithId = "12378";
+  return text.GetLength() == TypeMarkPosition && typesWithId.find(text[0]) != typesWithId.npos;
+}
+
 struct GroupKind {
   int groupType; // the service's
   ListIDType type;
 };
 
-// The group types of three digits are never met, as one character is read. They are no licence to read
-// more of them: a terminal that stored "201,x" has lived with its being refused.
+// The group types of three digits are never met, as one character is read. They are no licence to
+// read more of them: a terminal that stored "201,x" has lived with its being refused.
 constexpr GroupKind GroupKinds[] = {
     {1, ListIDGroup}, {201, ListIDGroup}, {3, ListIDGroup3}, {101, ListIDGroup101}};
 
@@ -62,9 +70,12 @@ void CListID::ReadTypeAndID(const CString& text) {
 
 int CListID::FromString(const CString& text) {
   Clear();
-  // Holdings are read without the comma in second place: "6" alone and "6x12" are of that type, with
-  // nothing and "12" as their id. The type is the first character's even so, which differs for " 6".
-  if (tq::LeadingInt(tq::ViewOf(text)) == ListIDHoldings || HasMarkInPlace(text)) {
+  // Holdings are read without the comma in second place: "6" alone and "6x12" are of that type,
+  // with nothing and "12" as their id. The type is the first character's even so, which differs for
+  // " 6". "3" alone keeps its type too, so that the terminal can say what is missing; it is not
+  // valid.
+  if (tq::LeadingInt(tq::ViewOf(text)) == ListIDHoldings || HasMarkInPlace(text) ||
+      IsTypeWithoutItsId(text)) {
     ReadTypeAndID(text);
   } else {
     type_ = ListIDUserList;

@@ -5,9 +5,10 @@
 
 namespace tq {
 
-// Takes the first field off `text`: `before` gets the text up to the first `separator` and `text` keeps
-// what is behind it; without a separator `before` gets all of it and `text` becomes empty. By whole
-// characters. An empty `text` leaves both alone.
+// Takes the first field off `text`: `before` gets the text up to the first `separator` and `text`
+// keeps what is behind it; without a separator `before` gets all of it and `text` becomes empty. By
+// whole characters. An empty `text` leaves both alone. Both may be one object, which then keeps
+// what is behind.
 inline void CutBefore(CString& text, char separator, CString& before) {
   if (text.IsEmpty())
     return;
@@ -17,8 +18,9 @@ inline void CutBefore(CString& text, char separator, CString& before) {
     text.Empty();
     return;
   }
+  const CString rest = text.Mid(at + 1);
   before = text.Left(at);
-  text = text.Mid(at + 1);
+  text = rest;
 }
 
 } // namespace tq

@@ -5,7 +5,8 @@
 //  1. Every call comes from the terminal's user-interface thread and is done when it returns. There are
 //     no threads and no locks.
 //  2. Results are int, non-zero for success and 0 for failure or not found, unless an operation says
-//     otherwise. Nothing throws. A null text is taken as an empty one.
+//     otherwise. Nothing throws. A null text is taken as an empty one. An output may be the object that
+//     an input is; when two outputs are one object, it gets the text of the last one.
 //  3. Text is in the process's ANSI code page, Big5 (950) or GB2312 (936). Symbol ids in one string are
 //     joined by "," without blanks.
 //  4. Lists are addressed by a kind (1: the user's lists, 6: lists from trading accounts, 8: cloud
@@ -23,6 +24,8 @@
 //  8. The working list file is "\SymbolList.xml" in the data directory, its backup
 //     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with an
 //     empty one no file is read or written. A save leaves the old file or the new one, never a part.
+//  9. Which operations save, write a line to the log and tell the terminal by TQSCall stands in one
+//     table, docs/notifications.md.
 #pragma once
 
 #include <utility>
@@ -139,7 +142,7 @@ public:
   // Stores the index without any check; -1 means none.
   void SetDefaultIndex(int index);
   // Writes the stored index to `out`, always. Returns 0 when it is negative or there are no lists, else
-  // 1. An index beyond the last list counts as valid: callers bound it.
+  // 1. It may lie beyond the last list: the caller must check the upper bound.
   int GetDefaultListIdx(int& out);
 
   // --- The lists in memory -----------------------------------------------------------------------
@@ -174,9 +177,10 @@ public:
   // symbols are renamed in both. Brings the default index into the range of the new lists (-1 for none).
   // Nothing is saved. Returns 0 when `lists` is null.
   int SetSymbolList(CPtrArray* lists);
-  // Deletes the first list with that id and saves. When it was the default list and the last one, the
-  // index goes one down, to -1 for the only list; in every other case it stays as a number. Returns 0
-  // when there is no such list.
+  // Deletes the first list with that id and saves; no line in the log, and the terminal is not told.
+  // When it was the default list and the last one, the default index goes one down, to -1 for the only
+  // list. In every other case the number stays, so after deleting a list in front of the default list
+  // it means the next list. Returns 0 when there is no such list.
   int DeleteSymbolList(CString id);
   // Replaces, in every list's symbol string, each occurrence of the k-th old text by the k-th new one,
   // for all k in turn: plain text, inside of longer ids too. When a list changed: saves, logs
@@ -189,8 +193,8 @@ public:
   CString AdjustFileName(CString name);
 
   // --- Editing the entries of one list -------------------------------------------------------------
-  // Entries are the list's rows, from 0: ids that the service knows, and headings. Nothing is saved.
-  // 0 for a list or an entry that is not there, else 1.
+  // Entries are the rows of a user list, from 0: ids that the service knows, and headings. Nothing is
+  // saved and the terminal is not told. 0 for a list or an entry that is not there, else 1.
 
   // Takes one entry out.
   int DeleteSymbolList(CString id, int entry);
@@ -267,7 +271,7 @@ public:
   int GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind);
   // Identifier, name and symbol string of the list at `index`.
   int GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols, int kind);
-  // Name of the list with that id; both are one.
+  // Name of the list with that id, emptied when there is none; both are one.
   int GetSymbolListName(const CString& id, CString& name, int kind);
   int GetTQSymbolListName(const char* id, CString& name, int kind);
   // The symbol string of a list as it is stored, unknown ids and headings included, and its tokens
@@ -295,8 +299,9 @@ public:
   // The attribute records of the symbols named (joined by ","), as VLGetBaseAttrs hands them out; the
   // caller releases the array with VLFree.
   int GetBaseAttrs(const char* symbols, BaseAttr** list, int* count);
-  // Looks a typed text up with the service's search. A single result is it; of several, the first whose
-  // exchange code, id or bare code is the text (letter case ignored). Copies its record into `*info`.
+  // Finds the symbol that a typed text means, with the service's search: the only result, or of several
+  // the first whose exchange code, id or bare code is the text (letter case ignored). Copies its record
+  // into `*info` and returns 1; 0, `*info` untouched, when there is none.
   int IsValidSymbol(const CString& text, SymbolInfo* info);
 
   // --- Default exchanges and the order of exchanges --------------------------------------------------
@@ -341,9 +346,9 @@ public:
   // 1 when there is no buffer of all symbols, or an empty one.
   int CheckAllSymbolByExch();
 
-  // Units in one board lot of a symbol: field 176, on exchange TW or else TE for stocks, on TF for
-  // futures and options, for any other kind wherever the id leads. 1000 when it is not known or `tables`
-  // is null.
+  // Units in one board lot of a symbol (field 176): of stocks on exchange TW, or else TE, of futures and
+  // options on TF, of any other kind on the exchange that the id names or that it is found on. 1000 when
+  // it is not known or `tables` is null.
   static int GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind);
   // Symbols of an exchange changed: `count` packed records of 19 bytes (see SymbolTableMgr.h), of which
   // the first 10 count. Every user and trading list that holds one of them asks the service again, with
@@ -369,12 +374,13 @@ public:
   int AddNewGroup(int type);
   // LoadGroupList(type) or, with `reload` false, AddNewGroup(type).
   int AddGroupList(int type, bool reload);
-  // Types 1 to 200 are loaded anew; with any other value, 201 included, all types are. Both are one; the
-  // text is not used.
+  // Loads one type anew if it is 1 to 200, and all types for any other value, 201 included. Both are
+  // one; the text is not used.
   int UpdateGroup(int type, const char* unused);
   int UpdateGroupType(int type);
-  // Removes a type, 1 to 200, and frees its groups. The types behind it answer for their right neighbour
-  // until all types are loaded anew, the last of them as if it were empty. 0 when there was none.
+  // Removes a type, 1 to 200, and frees its groups. 0 when there was none. Load all types anew behind
+  // it: until then each type that stands behind the removed one answers with the groups of the type
+  // next to it, and the last one as if it had none.
   int RemoveGroupList(int type);
   void ClearGroupList();
   // Position of a type among the loaded ones, or -1.
@@ -417,8 +423,9 @@ public:
   int UpdateGroup(const std::vector<CGroupSet>& sets);
   int UpdateGroupName(const std::vector<CGroupSet>& sets);
   int RemoveGroup(const std::vector<CGroupSet>& sets);
-  // The same with the sub-groups of the sets' groups. AddSubGroup adds the pairs of a set when none of
-  // them has a sub-group's id and the last set that named a group replaced nothing.
+  // The same with the sub-groups of the sets' groups. AddSubGroup first does what UpdateSubGroup does.
+  // Unless the last set whose group is there replaced something then, each set whose ids are all new
+  // to its group has its sub-groups added at the group's end.
   int AddSubGroup(const std::vector<CGroupSet>& sets);
   int UpdateSubGroup(const std::vector<CGroupSet>& sets);
   int UpdateSubGroupName(const std::vector<CGroupSet>& sets);
@@ -429,7 +436,8 @@ public:
   // as lists of kind 8, and in the cloud map, from which groups of type 201 take names and members when
   // they are loaded. Symbols are ids joined by ",".
 
-  // Puts a list into the map and, with the same symbols, into the lists of kind 8.
+  // Puts a list into the map and, with the same symbols, into the lists of kind 8. Of one that is there
+  // already the terminal is told as by UpdateCloudSymbolList below.
   void SetCloudeList(const CString& id, const CString& name, const CString& symbols);
   // Puts a list into the map alone.
   void UpdateCloudSymbolList(const CString& id, const CString& name, const CString& symbols);
@@ -463,8 +471,8 @@ public:
   // TQSCall("", -1, 4, "TSSymbolList"). One of the table that is not available any more, or not listed,
   // loses its account lists, and all holdings become empty; an unknown one changes no list.
   void UpdateTSLogin(CString tsId);
-  // An account's holdings changed: the same for this account and "ALLMYSTOCKLISTS". What the service cannot
-  // tell stays as it was; an account that is not in the table has no list.
+  // An account's holdings changed: the same for this account and "ALLMYSTOCKLISTS". What the service
+  // cannot tell stays as it was; an account that is not in the table has no list.
   void UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type);
   // Replaces all lists of kind 6 by one for each trading system of the table.
   void BuildTSListToSymbolList();
@@ -489,7 +497,8 @@ public:
 
   // --- Lists of other products, extra information --------------------------------------------------
   // Adds the lists of an older product's file (docs/import-file.md) behind the user's lists, numbered by
-  // their places in the file. `product` 0 to 2 chooses ids and names. 0 when the file could not be read.
+  // their places in the file, and saves once. Each list is logged and told as by AddSymbolList. `product`
+  // 0 to 2 chooses ids and names. 0 when the file could not be read.
   int DoLoadOtherProductList(CString& path, int product);
   // Imports "\OldOTVList.xml" of the data directory as product 1, once: the file is then renamed to
   // "\Added_OldOTVList.xml". Returns 1 when it was imported.
@@ -504,7 +513,7 @@ public:
   // Each runs one modal dialog on the parent (null: none) and returns its end code: 1 when the user has
   // chosen, 2 when the dialog was cancelled, -1 when it could not be created. Outputs are written when
   // the user has chosen, and otherwise stay as they were. The text `input` is a code or a name: its row is
-  // selected when the dialog opens.
+  // selected when the dialog opens, in its own region.
 
   // The searches in the stock library's tables of economic indicators, international commodities (of the
   // table `type`; `input2` and `input3` count when the inputs before them mean no row) and international

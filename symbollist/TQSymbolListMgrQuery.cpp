@@ -73,11 +73,10 @@ int CTQSymbolListMgr::GetSymbolListName(const CString& id, CString& name, int ki
 }
 
 int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kind) {
+  // The id may be the text of `name` itself.
   const CSymbolList* list = FindList(id, kind);
-  if (list == nullptr)
-    return 0;
-  name = list->GetName();
-  return 1;
+  name = list == nullptr ? CString() : list->GetName();
+  return list != nullptr;
 }
 
 int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& symbols,
@@ -102,8 +101,9 @@ int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& sym
 }
 
 int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind) {
-  out.Empty();
+  // Before `out` is emptied, which may be the id's own object.
   CSymbolList* list = FindList(id, kind);
+  out.Empty();
   if (list == nullptr)
     return 0;
   list->JoinRows(out);

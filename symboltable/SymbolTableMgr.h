@@ -6,9 +6,10 @@
 //  1. All calls come from the terminal's user-interface thread. There is no locking and no thread.
 //  2. Text is in the process's ANSI code page. A "full id" is code, ".", exchange name ("2330.TW");
 //     a "bare" symbol is the code alone.
-//  3. Results are int: non-zero for success or "yes", 0 for failure or "no", unless a count is said.
-//     Nothing throws. A failing operation leaves the tables as they were, except that a table whose
-//     loading fails is left empty; output arguments of a failing look-up are described there.
+//  3. Results are int: non-zero for success or "yes", 0 for failure or "no", unless a count is
+//     said. Nothing throws. A failing operation leaves the tables as they were, except that a table
+//     whose loading fails is left empty; output arguments of a failing look-up are described there.
+//     An output may be the object that an input is.
 //  4. Exchange ids are the service's numbers. Only 1 to 127 can ever be entitled.
 //  5. There are 128 slots for tables. A slot's number says nothing: a table is found by its
 //     exchange's name or id, and when several would do, the one in the lowest slot answers.
@@ -41,7 +42,7 @@ public:
   // ---- Life cycle ----
 
   // Empties all slots and the default list; always 1. Tables that are present are forgotten, not
-  // deleted: an owner who initialises again calls CleanALL first.
+  // deleted, and lost for good: call CleanALL first when there are any.
   int Init();
 
   // Builds and loads one table for each exchange of the service, the i-th in slot i, none of them
@@ -64,9 +65,10 @@ public:
 
   // Brings the set of tables in line with the service's exchange list: tables of exchanges that are
   // gone are deleted, kept tables are not reloaded, tables of new exchanges are loaded. Returns 1
-  // when every exchange of the service's list was looked at, 0 when the list cannot be read or the
-  // free slots ran out first. New exchanges can be left for a later call: see the body's rule for
-  // slots.
+  // when the end of the service's list was reached, 0 when the list cannot be read or the free
+  // slots ran out first. One call may leave a new exchange without a table: when the slot that has
+  // its number in the list is taken, the next free slot is used, and the exchanges whose numbers
+  // lie in between are passed over until the next call.
   int RebuildSymbolTable();
 
   // With `exchId` -1 the same as RebuildSymbolTable(). Otherwise reloads one table, found by
@@ -81,7 +83,8 @@ public:
   // unless it fills the record, blanks on either side ignored. It stays the caller's.
 
   // Adds the service's records of these symbols to the exchange's table. A symbol that is there
-  // already is added again. An exchange without a table gets one and is loaded whole instead.
+  // already is added again, and the first one goes on answering. An exchange without a table gets
+  // one and is loaded whole instead.
   int AddSymbols(int exchId, const char* symbols, int count);
 
   // Takes over the service's new attributes of these symbols. Symbols that are not in the table are
@@ -112,9 +115,9 @@ public:
   // first and is left out leaves its comma behind: "10,3" gives ",TW". Callers rely on that.
   CString MapExchIDsToExchName(const CString& exchIds);
 
-  // Splits a full id into (symbol, exchange name). A suffix after the last "." that names no table,
-  // letter case ignored, is part of the symbol: (id, ""). The exchange name is returned as written
-  // in `id`.
+  // Splits a full id into (symbol, exchange name), the name as it is written in `id`. When what
+  // stands behind the last "." is not the name of a table (letter case ignored), the whole id is
+  // the symbol: (id, "").
   std::pair<CString, CString> GetSymbolAndExchID(const CString& id);
 
   // The bare symbol when the id's suffix is the name (letter case counts) of a default exchange
@@ -122,7 +125,8 @@ public:
   CString HandleDefaultExchangeSymbol(const CString& id);
 
   // How many default exchanges hold `symbol` (letter case counts). `exchName` receives the name of
-  // the last of them in order of preference and is left alone when there is none.
+  // the last of them in order of preference, the least preferred one, and is left alone when there
+  // is none.
   int GetDefaultExchange(const CString& symbol, CString& exchName);
 
   // ---- Symbols ----

@@ -76,13 +76,17 @@ CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {
 }
 
 int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) {
+  const CSymbolTable* last = nullptr;
   int count = 0;
   for (const CSymbolTable* table : slots_->Defaults()) {
     if (table->FindId(tq::ViewOf(symbol)) == nullptr)
       continue;
-    exchName = table->ExchName();
+    last = table;
     ++count;
   }
+  // Only now: it may be the symbol's own object.
+  if (last != nullptr)
+    exchName = last->ExchName();
   return count;
 }
 

@@ -15,7 +15,8 @@ constexpr int kUserLists = 1;
 constexpr int kCloudLists = 8;
 constexpr char kChanged[] = " \xA7\xF3\xB0\xCA SymbolList!!";
 
-// Notes each save among the calls of the services, so that their order can be seen, and refuses when told.
+// Notes each save among the calls of the services, so that their order can be seen, and refuses
+// when told.
 class NotedSaves : public tq::FileAccessWrapper {
 public:
   NotedSaves() : FileAccessWrapper(tq::Files()), before_(tq::SetFiles(this)) {}
@@ -54,8 +55,8 @@ protected:
     files.saves = 0;
   }
 
-  // All that happened since Mark: "saves 1; told 40:ListCntChange; log <line>". Lines of other levels and
-  // of the groups' own changes are left out.
+  // All that happened since Mark: "saves 1; told 40:ListCntChange; log <line>". Lines of other
+  // levels and of the groups' own changes are left out.
   std::string Happened() {
     std::string text = "saves " + std::to_string(files.saves);
     for (std::size_t i = told_; i < standin::Notifications().size(); ++i)
@@ -102,7 +103,7 @@ private:
 
 const std::string kOne = "saves 1; told 40:";
 
-// --- The list editor -----------------------------------------------------------------------------------
+// --- The list editor -----------------------------------------------------------------------------
 
 TEST_F(Commit, AnUntouchedCopyDoesNothing) {
   Start();
@@ -213,7 +214,7 @@ TEST_F(Commit, TheTerminalIsToldAfterTheSave) {
   EXPECT_EQ(files.notifiedAtSave, before);
 }
 
-// --- The cloud list editor ----------------------------------------------------------------------------
+// --- The cloud list editor -----------------------------------------------------------------------
 
 TEST_F(Commit, UntouchedCloudListsDoNothing) {
   StartCloud();
@@ -261,7 +262,7 @@ TEST_F(Commit, MovedSymbolsOfCloudListsAreRenamedInTheMapToo) {
   EXPECT_NE(std::string(manager.GetCloudeList()).find("Value='6488.TE'"), std::string::npos);
 }
 
-// --- Adding symbols ------------------------------------------------------------------------------------
+// --- Adding symbols ------------------------------------------------------------------------------
 
 TEST_F(Commit, AddingNothingIsToldWithCode40Alone) {
   Start();
@@ -305,7 +306,7 @@ TEST_F(Commit, OneSymbolAddedToListsIsToldOnlyWhenItChangedThem) {
   EXPECT_EQ(copy.Lists().GetSize(), 0);
 }
 
-// --- One list ------------------------------------------------------------------------------------------
+// --- One list ------------------------------------------------------------------------------------
 
 TEST_F(Commit, AnEditedListTakesItsPlaceAndIsSavedButNotTold) {
   Start();

@@ -1,5 +1,5 @@
-// Where the controls of each dialog template stand: nothing overlaps or is cut in either language, and
-// tab goes through them as one reads. Everything is in dialog units.
+// Where the controls of each dialog template stand: nothing overlaps or is cut in either language,
+// and tab goes through them as one reads. Everything is in dialog units.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -75,8 +75,8 @@ TEST_P(DialogLayout, HidesOnlyAnEditInAListBox) {
   }
 }
 
-// From left to right in a row of controls, row by row downwards; and where columns stand side by side, down
-// one and then the next.
+// From left to right in a row of controls, row by row downwards; and where columns stand side by
+// side, down one and then the next.
 TEST_P(DialogLayout, TabsAsOneReads) {
   const Controls shown = Shown();
   for (size_t i = 0; i < shown.size(); ++i) {

@@ -1,5 +1,5 @@
-// What stands in each dialog template: the ids, kinds and texts that the dialogs go by. Where it stands is
-// DialogLayoutTest's subject.
+// What stands in each dialog template: the ids, kinds and texts that the dialogs go by. Where it
+// stands is DialogLayoutTest's subject.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -50,7 +50,7 @@ std::string Joined(const CStringArray& texts) {
 
 using Numbers = std::vector<int>;
 
-// --- Regions and categories ---------------------------------------------------------------------------
+// --- Regions and categories ----------------------------------------------------------------------
 
 TEST(IndicatorTable, RegionsStandOnceInTheOrderOfTheTable) {
   EXPECT_EQ(Joined(Sample().Regions()), "Asia|Europe");
@@ -70,7 +70,7 @@ TEST(IndicatorTable, RegionsThatDifferInLetterCaseAreTwo) {
   EXPECT_EQ(Joined(Table({{"asia"}, {"ASIA"}}).Regions()), "asia|ASIA");
 }
 
-// --- Rows of a choice ---------------------------------------------------------------------------------
+// --- Rows of a choice ----------------------------------------------------------------------------
 
 TEST(IndicatorTable, AllOfBothAreAllRows) {
   EXPECT_EQ(Sample().RowsOf(IndicatorTable::All, IndicatorTable::All), (Numbers{0, 1, 2, 3}));
@@ -116,7 +116,48 @@ TEST(IndicatorTable, AnEmptyTableHasNothing) {
   }
 }
 
-// --- The texts of a row, by the number of its columns ---------------------------------------------------
+// --- What the list shows -------------------------------------------------------------------------
+
+std::string Titles(const IndicatorTable& table, const Numbers& rows) {
+  std::string all;
+  for (const CString& title : table.Titles(rows))
+    all += (all.empty() ? "" : "|") + std::string(title);
+  return all;
+}
+
+// Symptom: two rows of one name could not be told apart.
+TEST(IndicatorTable, NamesThatStandTwiceInWhatIsShownCarryTheirRegion) {
+  const IndicatorTable table =
+      Table({{"R1", "C", "A", "N"}, {"R2", "C", "B", "N"}, {"R2", "C", "C", "M"}});
+  EXPECT_EQ(Titles(table, {0, 1, 2}), "N(R1)|N(R2)|M");
+  EXPECT_EQ(Titles(table, {2, 1}), "M|N");
+  EXPECT_EQ(Titles(table, {}), "");
+}
+
+TEST(IndicatorTable, ARowWithoutARegionKeepsItsNameAlone) {
+  const IndicatorTable table = Table({{"R1", "", "A", "N"}, {"", "", "B", "N"}});
+  EXPECT_EQ(Titles(table, {0, 1}), "N(R1)|N");
+}
+
+TEST(IndicatorTable, NamesThatDifferInLetterCaseAreTwo) {
+  EXPECT_EQ(Titles(Table({{"R1", "", "A", "n"}, {"R2", "", "B", "N"}}), {0, 1}), "n|N");
+}
+
+TEST(IndicatorTable, ACodeInPlaceOfANameCountsAsOne) {
+  const IndicatorTable table = Table({{"R1", "", "A"}, {"R2", "", "B", "A"}});
+  EXPECT_EQ(Titles(table, {0, 1}), "A(R1)|A(R2)");
+}
+
+TEST(IndicatorTable, ARowsRegionIsItsNumber) {
+  const IndicatorTable table = Table({{"R1"}, {"R2"}, {""}, {}, {"R1"}});
+  EXPECT_EQ(table.RegionOf(0), 1);
+  EXPECT_EQ(table.RegionOf(1), 2);
+  EXPECT_EQ(table.RegionOf(2), IndicatorTable::All);
+  EXPECT_EQ(table.RegionOf(3), IndicatorTable::All);
+  EXPECT_EQ(table.RegionOf(4), 1);
+}
+
+// --- The texts of a row, by the number of its columns --------------------------------------------
 
 struct RowTexts {
   std::vector<const char*> columns;
@@ -128,7 +169,7 @@ class IndicatorRow : public testing::TestWithParam<RowTexts> {};
 TEST_P(IndicatorRow, GivesItsTexts) {
   const IndicatorTable table = Table({GetParam().columns});
   ASSERT_EQ(table.GetRowCount(), 1);
-  EXPECT_STREQ(table.Title(0), GetParam().title);
+  EXPECT_EQ(Titles(table, {0}), GetParam().title);
   EXPECT_STREQ(table.Texts(0).name, GetParam().name);
   EXPECT_STREQ(table.Texts(0).code, GetParam().code);
   EXPECT_STREQ(table.Texts(0).market, GetParam().market);
@@ -158,7 +199,7 @@ TEST(IndicatorTable, ARowThatIsNotThereHasNoColumns) {
   EXPECT_STREQ(table.Texts(0).name, "Undefined");
 }
 
-// --- The row that a text means --------------------------------------------------------------------------
+// --- The row that a text means -------------------------------------------------------------------
 
 TEST(IndicatorTable, FindsARowByItsCode) {
   EXPECT_EQ(Sample().Find("C3"), 2);

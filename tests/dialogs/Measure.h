@@ -1,7 +1,8 @@
 // The places and texts of a template's controls in numbers, which are dialog units.
 //
-// The rule of thumb for the width of a text in the dialogs' font, whose letters are half as wide as high:
-// 8 for a full-width character, 4 for an ASCII one. A "&" marks the next letter and takes no room.
+// The rule of thumb for the width of a text in the dialogs' font, whose letters are half as wide as
+// high: 8 for a full-width character, 4 for an ASCII one. A "&" marks the next letter and takes no
+// room.
 #pragma once
 
 #include "tests/dialogs/Templates.h"

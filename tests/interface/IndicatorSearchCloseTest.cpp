@@ -1,5 +1,5 @@
-// The searches for indicators: closing them without a choice, the row they open on, and what the terminal
-// does to them from outside.
+// The searches for indicators: closing them without a choice, the row they open on, and what the
+// terminal does to them from outside.
 #include "platform/framework/CListCtrl.h"
 #include "platform/framework/ResourceContext.h"
 #include "tests/interface/IndicatorTest.h"
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(Of, AnyIndicatorSearch,
                                          Search{"Futures", OpenFuture}),
                          NameOf);
 
-// --- Closing without a choice ---------------------------------------------------------------------------
+// --- Closing without a choice --------------------------------------------------------------------
 
 TEST_P(AnyIndicatorSearch, EscapeCancels) {
   EXPECT_EQ(Open([](User& user) {
@@ -81,7 +81,7 @@ TEST_P(AnyIndicatorSearch, AnEmptyTableCanOnlyBeCancelled) {
   Serve(InfoInternationalFutures, {});
   EXPECT_EQ(Open([](User& user) {
               EXPECT_EQ(user.Rows(kList), Lines{});
-              EXPECT_EQ(user.Rows(kCategories), Lines{"全部商品"});
+              EXPECT_EQ(user.Rows(kCategories), Lines{Text("所有類別", "所有类别")});
               user.DoubleClick(kList, 0);
               user.Press(Key::Enter);
               EXPECT_TRUE(user.IsUp());
@@ -106,7 +106,7 @@ TEST_P(AnyIndicatorSearch, TheTerminalIsToldNothing) {
   EXPECT_TRUE(standin::Notifications().empty());
 }
 
-// --- How the list behaves -------------------------------------------------------------------------------
+// --- How the list behaves ------------------------------------------------------------------------
 
 TEST_P(AnyIndicatorSearch, TheListSelectsWholeRowsUnderTheMouseAndHasGridLines) {
   tq::SetModalHandler([](CDialog& dialog) {
@@ -122,14 +122,14 @@ TEST_P(AnyIndicatorSearch, TheListSelectsWholeRowsUnderTheMouseAndHasGridLines) 
 
 TEST_P(AnyIndicatorSearch, ARowUnderTheMouseIsSelected) {
   Open([](User& user) {
-    EXPECT_TRUE(user.Hover(kList, 1));
-    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
+    EXPECT_TRUE(user.Hover(kList, 0));
+    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{0});
     EXPECT_TRUE(user.IsUp());
     user.Press(Key::Escape);
   });
 }
 
-// --- The row that the input means -----------------------------------------------------------------------
+// --- The row that the input means ----------------------------------------------------------------
 
 UserScript ExpectSelected(std::vector<int> rows) {
   return [rows](User& user) {
@@ -143,12 +143,12 @@ TEST_F(IndicatorSearchClose, WithoutAnInputNoRowIsSelected) {
 }
 
 TEST_F(IndicatorSearchClose, TheRowWithTheCodeIsSelected) {
-  SearchEconomic(ExpectSelected({2}), "twexp");
-  SearchFuture(ExpectSelected({1}), "ES");
+  SearchEconomic(ExpectSelected({1}), "twexp");
+  SearchFuture(ExpectSelected({0}), "ES"); // the first of its region, which the search opens on
 }
 
 TEST_F(IndicatorSearchClose, TheRowWithTheNameIsSelected) {
-  SearchEconomic(ExpectSelected({1}), "美國物價");
+  SearchEconomic(ExpectSelected({0}), "美國物價");
 }
 
 TEST_F(IndicatorSearchClose, AnInputThatIsNoRowSelectsNone) {
@@ -163,11 +163,11 @@ TEST_F(IndicatorSearchClose, OfTheCommoditysInputsTheFirstThatIsARowCounts) {
 }
 
 TEST_F(IndicatorSearchClose, TheRowThatIsSelectedAtTheStartIsNotChosen) {
-  EXPECT_EQ(SearchEconomic(ExpectSelected({2}), "TWEXP"), 2);
+  EXPECT_EQ(SearchEconomic(ExpectSelected({1}), "TWEXP"), 2);
   EXPECT_EQ(Outputs(), untouched);
 }
 
-// --- Ended by the terminal ------------------------------------------------------------------------------
+// --- Ended by the terminal -----------------------------------------------------------------------
 
 int endedResult = 0;
 
@@ -214,7 +214,7 @@ TEST_F(IndicatorSearchClose, EndDomodalNeedsAWindowInWhichADialogRuns) {
   EXPECT_EQ(CTQSymbolListMgr::EndDomodal(gone, 1), 0);
 }
 
-// --- The parent -----------------------------------------------------------------------------------------
+// --- The parent ----------------------------------------------------------------------------------
 
 TEST_F(IndicatorSearchClose, TheParentTakesNoInputWhileASearchIsOpen) {
   static bool enabledMeanwhile;
@@ -237,7 +237,7 @@ TEST_F(IndicatorSearchClose, TheParentTakesNoInputWhileASearchIsOpen) {
   EXPECT_TRUE(enabledAfterwards);
 }
 
-// --- The resources in force -----------------------------------------------------------------------------
+// --- The resources in force ----------------------------------------------------------------------
 
 const char* TerminalString(unsigned, int) {
   return "the terminal's";

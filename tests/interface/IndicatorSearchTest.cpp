@@ -6,33 +6,38 @@
 
 namespace {
 
-class IndicatorSearch : public IndicatorTest {};
+class IndicatorSearch : public IndicatorTest {
+protected:
+  // Three rows of one name, of two regions and of none.
+  static void ServeRowsOfOneName(InfoType type) {
+    Serve(type, {{"台灣", "就業", "TWUN", "失業率"},
+                 {"台灣", "貿易", "TWEXP", "出口"},
+                 {"美國", "就業", "USUN", "失業率"},
+                 {"", "就業", "WUN", "失業率"}});
+  }
+};
 
-// --- What is seen when a search opens -------------------------------------------------------------------
+// --- What is seen when a search opens ------------------------------------------------------------
 
 TEST_F(IndicatorSearch, EconomicIndicatorsAtTheStart) {
   SearchEconomic([](User& user) {
     EXPECT_EQ(user.Screen(), Text(R"(=== 經濟指標查詢
 label: 地區:
-combo 761: 所有商品 (focus)
+combo 761: 台灣 (focus)
 label: 類別:
-combo 762: 全部商品
+combo 762: 所有類別
 table 781: 經濟指標名稱
     台灣物價
-    美國物價
     出口
-    USNFP
 )",
                                   R"(=== 经济指标查询
 label: 地区:
-combo 761: 所有商品 (focus)
+combo 761: 台灣 (focus)
 label: 类别:
-combo 762: 全部商品
+combo 762: 所有类别
 table 781: 经济指标名称
     台灣物價
-    美國物價
     出口
-    USNFP
 )"));
     user.Press(Key::Escape);
   });
@@ -42,14 +47,14 @@ TEST_F(IndicatorSearch, CommoditiesAtTheStartHaveNoRegions) {
   SearchCommodity([](User& user) {
     EXPECT_EQ(user.Screen(), Text(R"(=== 國際商品查詢
 label: 類別:
-combo 762: 全部商品 (focus)
+combo 762: 所有類別 (focus)
 table 781: 國際商品指標名稱
     原油
     玉米
 )",
                                   R"(=== 国际商品查询
 label: 类别:
-combo 762: 全部商品 (focus)
+combo 762: 所有类别 (focus)
 table 781: 国际商品指标名称
     原油
     玉米
@@ -62,23 +67,19 @@ TEST_F(IndicatorSearch, FuturesAtTheStart) {
   SearchFuture([](User& user) {
     EXPECT_EQ(user.Screen(), Text(R"(=== 國際期貨查詢
 label: 地區:
-combo 761: 所有商品 (focus)
+combo 761: 日本 (focus)
 label: 類別:
-combo 762: 全部商品
+combo 762: 所有類別
 table 781: 國際期貨指標名稱
     日經
-    標普
-    輕原油
 )",
                                   R"(=== 国际期货查询
 label: 地区:
-combo 761: 所有商品 (focus)
+combo 761: 日本 (focus)
 label: 类别:
-combo 762: 全部商品
+combo 762: 所有类别
 table 781: 国际期货指标名称
     日經
-    標普
-    輕原油
 )"));
     user.Press(Key::Escape);
   });
@@ -86,8 +87,9 @@ table 781: 国际期货指标名称
 
 TEST_F(IndicatorSearch, TheBoxesHaveAnEntryForAllAndEachTextOnce) {
   SearchEconomic([](User& user) {
-    EXPECT_EQ(user.Rows(kRegions), (Lines{"所有商品", "台灣", "美國"}));
-    EXPECT_EQ(user.Rows(kCategories), (Lines{"全部商品", "物價", "貿易", "就業"}));
+    EXPECT_EQ(user.Rows(kRegions), (Lines{Text("所有地區", "所有地区"), "台灣", "美國"}));
+    EXPECT_EQ(user.Rows(kCategories),
+              (Lines{Text("所有類別", "所有类别"), "物價", "貿易", "就業"}));
     user.Press(Key::Escape);
   });
 }
@@ -102,7 +104,7 @@ TEST_F(IndicatorSearch, TheTableIsTheOneThatWasAskedFor) {
   EXPECT_EQ(standin::CountCalls("CStockKey::GetInfoArray"), 1);
 }
 
-// --- Narrowing down -------------------------------------------------------------------------------------
+// --- Narrowing down ------------------------------------------------------------------------------
 
 TEST_F(IndicatorSearch, ARegionLeavesItsRows) {
   SearchEconomic([](User& user) {
@@ -114,6 +116,7 @@ TEST_F(IndicatorSearch, ARegionLeavesItsRows) {
 
 TEST_F(IndicatorSearch, ACategoryLeavesItsRows) {
   SearchEconomic([](User& user) {
+    ShowAllRegions(user);
     EXPECT_TRUE(user.Select(kCategories, "物價"));
     EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "美國物價"}));
     user.Press(Key::Escape);
@@ -157,6 +160,7 @@ TEST_F(IndicatorSearch, TheEntryForAllBringsTheRowsBack) {
 
 TEST_F(IndicatorSearch, NarrowingDownTakesTheSelectionAway) {
   SearchEconomic([](User& user) {
+    ShowAllRegions(user);
     EXPECT_TRUE(user.ClickRow(kList, 1));
     EXPECT_TRUE(user.Select(kRegions, "美國"));
     EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{});
@@ -164,10 +168,75 @@ TEST_F(IndicatorSearch, NarrowingDownTakesTheSelectionAway) {
   });
 }
 
-// --- Choosing -------------------------------------------------------------------------------------------
+// --- The region that a search opens on -----------------------------------------------------------
+
+TEST_F(IndicatorSearch, AnInputOpensTheRegionOfItsRow) {
+  SearchFuture(
+      [](User& user) {
+        EXPECT_EQ(user.Rows(kList), (Lines{"標普", "輕原油"}));
+        EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
+        EXPECT_TRUE(user.DoubleClick(kList, 1));
+      },
+      "CL");
+  EXPECT_EQ(Outputs(), "輕原油/CL/");
+}
+
+TEST_F(IndicatorSearch, AnInputWhoseRowHasNoRegionOpensAllOfThem) {
+  Serve(InfoEconomicIndicators, {{"台灣", "物價", "TWCPI", "台灣物價"}, {"", "", "WGDP", "全球"}});
+  SearchEconomic(
+      [](User& user) {
+        EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "全球"}));
+        EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
+        user.Press(Key::Escape);
+      },
+      "WGDP");
+}
+
+TEST_F(IndicatorSearch, ATableWithoutRegionsOpensOnAllOfThem) {
+  Serve(InfoEconomicIndicators, {{"", "物價", "TWCPI", "物價"}, {"", "貿易", "TWEXP", "出口"}});
+  SearchEconomic([](User& user) {
+    EXPECT_EQ(user.Rows(kRegions), Lines{Text("所有地區", "所有地区")});
+    EXPECT_EQ(user.Rows(kList), (Lines{"物價", "出口"}));
+    user.Press(Key::Escape);
+  });
+}
+
+// --- Rows of one name ----------------------------------------------------------------------------
+
+// Symptom: under all regions the list showed "失業率" twice, and nobody could tell whose was whose.
+TEST_F(IndicatorSearch, RowsOfOneNameShowTheirRegions) {
+  ServeRowsOfOneName(InfoEconomicIndicators);
+  SearchEconomic([](User& user) {
+    ShowAllRegions(user);
+    EXPECT_EQ(user.Rows(kList), (Lines{"失業率(台灣)", "出口", "失業率(美國)", "失業率"}));
+    EXPECT_TRUE(user.DoubleClick(kList, 2));
+  });
+  EXPECT_EQ(Outputs(), "失業率/USUN/was");
+}
+
+TEST_F(IndicatorSearch, ANameThatIsShownOnceStandsAlone) {
+  ServeRowsOfOneName(InfoEconomicIndicators);
+  SearchEconomic([](User& user) {
+    EXPECT_EQ(user.Rows(kList), (Lines{"失業率", "出口"}));
+    EXPECT_TRUE(user.Select(kRegions, "美國"));
+    EXPECT_EQ(user.Rows(kList), Lines{"失業率"});
+    user.Press(Key::Escape);
+  });
+}
+
+TEST_F(IndicatorSearch, CommoditiesOfOneNameShowTheirRegionsToo) {
+  ServeRowsOfOneName(kCommodities);
+  SearchCommodity([](User& user) {
+    EXPECT_EQ(user.Rows(kList), (Lines{"失業率(台灣)", "出口", "失業率(美國)", "失業率"}));
+    EXPECT_TRUE(user.DoubleClick(kList, 0));
+  });
+  EXPECT_EQ(Outputs(), "失業率/TWUN/was");
+}
+
+// --- Choosing ------------------------------------------------------------------------------------
 
 TEST_F(IndicatorSearch, ADoubleClickGivesNameAndCodeOfAnEconomicIndicator) {
-  EXPECT_EQ(SearchEconomic([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 2)); }), 1);
+  EXPECT_EQ(SearchEconomic([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 1)); }), 1);
   EXPECT_EQ(Outputs(), "出口/TWEXP/was");
 }
 
@@ -177,12 +246,17 @@ TEST_F(IndicatorSearch, ADoubleClickGivesNameAndCodeOfACommodity) {
 }
 
 TEST_F(IndicatorSearch, ADoubleClickGivesNameCodeAndMarketOfAFuture) {
-  EXPECT_EQ(SearchFuture([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 1)); }), 1);
+  EXPECT_EQ(SearchFuture([](User& user) {
+              ShowAllRegions(user);
+              EXPECT_TRUE(user.DoubleClick(kList, 1));
+            }),
+            1);
   EXPECT_EQ(Outputs(), "標普/ES/CME");
 }
 
 TEST_F(IndicatorSearch, TheRowThatIsSeenCountsAndNotItsPlaceInTheTable) {
   SearchFuture([](User& user) {
+    ShowAllRegions(user);
     EXPECT_TRUE(user.Select(kCategories, "能源"));
     EXPECT_TRUE(user.DoubleClick(kList, 0));
   });
@@ -190,7 +264,11 @@ TEST_F(IndicatorSearch, TheRowThatIsSeenCountsAndNotItsPlaceInTheTable) {
 }
 
 TEST_F(IndicatorSearch, ARowOfThreeColumnsIsUndefined) {
-  EXPECT_EQ(SearchEconomic([](User& user) { EXPECT_TRUE(user.DoubleClick(kList, 3)); }), 1);
+  EXPECT_EQ(SearchEconomic([](User& user) {
+              ShowAllRegions(user);
+              EXPECT_TRUE(user.DoubleClick(kList, 3));
+            }),
+            1);
   EXPECT_EQ(Outputs(), "Undefined/USNFP/was");
 }
 
@@ -202,6 +280,7 @@ TEST_F(IndicatorSearch, ARowOfNoColumnsIsUndefinedAndHasNoCode) {
 
 TEST_F(IndicatorSearch, ADoubleClickWithSeveralRowsSelectedChoosesNone) {
   const int result = SearchEconomic([](User& user) {
+    ShowAllRegions(user);
     EXPECT_TRUE(user.ClickRow(kList, 0));
     EXPECT_TRUE(user.DoubleClick(kList, 2, Modifier::Shift));
     EXPECT_EQ(user.SelectedRows(kList), (std::vector<int>{0, 1, 2}));
@@ -222,7 +301,8 @@ TEST_F(IndicatorSearch, AClickSelectsAndChoosesNothing) {
   EXPECT_EQ(Outputs(), untouched);
 }
 
-// The rows of the stock library are gone with its next call, which the terminal may make at any time.
+// The rows of the stock library are gone with its next call, which the terminal may make at any
+// time.
 TEST_F(IndicatorSearch, AnotherTableReadMeanwhileChangesNothing) {
   SearchEconomic([](User& user) {
     CPtrArray rows;
@@ -236,14 +316,14 @@ TEST_F(IndicatorSearch, AnotherTableReadMeanwhileChangesNothing) {
 TEST_F(IndicatorSearch, AnOutputMayBeTheInput) {
   name = Ansi("出口");
   WhenDialogOpens([](User& user) {
-    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{2});
+    EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
     EXPECT_TRUE(user.DoubleClick(kList, 0));
   });
   CTQSymbolListMgr::DoSearchFinIndi(nullptr, name, name, code);
   EXPECT_EQ(Outputs(), "台灣物價/TWCPI/was");
 }
 
-// --- Many rows ------------------------------------------------------------------------------------------
+// --- Many rows -----------------------------------------------------------------------------------
 
 TEST_F(IndicatorSearch, TenThousandRowsAreShownNarrowedDownAndChosen) {
   std::vector<Row> rows;
@@ -255,12 +335,13 @@ TEST_F(IndicatorSearch, TenThousandRowsAreShownNarrowedDownAndChosen) {
   Serve(InfoInternationalFutures, rows);
   SearchFuture(
       [](User& user) {
-        EXPECT_EQ(user.Rows(kList).size(), 10000u);
         EXPECT_EQ(user.Rows(kRegions).size(), 101u);
-        EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{9999});
+        EXPECT_EQ(user.Rows(kList).size(), 100u); // those of R99
+        EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{99});
         EXPECT_TRUE(user.Select(kRegions, "R42"));
         EXPECT_EQ(user.Rows(kList).size(), 100u);
-        EXPECT_TRUE(user.Select(kRegions, 0));
+        ShowAllRegions(user);
+        EXPECT_EQ(user.Rows(kList).size(), 10000u);
         EXPECT_TRUE(user.DoubleClick(kList, 9998));
       },
       "ID9999");

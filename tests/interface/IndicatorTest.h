@@ -35,6 +35,8 @@ protected:
   static void Serve(InfoType type, std::vector<Row> rows) {
     standin::SetIndicators(type, std::move(rows));
   }
+  // They open on the first region of their table.
+  static void ShowAllRegions(User& user) { EXPECT_TRUE(user.Select(kRegions, 0)); }
   static CString Ansi(const std::string& utf8) { return standin::ToAnsi(utf8).c_str(); }
   static std::string Text(const char* traditional, const char* simplified) {
     return IsTraditionChinese() != 0 ? traditional : simplified;

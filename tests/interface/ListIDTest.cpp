@@ -1,6 +1,7 @@
 // CListID: identities of symbol sources, as values and as groups.
 #include "symbollist/ListID.h"
 
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -93,6 +94,19 @@ TEST(ListID, TheBaseReachesTheSameObject) {
   base.SetOrgID("O");
   base.SetOrgType(ListIDHoldings);
   EXPECT_EQ(std::string(base.GetOrgID()) + std::to_string(base.GetOrgType()), "O6");
+}
+
+// A terminal's own identity, which answers for the texts with a mark in front.
+struct MarkedListID : CListID {
+  CString ToString() const override { return "*" + CListID::ToString(); }
+};
+
+TEST(ListID, ATerminalMayDeriveFromIt) {
+  const std::unique_ptr<CListID> list = std::make_unique<MarkedListID>();
+  list->SetData(ListIDUserList, "A1", 0);
+  list->SetNameAndList("N", "S");
+  EXPECT_STREQ(list->ToStringForList(), "*1,A1;N,S");
+  EXPECT_STREQ(static_cast<CListIDUtil&>(*list).ToString(), "*1,A1");
 }
 
 TEST(ListID, AGroupsIdIsSplitAtItsFirstComma) {

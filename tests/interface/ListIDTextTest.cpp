@@ -81,8 +81,19 @@ TEST_F(ListIDText, IsReadByTheFirstCharacterAndFromTheThird) {
 }
 
 TEST_F(ListIDText, OtherTextsBecomeTypeOneWithoutIdAndAreNotValid) {
-  for (const char* text : {"", "3", "ABC", ",A", "12,A", "1", "1;A", "\xB3\x5C,A", " 1,A"})
+  for (const char* text : {"", "ABC", ",A", "12,A", "1", "1;A", "\xB3\x5C,A", " 1,A", "33", "3;A"})
     EXPECT_EQ(Read(text), "0 1|||") << text;
+  // The digits of types that need no id, and of none.
+  for (const char* text : {"0", "4", "5", "9", "x", " ", "-"})
+    EXPECT_EQ(Read(text), "0 1|||") << text;
+}
+
+// Symptom: "3", a group whose id was lost, came back as a user list.
+TEST_F(ListIDText, ADigitAloneKeepsATypeThatNeedsAnIdAndIsNotValid) {
+  const Case cases[] = {
+      {"1", "0 1|||"}, {"2", "0 2|||"}, {"3", "0 3|||"}, {"7", "0 7|||"}, {"8", "0 8|||"}};
+  for (const auto& [text, parts] : cases)
+    EXPECT_EQ(Read(text), parts) << text;
 }
 
 TEST_F(ListIDText, ANumberSixNeedsNoComma) {
@@ -151,6 +162,7 @@ TEST_F(ListIDText, TheLongFormOfTypeOneReplacesNameAndContent) {
 TEST_F(ListIDText, OtherTextsGiveTheLongFormNoIdButANameAndContent) {
   EXPECT_EQ(ReadForList("", Make(1, "A", "N", "S")), "0 1|||");
   EXPECT_EQ(ReadForList("6", Make(1, "A", "N", "S")), "0 1|||"); // the short form alone takes it
+  EXPECT_EQ(ReadForList("3", Make(1, "A", "N", "S")), "0 1|||"); // and so this one
   EXPECT_EQ(ReadForList("12,A"), "0 1|||");
   EXPECT_EQ(ReadForList("A;N,S"), "0 1||N|S");
   EXPECT_EQ(ReadForList(";N,S"), "0 1||N|S");

@@ -176,12 +176,23 @@ TEST_F(ManagerLifeTest, UpdateReadsTheFileAgain) {
 }
 
 TEST_F(ManagerLifeTest, ClearingLeavesFileAndIndex) {
+  constexpr int kUser = 1;
+  constexpr int kTrading = 6;
+  constexpr int kCloud = 8;
   WriteWorking(TwoLists());
-  StartWithoutTables();
+  ASSERT_EQ(manager.Init(directory.Path().c_str(), 0, 0, 0, nullptr, 0, 1), 1);
+  ASSERT_EQ(manager.AddCloudSymbolList("c", "C", "2330.TW", 0), 1);
+  const auto counts = [this] {
+    return std::vector<int>{manager.GetSymbolListCount(kUser), manager.GetSymbolListCount(kTrading),
+                            manager.GetSymbolListCount(kCloud)};
+  };
+  ASSERT_EQ(counts(), (std::vector<int>{2, 1, 1})); // of trading accounts: that of all holdings
   manager.ClearSymbolList();
+  EXPECT_EQ(counts(), (std::vector<int>{0, 1, 1}));
   manager.ClearTSSymbolList();
+  EXPECT_EQ(counts(), (std::vector<int>{0, 0, 1}));
   manager.ClearCloudSymbolList();
-  EXPECT_EQ(manager.GetSymbolListCount(1), 0);
+  EXPECT_EQ(counts(), (std::vector<int>{0, 0, 0}));
   EXPECT_EQ(ReadWorking(), TwoLists());
   int index = 0;
   manager.GetDefaultListIdx(index);

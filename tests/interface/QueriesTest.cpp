@@ -20,7 +20,6 @@ TEST_F(QueriesTest, OtherKindsHaveNoListAndNoCount) {
     EXPECT_EQ(manager.GetSymbolListCount(kind), 0);
     EXPECT_EQ(manager.GetTQSymbolListCount(kind), 0);
     EXPECT_EQ(manager.GetSymbolList("a", &list, kind), 0);
-    EXPECT_EQ(manager.GetSymbolListName("a", text, kind), 0);
     EXPECT_EQ(manager.GetTQSymbolCount("a", kind), 0);
     EXPECT_EQ(manager.GetTQSymbolInfo("a", 0, &record, kind), 0);
     EXPECT_EQ(manager.GetSymbolListInfo(0, text, text, text, kind), 0);
@@ -76,6 +75,19 @@ TEST_F(QueriesTest, NamesAreFoundByIdIgnoringLetterCase) {
   EXPECT_EQ(manager.GetTQSymbolListName("aB", name, 1), 1);
   EXPECT_STREQ(name, "\xB3\x5C");
   EXPECT_EQ(manager.GetTQSymbolListName(nullptr, name, 1), 0);
+}
+
+// Symptom: the name of the list before stood in the caller's text, as if the unknown one bore it.
+TEST_F(QueriesTest, TheNameOfAnUnknownListIsEmpty) {
+  StartWith({"a/A/2330.TW"});
+  for (const int kind : {-1, 0, 1, 2, 6, 8, 201}) {
+    CString name = "old";
+    EXPECT_EQ(manager.GetSymbolListName("b", name, kind), 0);
+    EXPECT_STREQ(name, "") << kind;
+    name = "old";
+    EXPECT_EQ(manager.GetTQSymbolListName("b", name, kind), 0);
+    EXPECT_STREQ(name, "") << kind;
+  }
 }
 
 TEST_F(QueriesTest, StoredStringHasUnknownIdsAndTheResolvedOneHasNot) {

@@ -1,17 +1,83 @@
+// The string table as a terminal without resources asks for it.
 #include "dialogs/resources/StringTable.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
+#include "platform/services/tqCommon.h"
+#include "terminal/StandIn.h"
+
 namespace {
 
-TEST(StringTable, EveryEntryHasBothLanguages) {
-  EXPECT_STREQ(tqSymbolString(48026, 1), "存檔失敗");
-  EXPECT_STREQ(tqSymbolString(48026, 0), "存档失败");
+constexpr unsigned kFirst = 48001;
+constexpr unsigned kLast = 48102;
+// The library's own.
+constexpr unsigned kFirstOwn = 48201;
+constexpr unsigned kLastOwn = 48202;
+
+// The numbers between the first and the last that have no entry.
+bool IsGap(unsigned id) {
+  return id == 48024 || id == 48040 || (id > 48050 && id < 48065) || (id > 48065 && id < 48100);
 }
 
-TEST(StringTable, UnknownEntriesHaveNoText) {
+std::set<unsigned> Numbers() {
+  std::set<unsigned> ids;
+  for (unsigned id = kFirst; id <= kLast; ++id) {
+    if (!IsGap(id))
+      ids.insert(id);
+  }
+  for (unsigned id = kFirstOwn; id <= kLastOwn; ++id)
+    ids.insert(id);
+  return ids;
+}
+
+std::string Text(unsigned id, int traditional) {
+  const char* text = tqSymbolString(id, traditional);
+  return text == nullptr ? "" : text;
+}
+
+// The directives of a format, in order: "%s%d".
+std::string Directives(const std::string& text) {
+  std::string directives;
+  for (size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1))
+    directives += text.substr(at, text.find_first_of("sd", at) - at + 1);
+  return directives;
+}
+
+TEST(StringTable, EveryEntryHasBothLanguages) {
+  for (const unsigned id : Numbers()) {
+    EXPECT_NE(Text(id, 1), "") << id;
+    EXPECT_NE(Text(id, 0), "") << id;
+    EXPECT_EQ(Directives(Text(id, 1)), Directives(Text(id, 0))) << id;
+  }
+}
+
+TEST(StringTable, EveryEntryIsInTheCodePageOfItsLanguage) {
+  const int traditional = IsTraditionChinese();
+  for (const unsigned id : Numbers()) {
+    const std::string text = Text(id, traditional);
+    EXPECT_EQ(standin::FromAnsi(standin::ToAnsi(text)), text) << id;
+  }
+}
+
+TEST(StringTable, LanguagesAreNotMixedUp) {
+  EXPECT_STREQ(tqSymbolString(48026, 1), "存檔失敗");
+  EXPECT_STREQ(tqSymbolString(48026, 0), "存档失败");
+  EXPECT_STREQ(tqSymbolString(48201, 1), "所有地區");
+  EXPECT_STREQ(tqSymbolString(48201, 0), "所有地区");
+}
+
+TEST(StringTable, OtherNumbersHaveNoText) {
+  const std::set<unsigned> ids = Numbers();
+  for (unsigned id = kFirst - 100; id <= kLastOwn + 100; ++id) {
+    if (!ids.contains(id)) {
+      EXPECT_EQ(tqSymbolString(id, 1), nullptr) << id;
+      EXPECT_EQ(tqSymbolString(id, 0), nullptr) << id;
+    }
+  }
   EXPECT_EQ(tqSymbolString(0, 1), nullptr);
-  EXPECT_EQ(tqSymbolString(48103, 0), nullptr);
 }
 
 } // namespace

@@ -8,8 +8,8 @@
 #include "terminal/StandIn.h"
 #include "tests/interface/ManagerTest.h"
 
-// T1 holds 2330, 2317, 2454 and TXFL6 in accounts 9801 and 9802 (type 1) and F01 (type 2); T2 holds 1101
-// in account 77.
+// T1 holds 2330, 2317, 2454 and TXFL6 in accounts 9801 and 9802 (type 1) and F01 (type 2); T2 holds
+// 1101 in account 77.
 class TradingTest : public ManagerTest {
 protected:
   static constexpr TqsAccType kStocks = static_cast<TqsAccType>(1);
@@ -73,15 +73,13 @@ protected:
     return shape;
   }
   std::string Symbols(const char* id) {
-    CString symbols = "(no list)";
-    if (manager.GetSymbolListName(id, symbols, 6) != 0)
-      manager.GetSymbolListIDs(6, id, symbols, nullptr);
-    return symbols.GetString();
+    CString symbols;
+    return manager.GetSymbolListIDs(6, id, symbols, nullptr) != 0 ? symbols.GetString()
+                                                                  : "(no list)";
   }
   std::string NameOf(const char* id) {
-    CString name = "(no list)";
-    manager.GetSymbolListName(id, name, 6);
-    return name.GetString();
+    CString name;
+    return manager.GetSymbolListName(id, name, 6) != 0 ? name.GetString() : "(no list)";
   }
 
   static std::string AllHoldings() {

@@ -2,17 +2,29 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 
 namespace {
 
 using tq::UpperBuffer;
 
+// What the numbers of an upper-cased text say of its last bytes, eight at most.
+std::string TailOf(const tq::UpperText& upper) {
+  constexpr std::size_t size = sizeof upper.tail;
+  char bytes[size];
+  std::memcpy(bytes, &upper.tail, size);
+  const std::size_t said = std::min(upper.text.size(), size);
+  return std::string(bytes + size - said, said);
+}
+
 std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
   const tq::UpperText upper = tq::UpperCased(text, buffer);
   const tq::PackedText head = tq::PackHead(upper.text);
   EXPECT_EQ(upper.head.low, head.low);
   EXPECT_EQ(upper.head.high, head.high);
+  EXPECT_TRUE(upper.text.ends_with(TailOf(upper))) << upper.text;
   return upper.text;
 }
 
@@ -35,6 +47,25 @@ TEST(UpperText, LowerLettersAreRaisedAtEveryPosition) {
     UpperBuffer buffer;
     EXPECT_EQ(UpperCased(text, buffer), upper);
     EXPECT_STREQ(text.GetString(), lower.c_str()) << "the buffer was large enough";
+  }
+}
+
+// A short text's last bytes are read together with what lies in front of it in memory.
+TEST(UpperText, TheLastBytesAreThoseOfTheTextAtEveryLength) {
+  const std::string digits = "123456789012345678901234567890";
+  for (std::size_t length = 0; length <= digits.size(); ++length) {
+    for (const char last : {'9', 'Z', 'z'}) {
+      std::string bytes = digits.substr(0, length);
+      if (!bytes.empty())
+        bytes.back() = last;
+      CString text(bytes.c_str());
+      UpperBuffer buffer;
+      const std::string tail = TailOf(tq::UpperCased(text, buffer));
+      std::string expected = bytes.substr(length - std::min<std::size_t>(length, 8));
+      if (last == 'z' && !expected.empty())
+        expected.back() = 'Z';
+      EXPECT_EQ(tail, expected) << bytes;
+    }
   }
 }
 
