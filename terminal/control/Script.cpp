@@ -1,7 +1,9 @@
 #include "terminal/control/Script.h"
 
+#include <functional>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "terminal/StandIn.h"
 #include "terminal/control/Parts.h"
@@ -11,9 +13,15 @@ namespace {
 
 constexpr std::string_view kEveryOperation = "*";
 
+struct Action {
+  std::function<void()> run;
+  bool running = false;
+};
+
 struct Script {
   std::map<std::string, int, std::less<>> countdowns;
   std::set<std::string, std::less<>> always;
+  std::map<std::string, Action, std::less<>> actions;
   std::vector<Call> calls;
   bool recording = true;
 };
@@ -35,11 +43,18 @@ bool CountDown(Script& script, std::string_view operation) {
 // To be called whenever an order came or went.
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
+  actionsOrdered = !TheScript().actions.empty();
+}
+
+Action* FindAction(std::string_view operation) {
+  const auto found = TheScript().actions.find(operation);
+  return found == TheScript().actions.end() ? nullptr : &found->second;
 }
 
 } // namespace
 
 bool failuresOrdered = false;
+bool actionsOrdered = false;
 
 bool Recording() {
   return TheScript().recording;
@@ -71,6 +86,25 @@ void FailCall(std::string_view operation, int n) {
 void FailAlways(std::string_view operation) {
   TheScript().always.emplace(operation);
   NoteOrders();
+}
+
+void OnCall(std::string_view operation, std::function<void()> action) {
+  TheScript().actions.erase(std::string(operation));
+  if (action)
+    TheScript().actions.emplace(operation, Action{std::move(action)});
+  NoteOrders();
+}
+
+void RunAction(std::string_view operation) {
+  Action* const action = FindAction(operation);
+  if (action == nullptr || action->running)
+    return;
+  action->running = true;
+  // A copy, and found again afterwards: the action may take itself back.
+  const std::function<void()> run = action->run;
+  run();
+  if (Action* const after = FindAction(operation))
+    after->running = false;
 }
 
 const std::vector<Call>& Calls() {

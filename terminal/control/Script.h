@@ -1,5 +1,5 @@
-// What every operation of a service does first: let itself be recorded, and ask whether it was told
-// to fail.
+// What every operation of a service does first: let itself be recorded, run what a test wants to happen
+// inside of it, and ask whether it was told to fail.
 #pragma once
 
 #include <string>
@@ -19,6 +19,10 @@ TQSTANDIN_API bool CountAgainstOrders(std::string_view operation);
 inline bool OrderedToFail(std::string_view operation) {
   return failuresOrdered && CountAgainstOrders(operation);
 }
+
+// Whether there are any actions of OnCall; the second runs that of the operation.
+extern TQSTANDIN_API bool actionsOrdered;
+TQSTANDIN_API void RunAction(std::string_view operation);
 
 inline void AppendArgument(std::string& text, const char* argument) {
   text += argument ? argument : "(null)";
@@ -44,6 +48,8 @@ template <class... Arguments> std::string JoinArguments(Arguments... arguments) 
 template <class... Arguments> bool Begin(std::string_view operation, Arguments... arguments) {
   if (Recording())
     Record(operation, JoinArguments(arguments...));
+  if (actionsOrdered)
+    RunAction(operation);
   return !OrderedToFail(operation);
 }
 

@@ -55,6 +55,47 @@ TEST_F(ScriptTest, EveryOperationIsRecordedByItsName) {
   }
 }
 
+TEST_F(ScriptTest, AnActionRunsInsideOfEachCallButNotOfItself) {
+  int runs = 0;
+  standin::OnCall("VLGetExch", [&] {
+    ++runs;
+    EXPECT_EQ(standin::CountCalls("VLGetExch"), 2 * runs - 1) << "recorded before";
+    EXPECT_NE(GetExch(), 0);
+  });
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_EQ(runs, 2);
+  SymbolInfo info;
+  VLGetSymbolInfo("2330.TW", &info);
+  EXPECT_EQ(runs, 2) << "another operation";
+}
+
+TEST_F(ScriptTest, AnActionIsTakenBackByAnEmptyOneByResetAndByItself) {
+  int runs = 0;
+  const auto count = [&] { ++runs; };
+  standin::OnCall("VLGetExch", count);
+  standin::OnCall("VLGetExch", nullptr);
+  GetExch();
+  standin::OnCall("VLGetExch", count);
+  standin::Reset();
+  GetExch();
+  EXPECT_EQ(runs, 0);
+  standin::OnCall("VLGetExch", [&] {
+    standin::OnCall("VLGetExch", nullptr);
+    ++runs;
+  });
+  GetExch();
+  GetExch();
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ScriptTest, AnActionChangesWhatTheCallAnswers) {
+  standin::OnCall("VLGetExch", [] { standin::SetMarket({}); });
+  Exchs exchanges;
+  EXPECT_NE(VLGetExch(&exchanges.list, &exchanges.count, 1), 0);
+  EXPECT_EQ(exchanges.count, 0);
+}
+
 TEST_F(ScriptTest, TheStarCountsTheCallsOfEveryOperation) {
   SymbolInfo info;
   standin::FailCall("*", 2);
