@@ -179,7 +179,7 @@ void MeasureSorting(Report& report, std::size_t repetitions) {
   int count = 0;
   if (manager.GetAllSymbolInfos(&all, &count) == 0 || static_cast<std::size_t>(count) != copied)
     report.Wrong("all symbols by exchange");
-  delete[] all;
+  CTQSymbolListMgr::FreeSymbolInfos(all);
 }
 
 } // namespace bench

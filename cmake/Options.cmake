@@ -30,8 +30,9 @@ if(TQ_SANITIZE)
 endif()
 
 if(WIN32)
-  # A terminal ships our DLLs alone: the compiler's runtime goes into them. Nothing that one module
-  # allocates is freed by another, so each may have its own.
+  # A terminal ships our DLLs alone: the compiler's runtime goes into them. What one module allocates it frees
+  # itself (strings and arrays through tqFramework, objects by virtual destructors, the copy of all symbols by
+  # FreeSymbolInfos), so each may have its own.
   add_link_options(-static-libgcc -static-libstdc++ -Wl,-Bstatic,--whole-archive -lwinpthread
     -Wl,--no-whole-archive,-Bdynamic)
   add_compile_definitions(_WIN32_WINNT=0x0601 WINVER=0x0601 NOMINMAX WIN32_LEAN_AND_MEAN)

@@ -288,13 +288,16 @@ public:
   // All symbols of an exchange, as VLGetSymbolInfos2 hands them out (`subId` -1: the whole exchange);
   // the caller releases the array with VLFree.
   int GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count);
-  // A copy of the buffer of all symbols; the caller deletes it with delete[]. 0, outputs untouched, when
-  // there is none.
+  // A copy of the buffer of all symbols, which the caller releases with FreeSymbolInfos. 0, outputs
+  // untouched, when there is none.
   int GetAllSymbolInfos(SymbolInfo** out, int* count);
+  // Releases what GetAllSymbolInfos handed out; null is allowed. A host with the C runtime that this library
+  // uses may delete it with delete[] as well. In any other host that would corrupt the heap.
+  static void FreeSymbolInfos(SymbolInfo* infos);
   // The record of one symbol. With an exchange suffix it is looked up as it is; a bare code on the
-  // default exchanges in order, the first hit wins. The exchanges' names are taken from `exchanges`
-  // (null: none), else from what the service listed when the default exchanges were set up; a default
-  // exchange in neither is passed over.
+  // default exchanges in order, the first hit wins. The exchanges' names are taken from `exchanges`, or
+  // without any (null, or a count of 0) from what the service listed when the default exchanges were set
+  // up; a default exchange that is not there is passed over.
   int GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount, SymbolInfo* out);
   // The attribute records of the symbols named (joined by ","), as VLGetBaseAttrs hands them out; the
   // caller releases the array with VLFree.
@@ -352,10 +355,12 @@ public:
   static int GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind);
   // Symbols of an exchange changed: `count` packed records of 19 bytes (see SymbolTableMgr.h), of which
   // the first 10 count. Every user and trading list that holds one of them asks the service again, with
-  // ExchSymbolsAdded the cloud lists too. The exchange is not used. Returns 1.
+  // ExchSymbolsAdded the cloud lists too. The exchange is not used. Returns 1. The symbol tables are told
+  // by AddSymbols, UpdateSymbols and RemoveSymbols of GetSymbolTableMgr(), not by this.
   int UpdateExchSymbolChange(int count, const char* symbols, short exch, ExchSymbolUpdateType type);
   // Renames the symbols of an id string, or of a list, that went over from one exchange to another:
-  // see symboltable/MovedSymbols.h. Returns 1 when something changed. Without symbol tables nothing does.
+  // those that the old exchange's table lacks and the new one's has, when the old one's was loaded with
+  // symbols and still has some. Returns 1 when something changed. Without symbol tables nothing does.
   int ReplaceSymbolListExchID(CString& ids, const CString& oldExchange, const CString& newExchange);
   int ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
                               const CString& newExchange);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/Clock.h"
+#include "symboltable/TextPieces.h"
 
 namespace tq {
 namespace {
@@ -17,10 +18,7 @@ constexpr int YearsOfDigit = 10;
 // The whole text as a number; a terminal's own prices have neither sign nor exponent, but a service
 // may write blanks around them.
 std::optional<double> ReadPrice(std::string_view text) {
-  while (!text.empty() && text.front() == ' ')
-    text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ')
-    text.remove_suffix(1);
+  text = Trimmed(text);
   if (text.empty())
     return std::nullopt;
   double price = 0;
@@ -61,6 +59,10 @@ std::string_view WithoutLeadingZeros(std::string_view strike) {
   while (strike.size() > 1 && strike.front() == '0')
     strike.remove_prefix(1);
   return strike;
+}
+
+bool IsPrice(std::string_view text) {
+  return ReadPrice(text).has_value();
 }
 
 PriceOrder ComparePrices(std::string_view price, std::string_view other) {

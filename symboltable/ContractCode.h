@@ -61,6 +61,9 @@ int ExpiryYear(char yearDigit);
 // A strike without its leading zeros; of a strike of zeros one is kept.
 std::string_view WithoutLeadingZeros(std::string_view strike);
 
+// Whether a text is a price: a plain decimal number, blanks around it or not.
+bool IsPrice(std::string_view text);
+
 // How two prices, decimal texts, stand to each other. A text that is no number has no order.
 enum class PriceOrder { Unordered = -1, Equal = 0, Higher = 1, Lower = 2 };
 PriceOrder ComparePrices(std::string_view price, std::string_view other);

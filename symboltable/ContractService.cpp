@@ -1,5 +1,7 @@
 #include "symboltable/ContractService.h"
 
+#include <cstring>
+
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStock.h"
 #include "symboltable/LeadingInt.h"
@@ -10,7 +12,6 @@ namespace tq {
 namespace {
 
 constexpr int AnyExchange = -1;
-constexpr int ServiceIdSize = 20;
 
 constexpr char StrikeKey[] = "V3";     // of ExtAttrWeekly
 constexpr char WeekPrefixKey[] = "V4"; // "W"
@@ -19,10 +20,15 @@ constexpr char WeekNumberKey[] = "V5"; // "2"
 constexpr char NameFirstKey[] = "V5"; // of ExtAttrShortName
 constexpr char NameSecondKey[] = "V6";
 
+// The text of a record, ended by its field when the service left the NUL out.
+CString TextOf(const ExtAttr& record) {
+  return CString(record.text, static_cast<int>(strnlen(record.text, sizeof record.text)));
+}
+
 } // namespace
 
 CString ServiceId(const CString& code) {
-  char id[ServiceIdSize + 1] = {}; // with a NUL behind whatever the service writes
+  char id[VLServiceIdSize + 1] = {}; // with a NUL behind whatever the service writes
   if (!VLGetZUID(AnyExchange, code, id))
     return CString();
   return id;
@@ -34,7 +40,7 @@ int ReadWeek(const CString& serviceId, ContractWeek& week) {
   if (!VLGetExtendAttr(serviceId, ExtAttrWeekly, attributes.List(), attributes.Count()) ||
       attributes.Records().empty())
     return 0;
-  const char* const text = attributes.Records().front().text;
+  const CString text = TextOf(attributes.Records().front());
   CString number;
   CStockKey::ParseExtAttr(text, StrikeKey, week.strike);
   CStockKey::ParseExtAttr(text, WeekPrefixKey, week.text);
@@ -58,7 +64,7 @@ int ReadShortName(const CString& serviceId, CString& name) {
   if (!VLGetExtendAttr(serviceId, ExtAttrShortName, attributes.List(), attributes.Count()) ||
       attributes.Records().size() != 1)
     return 0;
-  const char* const text = attributes.Records().front().text;
+  const CString text = TextOf(attributes.Records().front());
   CString first;
   CString second;
   if (!CStockKey::ParseExtAttr(text, NameFirstKey, first) ||

@@ -1,19 +1,17 @@
 #include "symboltable/DefaultExchangeIds.h"
 
-#include "platform/services/TQSProxy.h"
-#include "symboltable/LeadingInt.h"
+#include "symboltable/LoginNumbers.h"
 
 namespace tq {
 
 bool ReadDefaultExchangeIds(CUIntArray& ids) {
-  char text[TQSUserInfoSize + 1] = {};
-  if (TQSGetUserInfo(LoginInfoDefaultExchanges, text, "") == 0)
+  CUIntArray read;
+  if (!ReadLoginNumbers(LoginInfoDefaultExchanges, [&read](int id) {
+        if (id > 0)
+          read.Add(static_cast<unsigned>(id));
+      }))
     return false;
-  ids.RemoveAll();
-  ForEachNumber(text, [&ids](int, int id) {
-    if (id > 0)
-      ids.Add(static_cast<unsigned>(id));
-  });
+  ids.Copy(read);
   return true;
 }
 

@@ -3,15 +3,11 @@
 #include <cstring>
 
 #include "platform/services/TQSObj.h"
-#include "platform/services/TQSProxy.h"
-#include "symboltable/LeadingInt.h"
+#include "symboltable/LoginNumbers.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
-
-// The services' own sizes.
-constexpr std::size_t UserInfoSize = 256;
-constexpr std::size_t ExtraValueSize = 1024;
 
 std::string_view TextIn(const char* field, std::size_t size) {
   return {field, strnlen(field, size)};
@@ -23,19 +19,31 @@ std::string_view NameOf(const ExchInfo& exchange) {
   return TextIn(exchange.name, sizeof exchange.name);
 }
 
+int ReadExchangeName(int exchId, CString& name) {
+  const ExchangeList exchanges;
+  for (const ExchInfo& exchange : exchanges.Records()) {
+    if (exchange.id != exchId)
+      continue;
+    name = ToCString(NameOf(exchange));
+    return 1;
+  }
+  return 0;
+}
+
+bool IsEntitled(int exchId) {
+  int mask[LastEntitledExchange + 1] = {};
+  return CanBeEntitled(exchId) && ReadEntitlements(mask) && mask[exchId] != 0;
+}
+
 int ReadEntitlements(std::span<int, LastEntitledExchange + 1> mask) {
-  char text[UserInfoSize] = {};
-  if (!TQSGetUserInfo(LoginInfoEntitledExchanges, text, ""))
-    return 0;
-  ForEachNumber(TextIn(text, sizeof text), [&](int, int exchId) {
+  return ReadLoginNumbers(LoginInfoEntitledExchanges, [&](int exchId) {
     if (CanBeEntitled(exchId))
       mask[static_cast<std::size_t>(exchId)] = 1;
   });
-  return 1;
 }
 
 bool HasFullMenu() {
-  char value[ExtraValueSize] = {};
+  char value[TQSExtraValueSize] = {};
   return TQSGetUserExtraValue("", "FullMenuKey", value, static_cast<int>(sizeof value)) != 0 &&
          value[0] != '\0';
 }

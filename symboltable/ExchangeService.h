@@ -39,6 +39,12 @@ private:
 // The name in a record, ended by its field when the service left the NUL out.
 std::string_view NameOf(const ExchInfo& exchange);
 
+// The name of the exchange with that id. 0, with `name` as it was, when the service fails or lists none.
+int ReadExchangeName(int exchId, CString& name);
+
+// Whether the user is entitled to an exchange. The service is asked each time.
+bool IsEntitled(int exchId);
+
 // Sets mask[n] to 1 for each exchange n that the user is entitled to. 0, and nothing set, when the
 // service fails.
 int ReadEntitlements(std::span<int, LastEntitledExchange + 1> mask);

@@ -62,6 +62,7 @@ public:
     ++size_;
   }
   void Remove(Slot slot);
+  bool IsEmpty() const { return size_ == 0; }
 
   // Heap bytes held.
   std::size_t Footprint() const {

@@ -7,9 +7,6 @@
 namespace tq {
 namespace {
 
-bool IsBlank(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
@@ -17,9 +14,8 @@ bool IsDigit(char c) {
 } // namespace
 
 int LeadingInt(std::string_view text) {
+  text = TrimmedFront(text);
   std::size_t at = 0;
-  while (at < text.size() && IsBlank(text[at]))
-    ++at;
   const bool negative = at < text.size() && text[at] == '-';
   if (negative || (at < text.size() && text[at] == '+'))
     ++at;

@@ -3,70 +3,74 @@
 #include <string>
 #include <string_view>
 
-#include "platform/CodePage.h"
-#include "platform/services/tqStock.h"
 #include "symboltable/SymbolTableMgr.h"
+#include "symboltable/TableSlots.h"
+#include "symboltable/TextPieces.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
-namespace {
 
-class Mover {
+class SymbolMover {
 public:
-  Mover(CSymbolTableMgr& tables, const CString& from, const CString& to)
-      : tables_(tables), from_(from), to_(to) {}
+  SymbolMover(const CSymbolTableMgr& tables, const CString& from, const CString& to)
+      : from_(TableOf(tables, from)), to_(TableOf(tables, to)), oldSuffix_(ViewOf(from)) {}
 
-  // Whether `token` is to become `Moved()`. The strings of the questions keep their room from one token to
-  // the next.
-  bool Moves(std::string_view token) {
-    const size_t dot = token.rfind('.');
-    if (dot == std::string_view::npos || dot == 0 || token.find(':', 1) != std::string_view::npos)
-      return false;
-    const std::string_view suffix = token.substr(dot + 1);
-    if (!EqualNoCase(suffix.data(), suffix.size(), from_, static_cast<size_t>(from_.GetLength())))
-      return false;
-    id_.SetString(token.data(), static_cast<int>(token.size()));
-    if (IsListed())
-      return false;
-    id_.SetString(token.data(), static_cast<int>(dot + 1));
-    id_ += to_;
-    return IsListed();
+  // Whether any symbol can move at all.
+  bool Knows() const { return from_ != nullptr && from_->IsWhole() && to_ != nullptr; }
+
+  // Where in `token` the suffix starts that is to be the new exchange's; npos when the token stays. The
+  // string of the question keeps its room from one token to the next.
+  std::size_t SuffixToMove(std::string_view token) {
+    const std::size_t dot = token.rfind('.');
+    if (dot == std::string_view::npos || dot == 0 || token.find(':', 1) != std::string_view::npos ||
+        !EqualsNoCase(token.substr(dot + 1), oldSuffix_))
+      return std::string_view::npos;
+    symbol_.SetString(token.data(), static_cast<int>(dot));
+    UpperBuffer buffer;
+    const std::string_view symbol = UpperCased(symbol_, buffer).text;
+    if (IsListed(*from_, symbol) || !IsListed(*to_, symbol))
+      return std::string_view::npos;
+    return dot + 1;
   }
-
-  const CString& Moved() const { return id_; }
 
 private:
-  bool IsListed() {
-    return tables_.LookUpSymbolGetString(FieldSymbolName, id_, CString(), name_) != 0;
+  // Look-ups know a table by its name in upper case.
+  static const CSymbolTable* TableOf(const CSymbolTableMgr& tables, CString exchName) {
+    exchName.MakeUpper();
+    const int slot = tables.slots_->FindName(ViewOf(exchName));
+    return slot == TableSlots::None ? nullptr : tables.slots_->At(slot);
+  }
+  static bool IsListed(const CSymbolTable& table, std::string_view symbol) {
+    return table.Find(MakeKey(symbol)) != CSymbolTable::NoSymbol;
   }
 
-  CSymbolTableMgr& tables_;
-  const CString& from_;
-  const CString& to_;
-  CString id_;
-  CString name_;
+  const CSymbolTable* from_;
+  const CSymbolTable* to_;
+  std::string_view oldSuffix_;
+  CString symbol_;
 };
-
-} // namespace
 
 int MoveSymbols(CSymbolTableMgr& tables, CString& ids, const CString& oldExchange,
                 const CString& newExchange) {
   if (oldExchange.IsEmpty() || newExchange.IsEmpty())
     return 0;
-  Mover mover(tables, oldExchange, newExchange);
-  const std::string_view text(ids.GetString(), static_cast<size_t>(ids.GetLength()));
+  SymbolMover mover(tables, oldExchange, newExchange);
+  if (!mover.Knows())
+    return 0;
+  const std::string_view text = ViewOf(ids);
   std::string result;
-  size_t copied = 0; // what of the text stands in the result
+  std::size_t copied = 0; // what of the text stands in the result
   int moved = 0;
-  for (size_t at = 0; at < text.size();) {
-    const size_t end = std::min(text.find(',', at), text.size());
-    if (mover.Moves(text.substr(at, end - at))) {
-      result.append(text, copied, at - copied);
-      result.append(mover.Moved().GetString(), static_cast<size_t>(mover.Moved().GetLength()));
-      copied = end;
-      ++moved;
-    }
-    at = end + 1;
-  }
+  ForEachPiece(text, [&](int, std::string_view piece) {
+    const std::string_view token = Trimmed(piece);
+    const std::size_t suffix = mover.SuffixToMove(token);
+    if (suffix == std::string_view::npos)
+      return;
+    const auto at = static_cast<std::size_t>(token.data() - text.data());
+    result.append(text, copied, at + suffix - copied).append(ViewOf(newExchange));
+    copied = at + token.size();
+    ++moved;
+  });
   if (moved == 0)
     return 0;
   result.append(text, copied);

@@ -71,9 +71,10 @@ public:
   // opposite ("B" for anything but "B").
   //
   // With `check` non-zero the legs must make a combination as the exchange takes it (ChkSpread,
-  // ChkStraddle_Strangle, ChkReversals_Conversion). With 0 they are completed by their lengths alone:
-  // a first text without a letter before its last character takes over the second's last two; a
-  // second of 7 characters takes over the first three of the first leg, any other the first eight.
+  // ChkStraddle_Strangle, ChkReversals_Conversion). With 0 they are completed by their lengths alone: a
+  // first text whose last character but one is a digit (so that it has no month code) takes over the
+  // second's last two; a second of 7 characters takes over the first three of the first leg, any other
+  // the first eight.
   int SeparateID(const CString& id, char side, CString& id1, char& side1, CString& id2, char& side2,
                  int check);
 
@@ -117,8 +118,8 @@ protected:
   int ChkCommIDFormat(const CString& code);
   // Two full legs: the format of each, the sides, then ChkTwoCommID.
   int ChkCommID(const CString& id1, char side1, const CString& id2, char side2);
-  // Two full legs whose formats and sides are right. Strikes are those that the service lists when it
-  // has both, else the five digits.
+  // Two full legs whose formats and sides are right. Strikes are those that the service lists, when it has
+  // both and both are plain decimal numbers ("52.5"), else the five digits of the codes.
   //   a call and a put   one month (15); on one side the first strike equal or higher (13), on
   //                      opposite sides equal (11); with equal strikes the call first (17)
   //   one kind           opposite sides (9); in one month with two strikes the first strike higher of
@@ -132,8 +133,8 @@ protected:
   // Months are not compared here.
   int ChkReversals_Conversion(const CString& first, const CString& second, CString& id1,
                               CString& id2);
-  // Whether two month letters are of one kind. Stores nothing: what the kinds have to be is the
-  // caller's.
+  // Whether two month letters are of one kind (GetCallPut). Unlike the others it stores no error: whether
+  // the kinds have to be the same or to differ is the caller's, and so is the code for it (103, 104).
   int ChkTheSameCP(char month1, char month2);
   // Two month codes are of one month, be they a call's or a put's; error 15.
   int ChkTheSameMonth(const CString& month1, const CString& month2);

@@ -114,8 +114,9 @@ int COptFutID::ChkTwoCommID(const CString& id1, char side1, const CString& id2, 
   tq::CombinationLeg two = LegOf(id2);
   const CString listed1 = tq::WeekOfCode(id1).strike;
   const CString listed2 = tq::WeekOfCode(id2).strike;
-  // Both or none: a listed strike and five digits may be in different units.
-  if (!listed1.IsEmpty() && !listed2.IsEmpty()) {
+  // Both or none: a listed strike and five digits may be in different units. What is no price cannot be
+  // compared, the digits can.
+  if (tq::IsPrice(tq::ViewOf(listed1)) && tq::IsPrice(tq::ViewOf(listed2))) {
     one.strike = tq::ViewOf(listed1);
     two.strike = tq::ViewOf(listed2);
   }

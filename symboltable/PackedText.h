@@ -111,6 +111,13 @@ constexpr bool IsUpperAscii(PackedText head) {
          0;
 }
 
+// The upper and the lower half of a product, mixed: a hash of two words as long as nobody knows `left`.
+inline std::uint64_t MixProduct(std::uint64_t left, std::uint64_t right) {
+  __extension__ using Wide = unsigned __int128;
+  const Wide product = Wide{left} * right;
+  return static_cast<std::uint64_t>(product >> 64) ^ static_cast<std::uint64_t>(product);
+}
+
 // One step of a hash, whose upper bits are the better ones.
 inline std::uint64_t MixWords(std::uint64_t state, std::uint64_t word) {
   constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u; // 2^64 by the golden ratio

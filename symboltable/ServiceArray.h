@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <span>
+#include <utility>
 
 #include "platform/services/VLProxy.h"
 
@@ -13,8 +14,9 @@ namespace tq {
 template <typename Record> class ServiceArray {
 public:
   ServiceArray() = default;
-  ServiceArray(const ServiceArray&) = delete;
-  ServiceArray& operator=(const ServiceArray&) = delete;
+  ServiceArray(ServiceArray&& other) noexcept
+      : list_(std::exchange(other.list_, nullptr)), count_(std::exchange(other.count_, 0)) {}
+  ServiceArray& operator=(ServiceArray&&) = delete;
   ~ServiceArray() {
     if (list_ != nullptr)
       VLFree(list_);
@@ -29,6 +31,9 @@ public:
       return {};
     return {list_, static_cast<std::size_t>(count_)};
   }
+
+  // Leaves the array to the caller, who gives it back with VLFree.
+  Record* Release() { return std::exchange(list_, nullptr); }
 
 private:
   Record* list_ = nullptr;

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int Absent = -1;
 constexpr char NoMark = ' ';
 
 // Bits of present_: the held numbers that the service gave, and what is not held because it can be told
@@ -69,7 +68,7 @@ void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) 
 void CSymbolItem::ReadNumbers(const CStaticKey& key) {
   unsigned present = 0;
   const auto read = [&](int field) {
-    int number = Absent;
+    int number = kAbsent;
     if (key.GetFieldInt(field, number))
       present |= BitOf(field);
     return number;
@@ -119,7 +118,7 @@ int CSymbolItem::GetNumber(int field, int& value) const {
   if (bit == 0)
     return AskNumber(field, value);
   const bool present = (present_ & bit) != 0;
-  value = present ? HeldNumber(field) : Absent;
+  value = present ? HeldNumber(field) : kAbsent;
   return present;
 }
 

@@ -73,6 +73,8 @@ public:
   CSymbolItem* LeaveSame();
 
 private:
+  static constexpr int kAbsent = -1; // a number that nobody gave
+
   std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
   void ReadNumbers(const CStaticKey& key);
   int HeldNumber(int field) const;

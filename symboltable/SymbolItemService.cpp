@@ -1,6 +1,5 @@
 // The attributes that an item does not hold: each answer asks the service anew, for they change
 // while the market trades.
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -11,10 +10,10 @@
 
 namespace {
 
-constexpr int Absent = -1;
 constexpr char NoPrice[] = "--"; // what a person reads where there is no price
 
-int NearestInt(double number) {
+// The number without its decimals, the nearest int for one that an int cannot hold, 0 for no number.
+int CutToInt(double number) {
   constexpr double lowest = std::numeric_limits<int>::min();
   constexpr double highest = std::numeric_limits<int>::max();
   if (std::isnan(number))
@@ -26,21 +25,18 @@ int NearestInt(double number) {
 
 // The number that a text begins with, 0 when there is none; with a point in every locale.
 double LeadingNumber(const CString& text) {
-  const char* at = text.GetString();
-  const char* const end = at + text.GetLength();
-  while (at != end && std::isspace(static_cast<unsigned char>(*at)))
-    ++at;
-  if (at != end && *at == '+')
-    ++at;
-  double number = 0;
-  std::from_chars(at, end, number);
-  return number;
+  std::string_view number = tq::TrimmedFront(tq::ViewOf(text));
+  if (number.starts_with('+'))
+    number.remove_prefix(1);
+  double value = 0;
+  std::from_chars(number.data(), number.data() + number.size(), value);
+  return value;
 }
 
 // A price as a whole number of its smallest step: "12.5" with two decimals is 1250. The thousandth
 // makes up for decimal fractions that binary ones fall short of, before the rest is cut off.
 int ScaledPrice(const CString& text, int decimals) {
-  return NearestInt(LeadingNumber(text) * std::pow(10.0, decimals) + 0.001);
+  return CutToInt(LeadingNumber(text) * std::pow(10.0, decimals) + 0.001);
 }
 
 } // namespace
@@ -58,7 +54,8 @@ int CSymbolItem::AskTradeCode(CString& value) const {
 }
 
 int CSymbolItem::AskNumber(int field, int& value) const {
-  value = field == FieldContractSize ? 1 : Absent;
+  value = field == FieldContractSize ? 1 : kAbsent;
+  const int decimals = decimals_; // while it is asked the terminal may take the symbol away
   CString text;
   switch (field) {
   case FieldTradingStatus:
@@ -71,7 +68,7 @@ int CSymbolItem::AskNumber(int field, int& value) const {
   case FieldPreviousClose:
     if (!AskService(field, text))
       return 0;
-    value = ScaledPrice(text, decimals_);
+    value = ScaledPrice(text, decimals);
     return 1;
   case FieldContractSize:
     if (!AskService(field, text))

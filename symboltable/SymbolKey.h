@@ -34,12 +34,24 @@ inline std::size_t SizeOf(PackedText code) {
   return size != LongKey ? size : static_cast<std::uint32_t>(code.high);
 }
 
+// The hash of a key has two numbers in it that are other ones in every process. So nobody can choose ids whose
+// hashes are the same, with which each look-up would go through all of them. Nothing that is stored or seen
+// from outside depends on a hash.
+struct HashSeed {
+  std::uint64_t low;
+  std::uint64_t high;
+};
+extern const HashSeed kHashSeed;
+
 // What MakeKey adds to the hash of a code for the bytes that are not in it.
 std::uint64_t MixRest(std::uint64_t state, std::string_view text);
 
+inline std::uint64_t MixCode(PackedText code) {
+  return MixProduct(code.low ^ kHashSeed.low, code.high ^ kHashSeed.high);
+}
 // The hash of a key that is not longer than its code.
 inline std::uint32_t HashOf(PackedText code) {
-  return static_cast<std::uint32_t>(MixWords(MixWords(0, code.low), code.high) >> 32);
+  return static_cast<std::uint32_t>(MixCode(code) >> 32);
 }
 
 // `head` is PackHead(text), for callers who have it.
@@ -47,7 +59,7 @@ inline SymbolKey MakeKey(std::string_view text, PackedText head) {
   const PackedText code = CodeOf(text.size(), head);
   if (text.size() <= CodedBytes)
     return {text, code, HashOf(code)};
-  const std::uint64_t state = MixRest(MixWords(MixWords(0, code.low), code.high), text);
+  const std::uint64_t state = MixRest(MixCode(code), text);
   return {text, code, static_cast<std::uint32_t>(state >> 32)};
 }
 inline SymbolKey MakeKey(std::string_view text) {

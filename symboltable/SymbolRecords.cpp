@@ -3,22 +3,10 @@
 #include <cstring>
 
 #include "platform/CodePage.h"
+#include "symboltable/TextPieces.h"
 
 namespace tq {
 namespace {
-
-bool IsBlank(char c) {
-  return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-// A blank is never the second byte of a character in the terminal's code pages.
-std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front()))
-    text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back()))
-    text.remove_suffix(1);
-  return text;
-}
 
 bool EndsInHalf(const char* text, std::size_t length) {
   const char* const last = text + length - 1;

@@ -21,6 +21,7 @@ void CSymbolTable::Clear() {
     }
     chain = {};
   }
+  loaded_ = false;
   Reserve(0);
 }
 

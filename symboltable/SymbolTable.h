@@ -38,6 +38,9 @@ public:
   int Load();
   // Deletes all symbols.
   void Clear();
+  // Whether what the table lacks is not on the exchange: the latest loading succeeded and brought symbols,
+  // and some are left. Symbols that were added alone to an empty table do not make it whole.
+  bool IsWhole() const { return loaded_ && !index_.IsEmpty(); }
 
   // Adds the service's records of the symbols (codes joined by ","), also of those that are there
   // already. 0 when the service fails.
@@ -107,6 +110,7 @@ private:
   CString exchName_;
   int exchId_;
   bool authorized_ = false;
+  bool loaded_ = false; // with symbols
   std::vector<Chain> chains_;
   tq::ItemArena arena_;
   tq::KeyIndex index_;

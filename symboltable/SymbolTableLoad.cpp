@@ -13,8 +13,10 @@ int CSymbolTable::Load() {
   if (!VLGetBaseAttrs2(exchId_, allSections, symbols.List(), symbols.Count(), 0, 1))
     return 0;
   const std::span<const BaseAttr> records = symbols.Records();
+  Clear(); // again: while it was asked the terminal may have loaded the table or added to it
   Reserve(records.size());
   InsertAll(records);
+  loaded_ = !index_.IsEmpty();
   return 1;
 }
 

@@ -1,6 +1,7 @@
 // The symbol tables' life cycle.
 #include "symboltable/SymbolTableMgr.h"
 
+#include <utility>
 #include <vector>
 
 #include "platform/framework/CUIntArray.h"
@@ -10,7 +11,7 @@
 CSymbolTableMgr::CSymbolTableMgr() : slots_(std::make_unique<tq::TableSlots>()) {}
 
 CSymbolTableMgr::~CSymbolTableMgr() {
-  CleanALL();
+  tq::TableSlots::Delete(std::move(slots_));
 }
 
 int CSymbolTableMgr::Init() {
@@ -21,6 +22,7 @@ int CSymbolTableMgr::Init() {
 }
 
 int CSymbolTableMgr::InitAllSymbolTable() {
+  const tq::TableSlots::Use slots(*slots_);
   const tq::ExchangeList exchanges;
   int result = exchanges.Result();
   int slot = 0;
@@ -30,17 +32,18 @@ int CSymbolTableMgr::InitAllSymbolTable() {
     auto table = std::make_unique<CSymbolTable>(tq::ToCString(tq::NameOf(exchange)), exchange.id);
     if (!table->Load())
       result = 0;
-    slots_->Put(slot++, std::move(table));
+    slots->Put(slot++, std::move(table));
   }
   return result;
 }
 
 int CSymbolTableMgr::InitAuthorizedExch() {
+  const tq::TableSlots::Use slots(*slots_);
   int mask[tq::TableSlots::Count] = {};
   if (!GetAuthMask(mask))
     return 0;
   for (int slot = 0; slot < tq::TableSlots::Count; ++slot)
-    if (CSymbolTable* const table = slots_->At(slot))
+    if (CSymbolTable* const table = slots->At(slot))
       table->SetAuthorized(tq::CanBeEntitled(table->ExchId()) && mask[table->ExchId()] != 0);
   return 1;
 }
@@ -60,20 +63,4 @@ void CSymbolTableMgr::CleanALL() {
 
 CSymbolTable* CSymbolTableMgr::TableAt(int slot) const {
   return slots_->At(slot);
-}
-
-int CSymbolTableMgr::MakeTable(int slot, const CString& exchName, int exchId) {
-  auto table = std::make_unique<CSymbolTable>(exchName, exchId);
-  table->SetAuthorized(IsAuthExch(exchId) != 0);
-  const int loaded = table->Load();
-  slots_->Put(slot, std::move(table));
-  return loaded;
-}
-
-int CSymbolTableMgr::MakeTable(const CString& exchName, int exchId) {
-  const int slot = slots_->FirstFree();
-  CString name = exchName;
-  if (slot == tq::TableSlots::None || (name.IsEmpty() && !FindExchID(exchId, name)))
-    return 0;
-  return MakeTable(slot, name, exchId);
 }

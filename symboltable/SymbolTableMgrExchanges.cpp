@@ -9,14 +9,7 @@
 using tq::TableSlots;
 
 int CSymbolTableMgr::FindExchID(int exchId, CString& name) {
-  const tq::ExchangeList exchanges;
-  for (const ExchInfo& exchange : exchanges.Records()) {
-    if (exchange.id != exchId)
-      continue;
-    name = tq::ToCString(tq::NameOf(exchange));
-    return 1;
-  }
-  return 0;
+  return tq::ReadExchangeName(exchId, name);
 }
 
 int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) {
@@ -33,6 +26,7 @@ int CSymbolTableMgr::IsSupportUJKExch() {
 }
 
 CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
+  const TableSlots::Use slots(*slots_);
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
   const auto isLeftOut = [&](int exchId) {
@@ -44,14 +38,14 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
   };
   CString names;
   tq::ForEachNumber(tq::ViewOf(exchIds), [&](int position, int exchId) {
-    const int slot = isLeftOut(exchId) ? TableSlots::None : slots_->FindId(exchId);
+    const int slot = isLeftOut(exchId) ? TableSlots::None : slots->FindId(exchId);
     if (slot == TableSlots::None)
       return;
     // By the position in the input: a first id that is left out leaves its comma behind, and
     // callers count on that. Do not make it depend on what was written.
     if (position > 0)
       names += ',';
-    names += slots_->At(slot)->ExchName();
+    names += slots->At(slot)->ExchName();
   });
   return names;
 }
@@ -118,6 +112,5 @@ int CSymbolTableMgr::GetAuthMask(int mask[128]) {
 }
 
 int CSymbolTableMgr::IsAuthExch(int exchId) {
-  int mask[TableSlots::Count] = {};
-  return tq::CanBeEntitled(exchId) && GetAuthMask(mask) && mask[exchId] != 0;
+  return tq::IsEntitled(exchId);
 }

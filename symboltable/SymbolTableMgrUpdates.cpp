@@ -1,26 +1,30 @@
 // How the symbol tables follow the service's exchanges and symbols.
+#include <algorithm>
 #include <set>
 #include <string_view>
 
 #include "symboltable/ExchangeService.h"
 #include "symboltable/SymbolRecords.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TableSlots.h"
+#include "symboltable/TableMaker.h"
+#include "symboltable/UpperText.h"
 
 int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) {
-  const int slot = MapToSymbolTableIndex(exchId);
+  const tq::TableSlots::Use slots(*slots_);
+  const int slot = slots->FindId(exchId);
   if (slot == tq::TableSlots::None)
-    return MakeTable(CString(), exchId);
+    return tq::MakeTable(*slots, CString(), exchId);
   const tq::SymbolRecords records(symbols, count);
-  return records.Count() == 0 || slots_->At(slot)->Add(records.Joined());
+  return records.Count() == 0 || slots->At(slot)->Add(records.Joined());
 }
 
 int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) {
-  const int slot = MapToSymbolTableIndex(exchId);
+  const tq::TableSlots::Use slots(*slots_);
+  const int slot = slots->FindId(exchId);
   if (slot == tq::TableSlots::None)
-    return MakeTable(CString(), exchId);
+    return tq::MakeTable(*slots, CString(), exchId);
   const tq::SymbolRecords records(symbols, count);
-  return records.Count() == 0 || slots_->At(slot)->Update(records.Joined());
+  return records.Count() == 0 || slots->At(slot)->Update(records.Joined());
 }
 
 int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) {
@@ -34,6 +38,7 @@ int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) {
 }
 
 int CSymbolTableMgr::RebuildSymbolTable() {
+  const tq::TableSlots::Use slots(*slots_);
   const tq::ExchangeList list;
   if (!list.Result())
     return 0;
@@ -42,23 +47,28 @@ int CSymbolTableMgr::RebuildSymbolTable() {
   for (const ExchInfo& exchange : exchanges)
     unknown.insert(tq::NameOf(exchange));
   for (int slot = 0; slot < tq::TableSlots::Count; ++slot)
-    if (const CSymbolTable* const table = slots_->At(slot);
+    if (const CSymbolTable* const table = slots->At(slot);
         table != nullptr && unknown.erase(tq::ViewOf(table->ExchName())) == 0)
-      slots_->Remove(slot);
+      slots->Remove(slot);
 
   // One counter is both the position in the service's list and the slot where the search for a free
   // one starts. So when occupied slots are passed over, the exchanges in between wait for a later
   // call. This is how the terminal's tables have always filled up: do not part the two.
+  std::set<std::string_view> made;
   int position = 0;
   for (; position < static_cast<int>(exchanges.size()); ++position) {
     const ExchInfo& exchange = exchanges[static_cast<std::size_t>(position)];
-    if (!unknown.contains(tq::NameOf(exchange)))
+    const std::string_view name = tq::NameOf(exchange);
+    // A table that was not made here the terminal made meanwhile.
+    if (!unknown.contains(name) ||
+        (!made.contains(name) && slots->FindName(name) != tq::TableSlots::None))
       continue;
-    const int slot = slots_->FirstFree(position);
+    int loaded = 0;
+    const int slot = tq::MakeTable(*slots, position, tq::ToCString(name), exchange.id, loaded);
     if (slot == tq::TableSlots::None)
       return 0;
-    MakeTable(slot, tq::ToCString(tq::NameOf(exchange)), exchange.id);
-    position = slot;
+    made.insert(name);
+    position = std::max(position, slot);
   }
   return 1;
 }
@@ -67,6 +77,8 @@ int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) {
   constexpr int allExchanges = -1;
   if (exchId == allExchanges)
     return RebuildSymbolTable();
-  const int slot = FindSymbolTableIndex(exchName, exchId);
-  return slot == tq::TableSlots::None ? MakeTable(exchName, exchId) : slots_->At(slot)->Load();
+  const tq::TableSlots::Use slots(*slots_);
+  const int slot = slots->Find(tq::ViewOf(exchName), exchId);
+  return slot == tq::TableSlots::None ? tq::MakeTable(*slots, exchName, exchId)
+                                      : slots->At(slot)->Load();
 }

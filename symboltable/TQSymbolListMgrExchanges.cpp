@@ -15,14 +15,16 @@ namespace {
 
 // All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be read.
 std::vector<tq::ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, bool& complete) {
-  std::vector<tq::ServiceArray<SymbolInfo>> lists(static_cast<size_t>(exchanges.GetSize()));
-  size_t kept = 0;
+  constexpr int kAllSections = -1;
+  std::vector<tq::ServiceArray<SymbolInfo>> lists;
+  lists.reserve(static_cast<size_t>(exchanges.GetSize()));
   for (const unsigned exchange : exchanges) {
-    tq::ServiceArray<SymbolInfo>& list = lists[kept];
-    if (VLGetSymbolInfos2(static_cast<int>(exchange), -1, list.List(), list.Count(), 0) == 0)
+    tq::ServiceArray<SymbolInfo> list;
+    if (VLGetSymbolInfos2(static_cast<int>(exchange), kAllSections, list.List(), list.Count(), 0) ==
+        0)
       complete = false;
     else if (!list.Records().empty())
-      ++kept;
+      lists.push_back(std::move(list));
   }
   return lists;
 }
@@ -54,12 +56,16 @@ void CTQSymbolListMgr::ClearDefaultExchangeData() {
 
 int CTQSymbolListMgr::InitDefaultExchange() {
   ClearDefaultExchangeData();
-  LoadDefaultExchange(defaultExchanges_, useUserDefExch_, "");
-  int count = 0;
-  const int result = VLGetExch(&exchangeRecords_, &count, 1);
-  const std::span<ExchInfo> records(
-      exchangeRecords_,
-      exchangeRecords_ == nullptr || result == 0 ? 0 : static_cast<size_t>(std::max(count, 0)));
+  // While the services are asked the terminal may call this again: what they say is kept apart until then.
+  CUIntArray exchanges;
+  LoadDefaultExchange(exchanges, useUserDefExch_, "");
+  tq::ServiceArray<ExchInfo> list;
+  const int result = VLGetExch(list.List(), list.Count(), 1);
+  ClearDefaultExchangeData();
+  defaultExchanges_.Copy(exchanges);
+  const size_t count = result == 0 ? 0 : list.Records().size();
+  exchangeRecords_ = list.Release();
+  const std::span<ExchInfo> records(exchangeRecords_, count);
   defaultRecords_.SetSize(defaultExchanges_.GetSize());
   for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {
     const auto found = std::find_if(records.begin(), records.end(), [&](const ExchInfo& record) {
@@ -168,4 +174,8 @@ int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) {
   std::memcpy(*out, allSymbols_, static_cast<size_t>(allSymbolCount_) * sizeof(SymbolInfo));
   *count = allSymbolCount_;
   return 1;
+}
+
+void CTQSymbolListMgr::FreeSymbolInfos(SymbolInfo* infos) {
+  delete[] infos;
 }

@@ -17,11 +17,19 @@
 
 namespace {
 
-constexpr int MaxSymbolChangeItems = 10;
+constexpr int kMaxSymbolChangeItems = 10;
 constexpr int kDefaultLot = 1000;
 
 bool IsText(const CString& text, const char* field, size_t size) {
   return tq::EqualNoCase(text, static_cast<size_t>(text.GetLength()), field, strnlen(field, size));
+}
+
+// The record of an exchange, or null.
+const ExchInfo* FindRecord(const ExchInfo* exchanges, int count, int exchId) {
+  const ExchInfo* const end = exchanges + count;
+  const ExchInfo* const found =
+      std::find_if(exchanges, end, [=](const ExchInfo& each) { return each.id == exchId; });
+  return found == end ? nullptr : found;
 }
 
 bool ReadLot(CSymbolTableMgr& tables, const CString& id, const char* exchange, int& lot) {
@@ -71,14 +79,11 @@ int CTQSymbolListMgr::GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int
     return 0;
   if (!SplitId(id).second.IsEmpty())
     return VLGetSymbolInfo(id, out) != 0;
+  const bool given = exchanges != nullptr && exchangeCount > 0;
   for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {
-    const auto* record = static_cast<const ExchInfo*>(defaultRecords_[i]);
-    for (int k = 0; exchanges != nullptr && k < exchangeCount; ++k) {
-      if (exchanges[k].id == static_cast<int>(defaultExchanges_[i])) {
-        record = &exchanges[k];
-        break;
-      }
-    }
+    const ExchInfo* const record =
+        given ? FindRecord(exchanges, exchangeCount, static_cast<int>(defaultExchanges_[i]))
+              : static_cast<const ExchInfo*>(defaultRecords_[i]);
     if (record == nullptr)
       continue;
     const std::string_view name = tq::NameOf(*record);
@@ -132,11 +137,11 @@ int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables
 
 int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,
                                              ExchSymbolUpdateType type) {
-  if (count > MaxSymbolChangeItems)
+  if (count > kMaxSymbolChangeItems)
     tq::LogLine(tq::kLogGeneral,
                 "CTQSymbolListMgr::UpdateExchSymbolChange Count = %d, MaxSymbolChangeItems = %d",
-                count, MaxSymbolChangeItems);
-  const tq::SymbolRecords records(symbols, std::min(count, MaxSymbolChangeItems));
+                count, kMaxSymbolChangeItems);
+  const tq::SymbolRecords records(symbols, std::min(count, kMaxSymbolChangeItems));
   CStringArray changed;
   for (int i = 0; i < records.Count(); ++i) {
     const std::string_view symbol = records.At(i);
@@ -151,8 +156,8 @@ int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, sho
 
 int CTQSymbolListMgr::ReplaceSymbolListExchID(CString& ids, const CString& oldExchange,
                                               const CString& newExchange) {
-  return symbolTables_ == nullptr ? 0
-                                  : tq::MoveSymbols(*symbolTables_, ids, oldExchange, newExchange);
+  return symbolTables_ != nullptr &&
+         tq::MoveSymbols(*symbolTables_, ids, oldExchange, newExchange) != 0;
 }
 
 int CTQSymbolListMgr::ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,

@@ -15,8 +15,32 @@ int TableSlots::FirstFree(int from) const {
   return None;
 }
 
+void TableSlots::Delete(std::unique_ptr<TableSlots> slots) {
+  slots->Clear();
+  if (slots->uses_ == 0)
+    return;
+  slots->ownerless_ = true;
+  static_cast<void>(slots.release());
+}
+
+void TableSlots::EndUse() {
+  if (--uses_ != 0)
+    return;
+  takenOut_.clear();
+  if (ownerless_)
+    delete this;
+}
+
+void TableSlots::TakeOut(std::size_t slot) {
+  if (uses_ != 0 && tables_[slot] != nullptr)
+    takenOut_.push_back(std::move(tables_[slot]));
+  tables_[slot].reset();
+}
+
 void TableSlots::Put(int slot, std::unique_ptr<CSymbolTable> table) {
-  tables_[static_cast<std::size_t>(slot)] = std::move(table);
+  const auto place = static_cast<std::size_t>(slot);
+  TakeOut(place);
+  tables_[place] = std::move(table);
   Reindex();
 }
 
@@ -25,8 +49,8 @@ void TableSlots::Remove(int slot) {
 }
 
 void TableSlots::Clear() {
-  for (auto& table : tables_)
-    table.reset();
+  for (std::size_t slot = 0; slot < tables_.size(); ++slot)
+    TakeOut(slot);
   Reindex();
 }
 

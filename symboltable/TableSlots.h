@@ -1,5 +1,9 @@
 // The 128 slots that own the tables, and how a table is found among them. A slot's number says
 // nothing: of several tables that would do, the one in the lowest slot answers.
+//
+// The services that an operation asks may call the library again before they answer, and take away the very
+// table that is to get the answer. So an operation that asks holds a TableSlots::Use: until the last one ends,
+// tables that are taken out live on, and so do the slots themselves.
 #pragma once
 
 #include <array>
@@ -18,8 +22,25 @@ public:
   static constexpr int Count = 128;
   static constexpr int None = -1;
 
+  // Keeps the slots and what was in them while an operation asks the services.
+  class Use {
+  public:
+    explicit Use(TableSlots& slots) : slots_(slots) { ++slots.uses_; }
+    ~Use() { slots_.EndUse(); }
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
+
+    TableSlots* operator->() const { return &slots_; }
+    TableSlots& operator*() const { return slots_; }
+
+  private:
+    TableSlots& slots_;
+  };
+
   TableSlots();
   ~TableSlots();
+  // Deletes the slots with all tables, as soon as no operation uses them.
+  static void Delete(std::unique_ptr<TableSlots> slots);
   TableSlots(const TableSlots&) = delete;
   TableSlots& operator=(const TableSlots&) = delete;
 
@@ -27,9 +48,9 @@ public:
   // The first slot at or after `from` that holds nothing; None when there is none.
   int FirstFree(int from = 0) const;
 
-  // Puts a table in, and deletes the one that was there.
+  // Puts a table in. The one that was there is deleted as soon as no operation uses the slots.
   void Put(int slot, std::unique_ptr<CSymbolTable> table);
-  // Deletes a table, or all of them.
+  // Deletes a table, or all of them, in the same way.
   void Remove(int slot);
   void Clear();
   // Empties all slots without deleting the tables, which then belong to nobody.
@@ -76,6 +97,8 @@ private:
     std::size_t size;
   };
 
+  void TakeOut(std::size_t slot);
+  void EndUse();
   void Reindex();
   template <typename IsName>
   static void Enter(NameIndex& index, std::string_view name, int slot, IsName isName);
@@ -95,6 +118,9 @@ private:
   }
 
   std::array<std::unique_ptr<CSymbolTable>, Count> tables_;
+  std::vector<std::unique_ptr<CSymbolTable>> takenOut_; // while they may be in use
+  int uses_ = 0;
+  bool ownerless_ = false; // to be deleted with the last use
   std::array<NameHead, Count> nameHeads_;
   std::array<std::string, Count> upperNames_;
   NameIndex byName_ = {};

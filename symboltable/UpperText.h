@@ -5,7 +5,10 @@
 // and is left as it is. Two texts are equal ignoring case when their upper-cased forms are equal.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
+#include <cstring>
 #include <string_view>
 
 #include "platform/CodePage.h"
@@ -30,13 +33,33 @@ struct UpperText {
   std::uint64_t tail;
 };
 
-// The last eight bytes of a string that is not empty. What lies in front of a short text is the string's
-// own header, so that one load serves every length.
+// Eight bytes of a string's block that begin at most eight in front of its text. There lie the length and the
+// room of the header, which nobody writes to while the string is shared; the count of its owners, which other
+// threads may be counting, lies in front of them.
+constexpr int kReadableBefore = sizeof(std::uint64_t);
+static_assert(offsetof(StringHeader, refs) + sizeof(StringHeader::refs) + kReadableBefore <=
+              sizeof(StringHeader));
+inline std::uint64_t WordAt(const CString& text, int position) {
+  const char* const block = reinterpret_cast<const char*>(HeaderOf(text.GetString()));
+  std::uint64_t word;
+  std::memcpy(&word, block + (static_cast<int>(sizeof(StringHeader)) + position), sizeof word);
+  return word;
+}
+
+// The last eight bytes of a string that is not empty. In front of a short text its header is read, so that one
+// load serves every length.
+constexpr int TailPosition(int length) {
+  return length - static_cast<int>(sizeof(std::uint64_t));
+}
 inline std::uint64_t TailOf(const CString& text) {
-  static_assert(sizeof(StringHeader) >= sizeof(std::uint64_t));
-  std::uint64_t tail;
-  std::memcpy(&tail, text.GetString() + text.GetLength() - sizeof tail, sizeof tail);
-  return tail;
+  return WordAt(text, TailPosition(text.GetLength()));
+}
+
+// Where the word is read that goes in front of the tail. All of it is shifted out for texts of up to eight
+// bytes, which the tail holds: what is read there then does not matter.
+constexpr int BeforePosition(int length) {
+  constexpr int half = sizeof(std::uint64_t);
+  return std::max(length, half) - 2 * half;
 }
 
 // PackHead of a string of one to sixteen bytes with that tail, without a branch on its length, which differs
@@ -45,11 +68,7 @@ inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
   __extension__ using Wide = unsigned __int128;
   constexpr int half = sizeof tail;
   const int length = text.GetLength();
-  // As many bytes as the header has may be loaded in front of the text.
-  if (length < 2 * half - static_cast<int>(sizeof(StringHeader)))
-    return {tail >> 8 * (half - length), 0};
-  std::uint64_t before;
-  std::memcpy(&before, text.GetString() + (length - 2 * half), sizeof before);
+  const std::uint64_t before = WordAt(text, BeforePosition(length));
   const Wide wide = (Wide{tail} << 64 | before) >> 8 * (2 * half - length);
   return {static_cast<std::uint64_t>(wide), static_cast<std::uint64_t>(wide >> 64)};
 }

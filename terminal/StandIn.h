@@ -136,6 +136,12 @@ TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<S
 TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records);
 TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records);
 
+// The same for VLGetSymbolInfos2, by exchange: `result` 0 has the call fail with the array all the same.
+TQSTANDIN_API void AnswerSymbols(int exchId, std::vector<SymbolInfo> records, int count,
+                                 int result);
+// The same for VLGetExtendAttr, by the service's own id and kind, whatever bytes the texts are.
+TQSTANDIN_API void AnswerExtended(std::string_view id, int kind, std::vector<ExtAttr> records);
+
 // Puts rows in the place of an info table, as GetInfoArray answers it from now on: columns of any number,
 // none too, the same in both languages. Until Reset.
 TQSTANDIN_API void SetIndicators(int type, std::vector<std::vector<std::string>> rows);
@@ -155,9 +161,9 @@ TQSTANDIN_API void FailCall(std::string_view operation, int n);
 // Every call of the operation fails until Reset or FailCall(operation, 0).
 TQSTANDIN_API void FailAlways(std::string_view operation);
 
-// Runs `action` inside each call of one service operation, before the call is answered or fails, as a
-// service does that lets the terminal handle messages meanwhile. Not for calls from within an action.
-// Until Reset; an empty function takes it back. Field reads of a key object run none.
+// Runs `action` inside each call of the operation, after the call is recorded and before it answers, as a
+// terminal does that hears of something while it is asked. An action does not run inside of itself. An empty
+// function and Reset take it back. Operations that are not recorded run none.
 TQSTANDIN_API void OnCall(std::string_view operation, std::function<void()> action);
 
 struct Call {

@@ -50,7 +50,7 @@ static_assert(offsetof(TQS_ACCOUNTINFO, displayId) == 36);
 
 extern "C" {
 
-// Writes one piece of the login information into `buffer` (256 bytes). The third argument is "".
+// Writes one piece of the login information into `buffer` (TQSUserInfoSize bytes). The third argument is "".
 // Fails when nobody is logged in or the flag is unknown; a user without the information is a
 // success with "".
 int TQSGetUserInfo(LoginInfoFlag flag, char* buffer, const char* reserved);

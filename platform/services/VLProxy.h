@@ -20,6 +20,9 @@
 
 #include "platform/services/VLRecords.h"
 
+// The size of the buffer that VLGetZUID fills.
+enum { VLServiceIdSize = 20 };
+
 extern "C" {
 
 // Releases an array that any operation of this service handed out. Null is allowed.
@@ -74,7 +77,7 @@ int VLEX2ZUID2(const char* exchangeCode, SymbolInfo** list, int* count);
 
 // ---- Contracts ----------------------------------------------------------------------------------
 
-// The service's own id of a bare contract code, into `zuid` (20 bytes, zeroed by the caller).
+// The service's own id of a bare contract code, into `zuid` (VLServiceIdSize bytes, zeroed by the caller).
 // `exchId` is -1: whatever exchange lists the contract. Fails, and leaves `zuid` alone, for an
 // unknown code.
 int VLGetZUID(int exchId, const char* code, char* zuid);

@@ -31,7 +31,7 @@ enum Field : int {
   FieldSettlementMonth = 191,  // text, trading data
   FieldMarginNote = 192,       // text, trading data
   FieldDecimals = 3006,        // number: decimal places of a price
-  FieldPriceScale = 3007,      // number: ten to the power of the decimal places
+  FieldPriceScale = 3007,      // number: ten to the power of the decimal places, at most of 9
 };
 
 // The columns of those tables. A row has the first three; one that ends before a column does not have it.

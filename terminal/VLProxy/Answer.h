@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <limits>
+#include <span>
 
+#include "terminal/control/Answers.h"
 #include "terminal/control/ServiceArrays.h"
 
 namespace standin {
@@ -27,6 +30,23 @@ template <class T> int HandOut(std::size_t size, T** list, int* count) {
   *list = array;
   *count = static_cast<int>(size);
   return 1;
+}
+
+// Hands out a copy of the records.
+template <class T> int HandOutCopy(std::span<const T> records, T** list, int* count) {
+  if (!HandOut(records.size(), list, count))
+    return 0;
+  if (!records.empty())
+    std::memcpy(*list, records.data(), records.size_bytes());
+  return 1;
+}
+
+// Hands out what a test put in the market's place, with the count and the result that it wants.
+template <class T> int HandOutAnswer(const Answer<T>& answer, T** list, int* count) {
+  if (!HandOutCopy(std::span<const T>(answer.records), list, count))
+    return 0;
+  *count = answer.count;
+  return answer.result;
 }
 
 } // namespace standin

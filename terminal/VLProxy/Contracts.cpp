@@ -1,6 +1,7 @@
 // VLProxy: contracts and what is known of them besides.
 #include <algorithm>
 #include <cstring>
+#include <span>
 
 #include "platform/CodePage.h"
 #include "platform/services/VLProxy.h"
@@ -43,6 +44,8 @@ int VLGetExtendAttr(const char* id, int kind, ExtAttr** list, int* count) {
   const bool proceed = Begin("VLGetExtendAttr", id, kind);
   if (!ClearOutputs(list, count) || !proceed || !id)
     return 0;
+  if (const std::vector<ExtAttr>* answer = AnsweredExtended(id, kind))
+    return HandOutCopy(std::span<const ExtAttr>(*answer), list, count);
   const Listings& listings = CurrentListings();
   const std::size_t position = listings.FindId(id);
   if (position == Listings::kNotFound)

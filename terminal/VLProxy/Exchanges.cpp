@@ -1,5 +1,5 @@
 // VLProxy: exchanges and what they list.
-#include <cstring>
+#include <span>
 
 #include "platform/services/VLProxy.h"
 #include "terminal/VLProxy/Answer.h"
@@ -30,12 +30,7 @@ int VLGetExch(ExchInfo** list, int* count, int flag) {
   const bool proceed = Begin("VLGetExch", flag);
   if (!ClearOutputs(list, count) || !proceed)
     return 0;
-  const std::vector<ExchInfo>& exchanges = CurrentListings().Exchanges();
-  if (!HandOut(exchanges.size(), list, count))
-    return 0;
-  if (!exchanges.empty())
-    std::memcpy(*list, exchanges.data(), exchanges.size() * sizeof(ExchInfo));
-  return 1;
+  return HandOutCopy(std::span<const ExchInfo>(CurrentListings().Exchanges()), list, count);
 }
 
 int VLGetBaseAttrs2(int exchId, int subId, BaseAttr** list, int* count, int reserved, int flag) {
@@ -55,10 +50,11 @@ int VLGetSymbolInfos2(int exchId, int subId, SymbolInfo** list, int* count, int 
   const bool proceed = Begin("VLGetSymbolInfos2", exchId, subId, reserved);
   if (!ClearOutputs(list, count) || !proceed)
     return 0;
+  if (const Answer<SymbolInfo>* answer = AnsweredSymbols(exchId))
+    return HandOutAnswer(*answer, list, count);
   const ListingRange* range = Section(exchId, subId);
-  if (!range || !HandOut(range->count, list, count))
+  if (!range)
     return 0;
-  if (range->count > 0)
-    std::memcpy(*list, CurrentListings().Infos() + range->first, range->count * sizeof(SymbolInfo));
-  return 1;
+  const SymbolInfo* const first = CurrentListings().Infos() + range->first;
+  return HandOutCopy(std::span<const SymbolInfo>(first, range->count), list, count);
 }

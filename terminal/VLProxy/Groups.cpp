@@ -1,5 +1,4 @@
 // VLProxy: groups and their members.
-#include <cstring>
 #include <span>
 
 #include "platform/services/VLProxy.h"
@@ -9,26 +8,6 @@
 #include "terminal/control/Script.h"
 
 using namespace standin;
-
-namespace {
-
-template <class T> int HandOutCopy(std::span<const T> records, T** list, int* count) {
-  if (!HandOut(records.size(), list, count))
-    return 0;
-  if (!records.empty())
-    std::memcpy(*list, records.data(), records.size_bytes());
-  return 1;
-}
-
-// What a test put in the market's place, with the count that it has the service claim.
-template <class T> int HandOutAnswer(const Answer<T>& answer, T** list, int* count) {
-  if (!HandOutCopy(std::span<const T>(answer.records), list, count))
-    return 0;
-  *count = answer.count;
-  return 1;
-}
-
-} // namespace
 
 int VLGetSubGroup(int type, const char* parentId, GroupInfo** list, int* count) {
   const bool proceed = Begin("VLGetSubGroup", type, parentId);

@@ -16,6 +16,8 @@ template <class T> using ByGroup = std::map<std::pair<int, std::string>, Answer<
 struct Answers {
   ByGroup<GroupInfo> groups;
   ByGroup<SymbolInfo> members;
+  std::map<int, Answer<SymbolInfo>> symbols;
+  std::map<std::pair<int, std::string>, std::vector<ExtAttr>> extended;
   std::optional<std::vector<TQS_TSINFO>> systems;
   std::map<std::string, std::vector<TQS_ACCOUNTINFO>, std::less<>> accounts;
 };
@@ -46,6 +48,15 @@ void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> rec
                                         Answer<SymbolInfo>{std::move(records), count});
 }
 
+void AnswerSymbols(int exchId, std::vector<SymbolInfo> records, int count, int result) {
+  TheAnswers().symbols.insert_or_assign(exchId,
+                                        Answer<SymbolInfo>{std::move(records), count, result});
+}
+
+void AnswerExtended(std::string_view id, int kind, std::vector<ExtAttr> records) {
+  TheAnswers().extended.insert_or_assign({kind, std::string(id)}, std::move(records));
+}
+
 void AnswerTradingSystems(std::vector<TQS_TSINFO> records) {
   TheAnswers().systems = std::move(records);
 }
@@ -60,6 +71,16 @@ const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent) {
 
 const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group) {
   return FindAnswer(TheAnswers().members, type, group);
+}
+
+const Answer<SymbolInfo>* AnsweredSymbols(int exchId) {
+  const auto found = TheAnswers().symbols.find(exchId);
+  return found == TheAnswers().symbols.end() ? nullptr : &found->second;
+}
+
+const std::vector<ExtAttr>* AnsweredExtended(std::string_view id, int kind) {
+  const auto found = TheAnswers().extended.find({kind, std::string(id)});
+  return found == TheAnswers().extended.end() ? nullptr : &found->second;
 }
 
 const std::vector<TQS_TSINFO>* AnsweredTradingSystems() {

@@ -1,5 +1,6 @@
 #include "terminal/control/Script.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <utility>
@@ -12,11 +13,15 @@ namespace {
 
 constexpr std::string_view kEveryOperation = "*";
 
+struct Action {
+  std::function<void()> run;
+  bool running = false;
+};
+
 struct Script {
   std::map<std::string, int, std::less<>> countdowns;
   std::set<std::string, std::less<>> always;
-  std::map<std::string, std::function<void()>, std::less<>> actions;
-  bool acting = false;
+  std::map<std::string, Action, std::less<>> actions;
   std::vector<Call> calls;
   bool recording = true;
 };
@@ -39,6 +44,11 @@ bool CountDown(Script& script, std::string_view operation) {
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
   actionsOrdered = !TheScript().actions.empty();
+}
+
+Action* FindAction(std::string_view operation) {
+  const auto found = TheScript().actions.find(operation);
+  return found == TheScript().actions.end() ? nullptr : &found->second;
 }
 
 } // namespace
@@ -79,21 +89,22 @@ void FailAlways(std::string_view operation) {
 }
 
 void OnCall(std::string_view operation, std::function<void()> action) {
-  Script& script = TheScript();
-  script.actions.erase(std::string(operation));
+  TheScript().actions.erase(std::string(operation));
   if (action)
-    script.actions.emplace(operation, std::move(action));
+    TheScript().actions.emplace(operation, Action{std::move(action)});
   NoteOrders();
 }
 
 void RunAction(std::string_view operation) {
-  const auto found = TheScript().actions.find(operation);
-  if (found == TheScript().actions.end() || TheScript().acting)
+  Action* const action = FindAction(operation);
+  if (action == nullptr || action->running)
     return;
-  const std::function<void()> action = found->second; // which may take its own order back
-  TheScript().acting = true;
-  action();
-  TheScript().acting = false;
+  action->running = true;
+  // A copy, and found again afterwards: the action may take itself back.
+  const std::function<void()> run = action->run;
+  run();
+  if (Action* const after = FindAction(operation))
+    after->running = false;
 }
 
 const std::vector<Call>& Calls() {

@@ -1,5 +1,5 @@
-// What every operation of a service does first: let itself be recorded, and ask whether it was told
-// to fail.
+// What every operation of a service does first: let itself be recorded, run what a test wants to happen
+// inside of it, and ask whether it was told to fail.
 #pragma once
 
 #include <string>

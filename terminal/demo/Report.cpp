@@ -65,6 +65,18 @@ void PrintExchanges(CSymbolTableMgr& tables, bool traditional) {
   }
 }
 
+void PrintAllSymbols(CTQSymbolListMgr& manager) {
+  SymbolInfo* all = nullptr;
+  int count = 0;
+  manager.GetAllSymbolInfos(&all, &count);
+  std::printf("\nAll symbols: %d, of exchanges", count);
+  for (int i = 0; i < count; ++i)
+    if (i == 0 || all[i].exchId != all[i - 1].exchId)
+      std::printf(" %d", all[i].exchId);
+  std::printf("\n");
+  CTQSymbolListMgr::FreeSymbolInfos(all);
+}
+
 void PrintLists(CTQSymbolListMgr& manager) {
   int shownFirst = -1;
   manager.GetDefaultListIdx(shownFirst);

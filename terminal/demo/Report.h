@@ -9,6 +9,9 @@ namespace demo {
 // One line for each exchange: its symbols that the library's tables resolve, and the entitlement.
 void PrintExchanges(CSymbolTableMgr& tables, bool traditional);
 
+// The buffer of all symbols: how many there are, and its exchanges in their order, by number.
+void PrintAllSymbols(CTQSymbolListMgr& manager);
+
 // Every list of the user with its rows: symbols with their names, headings, and ids that no
 // exchange knows (kept in the list, shown without a row number).
 void PrintLists(CTQSymbolListMgr& manager);

@@ -32,6 +32,7 @@ int ShowLibrary(const demo::Options& options, const std::string& path, const std
   if (hasLists && manager.GetSymbolListCount(1) == 0)
     return Fail(path + ": not a readable list file; it is left as it is");
   demo::PrintExchanges(*manager.GetSymbolTableMgr(), options.traditional);
+  demo::PrintAllSymbols(manager);
   demo::PrintLists(manager);
   if (!manager.SaveSymbolList())
     return Fail(path + ": could not be saved (" + FirstMessage() + ")");

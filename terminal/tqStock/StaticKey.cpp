@@ -1,5 +1,7 @@
 // tqStock: the attributes that stand in a symbol's record.
+#include <algorithm>
 #include <cstring>
+#include <limits>
 #include <new>
 
 #include "platform/CodePage.h"
@@ -20,9 +22,11 @@ const KeyState& StateOf(const unsigned char* bytes) {
   return *std::launder(reinterpret_cast<const KeyState*>(bytes));
 }
 
+// Ten to the power of the decimals, the greatest power that an int holds for more.
 int PriceScale(int decimals) {
+  constexpr int kMostDecimals = std::numeric_limits<int>::digits10;
   int scale = 1;
-  for (int i = 0; i < decimals; ++i)
+  for (int i = 0; i < std::min(decimals, kMostDecimals); ++i)
     scale *= 10;
   return scale;
 }

@@ -32,7 +32,7 @@ protected:
       if (i == 0 || all[i].exchId != all[i - 1].exchId)
         order += (order.empty() ? "" : ",") + std::to_string(all[i].exchId);
     }
-    delete[] all;
+    CTQSymbolListMgr::FreeSymbolInfos(all);
     return order;
   }
 };
@@ -202,6 +202,18 @@ TEST_F(ExchangesTest, AnExchangeThatFailsAtTheStartIsLeftOut) {
   standin::FailCall("VLGetSymbolInfos2", 2);
   StartWith({});
   EXPECT_EQ(Order(), "1,3");
+}
+
+// Symptom: an array that came with a failure or a count that is not above 0 was written over, and leaked.
+TEST_F(ExchangesTest, ArraysThatComeWithAFailureOrWithoutACountAreReleased) {
+  standin::SetMarket(LetterMarket(5, "1,2,3,4,5"));
+  const std::vector<SymbolInfo> records(2);
+  standin::AnswerSymbols(1, records, 2, 0);
+  standin::AnswerSymbols(2, records, 0, 1);
+  standin::AnswerSymbols(3, records, -2, 1);
+  StartWith({});
+  EXPECT_EQ(standin::OutstandingArrays(), 1) << "the exchange records, which the manager keeps";
+  EXPECT_EQ(Order(), "4,5");
 }
 
 TEST_F(ExchangesTest, EmptyMarketHasNoBuffer) {

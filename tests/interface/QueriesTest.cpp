@@ -174,6 +174,16 @@ TEST_F(QueriesTest, AllSymbolsAreHandedOutAsACopy) {
   EXPECT_EQ(manager.GetAllSymbolInfos(&all, nullptr), 0);
   ASSERT_EQ(manager.GetAllSymbolInfos(&all, &count), 1);
   EXPECT_EQ(count, static_cast<int>(standin::CurrentMarket().instruments.size()));
+  CTQSymbolListMgr::FreeSymbolInfos(all);
+  CTQSymbolListMgr::FreeSymbolInfos(nullptr);
+}
+
+// This program has the library's runtime, as terminals have that came before FreeSymbolInfos.
+TEST_F(QueriesTest, HostsOfTheSameRuntimeMayDeleteTheCopyThemselves) {
+  StartWith({});
+  SymbolInfo* all = nullptr;
+  int count = 0;
+  ASSERT_EQ(manager.GetAllSymbolInfos(&all, &count), 1);
   delete[] all;
 }
 

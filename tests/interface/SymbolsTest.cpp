@@ -28,6 +28,28 @@ protected:
     manager.ReplaceSymbolListExchID(text, "TW", "TE");
     return text.GetString();
   }
+  // Loads the lists anew, saves them, and expects the ids of list a to stand in the file as they did.
+  void ExpectKeptInTheFile(const char* ids) {
+    ASSERT_EQ(manager.LoadSymbolList(), 1);
+    EXPECT_EQ(Shape(), std::string("a/A/") + ids);
+    ASSERT_EQ(manager.AddSymbolList("b", 0, "B", ids, 1, 0), 1);
+    const std::string file = ReadWorking();
+    const std::string value = std::string("Value='") + ids + "'";
+    const size_t first = file.find(value);
+    ASSERT_NE(first, std::string::npos) << file;
+    EXPECT_NE(file.find(value, first + 1), std::string::npos) << file;
+    EXPECT_EQ(file.find(".TE"), std::string::npos) << file;
+  }
+  // Takes the symbols of an exchange, or the exchange itself, out of the market.
+  static void Drop(int exchId, bool exchangeToo) {
+    standin::Market market = standin::CurrentMarket();
+    std::erase_if(market.instruments,
+                  [=](const standin::Instrument& each) { return each.exchId == exchId; });
+    std::erase_if(market.exchanges,
+                  [=](const standin::Exchange& each) { return exchangeToo && each.id == exchId; });
+    standin::SetMarket(market);
+  }
+  static constexpr int kTw = 1;
 };
 
 // Packed records of 19 bytes.
@@ -97,6 +119,23 @@ TEST_F(SymbolsTest, CallersExchangeRecordsNameTheExchanges) {
   EXPECT_EQ(manager.GetSymbolInfo("DIS", records, 2, &info), 1);
   EXPECT_STREQ(info.id, "DIS.NYSE");
   EXPECT_EQ(manager.GetSymbolInfo("DIS", records, 2, nullptr), 0);
+}
+
+// Symptom: a caller who left an exchange out of its records got the symbol from there all the same.
+TEST_F(SymbolsTest, CallersExchangeRecordsAreTheOnlyOnes) {
+  StartWith({});
+  ExchInfo records[2] = {};
+  records[0].id = 2;
+  std::strcpy(records[0].name, "TE");
+  records[1].id = 5;
+  SymbolInfo info = {};
+  EXPECT_EQ(manager.GetSymbolInfo("2330", records, 2, &info), 0);
+  EXPECT_STREQ(info.id, "");
+  EXPECT_EQ(manager.GetSymbolInfo("7777", records, 2, &info), 1);
+  EXPECT_STREQ(info.id, "7777.TE");
+  EXPECT_EQ(manager.GetSymbolInfo("2330", records, 0, &info), 1) << "none were given";
+  EXPECT_STREQ(info.id, "2330.TW");
+  EXPECT_EQ(manager.GetSymbolInfo("2330", nullptr, 2, &info), 1);
 }
 
 TEST_F(SymbolsTest, LotOfStocksIsLookedForOnTwThenOnTe) {
@@ -180,6 +219,74 @@ TEST_F(SymbolsTest, RenamingTouchesNothingElseOfTheString) {
   StartWith({});
   EXPECT_EQ(Moved(",2330.tw,,6488.tw,H:,5483.TW,GONE.TW,"),
             ",2330.tw,,6488.TE,H:,5483.TE,GONE.TW,");
+}
+
+// Symptom: "7777.TW" of a saved list became "7777.TE", another instrument, at the next load, and the next save
+// wrote it: every symbol of a table of TW that could not be loaded counted as gone over.
+TEST_F(SymbolsTest, ATableThatFailedToLoadIsNoProofThatASymbolMoved) {
+  StartWith({"a/A/7777.TW,2330.TW"});
+  standin::FailCall("VLGetBaseAttrs2", 1);
+  EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", kTw), 0);
+  ExpectKeptInTheFile("7777.TW,2330.TW");
+}
+
+// Symptom: the same, once the terminal announced a new symbol of the exchange whose table had failed.
+TEST_F(SymbolsTest, NorIsOneThatHasOnlyWhatWasAddedAfterTheFailure) {
+  StartWith({"a/A/7777.TW,6488.TW"});
+  standin::FailCall("VLGetBaseAttrs2", 1);
+  EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", kTw), 0);
+  EXPECT_EQ(manager.GetSymbolTableMgr()->AddSymbols(kTw, Packed({"2330.TW"}).c_str(), 1), 1);
+  ExpectKeptInTheFile("7777.TW,6488.TW");
+  // Loaded whole it says again what moved.
+  EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", kTw), 1);
+  EXPECT_EQ(Moved("7777.TW,6488.TW"), "7777.TW,6488.TE");
+}
+
+// Symptom: the same when the service lists the exchange without symbols, as before the market's day begins.
+TEST_F(SymbolsTest, NorIsATableThatCameEmpty) {
+  Drop(kTw, false);
+  StartWith({"a/A/7777.TW,6488.TW"});
+  ExpectKeptInTheFile("7777.TW,6488.TW");
+}
+
+// Symptom: the same when the service does not list the exchange at all.
+TEST_F(SymbolsTest, NorIsAMissingTable) {
+  Drop(kTw, true);
+  StartWith({"a/A/7777.TW,6488.TW"});
+  ExpectKeptInTheFile("7777.TW,6488.TW");
+}
+
+// Symptom: the same after the last symbol of the exchange was taken out.
+TEST_F(SymbolsTest, NorIsATableThatHasLostAllItsSymbols) {
+  StartWith({"a/A/7777.TW,6488.TE"});
+  standin::Market market = standin::CurrentMarket();
+  for (const standin::Instrument& each : market.instruments)
+    if (each.exchId == kTw)
+      manager.GetSymbolTableMgr()->RemoveSymbols(kTw, Packed({each.code.c_str()}).c_str(), 1);
+  EXPECT_EQ(Moved("7777.TW"), "7777.TW");
+}
+
+TEST_F(SymbolsTest, ASymbolMovesToAnExchangeThatHasItHoweverThatWasLoaded) {
+  StartWith({});
+  standin::FailCall("VLGetBaseAttrs2", 1);
+  EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TE", 2), 0);
+  EXPECT_EQ(Moved("6488.TW"), "6488.TW");
+  EXPECT_EQ(manager.GetSymbolTableMgr()->AddSymbols(2, Packed({"6488.TE"}).c_str(), 1), 1);
+  EXPECT_EQ(Moved("6488.TW"), "6488.TE");
+}
+
+TEST_F(SymbolsTest, ASymbolWithBlanksAroundItMovesAndKeepsThem) {
+  StartWith({});
+  EXPECT_EQ(Moved("2330.TW, 6488.TW ,\t5483.tw"), "2330.TW, 6488.TE ,\t5483.TE");
+}
+
+// Symptom: three renamed ids were reported as 3.
+TEST_F(SymbolsTest, RenamingATextSaysOnlyWhetherItChanged) {
+  StartWith({});
+  CString ids = "6488.TW,5483.TW,8069.TW";
+  EXPECT_EQ(manager.ReplaceSymbolListExchID(ids, "TW", "TE"), 1);
+  EXPECT_STREQ(ids, "6488.TE,5483.TE,8069.TE");
+  EXPECT_EQ(manager.ReplaceSymbolListExchID(ids, "TW", "TE"), 0);
 }
 
 TEST_F(SymbolsTest, LoadedAndAddedListsAreRenamed) {

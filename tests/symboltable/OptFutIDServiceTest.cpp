@@ -1,4 +1,6 @@
 // COptFutID: calendar spreads of futures, and what the service tells of contracts.
+#include <cstring>
+
 #include "tests/symboltable/CombinationTest.h"
 
 namespace {
@@ -113,6 +115,23 @@ TEST_F(OptFutIDService, ARecordWithoutAWeekIsARecordAllTheSame) {
   EXPECT_EQ(Week("TX121000L6.TF"), "1 0 W ");
   List("TX121000L6", {{ExtAttrWeekly, ""}});
   EXPECT_EQ(Week("TX121000L6.TF"), "1 0  ");
+}
+
+// Symptom: a text that fills its field without an end was read on into the memory behind the record.
+TEST_F(OptFutIDService, ATextWithoutAnEndEndsWithItsField) {
+  List("TX121000L6", {});
+  const auto filled = [](int kind, std::string text) {
+    ExtAttr record = {};
+    record.kind = static_cast<short>(kind);
+    text.resize(sizeof record.text, '9');
+    text.copy(record.text, sizeof record.text);
+    return std::vector<ExtAttr>{record};
+  };
+  standin::AnswerExtended("TX121000L6.TF", ExtAttrWeekly, filled(ExtAttrWeekly, "V4=W;V5=2;V3="));
+  standin::AnswerExtended("TX121000L6.TF", ExtAttrShortName, filled(ExtAttrShortName, "V5=A;V6="));
+  const std::string rest(sizeof ExtAttr::text, '9');
+  EXPECT_EQ(Week("TX121000L6.TF"), "1 2 W2 " + rest.substr(std::strlen("V4=W;V5=2;V3=")));
+  EXPECT_EQ(ShortId("TX121000L6.TF"), "1 A" + rest.substr(std::strlen("V5=A;V6=")) + " ");
 }
 
 TEST_F(OptFutIDService, WithoutARecordTheOutputsAreEmptied) {

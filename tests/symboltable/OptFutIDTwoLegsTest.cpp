@@ -172,6 +172,20 @@ TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessTheServiceHasBothStrikes) {
   }
 }
 
+// Symptom: a strike of the service that is no plain number refused a combination whose codes are in order.
+TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessBothStrikesOfTheServiceAreNumbers) {
+  List("ABO00002L6", {{ExtAttrWeekly, "V3=0.25"}});
+  for (const char* strike : {"n/a", "1,000", "1e3", "0x1", "1 000", " "}) {
+    List("ABO00001L6", {{ExtAttrWeekly, std::string("V3=") + strike}});
+    Checks id;
+    EXPECT_EQ(id.ChkTwoCommID("ABO00002L6", 'B', "ABO00001L6", 'S'), 1) << strike;
+    EXPECT_EQ(id.ChkTwoCommID("ABO00001L6", 'B', "ABO00002L6", 'S'), 0) << strike;
+  }
+  List("ABO00001L6", {{ExtAttrWeekly, "V3= 0.5\t"}});
+  Checks id;
+  EXPECT_EQ(id.ChkTwoCommID("ABO00002L6", 'B', "ABO00001L6", 'S'), 0);
+}
+
 TEST_F(OptFutIDTwoLegs, StrikesThatAreNoNumbersAreNeitherEqualNorInOrder) {
   const struct {
     const char* id1;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <set>
 #include <string>
 
@@ -153,6 +154,57 @@ TEST(SymbolKey, CharacterBucketIsTheSumOfTwelveUnsignedBytes) {
     EXPECT_EQ(BucketOf("ABCDEFGHIJKLx", mode), BucketOf("ABCDEFGHIJKLyz", mode));
     EXPECT_NE(BucketOf("ABCDEFGHIJKx", mode), BucketOf("ABCDEFGHIJKy", mode));
   }
+}
+
+// Keys of 15 bytes that had one hash when it was the same in every process: the last step of that hash is
+// undone, and the sizes that do not come out right are left out.
+std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
+  constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u;
+  std::uint64_t inverse = multiplier;
+  for (int i = 0; i < 6; ++i)
+    inverse *= 2 - multiplier * inverse;
+  constexpr std::uint64_t wantedUpperHalf = 0x12345678u;
+  std::set<std::string> keys;
+  for (std::uint64_t lower = 0; keys.size() < count; ++lower) {
+    const std::uint64_t first = 0x4141414141414141u + (lower & 0xf);
+    const std::uint64_t second = (wantedUpperHalf << 32 | lower) * inverse ^ tq::MixWords(0, first);
+    if (second >> 56 != tq::CodedBytes)
+      continue;
+    std::string key(16, '\0');
+    std::memcpy(key.data(), &first, 8);
+    std::memcpy(key.data() + 8, &second, 8);
+    key.resize(tq::CodedBytes);
+    keys.insert(key);
+  }
+  return keys;
+}
+
+// Symptom: a table of 80,000 ids that were chosen for it took two seconds to load, since they had one hash.
+TEST(SymbolKey, NobodyCanChooseKeysOfOneHash) {
+  constexpr std::size_t count = 2000;
+  std::set<std::uint32_t> hashes;
+  for (const std::string& key : KeysOfOneKnownHash(count)) {
+    hashes.insert(tq::MakeKey(key).hash);
+    EXPECT_EQ(tq::MakeKey(key).hash, tq::HashOf(tq::CodeOf(key.size(), tq::PackHead(key))));
+  }
+  EXPECT_GT(hashes.size(), count - 10);
+}
+
+TEST(SymbolKey, HashesOfKeysThatAreLikeEachOtherSpread) {
+  std::set<std::uint32_t> hashes;
+  std::set<std::uint32_t> groups; // what the index goes by first
+  constexpr int count = 20000;
+  for (int i = 0; i < count; ++i) {
+    const std::uint32_t hash = tq::MakeKey(std::to_string(100000 + i)).hash;
+    hashes.insert(hash);
+    groups.insert(hash >> 16);
+  }
+  EXPECT_GT(hashes.size(), count - 50u);
+  EXPECT_GT(groups.size(), 16000u); // 17,230 of 65,536 for hashes at random
+  hashes.clear();
+  for (std::size_t length = 0; length < 200; ++length)
+    hashes.insert(tq::MakeKey(std::string(length, 'A')).hash);
+  EXPECT_EQ(hashes.size(), 200u);
 }
 
 } // namespace

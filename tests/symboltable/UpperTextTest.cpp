@@ -37,6 +37,30 @@ TEST(UpperText, UpperCaseTextIsNotCopied) {
   }
 }
 
+// Symptom: the words of a short id were read together with the count of its owners, while another thread was
+// counting.
+TEST(UpperText, TheCountOfOwnersIsNotRead) {
+  for (int length = 1; length <= 16; ++length) {
+    EXPECT_GE(tq::TailPosition(length), -tq::kReadableBefore) << length;
+    EXPECT_GE(tq::BeforePosition(length), -tq::kReadableBefore) << length;
+    EXPECT_LE(tq::BeforePosition(length) + 8, length) << length;
+  }
+}
+
+TEST(UpperText, HeadAndTailAreThoseOfTheTextAtEveryLength) {
+  for (std::size_t length = 1; length <= 18; ++length) {
+    const std::string bytes = std::string("ABCDEFGHIJKLMNOPQR").substr(0, length);
+    CString text(bytes.c_str());
+    UpperBuffer buffer;
+    const tq::UpperText upper = tq::UpperCased(text, buffer);
+    EXPECT_EQ(upper.head, tq::PackHead(bytes)) << length;
+    std::string tail(8, '\0');
+    std::memcpy(tail.data(), &upper.tail, 8);
+    const std::size_t kept = std::min<std::size_t>(length, 8);
+    EXPECT_EQ(tail.substr(8 - kept), bytes.substr(length - kept)) << length;
+  }
+}
+
 TEST(UpperText, LowerLettersAreRaisedAtEveryPosition) {
   for (std::size_t at = 0; at < 40; ++at) {
     std::string lower(40, '1');

@@ -61,7 +61,7 @@ TEST_F(ScriptTest, EveryOperationRunsItsActionOnceACall) {
     int runs = 0;
     standin::OnCall(operation.name, [&] {
       ++runs;
-      operation.call(); // from within an action no action runs
+      operation.call(); // an action does not run inside of itself
     });
     operation.call();
     EXPECT_EQ(runs, 1);
@@ -69,6 +69,47 @@ TEST_F(ScriptTest, EveryOperationRunsItsActionOnceACall) {
     operation.call();
     EXPECT_EQ(runs, 1);
   }
+}
+
+TEST_F(ScriptTest, AnActionRunsInsideOfEachCallButNotOfItself) {
+  int runs = 0;
+  standin::OnCall("VLGetExch", [&] {
+    ++runs;
+    EXPECT_EQ(standin::CountCalls("VLGetExch"), 2 * runs - 1) << "recorded before";
+    EXPECT_NE(GetExch(), 0);
+  });
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_NE(GetExch(), 0);
+  EXPECT_EQ(runs, 2);
+  SymbolInfo info;
+  VLGetSymbolInfo("2330.TW", &info);
+  EXPECT_EQ(runs, 2) << "another operation";
+}
+
+TEST_F(ScriptTest, AnActionIsTakenBackByAnEmptyOneByResetAndByItself) {
+  int runs = 0;
+  const auto count = [&] { ++runs; };
+  standin::OnCall("VLGetExch", count);
+  standin::OnCall("VLGetExch", nullptr);
+  GetExch();
+  standin::OnCall("VLGetExch", count);
+  standin::Reset();
+  GetExch();
+  EXPECT_EQ(runs, 0);
+  standin::OnCall("VLGetExch", [&] {
+    standin::OnCall("VLGetExch", nullptr);
+    ++runs;
+  });
+  GetExch();
+  GetExch();
+  EXPECT_EQ(runs, 1);
+}
+
+TEST_F(ScriptTest, AnActionChangesWhatTheCallAnswers) {
+  standin::OnCall("VLGetExch", [] { standin::SetMarket({}); });
+  Exchs exchanges;
+  EXPECT_NE(VLGetExch(&exchanges.list, &exchanges.count, 1), 0);
+  EXPECT_EQ(exchanges.count, 0);
 }
 
 TEST_F(ScriptTest, TheStarCountsTheCallsOfEveryOperation) {

@@ -64,6 +64,22 @@ TEST_F(StockAttributes, AKeyAnswersTheFieldsOfItsRecord) {
   EXPECT_EQ(Number(FieldPriceScale), 100);
 }
 
+// Symptom: from ten decimals on the scale ran over.
+TEST_F(StockAttributes, ThePriceScaleStopsAtTheGreatestPowerOfTen) {
+  const struct {
+    int decimals;
+    int scale;
+  } cases[] = {{0, 1}, {-3, 1}, {9, 1'000'000'000}, {10, 1'000'000'000}, {32767, 1'000'000'000}};
+  for (const auto& each : cases) {
+    standin::Market market = standin::CurrentMarket();
+    market.instruments[0].decimals = each.decimals;
+    standin::SetMarket(market);
+    ASSERT_NE(SetUp("2330.TW"), 0);
+    EXPECT_EQ(Number(FieldPriceScale), each.scale) << each.decimals;
+    EXPECT_EQ(Number(FieldDecimals), each.decimals);
+  }
+}
+
 TEST_F(StockAttributes, AKeyHasNoTradingDataAndNoUnknownFields) {
   ASSERT_NE(SetUp("2330.TW"), 0);
   for (const int field : {static_cast<int>(FieldReferencePrice), 81, 178, 188, 0, -1, 9999})
