@@ -74,8 +74,10 @@ void KeepPlace::Restore() const {
   const int last = AskBox(box_, LB_GETCOUNT) - 1;
   if (last < 0)
     return;
-  if (!multi_)
-    Put(box_, LB_GETCURSEL, LB_SETCURSEL, selected_);
+  const bool isMoved = AskBox(box_, LB_GETCURSEL) != selected_ ||
+                       (selected_ != kNone && AskBox(box_, LB_GETCARETINDEX) != selected_);
+  if (!multi_ && isMoved) // puts the caret there too
+    AskBox(box_, LB_SETCURSEL, Number(selected_));
   if (multi_)
     Put(box_, LB_GETANCHORINDEX, LB_SETANCHORINDEX, std::min(anchor_, last));
   if (multi_ || selected_ == kNone)

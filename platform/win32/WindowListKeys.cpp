@@ -100,8 +100,8 @@ ListKeyResult Press(HWND control, Key key, Held held) {
     return PressInList(view, key, held);
   }
   case ControlKind::ComboBox: {
-    ComboKeys combo(control);
-    return key == Key::Space ? ListKeyResult::Unknown : PressInList(combo, key, held);
+    ComboKeys combo(control); // Space chooses nothing
+    return key == Key::Space ? ListKeyResult::Nothing : PressInList(combo, key, held);
   }
   default:
     return ListKeyResult::Unknown;

@@ -300,7 +300,7 @@ bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
 bool PressLetter(WindowHandle dialog, char letter, Modifier modifier) {
   const bool isPlain = modifier == Modifier::None || modifier == Modifier::Shift;
   const char text[] = {letter, '\0'};
-  const WPARAM code = std::toupper(static_cast<unsigned char>(letter));
+  const auto code = static_cast<WPARAM>(std::toupper(static_cast<unsigned char>(letter)));
   if (!IsOpen(dialog) || (modifier == Modifier::Control && code != 'A'))
     return false;
   if (isPlain && KindOf(::GetFocus()) == tq::ControlKind::Edit)
