@@ -200,8 +200,13 @@ struct Message {
   std::string text; // bytes, for a box that shows a text
 };
 TQSTANDIN_API const std::vector<Message>& Messages();
-// The button that the next message boxes report; 1 (OK) at the start.
+// The button that the next message boxes report; 1 (OK) at the start. Orders of AnswerMessagesInTurn are forgotten.
 TQSTANDIN_API void AnswerMessages(int button);
+// The buttons of the next message boxes, one after the other; those behind them report what AnswerMessages
+// said. Buttons that were not reported yet are forgotten.
+TQSTANDIN_API void AnswerMessagesInTurn(std::vector<int> buttons);
+// How many of those are still waiting for their box.
+TQSTANDIN_API size_t WaitingAnswers();
 
 struct Notification {
   std::string target;

@@ -33,11 +33,15 @@ intptr_t CDialog::OnMessage(unsigned, intptr_t, intptr_t) {
   return 0;
 }
 
-bool CDialog::OnKey(int, Key) {
+bool CDialog::OnKey(int, Key, Held) {
   return false;
 }
 
 void CDialog::OnItemLook(int, int, ItemLook&) {}
+
+CString CDialog::OnCellText(int, int, int) {
+  return CString();
+}
 
 namespace tq {
 
@@ -82,8 +86,12 @@ void DialogAccess::Posted(CDialog& dialog, unsigned code, intptr_t first, intptr
     dialog.OnMessage(code, first, second);
 }
 
-bool DialogAccess::KeyDown(CDialog& dialog, int id, Key key) {
-  return !dialog.ended_ && dialog.OnKey(id, key);
+bool DialogAccess::KeyDown(CDialog& dialog, int id, Key key, Held held) {
+  return !dialog.ended_ && dialog.OnKey(id, key, held);
+}
+
+CString DialogAccess::CellText(CDialog& dialog, int id, int row, int column) {
+  return dialog.OnCellText(id, row, column);
 }
 
 ItemLook DialogAccess::Look(CDialog& dialog, int id, int row) {

@@ -30,8 +30,9 @@ public:
     Cancelled = 2,
   };
 
-  // `parent` is copied; null, or a window that is gone when the run starts, means no parent. The template
-  // is looked up when the run starts, in the resources then in force (ResourceContext.h).
+  // `parent` is copied; null, or a window that is gone when the run starts, means no parent, and a control
+  // means the window that it is in. The template is looked up when the run starts, in the resources then in
+  // force (ResourceContext.h).
   explicit CDialog(unsigned templateId, const CWnd* parent = nullptr);
   virtual ~CDialog();
   CDialog(const CDialog&) = delete;
@@ -79,12 +80,22 @@ protected:
   virtual intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second);
 
   // A key, before the dialog and the control `id` that has the focus (0: none has) see it. True takes it
-  // away from them. Otherwise Enter clicks the button that has the focus, or else the template's default
-  // button, or else means OK; Escape cancels; Tab goes to the next control.
-  virtual bool OnKey(int id, Key key);
+  // away from them. With Alt held only Up and Down come here. Otherwise
+  //  - Enter clicks the button that has the focus, or else the template's default button, or else means OK;
+  //    Escape cancels;
+  //  - Tab goes to the next control that can take the focus, with Shift to the one before;
+  //  - Alt and a letter go to the control whose text has that letter behind an ampersand, and click it when it
+  //    is a button; for a label it is the next control that can take the focus. Where a button has the focus
+  //    the letter alone does so too. A control that is disabled or hidden has no letter;
+  //  - Control and A select all of an edit or of a list of several selections;
+  //  - in lists keys do what CListBox.h says.
+  virtual bool OnKey(int id, Key key, Held held);
 
   // Asked for each row of an owner-drawn list box when it is drawn.
   virtual void OnItemLook(int id, int row, ItemLook& look);
+
+  // The text of a cell of a virtual list view (CListCtrl.h), asked for each time that it is needed.
+  virtual CString OnCellText(int id, int row, int column);
 
 private:
   friend struct tq::DialogAccess;

@@ -20,6 +20,7 @@ public:
   bool IsReadOnly() const;
 
   // Lays the edit over a row of a list box of the same dialog, scrolls there, and shows it. False when there
-  // is no such row. In the template the edit stands before the list box: then it lies in front of it.
+  // is no such row. It covers that row alone when it lies in front of the list box, that is, when it stands
+  // before it in the template (DialogTemplate.h): then the mouse reaches the edit there, and else the row.
   bool PlaceOverRow(const CListBox& list, int row);
 };

@@ -1,4 +1,8 @@
-// CListCtrl: a table of text rows with titled columns. Several rows can be selected.
+// CListCtrl: a table of text rows with titled columns. Several rows can be selected. Keys and the caret row are
+// those of list boxes of several selections (CListBox.h); a click beside the rows clears the selection.
+//
+// A virtual one, which the template says (TQ_VIRTUAL), has no rows of its own: it is told how many there are,
+// and asks the dialog's OnCellText for what it shows. A million rows cost what a screenful does.
 #pragma once
 
 #include "platform/framework/CWnd.h"
@@ -15,6 +19,7 @@ public:
   };
   void SetStyles(unsigned styles);
   unsigned GetStyles() const;
+  // 0, as at the start: the system's own time.
   void SetHoverTime(unsigned milliseconds);
   unsigned GetHoverTime() const;
 
@@ -31,6 +36,12 @@ public:
   bool DeleteRow(int row);
   void DeleteAllRows();
 
+  // For virtual tables only, false for others. Row 0 is in sight then and the caret row, none is selected, and
+  // the cells are asked for again. False, and nothing changes, for a negative number or without columns. In
+  // virtual tables nothing else adds, deletes or changes rows, but DeleteAllRows is SetVirtualRows(0); there
+  // is no item data.
+  bool SetVirtualRows(int count);
+
   int GetRowCount() const;
   bool SetCellText(int row, int column, const char* text);
   CString GetCellText(int row, int column) const;
@@ -40,7 +51,8 @@ public:
 
   // The first selected row or -1.
   int GetCurSel() const;
-  // Selects that row alone and scrolls to it; -1 clears the selection.
+  // Selects that row alone, makes it the caret row and scrolls to it; -1 clears the selection and moves
+  // nothing. SelectRow scrolls nothing, and the caret row stays where it is.
   bool SetCurSel(int row);
   bool SelectRow(int row, bool select = true);
   bool IsSelected(int row) const;

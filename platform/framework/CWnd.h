@@ -41,8 +41,9 @@ public:
   void SetText(const char* text);
   CString GetText() const;
 
-  // A disabled or hidden control takes no click and no key. Move the focus first if it is there. A
-  // control of a disabled dialog is as enabled as before.
+  // A disabled or hidden control takes no click and no key. One that has the focus passes it on to the next
+  // control that can take it, in the order of the Tab key and as SetFocus does; when there is none, no
+  // control has it. A control of a disabled dialog is as enabled as before.
   void EnableWindow(bool enable = true);
   bool IsWindowEnabled() const;
   void Show(bool visible = true);
@@ -50,7 +51,8 @@ public:
   bool IsWindowVisible() const;
 
   // False, and nothing changes, for a label and for a control that is disabled or hidden. All of an edit's
-  // text is selected then, so that what is typed next replaces it.
+  // text is selected then, so that what is typed next replaces it. In a dialog that lies behind another one
+  // the control has the focus when that one has ended.
   bool SetFocus();
   bool HasFocus() const;
 

@@ -23,11 +23,12 @@ struct DialogAccess {
   static void Timer(CDialog& dialog, unsigned id);
   static void Posted(CDialog& dialog, unsigned code, intptr_t first, intptr_t second);
   // True: the dialog has used the key.
-  static bool KeyDown(CDialog& dialog, int id, Key key);
+  static bool KeyDown(CDialog& dialog, int id, Key key, Held held);
 
   static intptr_t Message(CDialog& dialog, unsigned code, intptr_t first, intptr_t second) {
     return dialog.OnMessage(code, first, second);
   }
+  static CString CellText(CDialog& dialog, int id, int row, int column);
   static TQFRAMEWORK_API ItemLook Look(CDialog& dialog, int id, int row);
 
   // Tells the modal handler, if there is one and the dialog has not ended.

@@ -11,8 +11,9 @@
 //   TQ_DIALOG_END
 //
 // A place is x, y, width, height in dialog units: a quarter of a letter's average width, an eighth of its
-// height. Tab goes through the controls in the order in which they stand. Styles are joined by "|", as
-// TemplateRow says. Ids 1 and 2 are OK and Cancel. The file is UTF-8.
+// height. Tab goes through the controls in the order in which they stand. Where two of them share a place, the
+// one that stands first lies in front and gets the mouse; labels and what is hidden or disabled leave it to what
+// lies behind. Styles are joined by "|", as TemplateRow says. Ids 1 and 2 are OK and Cancel. The file is UTF-8.
 //
 // The table is made by DialogRows.inc, the resources by DialogResources.inc; see docs/dialogs.md.
 #pragma once
@@ -33,6 +34,7 @@ enum TemplateStyle : unsigned {
   TemplateMulti = 16,      // TQ_MULTI: a list box of several selections
   TemplateOwnerDrawn = 32, // TQ_OWNER_DRAWN: a list box that asks OnItemLook
   TemplateReadOnly = 64,   // TQ_READ_ONLY: an edit
+  TemplateVirtual = 128,   // TQ_VIRTUAL: a list view that asks OnCellText
 };
 
 // A template is a row of kind Dialog and the rows of its controls behind it, up to the next one. Texts

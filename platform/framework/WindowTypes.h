@@ -13,13 +13,15 @@ using WindowHandle = HWND__*;
 // this layer that changes a control ever makes one.
 enum class ControlEvent {
   Clicked, // button: clicked, or its key pressed
-  // List box, combo box: the user chose, perhaps what was chosen before. A click always tells so; a key that
-  // finds nothing further to choose does on some systems.
+  // List box, combo box: the user chose. A click on a row tells so always, also where that row was chosen
+  // before; a key only when it chose something else.
   SelectionChanged,
   DoubleClicked, // list box: on a row, which is selected by then
   TextChanged,   // edit: after each character, paste or deletion
   FocusGained,   // edit: the user went there
-  FocusLost,     // edit: the user went to another control of the same dialog
+  // Edit: the user went to another control of the same dialog. The handler may take the focus back (SetFocus):
+  // then the click, or the letter with Alt, that took it has no effect, and nothing gains the focus.
+  FocusLost,
 };
 
 // What a list view tells its dialog.
@@ -32,8 +34,29 @@ struct ListNotice {
   int row; // the row that was double-clicked, -1 beside the rows; -1 for SelectionChanged
 };
 
-// Keys that a dialog may want for itself before they take their usual way.
-enum class Key { Enter, Escape, Tab, Space, Up, Down, Home, End, Delete };
+// Keys that a dialog may want for itself before they take their usual way. A comes only with Control.
+enum class Key {
+  Enter,
+  Escape,
+  Tab,
+  Space,
+  Up,
+  Down,
+  Home,
+  End,
+  Delete,
+  PageUp,
+  PageDown,
+  F2,
+  A,
+};
+
+// What is held down while a key is pressed.
+struct Held {
+  bool shift = false;
+  bool control = false;
+  bool alt = false;
+};
 
 // How an owner-drawn list box shows one row. The text is the row's own.
 struct ItemLook {

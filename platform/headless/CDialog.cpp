@@ -10,11 +10,17 @@ using namespace tq::headless;
 
 namespace {
 
+// A control that is given as the parent stands for its dialog.
+WindowHandle DialogOf(WindowHandle parent) {
+  const Control* const control = FindControl(parent);
+  return control == nullptr ? parent : control->owner->handle;
+}
+
 // Keeps a parent from taking input while a dialog is up.
 class ParentDisabled {
 public:
   explicit ParentDisabled(WindowHandle parent)
-      : parent_(parent), before_(parent_.IsWindowEnabled()) {
+      : parent_(DialogOf(parent)), before_(parent_.IsWindowEnabled()) {
     parent_.EnableWindow(false);
   }
   ~ParentDisabled() { parent_.EnableWindow(before_); }

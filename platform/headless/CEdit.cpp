@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/headless/Windows.h"
+#include "platform/headless/HitTest.h"
 
 using namespace tq::headless;
 
@@ -55,7 +55,8 @@ bool CEdit::PlaceOverRow(const CListBox& list, int row) {
   if (edit == nullptr || box == nullptr || box->owner != edit->owner ||
       box->rows.At(row) == nullptr)
     return false;
-  edit->placedOver = box->handle;
+  box->rows.Reveal(row);
+  edit->place = PlaceOfRow(*box, row);
   edit->visible = true;
   return true;
 }

@@ -1,5 +1,7 @@
 #include "platform/framework/CListBox.h"
 
+#include <algorithm>
+
 #include "platform/headless/Windows.h"
 
 using namespace tq::headless;
@@ -71,15 +73,23 @@ int CListBox::GetCurSel() const {
 
 bool CListBox::SetCurSel(int row) {
   Control* const box = Find(handle_);
-  return box != nullptr && box->rows.SelectOnly(row);
+  return box != nullptr && box->rows.SelectOnly(row) && (row == -1 || EnsureVisible(row));
 }
 
 bool CListBox::SelectRow(int row, bool select) {
   Control* const box = Find(handle_);
   if (box == nullptr)
     return false;
-  return select && !box->IsMulti() ? row >= 0 && box->rows.SelectOnly(row)
-                                   : box->rows.Select(row, select);
+  return select && !box->IsMulti() ? row >= 0 && SetCurSel(row) : box->rows.Select(row, select);
+}
+
+bool CListBox::SelectRange(int first, int last, bool select) {
+  Control* const box = Find(handle_);
+  if (box == nullptr || !box->IsMulti() || !box->rows.Holds(first) || !box->rows.Holds(last))
+    return false;
+  for (int row = std::min(first, last); row <= std::max(first, last); ++row)
+    box->rows.Select(row, select);
+  return true;
 }
 
 bool CListBox::IsSelected(int row) const {
@@ -104,11 +114,15 @@ int CListBox::GetCaretIndex() const {
 
 bool CListBox::SetCaretIndex(int row) {
   Control* const box = Find(handle_);
-  return box != nullptr && box->rows.SetCaret(row);
+  const bool isFree = box != nullptr && (box->IsMulti() || box->rows.CountSelected() == 0);
+  return isFree && box->rows.SetCaret(row) && EnsureVisible(row);
 }
 
 bool CListBox::EnsureVisible(int row) {
-  return FindRow(handle_, row) != nullptr;
+  if (FindRow(handle_, row) == nullptr)
+    return false;
+  Find(handle_)->rows.Reveal(row);
+  return true;
 }
 
 void CListBox::RedrawItems() {} // nothing is ever drawn

@@ -1,5 +1,6 @@
 #include "platform/framework/CListCtrl.h"
 
+#include "platform/framework/DialogAccess.h"
 #include "platform/headless/Windows.h"
 
 using namespace tq::headless;
@@ -78,6 +79,14 @@ void CListCtrl::DeleteAllRows() {
     view->rows.Clear();
 }
 
+bool CListCtrl::SetVirtualRows(int count) {
+  Control* const view = Find(handle_);
+  if (view == nullptr || !view->IsVirtual() || count < 0 || view->columns.empty())
+    return false;
+  view->rows.SetVirtualCount(count);
+  return true;
+}
+
 int CListCtrl::GetRowCount() const {
   const Control* const view = Find(handle_);
   return view == nullptr ? 0 : view->rows.Count();
@@ -99,9 +108,12 @@ bool CListCtrl::SetCellText(int row, int column, const char* text) {
 }
 
 CString CListCtrl::GetCellText(int row, int column) const {
-  const Row* const at = FindRow(handle_, row);
-  if (at == nullptr || !HasColumn(handle_, column))
+  const Control* const view = Find(handle_);
+  if (view == nullptr || !view->rows.Holds(row) || !HasColumn(handle_, column))
     return CString();
+  if (view->IsVirtual())
+    return tq::DialogAccess::CellText(*view->owner->object, view->id, row, column);
+  const Row* const at = FindRow(handle_, row);
   if (column == 0)
     return at->text;
   const auto more = static_cast<size_t>(column - 1);
@@ -126,7 +138,7 @@ int CListCtrl::GetCurSel() const {
 
 bool CListCtrl::SetCurSel(int row) {
   Control* const view = Find(handle_);
-  return view != nullptr && view->rows.SelectOnly(row);
+  return view != nullptr && view->rows.SelectOnly(row) && (row == -1 || EnsureVisible(row));
 }
 
 bool CListCtrl::SelectRow(int row, bool select) {
@@ -135,8 +147,8 @@ bool CListCtrl::SelectRow(int row, bool select) {
 }
 
 bool CListCtrl::IsSelected(int row) const {
-  const Row* const at = FindRow(handle_, row);
-  return at != nullptr && at->selected;
+  const Control* const view = Find(handle_);
+  return view != nullptr && view->rows.IsSelected(row);
 }
 
 int CListCtrl::GetSelectedCount() const {
@@ -150,5 +162,9 @@ int CListCtrl::GetNextSelected(int after) const {
 }
 
 bool CListCtrl::EnsureVisible(int row) {
-  return FindRow(handle_, row) != nullptr;
+  Control* const view = Find(handle_);
+  if (view == nullptr || !view->rows.Holds(row))
+    return false;
+  view->rows.Reveal(row);
+  return true;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/framework/CDialog.h"
 #include "platform/framework/DialogAccess.h"
+#include "platform/headless/Focus.h"
 #include "platform/headless/Queue.h"
 
 using namespace tq::headless;
@@ -63,6 +64,8 @@ CString CWnd::GetText() const {
 void CWnd::EnableWindow(bool enable) {
   if (Node* const node = FindNode(handle_))
     node->enabled = enable;
+  if (Control* const control = FindControl(handle_))
+    LeaveIfClosed(*control);
 }
 
 bool CWnd::IsWindowEnabled() const {
@@ -73,6 +76,8 @@ bool CWnd::IsWindowEnabled() const {
 void CWnd::Show(bool visible) {
   if (Node* const node = FindNode(handle_))
     node->visible = visible;
+  if (Control* const control = FindControl(handle_))
+    LeaveIfClosed(*control);
 }
 
 bool CWnd::IsWindowVisible() const {
@@ -85,8 +90,7 @@ bool CWnd::SetFocus() {
   if (control == nullptr || !control->TakesFocus())
     return false;
   control->owner->focus = control;
-  control->selectionStart = 0;
-  control->selectionEnd = control->kind == ControlKind::Edit ? control->text.GetLength() : 0;
+  SelectText(*control);
   return true;
 }
 

@@ -63,9 +63,15 @@ bool DeleteForward(Control& edit) {
   return true;
 }
 
-void PutCaret(Control& edit, Key key) {
-  if (key == Key::Home || key == Key::End)
+void PutCaret(Control& edit, Key key, bool selects) {
+  if (key != Key::Home && key != Key::End)
+    return;
+  if (!selects)
     PutCaretAt(edit, key == Key::Home ? 0 : edit.text.GetLength());
+  else if (key == Key::Home)
+    edit.selectionStart = 0;
+  else
+    edit.selectionEnd = edit.text.GetLength();
 }
 
 } // namespace tq::headless

@@ -10,7 +10,7 @@ namespace tq::headless {
 bool TypeCharacter(Control& edit, const CString& character);
 // The Delete key: what is selected, or the character behind the caret. True as above.
 bool DeleteForward(Control& edit);
-// The Home and End keys.
-void PutCaret(Control& edit, Key key);
+// The Home and End keys; `selects` what the caret passes over.
+void PutCaret(Control& edit, Key key, bool selects);
 
 } // namespace tq::headless

@@ -1,8 +1,7 @@
 #include "platform/headless/Focus.h"
 
-#include <algorithm>
-
 #include "platform/framework/DialogAccess.h"
+#include "platform/framework/Mnemonic.h"
 
 namespace tq::headless {
 
@@ -13,22 +12,43 @@ void Tell(Control& control, ControlEvent event) {
     DialogAccess::Command(*control.owner->object, control.id, event);
 }
 
-int RowBehindKey(const Control& control, Key key) {
-  const int last = control.rows.Count() - 1;
-  const int from =
-      control.kind == ControlKind::ComboBox ? control.rows.NextSelected(-1) : control.rows.Caret();
-  // In a list where nothing is selected the first key only shows where the caret is.
-  const bool fresh = control.rows.CountSelected() == 0 && control.kind != ControlKind::ComboBox;
-  switch (key) {
-  case Key::Home:
-    return 0;
-  case Key::End:
-    return last;
-  case Key::Up:
-    return fresh ? from : std::max(0, from - 1);
-  default:
-    return fresh ? from : std::min(last, from + 1);
+// The place of the control among the dialog's; their count when it is none of them.
+size_t IndexOf(const Dialog& dialog, const Control* control) {
+  size_t at = 0;
+  while (at < dialog.controls.size() && dialog.controls[at].get() != control)
+    ++at;
+  return at;
+}
+
+// Of the controls behind `from` and around, or in front of it, the first that can take the focus; null
+// when there is none but itself.
+Control* NextOf(const Dialog& dialog, const Control* from, bool backwards) {
+  const size_t count = dialog.controls.size();
+  if (count == 0)
+    return nullptr;
+  size_t at = IndexOf(dialog, from);
+  if (at == count) // from nowhere to the first, or to the last
+    at = backwards ? 0 : count - 1;
+  for (size_t step = 1; step <= count; ++step) {
+    Control& next = *dialog.controls[(at + (backwards ? count - step : step)) % count];
+    if (&next != from && next.TakesFocus())
+      return &next;
   }
+  return nullptr;
+}
+
+// What the letter leads to; null when nothing.
+Control* FindMnemonic(const Dialog& dialog, char letter) {
+  const size_t count = dialog.controls.size();
+  const size_t from = IndexOf(dialog, dialog.focus);
+  for (size_t step = 1; step <= count; ++step) {
+    Control& each = *dialog.controls[(from + step) % count];
+    const bool isLabel = each.kind == ControlKind::Label;
+    const bool hasLetter = isLabel || each.kind == ControlKind::Button;
+    if (hasLetter && each.TakesInput() && MnemonicOf(each.text) == letter)
+      return isLabel ? NextOf(dialog, &each, false) : &each;
+  }
+  return nullptr;
 }
 
 } // namespace
@@ -47,20 +67,26 @@ bool MoveFocus(Control& control) {
   return dialog.focus == &control && !DialogAccess::HasEnded(*dialog.object);
 }
 
-void FocusNext(Dialog& dialog) {
-  const size_t count = dialog.controls.size();
-  size_t at = 0;
-  while (at < count && dialog.controls[at].get() != dialog.focus)
-    ++at;
-  for (size_t step = 1; step <= count; ++step) {
-    Control& next = *dialog.controls[(at + step) % count];
-    if (!next.TakesFocus())
-      continue;
-    next.selectionStart = 0;
-    next.selectionEnd = next.kind == ControlKind::Edit ? next.text.GetLength() : 0;
-    MoveFocus(next);
+void SelectText(Control& control) {
+  control.selectionStart = 0;
+  control.selectionEnd = control.kind == ControlKind::Edit ? control.text.GetLength() : 0;
+}
+
+void FocusNext(Dialog& dialog, bool backwards) {
+  Control* const next = NextOf(dialog, dialog.focus, backwards);
+  if (next == nullptr)
     return;
-  }
+  SelectText(*next);
+  MoveFocus(*next);
+}
+
+void LeaveIfClosed(const Control& control) {
+  Dialog& dialog = *control.owner;
+  if (dialog.focus != &control || control.TakesFocus())
+    return;
+  dialog.focus = NextOf(dialog, &control, false);
+  if (dialog.focus != nullptr)
+    SelectText(*dialog.focus);
 }
 
 void Choose(Dialog& dialog, int id) {
@@ -69,24 +95,15 @@ void Choose(Dialog& dialog, int id) {
     DialogAccess::Command(*dialog.object, id, ControlEvent::Clicked);
 }
 
-void MoveCaret(Control& control, Key key) {
-  const bool hasRows = control.kind == ControlKind::ListBox ||
-                       control.kind == ControlKind::ComboBox ||
-                       control.kind == ControlKind::ListView;
-  if (!hasRows || control.rows.Count() == 0)
-    return;
-  const int before = control.rows.NextSelected(-1);
-  const bool alone = control.rows.CountSelected() == 1;
-  const int row = RowBehindKey(control, key);
-  control.rows.SelectOnly(row);
-  control.anchor = row;
-  if (before == row && alone)
-    return;
-  CDialog& object = *control.owner->object;
-  if (control.kind == ControlKind::ListView)
-    DialogAccess::Notify(object, control.id, {ListNotice::Kind::SelectionChanged, -1});
-  else
-    DialogAccess::Command(object, control.id, ControlEvent::SelectionChanged);
+bool PressMnemonic(Dialog& dialog, char letter) {
+  Control* const target = letter == '\0' ? nullptr : FindMnemonic(dialog, letter);
+  if (target == nullptr)
+    return false;
+  if (target != dialog.focus)
+    SelectText(*target);
+  if (MoveFocus(*target) && target->kind == ControlKind::Button)
+    Choose(dialog, target->id);
+  return true;
 }
 
 } // namespace tq::headless

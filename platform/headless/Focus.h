@@ -6,15 +6,21 @@
 namespace tq::headless {
 
 // The focus goes there, with the events of the edits that lose and gain it. False when a handler ended the
-// dialog or moved the focus on.
+// dialog or moved the focus on: then what moved it has no further effect.
 bool MoveFocus(Control& control);
-// Tab: the next control that can take it.
-void FocusNext(Dialog& dialog);
+// Tab: the next control that can take it, or the one before.
+void FocusNext(Dialog& dialog, bool backwards);
+// When the control has the focus and cannot take it any more, the next one gets it, and nobody is told.
+void LeaveIfClosed(const Control& control);
+// All of an edit's text, as where the focus arrives by key or program.
+void SelectText(Control& control);
 
 // OnOK or OnCancel, unless the template has that button and it is disabled.
 void Choose(Dialog& dialog, int id);
+// Alt and the letter. False when it leads nowhere.
+bool PressMnemonic(Dialog& dialog, char letter);
 
-// A key in the control that has the focus.
-void MoveCaret(Control& control, Key key);
+// A key in the list that has the focus. False when it is none of a list's keys.
+bool PressInRows(Control& list, Key key, Held held);
 
 } // namespace tq::headless

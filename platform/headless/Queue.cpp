@@ -74,15 +74,22 @@ bool DeliverMessage() {
   return true;
 }
 
-bool FireTimer() {
+bool FireTimer(uint64_t until) {
   const DueTimer next = NextTimer();
-  if (next.timer == nullptr)
+  if (next.timer == nullptr || next.timer->due > until)
     return false;
   now = std::max(now, next.timer->due);
   next.timer->due = now + next.timer->period;
   next.timer->order = ++timersSet; // behind the others that are due with it
   DialogAccess::Timer(*next.dialog->object, next.id);
   return true;
+}
+
+void Rest(unsigned milliseconds) {
+  const uint64_t until = now + milliseconds;
+  while (DeliverMessage() || FireTimer(until)) {
+  }
+  now = std::max(now, until);
 }
 
 } // namespace tq::headless

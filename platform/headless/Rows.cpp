@@ -4,60 +4,85 @@
 
 namespace tq::headless {
 
+namespace {
+
+// Where a row is when another one came, or went.
+int AfterInsert(int row, int came) {
+  return row >= came ? row + 1 : row;
+}
+int AfterRemove(int row, int went, int count) {
+  return std::max(0, row > went || row == count ? row - 1 : row);
+}
+
+} // namespace
+
 Row* Rows::At(int row) {
-  return Holds(row) ? &rows_[static_cast<size_t>(row)] : nullptr;
+  return Holds(row) && !isVirtual_ ? &rows_[static_cast<size_t>(row)] : nullptr;
 }
 
 int Rows::Insert(int row, const char* text) {
-  if (row < -1 || row > Count())
+  if (isVirtual_ || row < -1 || row > Count())
     return -1;
   const int at = row == -1 ? Count() : row;
   Row added;
   added.text = text;
   rows_.insert(rows_.begin() + at, std::move(added));
-  if (Count() > 1 && at <= caret_)
-    ++caret_;
+  if (Count() == 1)
+    return at;
+  caret_ = AfterInsert(caret_, at);
+  anchor_ = AfterInsert(anchor_, at);
   return at;
 }
 
 bool Rows::Remove(int row) {
-  if (!Holds(row))
+  if (isVirtual_ || !Holds(row))
     return false;
-  Mark(*At(row), false);
+  Mark(row, false);
   rows_.erase(rows_.begin() + row);
-  if (row < caret_ || caret_ == Count())
-    caret_ = std::max(0, caret_ - 1);
+  caret_ = AfterRemove(caret_, row, Count());
+  anchor_ = AfterRemove(anchor_, row, Count());
+  top_ = std::max(0, std::min(top_, Count() - page_));
   return true;
 }
 
 void Rows::Clear() {
   rows_.clear();
+  marks_.clear();
   selected_ = 0;
-  caret_ = 0;
+  caret_ = anchor_ = top_ = 0;
 }
 
-void Rows::Mark(Row& row, bool select) {
-  if (row.selected != select)
-    selected_ += select ? 1 : -1;
-  row.selected = select;
+void Rows::SetVirtualCount(int count) {
+  Clear();
+  marks_.resize(static_cast<size_t>(count));
+}
+
+void Rows::Mark(int row, bool select) {
+  if (IsSelected(row) == select)
+    return;
+  selected_ += select ? 1 : -1;
+  if (isVirtual_)
+    marks_[static_cast<size_t>(row)] = select;
+  else
+    rows_[static_cast<size_t>(row)].selected = select;
 }
 
 bool Rows::SelectOnly(int row) {
   if (row != -1 && !Holds(row))
     return false;
   for (int at = NextSelected(-1); at != -1; at = NextSelected(at))
-    Mark(*At(at), false);
+    Mark(at, false);
   if (row == -1)
     return true;
-  Mark(*At(row), true);
-  caret_ = row;
+  Mark(row, true);
+  caret_ = anchor_ = row;
   return true;
 }
 
 bool Rows::Select(int row, bool select) {
   if (!Holds(row))
     return false;
-  Mark(*At(row), select);
+  Mark(row, select);
   return true;
 }
 
@@ -67,11 +92,18 @@ void Rows::SelectRange(int from, int to) {
     Select(row, true);
 }
 
+bool Rows::IsSelected(int row) const {
+  if (!Holds(row))
+    return false;
+  const auto at = static_cast<size_t>(row);
+  return isVirtual_ ? marks_[at] : rows_[at].selected;
+}
+
 int Rows::NextSelected(int after) const {
   if (selected_ == 0 || after < -1)
     return -1;
   for (int row = after + 1; row < Count(); ++row) {
-    if (rows_[static_cast<size_t>(row)].selected)
+    if (IsSelected(row))
       return row;
   }
   return -1;
@@ -82,6 +114,13 @@ bool Rows::SetCaret(int row) {
     return false;
   caret_ = row;
   return true;
+}
+
+void Rows::Reveal(int row) {
+  if (row < top_)
+    top_ = row;
+  else if (row >= top_ + page_)
+    top_ = row - page_ + 1;
 }
 
 } // namespace tq::headless

@@ -18,29 +18,49 @@ struct Row {
 // Counts from 0; -1 is "none". Out of range nothing changes, and false, -1 or null is the answer.
 class Rows {
 public:
-  int Count() const { return static_cast<int>(rows_.size()); }
-  Row* At(int row);
+  int Count() const { return isVirtual_ ? static_cast<int>(marks_.size()) : HeldCount(); }
+  bool Holds(int row) const { return row >= 0 && row < Count(); }
+  Row* At(int row);                      // null in a virtual list
   int Insert(int row, const char* text); // -1: at the end
   bool Remove(int row);
   void Clear();
+  // Rows without content: only how many, and which of them are selected.
+  void MakeVirtual() { isVirtual_ = true; }
+  void SetVirtualCount(int count);
 
-  bool SelectOnly(int row); // -1 clears the selection
+  bool SelectOnly(int row); // makes it the caret row too; -1 clears the selection
   bool Select(int row, bool select);
   // Selects the rows from one to the other and no others.
   void SelectRange(int from, int to);
+  bool IsSelected(int row) const;
   int NextSelected(int after) const;
   int CountSelected() const { return selected_; }
 
+  // The caret row and the row from which Shift selects stay with their rows.
   int Caret() const { return Count() == 0 ? -1 : caret_; }
   bool SetCaret(int row);
+  int Anchor() const { return Count() == 0 ? -1 : anchor_; }
+  void SetAnchor(int row) { anchor_ = row; }
+
+  // Which rows are in sight.
+  void SetPage(int rows) { page_ = rows; }
+  int Page() const { return page_; }
+  int Top() const { return top_; }
+  bool InSight(int row) const { return Holds(row) && row >= top_ && row < top_ + page_; }
+  void Reveal(int row); // scrolls as little as needed
 
 private:
-  bool Holds(int row) const { return row >= 0 && row < Count(); }
-  void Mark(Row& row, bool select);
+  int HeldCount() const { return static_cast<int>(rows_.size()); }
+  void Mark(int row, bool select);
 
   std::vector<Row> rows_;
+  std::vector<bool> marks_; // the selection of virtual rows
+  bool isVirtual_ = false;
   int selected_ = 0;
   int caret_ = 0;
+  int anchor_ = 0;
+  int top_ = 0;
+  int page_ = 1;
 };
 
 } // namespace tq::headless

@@ -1,6 +1,6 @@
 // From a template's rows to windows.
 #include "platform/framework/ResourceContext.h"
-#include "platform/headless/Windows.h"
+#include "platform/headless/HitTest.h"
 
 namespace tq::headless {
 
@@ -29,6 +29,10 @@ std::unique_ptr<Control> MakeControl(const TemplateRow& row, const Resources& re
   control->kind = row.kind;
   control->id = row.id;
   control->style = row.style;
+  control->place = {row.x, row.y, row.width, row.height};
+  control->rows.SetPage(RowsInSight(row.kind, control->place));
+  if (control->IsVirtual())
+    control->rows.MakeVirtual();
   control->text = TextOf(row, resources);
   control->visible = (row.style & TemplateHidden) == 0;
   control->enabled = (row.style & TemplateDisabled) == 0;

@@ -3,30 +3,47 @@
 #include "platform/framework/CListCtrl.h"
 #include "platform/framework/DialogAccess.h"
 #include "platform/headless/Focus.h"
+#include "platform/headless/HitTest.h"
 #include "platform/headless/Queue.h"
 
 namespace tq::headless {
 
 namespace {
 
+constexpr int kBeside = -1;
+constexpr unsigned kSystemHoverTime = 400; // where a list view has none of its own
+
 bool IsOpen(const Dialog& dialog) {
   return dialog.enabled && dialog.visible && !DialogAccess::HasEnded(*dialog.object);
 }
 
-// The control, if the mouse can reach it.
-Control* Reach(WindowHandle handle) {
+// The control, if the mouse is let in.
+Control* FindOpen(WindowHandle handle) {
   Control* const control = FindControl(handle);
   return control != nullptr && IsOpen(*control->owner) && control->TakesFocus() ? control : nullptr;
 }
 
-Control* ReachRows(WindowHandle handle, int row) {
-  Control* const control = Reach(handle);
-  if (control == nullptr)
+// The control, if the mouse can reach it.
+Control* Reach(WindowHandle handle) {
+  Control* const control = FindOpen(handle);
+  return control != nullptr && IsReached(*control) ? control : nullptr;
+}
+
+bool HasSpaceBeside(const Control& list) {
+  return list.rows.Count() < list.rows.Page();
+}
+
+// The list, if the mouse can reach the row, to which the user scrolls.
+Control* ReachRow(WindowHandle handle, int row) {
+  Control* const list = FindOpen(handle);
+  if (list == nullptr || !list->HasRows() || list->kind == ControlKind::ComboBox)
     return nullptr;
-  const bool isView = control->kind == ControlKind::ListView;
-  const bool isBox = control->kind == ControlKind::ListBox;
-  const bool rowIsThere = control->rows.At(row) != nullptr || (isView && row == -1);
-  return (isView || isBox) && rowIsThere ? control : nullptr;
+  if (row == kBeside)
+    return HasSpaceBeside(*list) && IsRowReached(*list, list->rows.Page() - 1) ? list : nullptr;
+  if (!list->rows.Holds(row))
+    return nullptr;
+  list->rows.Reveal(row);
+  return IsRowReached(*list, row) ? list : nullptr;
 }
 
 // What a click with this modifier selects. True when the selection is another one now.
@@ -35,15 +52,16 @@ bool SelectByMouse(Control& control, int row, Modifier modifier) {
   std::vector<int> before;
   for (int at = rows.NextSelected(-1); at != -1; at = rows.NextSelected(at))
     before.push_back(at);
-  if (row == -1 || modifier == Modifier::None || !control.IsMulti())
+  if (row == kBeside || !control.IsMulti() ||
+      (modifier != Modifier::Control && modifier != Modifier::Shift))
     rows.SelectOnly(row);
   else if (modifier == Modifier::Control)
-    rows.Select(row, !rows.At(row)->selected);
+    rows.Select(row, !rows.IsSelected(row));
   else
-    rows.SelectRange(control.anchor, row);
+    rows.SelectRange(rows.Anchor(), row);
   rows.SetCaret(row);
-  if (modifier != Modifier::Shift && row != -1)
-    control.anchor = row;
+  if (modifier != Modifier::Shift && row != kBeside)
+    rows.SetAnchor(row);
   size_t same = 0;
   for (int at = rows.NextSelected(-1); at != -1; at = rows.NextSelected(at)) {
     if (same == before.size() || before[same++] != at)
@@ -58,6 +76,19 @@ void TellSelection(Control& control, bool changed) {
     DialogAccess::Command(object, control.id, ControlEvent::SelectionChanged);
   else if (changed)
     DialogAccess::Notify(object, control.id, {ListNotice::Kind::SelectionChanged, -1});
+}
+
+// Beside the rows of a list box there is nothing.
+bool IsNowhere(const Control& list, int row) {
+  return row == kBeside && list.kind == ControlKind::ListBox;
+}
+
+// The button goes down on a row. False when it has no effect.
+bool PressOnRow(Control& list, int row, Modifier modifier) {
+  if (!MoveFocus(list) || IsNowhere(list, row))
+    return false;
+  TellSelection(list, SelectByMouse(list, row, modifier));
+  return true;
 }
 
 } // namespace
@@ -77,7 +108,7 @@ size_t WindowCount() {
 
 bool Click(WindowHandle handle) {
   Control* const control = Reach(handle);
-  if (control == nullptr)
+  if (control == nullptr || control->HasRows())
     return false;
   if (control->kind == ControlKind::Edit)
     control->selectionStart = control->selectionEnd = control->text.GetLength();
@@ -87,40 +118,45 @@ bool Click(WindowHandle handle) {
 }
 
 bool ClickRow(WindowHandle handle, int row, Modifier modifier) {
-  Control* const control = ReachRows(handle, row);
-  if (control == nullptr)
-    return false;
-  if (MoveFocus(*control))
-    TellSelection(*control, SelectByMouse(*control, row, modifier));
-  return true;
+  Control* const list = ReachRow(handle, row);
+  if (list != nullptr)
+    PressOnRow(*list, row, modifier);
+  return list != nullptr;
 }
 
 bool DoubleClickRow(WindowHandle handle, int row, Modifier modifier) {
   if (!ClickRow(handle, row, modifier))
     return false;
-  Control* const control = ReachRows(handle, row);
-  if (control == nullptr) // the first click changed the rows or ended the dialog
+  Control* const list = ReachRow(handle, row);
+  // The first click may have changed the rows, ended the dialog, or had no effect.
+  if (list == nullptr || !MoveFocus(*list) || IsNowhere(*list, row))
     return true;
-  CDialog& object = *control->owner->object;
-  if (control->kind == ControlKind::ListBox)
-    DialogAccess::Command(object, control->id, ControlEvent::DoubleClicked);
+  CDialog& object = *list->owner->object;
+  if (list->kind == ControlKind::ListBox)
+    DialogAccess::Command(object, list->id, ControlEvent::DoubleClicked);
   else
-    DialogAccess::Notify(object, control->id, {ListNotice::Kind::DoubleClicked, row});
+    DialogAccess::Notify(object, list->id, {ListNotice::Kind::DoubleClicked, row});
   return true;
 }
 
 bool HoverRow(WindowHandle handle, int row) {
-  Control* const control = ReachRows(handle, row);
-  if (control == nullptr || (control->listStyles & CListCtrl::HoverSelect) == 0 || row == -1)
+  const Control* const found = row == kBeside ? nullptr : ReachRow(handle, row);
+  if (found == nullptr || (found->listStyles & CListCtrl::HoverSelect) == 0)
     return false;
-  TellSelection(*control, SelectByMouse(*control, row, Modifier::None));
+  Rest(found->hoverTime == 0 ? kSystemHoverTime : found->hoverTime);
+  if (Control* const list = ReachRow(handle, row))
+    TellSelection(*list, SelectByMouse(*list, row, Modifier::None));
   return true;
+}
+
+bool IsRowInSight(WindowHandle handle, int row) {
+  const Control* const list = FindControl(handle);
+  return list != nullptr && list->kind != ControlKind::ComboBox && list->rows.InSight(row);
 }
 
 bool PickEntry(WindowHandle handle, int index) {
   Control* const control = Reach(handle);
-  if (control == nullptr || control->kind != ControlKind::ComboBox ||
-      control->rows.At(index) == nullptr)
+  if (control == nullptr || control->kind != ControlKind::ComboBox || !control->rows.Holds(index))
     return false;
   if (!MoveFocus(*control))
     return true;

@@ -1,6 +1,7 @@
 // The keyboard's part of UserInput.h.
 #include "platform/CodePage.h"
 #include "platform/framework/DialogAccess.h"
+#include "platform/framework/Mnemonic.h"
 #include "platform/headless/EditText.h"
 #include "platform/headless/Focus.h"
 #include "platform/headless/UserInput.h"
@@ -38,20 +39,56 @@ void TellTextChanged(const Control& edit) {
   DialogAccess::Command(*edit.owner->object, edit.id, ControlEvent::TextChanged);
 }
 
-void PressInControl(Dialog& dialog, Key key) {
-  if (HasFocusOn(dialog, ControlKind::Button) && key == Key::Space)
-    return Choose(dialog, dialog.focus->id);
-  if (!HasFocusOn(dialog, ControlKind::Edit)) {
-    if (dialog.focus != nullptr && key != Key::Space && key != Key::Delete)
-      MoveCaret(*dialog.focus, key);
-    return;
-  }
-  Control& edit = *dialog.focus;
-  PutCaret(edit, key);
+void PressInEdit(Control& edit, Key key, Held held) {
+  if (key == Key::A && held.control)
+    return SelectText(edit);
+  PutCaret(edit, key, held.shift);
   const bool changed = (key == Key::Delete && DeleteForward(edit)) ||
                        (key == Key::Space && TypeCharacter(edit, " "));
   if (changed)
     TellTextChanged(edit);
+}
+
+void PressInControl(Dialog& dialog, Key key, Held held) {
+  if (held.alt && !(dialog.focus != nullptr && dialog.focus->HasRows()))
+    return;
+  if (HasFocusOn(dialog, ControlKind::Button) && key == Key::Space)
+    return Choose(dialog, dialog.focus->id);
+  if (HasFocusOn(dialog, ControlKind::Edit))
+    return PressInEdit(*dialog.focus, key, held);
+  if (dialog.focus != nullptr && dialog.focus->HasRows())
+    PressInRows(*dialog.focus, key, held);
+}
+
+Held HeldBy(Modifier modifier) {
+  return {modifier == Modifier::Shift, modifier == Modifier::Control, modifier == Modifier::Alt};
+}
+
+// With Alt the dialog hears of the keys that move up and down, and Enter, Escape and Tab are the system's.
+bool IsOffered(Key key, Held held) {
+  return !held.alt || key == Key::Up || key == Key::Down;
+}
+
+void PressInDialog(Dialog& dialog, Key key, Held held) {
+  if (key == Key::Enter)
+    PressEnter(dialog);
+  else if (key == Key::Escape)
+    Choose(dialog, CDialog::Cancelled);
+  else if (key == Key::Tab)
+    FocusNext(dialog, held.shift);
+  else
+    PressInControl(dialog, key, held);
+}
+
+// A letter without anything held.
+bool TypeLetter(Dialog& dialog, char letter) {
+  const char text[] = {letter, '\0'};
+  if (HasFocusOn(dialog, ControlKind::Edit))
+    return TypeText(dialog.handle, text);
+  const bool isMeant = dialog.focus == nullptr || HasFocusOn(dialog, ControlKind::Button);
+  if (isMeant)
+    PressMnemonic(dialog, AsMnemonic(letter));
+  return isMeant;
 }
 
 } // namespace
@@ -72,23 +109,30 @@ bool TypeText(WindowHandle handle, const char* text) {
   return true;
 }
 
-bool PressKey(WindowHandle handle, Key key) {
+bool PressKey(WindowHandle handle, Key key, Modifier modifier) {
   Dialog* const dialog = Listening(handle);
   if (dialog == nullptr)
     return false;
+  const Held held = HeldBy(modifier);
+  if (!IsOffered(key, held))
+    return true;
   const int id = dialog->focus == nullptr ? 0 : dialog->focus->id;
-  if (DialogAccess::KeyDown(*dialog->object, id, key))
+  if (DialogAccess::KeyDown(*dialog->object, id, key, held))
     return true;
-  if (Listening(handle) == nullptr)
-    return true;
-  if (key == Key::Enter)
-    PressEnter(*dialog);
-  else if (key == Key::Escape)
-    Choose(*dialog, CDialog::Cancelled);
-  else if (key == Key::Tab)
-    FocusNext(*dialog);
-  else
-    PressInControl(*dialog, key);
+  if (Listening(handle) != nullptr)
+    PressInDialog(*dialog, key, held);
+  return true;
+}
+
+bool PressLetter(WindowHandle handle, char letter, Modifier modifier) {
+  Dialog* const dialog = Listening(handle);
+  if (dialog == nullptr || AsMnemonic(letter) == '\0')
+    return false;
+  if (modifier == Modifier::Control)
+    return AsMnemonic(letter) == 'A' && PressKey(handle, Key::A, modifier);
+  if (modifier != Modifier::Alt)
+    return TypeLetter(*dialog, letter);
+  PressMnemonic(*dialog, AsMnemonic(letter));
   return true;
 }
 

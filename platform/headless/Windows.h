@@ -27,23 +27,35 @@ struct Column {
   int width;
 };
 
+// In dialog units, as the template has it.
+struct Place {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+};
+
 struct Control : Node {
   Dialog* owner = nullptr;
   int id = 0;
   unsigned style = 0;
+  Place place;
   Rows rows;                   // list box, combo box, list view
-  int anchor = 0;              // the row at which a selection by Shift begins
   std::vector<Column> columns; // list view
   unsigned listStyles = 0;
   unsigned hoverTime = 0;
-  int limit = 0;                     // edit: bytes, 0 none
-  int selectionStart = 0;            // edit: bytes, whole characters
-  int selectionEnd = 0;              // the caret
-  WindowHandle placedOver = nullptr; // edit: the list box it lies on
+  int limit = 0;          // edit: bytes, 0 none
+  int selectionStart = 0; // edit: bytes, whole characters
+  int selectionEnd = 0;   // the caret
   ButtonIcon icon = ButtonIcon::None;
 
   bool TakesInput() const { return enabled && visible; }
   bool TakesFocus() const { return kind != ControlKind::Label && TakesInput(); }
+  bool HasRows() const {
+    return kind == ControlKind::ListBox || kind == ControlKind::ComboBox ||
+           kind == ControlKind::ListView;
+  }
+  bool IsVirtual() const { return (style & TemplateVirtual) != 0; }
   bool IsMulti() const { return kind == ControlKind::ListView || (style & TemplateMulti) != 0; }
 };
 

@@ -2,34 +2,24 @@
 
 #include <algorithm>
 
+#include "platform/framework/DialogAccess.h"
+#include "platform/win32/WindowListView.h"
 #include "platform/win32/WindowRun.h"
 #include "platform/win32/WindowText.h"
 
-using tq::Silence;
+using tq::AskView;
 
 namespace {
 
 constexpr int kLongText = 256; // of a cell; longer ones are asked for again
-
-LRESULT Ask(HWND view, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  const Silence silence;
-  return ::SendMessageW(view, message, wParam, lParam);
-}
+constexpr auto kSystemHoverTime = static_cast<DWORD>(HOVER_DEFAULT);
 
 template <class RECORD> LPARAM Address(RECORD& record) {
   return reinterpret_cast<LPARAM>(&record);
 }
 
 bool HasRow(HWND view, int row) {
-  return row >= 0 && row < static_cast<int>(Ask(view, LVM_GETITEMCOUNT));
-}
-
-// Row -1 is every row.
-void SetState(HWND view, int row, UINT state, UINT mask) {
-  LVITEMW item{};
-  item.state = state;
-  item.stateMask = mask;
-  Ask(view, LVM_SETITEMSTATE, static_cast<WPARAM>(row), Address(item));
+  return row >= 0 && row < static_cast<int>(AskView(view, LVM_GETITEMCOUNT));
 }
 
 // What the columns leave of the table's width, less the scroll bar's that comes with many rows.
@@ -38,7 +28,7 @@ int RestOfWidth(HWND view, int columns) {
   ::GetClientRect(view, &client);
   int rest = client.right - ::GetSystemMetrics(SM_CXVSCROLL);
   for (int column = 0; column < columns; ++column)
-    rest -= static_cast<int>(Ask(view, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
+    rest -= static_cast<int>(AskView(view, LVM_GETCOLUMNWIDTH, static_cast<WPARAM>(column)));
   return std::max(0, rest);
 }
 
@@ -48,28 +38,47 @@ int Pixels(HWND view, int dialogUnits) {
   return place.right;
 }
 
+void StartAtFirstRow(HWND view) {
+  tq::PutCaretOfView(view, 0);
+  tq::PutAnchorOfView(view, 0);
+}
+
+// Where a row is when another one of `count` was deleted; of that one itself, the one in its place.
+int AfterDelete(int row, int deleted, int count) {
+  return row > deleted || row == count - 1 ? row - 1 : row;
+}
+
+CString AskedText(HWND view, int row, int column) {
+  const tq::Run* const run = tq::FindRun(::GetParent(view));
+  return run == nullptr
+             ? CString()
+             : tq::DialogAccess::CellText(*run->dialog, ::GetDlgCtrlID(view), row, column);
+}
+
 } // namespace
 
 void CListCtrl::SetStyles(unsigned styles) {
   DWORD bits = (styles & FullRowSelect) != 0 ? LVS_EX_FULLROWSELECT : 0;
   bits |= (styles & GridLines) != 0 ? LVS_EX_GRIDLINES : 0;
   bits |= (styles & HoverSelect) != 0 ? LVS_EX_TRACKSELECT : 0;
-  Ask(handle_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(bits));
+  AskView(handle_, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, static_cast<LPARAM>(bits));
 }
 
 unsigned CListCtrl::GetStyles() const {
-  const LRESULT bits = Ask(handle_, LVM_GETEXTENDEDLISTVIEWSTYLE);
+  const LRESULT bits = AskView(handle_, LVM_GETEXTENDEDLISTVIEWSTYLE);
   unsigned styles = (bits & LVS_EX_FULLROWSELECT) != 0 ? FullRowSelect : 0U;
   styles |= (bits & LVS_EX_GRIDLINES) != 0 ? GridLines : 0U;
   return styles | ((bits & LVS_EX_TRACKSELECT) != 0 ? HoverSelect : 0U);
 }
 
 void CListCtrl::SetHoverTime(unsigned milliseconds) {
-  Ask(handle_, LVM_SETHOVERTIME, 0, static_cast<LPARAM>(milliseconds));
+  const DWORD time = milliseconds == 0 ? kSystemHoverTime : milliseconds;
+  AskView(handle_, LVM_SETHOVERTIME, 0, static_cast<LPARAM>(time));
 }
 
 unsigned CListCtrl::GetHoverTime() const {
-  return static_cast<unsigned>(Ask(handle_, LVM_GETHOVERTIME));
+  const auto time = static_cast<DWORD>(AskView(handle_, LVM_GETHOVERTIME));
+  return time == kSystemHoverTime ? 0 : static_cast<unsigned>(time);
 }
 
 int CListCtrl::AddColumn(const char* title, int width) {
@@ -83,12 +92,12 @@ int CListCtrl::AddColumn(const char* title, int width) {
   column.cx = width > 0 ? Pixels(handle_, width) : RestOfWidth(handle_, number);
   column.iSubItem = number;
   return static_cast<int>(
-      Ask(handle_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(number), Address(column)));
+      AskView(handle_, LVM_INSERTCOLUMNW, static_cast<WPARAM>(number), Address(column)));
 }
 
 int CListCtrl::GetColumnCount() const {
-  const auto header = reinterpret_cast<HWND>(Ask(handle_, LVM_GETHEADER));
-  return header == nullptr ? 0 : static_cast<int>(Ask(header, HDM_GETITEMCOUNT));
+  const auto header = reinterpret_cast<HWND>(AskView(handle_, LVM_GETHEADER));
+  return header == nullptr ? 0 : static_cast<int>(AskView(header, HDM_GETITEMCOUNT));
 }
 
 CString CListCtrl::GetColumnTitle(int column) const {
@@ -97,8 +106,9 @@ CString CListCtrl::GetColumnTitle(int column) const {
   record.mask = LVCF_TEXT;
   record.pszText = text;
   record.cchTextMax = kLongText;
-  const bool is = column >= 0 && column < GetColumnCount() &&
-                  Ask(handle_, LVM_GETCOLUMNW, static_cast<WPARAM>(column), Address(record)) != 0;
+  const bool is =
+      column >= 0 && column < GetColumnCount() &&
+      AskView(handle_, LVM_GETCOLUMNW, static_cast<WPARAM>(column), Address(record)) != 0;
   return is ? tq::FromWide(record.pszText, static_cast<size_t>(::lstrlenW(record.pszText)))
             : CString();
 }
@@ -109,41 +119,68 @@ int CListCtrl::AddRow(const char* text) {
 
 int CListCtrl::InsertRow(int row, const char* text) {
   const int count = GetRowCount();
-  if (GetColumnCount() == 0 || row < -1 || row > count)
+  if (GetColumnCount() == 0 || row < -1 || row > count || tq::IsVirtualView(handle_))
     return -1;
   std::wstring wide = tq::ToWide(text);
   LVITEMW item{};
   item.mask = LVIF_TEXT;
   item.iItem = row == -1 ? count : row;
   item.pszText = wide.data();
-  return static_cast<int>(Ask(handle_, LVM_INSERTITEMW, 0, Address(item)));
+  const auto at = static_cast<int>(AskView(handle_, LVM_INSERTITEMW, 0, Address(item)));
+  if (count == 0)
+    StartAtFirstRow(handle_);
+  return at;
 }
 
 bool CListCtrl::DeleteRow(int row) {
-  return HasRow(handle_, row) && Ask(handle_, LVM_DELETEITEM, static_cast<WPARAM>(row)) != 0;
+  if (!HasRow(handle_, row) || tq::IsVirtualView(handle_))
+    return false;
+  const int caret = AfterDelete(tq::CaretOfView(handle_), row, GetRowCount());
+  const int anchor = AfterDelete(tq::AnchorOfView(handle_), row, GetRowCount());
+  if (AskView(handle_, LVM_DELETEITEM, static_cast<WPARAM>(row)) == 0)
+    return false;
+  if (caret >= 0)
+    tq::PutCaretOfView(handle_, caret);
+  tq::PutAnchorOfView(handle_, anchor);
+  return true;
 }
 
 void CListCtrl::DeleteAllRows() {
-  Ask(handle_, LVM_DELETEALLITEMS);
+  AskView(handle_, LVM_DELETEALLITEMS);
+}
+
+bool CListCtrl::SetVirtualRows(int count) {
+  if (!tq::IsVirtualView(handle_) || count < 0 || GetColumnCount() == 0)
+    return false;
+  tq::SetRowState(handle_, -1, 0, LVIS_SELECTED);
+  AskView(handle_, LVM_SETITEMCOUNT, static_cast<WPARAM>(count));
+  if (count > 0) {
+    StartAtFirstRow(handle_);
+    EnsureVisible(0);
+  }
+  return true;
 }
 
 int CListCtrl::GetRowCount() const {
-  return static_cast<int>(Ask(handle_, LVM_GETITEMCOUNT));
+  return static_cast<int>(AskView(handle_, LVM_GETITEMCOUNT));
 }
 
 bool CListCtrl::SetCellText(int row, int column, const char* text) {
-  if (!HasRow(handle_, row) || column < 0 || column >= GetColumnCount())
+  if (!HasRow(handle_, row) || column < 0 || column >= GetColumnCount() ||
+      tq::IsVirtualView(handle_))
     return false;
   std::wstring wide = tq::ToWide(text);
   LVITEMW item{};
   item.iSubItem = column;
   item.pszText = wide.data();
-  return Ask(handle_, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), Address(item)) != 0;
+  return AskView(handle_, LVM_SETITEMTEXTW, static_cast<WPARAM>(row), Address(item)) != 0;
 }
 
 CString CListCtrl::GetCellText(int row, int column) const {
   if (!HasRow(handle_, row) || column < 0 || column >= GetColumnCount())
     return CString();
+  if (tq::IsVirtualView(handle_))
+    return AskedText(handle_, row, column);
   std::wstring text(kLongText, L'\0');
   for (;;) {
     LVITEMW item{};
@@ -151,7 +188,7 @@ CString CListCtrl::GetCellText(int row, int column) const {
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(text.size());
     const auto length = static_cast<size_t>(
-        Ask(handle_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), Address(item)));
+        AskView(handle_, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), Address(item)));
     if (length + 1 < text.size())
       return tq::FromWide(text.data(), length);
     text.resize(text.size() * 2);
@@ -163,15 +200,17 @@ bool CListCtrl::SetItemData(int row, intptr_t data) {
   item.mask = LVIF_PARAM;
   item.iItem = row;
   item.lParam = data;
-  return HasRow(handle_, row) && Ask(handle_, LVM_SETITEMW, 0, Address(item)) != 0;
+  return HasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
+         AskView(handle_, LVM_SETITEMW, 0, Address(item)) != 0;
 }
 
 intptr_t CListCtrl::GetItemData(int row) const {
   LVITEMW item{};
   item.mask = LVIF_PARAM;
   item.iItem = row;
-  return HasRow(handle_, row) && Ask(handle_, LVM_GETITEMW, 0, Address(item)) != 0 ? item.lParam
-                                                                                   : 0;
+  const bool is = HasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
+                  AskView(handle_, LVM_GETITEMW, 0, Address(item)) != 0;
+  return is ? item.lParam : 0;
 }
 
 int CListCtrl::GetCurSel() const {
@@ -181,39 +220,42 @@ int CListCtrl::GetCurSel() const {
 bool CListCtrl::SetCurSel(int row) {
   if (handle_ == nullptr || (row != -1 && !HasRow(handle_, row)))
     return false;
-  SetState(handle_, -1, 0, LVIS_SELECTED);
+  tq::SetRowState(handle_, -1, 0, LVIS_SELECTED);
   if (row == -1)
     return true;
-  SetState(handle_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-  Ask(handle_, LVM_SETSELECTIONMARK, 0, row);
+  tq::SetRowState(handle_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+  tq::PutAnchorOfView(handle_, row);
   return EnsureVisible(row);
 }
 
 bool CListCtrl::SelectRow(int row, bool select) {
   if (!HasRow(handle_, row))
     return false;
-  SetState(handle_, row, select ? LVIS_SELECTED : 0, LVIS_SELECTED);
+  const int anchor = tq::AnchorOfView(handle_);
+  tq::SetRowState(handle_, row, select ? LVIS_SELECTED : 0, LVIS_SELECTED);
+  tq::PutAnchorOfView(handle_, anchor);
   return true;
 }
 
 bool CListCtrl::IsSelected(int row) const {
   return HasRow(handle_, row) &&
-         Ask(handle_, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+         AskView(handle_, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
 }
 
 int CListCtrl::GetSelectedCount() const {
-  return static_cast<int>(Ask(handle_, LVM_GETSELECTEDCOUNT));
+  return static_cast<int>(AskView(handle_, LVM_GETSELECTEDCOUNT));
 }
 
 int CListCtrl::GetNextSelected(int after) const {
   if (handle_ == nullptr || after < -1)
     return -1;
-  return static_cast<int>(Ask(handle_, LVM_GETNEXTITEM, static_cast<WPARAM>(after), LVNI_SELECTED));
+  return static_cast<int>(
+      AskView(handle_, LVM_GETNEXTITEM, static_cast<WPARAM>(after), LVNI_SELECTED));
 }
 
 bool CListCtrl::EnsureVisible(int row) {
   if (!HasRow(handle_, row))
     return false;
-  Ask(handle_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  AskView(handle_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
   return true;
 }

@@ -1,7 +1,7 @@
 #include "platform/framework/CWnd.h"
 
 #include "platform/framework/DialogAccess.h"
-#include "platform/win32/WindowRun.h"
+#include "platform/win32/WindowFocus.h"
 #include "platform/win32/WindowText.h"
 
 using tq::ControlKind;
@@ -46,7 +46,12 @@ CString CWnd::GetText() const {
 
 void CWnd::EnableWindow(bool enable) {
   const Silence silence;
-  ::EnableWindow(handle_, enable ? TRUE : FALSE);
+  if (enable) {
+    ::EnableWindow(handle_, TRUE);
+    return;
+  }
+  const tq::FocusGoesOn focus(handle_);
+  ::EnableWindow(handle_, FALSE);
 }
 
 bool CWnd::IsWindowEnabled() const {
@@ -56,7 +61,12 @@ bool CWnd::IsWindowEnabled() const {
 void CWnd::Show(bool visible) {
   const Silence silence;
   ::RemovePropW(handle_, kNotDrawn);
-  ::ShowWindow(handle_, visible ? SW_SHOWNA : SW_HIDE);
+  if (visible) {
+    ::ShowWindow(handle_, SW_SHOWNA);
+    return;
+  }
+  const tq::FocusGoesOn focus(handle_);
+  ::ShowWindow(handle_, SW_HIDE);
 }
 
 bool CWnd::IsWindowVisible() const {
@@ -64,12 +74,11 @@ bool CWnd::IsWindowVisible() const {
 }
 
 bool CWnd::SetFocus() {
-  const HWND dialog = ::GetParent(handle_);
+  tq::Run* const run = tq::FindRun(::GetParent(handle_));
   const bool reachable = IsWindowEnabled() && IsWindowVisible();
-  if (tq::FindRun(dialog) == nullptr || !reachable || tq::KindOf(handle_) == ControlKind::Label)
+  if (run == nullptr || !reachable || tq::KindOf(handle_) == ControlKind::Label)
     return false;
-  const Silence silence;
-  ::SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(handle_), TRUE);
+  tq::PutFocus(*run, handle_);
   return true;
 }
 

@@ -1,6 +1,7 @@
 // From the notifications of the controls to the events of this layer.
 #include "platform/framework/DialogAccess.h"
 #include "platform/win32/WindowRun.h"
+#include "platform/win32/WindowText.h"
 
 namespace tq {
 
@@ -42,6 +43,30 @@ void Choose(Run& run, int id) {
     DialogAccess::Command(*run.dialog, id, ControlEvent::Clicked);
 }
 
+// A cell of a virtual list view is to be drawn.
+void GiveCellText(Run& run, const NMHDR& header) {
+  LVITEMW& item = reinterpret_cast<NMLVDISPINFOW&>(const_cast<NMHDR&>(header)).item;
+  if ((item.mask & LVIF_TEXT) == 0 || item.cchTextMax <= 0)
+    return;
+  const CString text = DialogAccess::CellText(*run.dialog, static_cast<int>(header.idFrom),
+                                              item.iItem, item.iSubItem);
+  ::lstrcpynW(item.pszText, ToWide(text).c_str(), item.cchTextMax);
+}
+
+// What a list view tells of rows that were selected or are not any more; of a virtual one also of many rows at
+// once.
+bool IsOtherSelection(const NMHDR& header) {
+  UINT change = 0;
+  if (header.code == LVN_ITEMCHANGED) {
+    const auto& one = reinterpret_cast<const NMLISTVIEW&>(header);
+    change = one.uOldState ^ one.uNewState;
+  } else if (header.code == LVN_ODSTATECHANGED) {
+    const auto& many = reinterpret_cast<const NMLVODSTATECHANGE&>(header);
+    change = many.uOldState ^ many.uNewState;
+  }
+  return (change & LVIS_SELECTED) != 0;
+}
+
 } // namespace
 
 void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam) {
@@ -56,17 +81,18 @@ void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam) {
 }
 
 void TranslateNotify(Run& run, const NMHDR& header) {
-  if (Silence::IsOn() || KindOf(header.hwndFrom) != ControlKind::ListView)
+  if (KindOf(header.hwndFrom) != ControlKind::ListView)
+    return;
+  if (header.code == LVN_GETDISPINFOW)
+    return GiveCellText(run, header);
+  if (Silence::IsOn())
     return;
   const int id = static_cast<int>(header.idFrom);
   if (header.code == NM_DBLCLK) {
     const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
     DialogAccess::Notify(*run.dialog, id, {ListNotice::Kind::DoubleClicked, row});
-  } else if (header.code == LVN_ITEMCHANGED) {
-    const auto& change = reinterpret_cast<const NMLISTVIEW&>(header);
-    const bool selection = ((change.uOldState ^ change.uNewState) & LVIS_SELECTED) != 0;
-    if (selection && run.selectionNews.insert(id).second)
-      ::PostMessageW(run.window, kSelectionMessage, static_cast<WPARAM>(id), 0);
+  } else if (IsOtherSelection(header) && run.selectionNews.insert(id).second) {
+    ::PostMessageW(run.window, kSelectionMessage, static_cast<WPARAM>(id), 0);
   }
 }
 

@@ -1,7 +1,7 @@
 // The modal run: from the DIALOG resource to the end code.
 #include "platform/framework/DialogAccess.h"
 #include "platform/framework/ResourceContext.h"
-#include "platform/win32/WindowRun.h"
+#include "platform/win32/WindowFocus.h"
 
 namespace tq {
 
@@ -114,6 +114,8 @@ int RunModal(CDialog& dialog) {
   const HWND window = Make(dialog, parent);
   if (window == nullptr)
     return CDialog::Failed;
+  const Hearing hearing;
+  const FocusBehind focus(FindRun(::GetAncestor(parent, GA_ROOT)));
   Run run;
   run.dialog = &dialog;
   const RunWindow running(run, window);

@@ -23,6 +23,7 @@ struct Run {
   std::map<int, CString> tips; // by control
   HWND tipWindow = nullptr;    // made for the first tip
   HFONT boldFont = nullptr;    // made for the first bold row
+  HWND focusBehind = nullptr;  // while it lies behind another dialog: where the focus will be
 };
 
 // The innermost last.
@@ -39,7 +40,21 @@ public:
   static bool IsOn() { return depth_ != 0; }
 
 private:
+  friend class Hearing;
   static int depth_;
+};
+
+// While one of these lives notifications are heard again: a dialog that a silenced change led to has a user of
+// its own.
+class Hearing {
+public:
+  Hearing() : depth_(Silence::depth_) { Silence::depth_ = 0; }
+  ~Hearing() { Silence::depth_ = depth_; }
+  Hearing(const Hearing&) = delete;
+  Hearing& operator=(const Hearing&) = delete;
+
+private:
+  int depth_;
 };
 
 // The kind of a control by its window class; Dialog for any other window.

@@ -1,5 +1,7 @@
 #include "terminal/control/Reports.h"
 
+#include <deque>
+
 #include "terminal/control/Parts.h"
 
 namespace standin {
@@ -13,6 +15,7 @@ struct Reports {
   std::vector<Message> messages;
   std::vector<Notification> notifications;
   int answer = kButtonOk;
+  std::deque<int> inTurn; // the answers before that one
 };
 
 Reports& TheReports() {
@@ -64,8 +67,13 @@ void ReportLogger(int change) {
 }
 
 int ReportMessage(Message message) {
-  TheReports().messages.push_back(std::move(message));
-  return TheReports().answer;
+  Reports& reports = TheReports();
+  reports.messages.push_back(std::move(message));
+  if (reports.inTurn.empty())
+    return reports.answer;
+  const int answer = reports.inTurn.front();
+  reports.inTurn.pop_front();
+  return answer;
 }
 
 void ReportNotification(Notification notification) {
@@ -90,6 +98,15 @@ const std::vector<Message>& Messages() {
 
 void AnswerMessages(int button) {
   TheReports().answer = button;
+  TheReports().inTurn.clear();
+}
+
+void AnswerMessagesInTurn(std::vector<int> buttons) {
+  TheReports().inTurn.assign(buttons.begin(), buttons.end());
+}
+
+size_t WaitingAnswers() {
+  return TheReports().inTurn.size();
 }
 
 const std::vector<Notification>& Notifications() {

@@ -129,8 +129,12 @@ bool User::Fill(int id, const std::string& text) {
   return Type(text.empty() ? "\b" : text);
 }
 
-bool User::Press(Key key) {
-  return IsUp() && Settled(actions::PressKey(dialog_.GetSafeHwnd(), key));
+bool User::Press(Key key, Modifier modifier) {
+  return IsUp() && Settled(actions::PressKey(dialog_.GetSafeHwnd(), key, modifier));
+}
+
+bool User::PressLetter(char letter, Modifier modifier) {
+  return IsUp() && Settled(actions::PressLetter(dialog_.GetSafeHwnd(), letter, modifier));
 }
 
 bool User::CloseByTitleBar() {
@@ -169,6 +173,10 @@ std::vector<int> User::SelectedRows(int id) const {
   default:
     return {};
   }
+}
+
+bool User::IsInSight(int id, int row) const {
+  return actions::IsRowInSight(Control(id).GetSafeHwnd(), row);
 }
 
 std::string User::Text(int id) const {

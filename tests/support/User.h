@@ -7,9 +7,10 @@
 //     user.DoubleClick(781, 0);
 //   });
 //
-// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there, the dialog is
-// closed or lies behind another one) returns false and does nothing. An action returns when all that
-// follows from it has happened, timers excepted: see WaitFor.
+// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there, another control
+// lies in front of where the mouse would be, the dialog is closed or lies behind another one) returns false
+// and does nothing. The mouse is in the middle of the control or row, and scrolls there first. An action
+// returns when all that follows from it has happened, timers excepted: see WaitFor.
 #pragma once
 
 #include <functional>
@@ -36,8 +37,10 @@ public:
   explicit User(CDialog& dialog) : dialog_(dialog) {}
 
   bool Click(int id); // a button, or an edit to go there
+  // Row -1 is beside the rows, which is nowhere while they fill the list.
   bool ClickRow(int id, int row, Modifier modifier = Modifier::None);
   bool DoubleClick(int id, int row, Modifier modifier = Modifier::None);
+  // The mouse comes and rests for the table's hover time, in which timers are heard.
   bool Hover(int id, int row);
   // The entry of a combo box, or the row of a list, by number or as the first with that text.
   bool Select(int id, int index);
@@ -46,13 +49,17 @@ public:
   bool Type(const std::string& text);
   // In the place of the text of that edit.
   bool Fill(int id, const std::string& text);
-  bool Press(Key key);
+  bool Press(Key key, Modifier modifier = Modifier::None);
+  // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With Control only A.
+  // Without Alt and Control not where a list has the focus.
+  bool PressLetter(char letter, Modifier modifier = Modifier::Alt);
   bool CloseByTitleBar();
 
   // What can be seen. Rows of a list view have their columns joined by " | ".
   std::vector<std::string> Rows(int id) const;
   std::vector<int> SelectedRows(int id) const;
-  std::string Text(int id) const; // of a combo box the chosen entry
+  bool IsInSight(int id, int row) const; // without scrolling
+  std::string Text(int id) const;        // of a combo box the chosen entry
   std::string Title() const;
   std::string ToolTip(int id) const;
   bool IsEnabled(int id) const;

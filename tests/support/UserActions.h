@@ -8,7 +8,7 @@
 #include "platform/framework/CDialog.h"
 #include "platform/framework/DialogTemplate.h"
 
-enum class Modifier { None, Control, Shift };
+enum class Modifier { None, Control, Shift, Alt };
 
 namespace actions {
 
@@ -25,7 +25,9 @@ bool DoubleClickRow(WindowHandle control, int row, Modifier modifier);
 bool HoverRow(WindowHandle control, int row);
 bool PickEntry(WindowHandle control, int index);
 bool TypeText(WindowHandle dialog, const char* ansi);
-bool PressKey(WindowHandle dialog, Key key);
+bool PressKey(WindowHandle dialog, Key key, Modifier modifier);
+bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
+bool IsRowInSight(WindowHandle control, int row);
 bool CloseByTitleBar(WindowHandle dialog);
 
 // Delivers what waits, timers excepted.

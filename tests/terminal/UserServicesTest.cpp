@@ -69,6 +69,22 @@ TEST_F(UserServices, MessagesAreKeptAndAnsweredAsOrdered) {
   EXPECT_EQ(standin::Messages()[1].type, 4u);
 }
 
+TEST_F(UserServices, MessagesAreAnsweredInTurn) {
+  standin::AnswerMessages(2);
+  standin::AnswerMessagesInTurn({6, 7});
+  EXPECT_EQ(tqShowDllMessage(nullptr, 48012, 4), 6);
+  EXPECT_EQ(standin::WaitingAnswers(), 1u);
+  EXPECT_EQ(tqShowMessageStr("text", 4), 7);
+  EXPECT_EQ(tqShowDllMessage(nullptr, 48012, 3), 2);
+  standin::AnswerMessagesInTurn({6});
+  standin::AnswerMessages(1);
+  EXPECT_EQ(standin::WaitingAnswers(), 0u);
+  EXPECT_EQ(tqShowDllMessage(nullptr, 48012, 3), 1);
+  standin::AnswerMessagesInTurn({6});
+  standin::Reset();
+  EXPECT_EQ(tqShowDllMessage(nullptr, 48012, 3), 1);
+}
+
 TEST_F(UserServices, AMessageThatCannotBeShownIsNotKept) {
   standin::FailCall("tqShowDllMessage", 1);
   EXPECT_EQ(tqShowDllMessage(nullptr, 48026, 0), 0);

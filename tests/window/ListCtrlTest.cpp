@@ -277,6 +277,23 @@ TEST_F(ListCtrlTest, HoveringSelectsWhereItIsOn) {
   });
 }
 
+TEST_F(ListCtrlTest, TheMouseRestsForTheHoverTime) {
+  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
+    EXPECT_EQ(table.GetHoverTime(), 0U);
+    table.SetStyles(CListCtrl::HoverSelect | CListCtrl::FullRowSelect);
+    table.SetHoverTime(300);
+    dialog.SetTimer(1, 100);
+    EXPECT_TRUE(user.Hover(kTable, 1));
+    ASSERT_GE(dialog.log.size(), 2U);
+    EXPECT_EQ(dialog.log.front(), "timer 1"); // some time went by before
+    EXPECT_EQ(dialog.log.back(), "791 selection");
+    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
+    dialog.KillTimer(1);
+    table.SetHoverTime(0);
+    EXPECT_EQ(table.GetHoverTime(), 0U);
+  });
+}
+
 TEST_F(ListCtrlTest, ADisabledTableTakesNoClick) {
   InTable([](User& user, TestDialog& dialog, CListCtrl table) {
     table.EnableWindow(false);

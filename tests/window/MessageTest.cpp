@@ -60,6 +60,19 @@ TEST_F(MessageTest, MessagesOfAnEndedDialogAreLost) {
   In(dialog, [&](User&) { EXPECT_EQ(dialog.log, Log()); });
 }
 
+TEST_F(MessageTest, MessagesThatAreSentAfterTheEndAreStillAnswered) {
+  TestDialog dialog;
+  dialog.onMessage = [](unsigned, intptr_t, intptr_t) { return 5; };
+  RunDialog(dialog, [&](User&) {
+    dialog.EndDialog(1);
+    EXPECT_TRUE(dialog.Post(kCode)); // is lost
+    EXPECT_EQ(dialog.Send(kCode), 5);
+  });
+  EXPECT_EQ(dialog.Take(), (Log{"init", "message 0 0 0"}));
+  EXPECT_FALSE(dialog.Post(kCode));
+  EXPECT_EQ(dialog.Send(kCode), 0);
+}
+
 TEST_F(MessageTest, AMessageCanOpenADialogAndEndTheRun) {
   TestDialog dialog;
   TestDialog inner(101, &dialog);

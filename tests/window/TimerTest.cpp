@@ -72,6 +72,28 @@ TEST_F(TimerTest, ZeroMillisecondsAreTakenAsOne) {
   });
 }
 
+TEST_F(TimerTest, TimersAreKilledAndSetFromWithinTheirHandlers) {
+  InDialog([](User& user, TestDialog& dialog) {
+    dialog.onTimer = [&](unsigned id) {
+      EXPECT_TRUE(dialog.KillTimer(id));
+      EXPECT_FALSE(dialog.KillTimer(id));
+      dialog.KillTimer(3); // is due as well, and is not heard
+      if (id == 1) {
+        dialog.SetTimer(1, 1);
+        dialog.SetTimer(2, 30);
+      }
+      if (dialog.log.size() == 3)
+        dialog.KillTimer(1);
+    };
+    dialog.SetTimer(1, 1);
+    dialog.SetTimer(3, 2);
+    EXPECT_TRUE(
+        user.WaitFor([&] { return !dialog.log.empty() && dialog.log.back() == "timer 2"; }));
+    for (const std::string& line : dialog.log)
+      EXPECT_NE(line, "timer 3");
+  });
+}
+
 TEST_F(TimerTest, OutsideOfARunThereAreNoTimers) {
   TestDialog dialog;
   EXPECT_FALSE(dialog.SetTimer(1, 1));

@@ -93,16 +93,24 @@ intptr_t TestDialog::OnMessage(unsigned code, intptr_t first, intptr_t second) {
   return onMessage ? onMessage(code, first, second) : 0;
 }
 
-bool TestDialog::OnKey(int id, Key key) {
+bool TestDialog::OnKey(int id, Key key, Held held) {
   if (!onKey)
     return false;
-  log.push_back("key " + std::to_string(id) + " " + std::to_string(static_cast<int>(key)));
-  return onKey(id, key);
+  const char* const with = held.alt       ? " alt"
+                           : held.control ? " control"
+                           : held.shift   ? " shift"
+                                          : "";
+  log.push_back("key " + std::to_string(id) + " " + std::to_string(static_cast<int>(key)) + with);
+  return onKey(id, key, held);
 }
 
 void TestDialog::OnItemLook(int id, int row, ItemLook& look) {
   if (onItemLook)
     onItemLook(id, row, look);
+}
+
+CString TestDialog::OnCellText(int id, int row, int column) {
+  return onCellText ? onCellText(id, row, column) : CString();
 }
 
 WindowTest::WindowTest() : context_(TestResources()) {}

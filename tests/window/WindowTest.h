@@ -40,8 +40,9 @@ public:
   std::function<void(int, const ListNotice&)> onNotify;
   std::function<void(unsigned)> onTimer;
   std::function<intptr_t(unsigned, intptr_t, intptr_t)> onMessage;
-  std::function<bool(int, Key)> onKey; // written down only where one is set
+  std::function<bool(int, Key, Held)> onKey; // written down only where one is set
   std::function<void(int, int, ItemLook&)> onItemLook;
+  std::function<CString(int, int, int)> onCellText;
   bool focusFirst = true;
 
   // What was written since the last time.
@@ -55,8 +56,9 @@ protected:
   void OnNotify(int id, const ListNotice& notice) override;
   void OnTimer(unsigned id) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
-  bool OnKey(int id, Key key) override;
+  bool OnKey(int id, Key key, Held held) override;
   void OnItemLook(int id, int row, ItemLook& look) override;
+  CString OnCellText(int id, int row, int column) override;
 };
 
 class WindowTest : public testing::Test {

@@ -181,7 +181,7 @@ TEST_F(WndTest, KeysInAnEmptyListDoNothing) {
 TEST_F(WndTest, TheDialogSeesKeysFirst) {
   InDialog([](User& user, TestDialog& dialog) {
     bool take = true;
-    dialog.onKey = [&](int, Key) { return take; };
+    dialog.onKey = [&](int, Key, Held) { return take; };
     EXPECT_TRUE(user.Press(Key::Enter));
     EXPECT_TRUE(user.Press(Key::Escape));
     EXPECT_TRUE(user.Press(Key::Tab));
@@ -195,7 +195,7 @@ TEST_F(WndTest, TheDialogSeesKeysFirst) {
 
 TEST_F(WndTest, KeysOfADialogWithoutFocus) {
   TestDialog dialog(103);
-  dialog.onKey = [](int, Key) { return false; };
+  dialog.onKey = [](int, Key, Held) { return false; };
   EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(Key::Escape); }), 2);
   EXPECT_EQ(dialog.log, (Log{"init", "key 0 1", "cancel"}));
 }
@@ -203,7 +203,7 @@ TEST_F(WndTest, KeysOfADialogWithoutFocus) {
 // As an editor over a row does: Enter takes the text over, Escape gives it up, and the dialog stays.
 TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
   InDialog([](User& user, TestDialog& dialog) {
-    dialog.onKey = [](int id, Key key) {
+    dialog.onKey = [](int id, Key key, Held) {
       return id == 742 && (key == Key::Enter || key == Key::Escape);
     };
     CWnd(dialog, 742).SetFocus();
@@ -216,7 +216,7 @@ TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
 
 TEST_F(WndTest, AKeyThatEndsTheDialog) {
   TestDialog dialog;
-  dialog.onKey = [&](int, Key) { return dialog.EndDialog(6), false; };
+  dialog.onKey = [&](int, Key, Held) { return dialog.EndDialog(6), false; };
   EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(Key::Enter); }), 6);
   EXPECT_EQ(dialog.log, (Log{"init", "key 761 0"}));
 }

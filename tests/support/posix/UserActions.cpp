@@ -11,6 +11,7 @@ tq::headless::Modifier Same(Modifier modifier) {
   return static_cast<tq::headless::Modifier>(modifier);
 }
 static_assert(static_cast<int>(tq::headless::Modifier::Shift) == static_cast<int>(Modifier::Shift));
+static_assert(static_cast<int>(tq::headless::Modifier::Alt) == static_cast<int>(Modifier::Alt));
 
 } // namespace
 
@@ -45,8 +46,16 @@ bool TypeText(WindowHandle dialog, const char* ansi) {
   return tq::headless::TypeText(dialog, ansi);
 }
 
-bool PressKey(WindowHandle dialog, Key key) {
-  return tq::headless::PressKey(dialog, key);
+bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
+  return tq::headless::PressKey(dialog, key, Same(modifier));
+}
+
+bool PressLetter(WindowHandle dialog, char letter, Modifier modifier) {
+  return tq::headless::PressLetter(dialog, letter, Same(modifier));
+}
+
+bool IsRowInSight(WindowHandle control, int row) {
+  return tq::headless::IsRowInSight(control, row);
 }
 
 bool CloseByTitleBar(WindowHandle dialog) {

@@ -6,8 +6,11 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <cctype>
 #include <string>
 
+#include "platform/framework/CListCtrl.h"
 #include "platform/framework/DialogAccess.h"
 
 namespace actions {
@@ -15,6 +18,8 @@ namespace actions {
 namespace {
 
 constexpr DWORD kPatience = 10000; // milliseconds
+constexpr DWORD kHoverSlack = 1000;
+constexpr int kBeside = -1;
 
 tq::ControlKind KindOf(HWND window) {
   struct Class {
@@ -54,45 +59,141 @@ LPARAM Middle(const RECT& place) {
   return MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
+// Holds the modifier's key down, and no other, as long as it lives.
+class Holding {
+public:
+  explicit Holding(Modifier modifier) {
+    ::GetKeyboardState(before_);
+    BYTE now[kKeys];
+    std::copy(std::begin(before_), std::end(before_), now);
+    now[VK_SHIFT] = now[VK_LSHIFT] = modifier == Modifier::Shift ? kDown : 0;
+    now[VK_CONTROL] = now[VK_LCONTROL] = modifier == Modifier::Control ? kDown : 0;
+    now[VK_MENU] = now[VK_LMENU] = modifier == Modifier::Alt ? kDown : 0;
+    ::SetKeyboardState(now);
+  }
+  ~Holding() { ::SetKeyboardState(before_); }
+  Holding(const Holding&) = delete;
+  Holding& operator=(const Holding&) = delete;
+
+private:
+  static constexpr int kKeys = 256;
+  static constexpr BYTE kDown = 0x80;
+  BYTE before_[kKeys] = {};
+};
+
+// In the order in which they lie, the front one first. Labels, and what is hidden or disabled, leave the mouse
+// to what lies behind.
+bool IsInFront(HWND control, LPARAM point) {
+  POINT screen{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
+  ::ClientToScreen(control, &screen);
+  for (HWND child = ::GetWindow(::GetParent(control), GW_CHILD); child != nullptr;
+       child = ::GetWindow(child, GW_HWNDNEXT)) {
+    RECT place{};
+    ::GetWindowRect(child, &place);
+    if (::IsWindowVisible(child) && ::IsWindowEnabled(child) &&
+        KindOf(child) != tq::ControlKind::Label && ::PtInRect(&place, screen))
+      return child == control;
+  }
+  return false;
+}
+
+LPARAM MiddleOf(HWND control) {
+  RECT place{};
+  ::GetClientRect(control, &place);
+  return Middle(place);
+}
+
 void Press(HWND control, UINT down, LPARAM point, Modifier modifier) {
   ::PostMessageW(control, down, MK_LBUTTON | Held(modifier), point);
   ::PostMessageW(control, WM_LBUTTONUP, Held(modifier), point);
   Settle();
 }
 
-// Scrolls to the row. False when it is not there.
-bool FindRow(HWND control, int row, LPARAM& point) {
+int RowsInSight(HWND control) {
+  if (KindOf(control) == tq::ControlKind::ListView)
+    return static_cast<int>(::SendMessageW(control, LVM_GETCOUNTPERPAGE, 0, 0));
+  RECT client{};
+  ::GetClientRect(control, &client);
+  const auto height = static_cast<int>(::SendMessageW(control, LB_GETITEMHEIGHT, 0, 0));
+  return client.bottom / std::max(1, height);
+}
+
+int RowCount(HWND control) {
+  const bool isBox = KindOf(control) == tq::ControlKind::ListBox;
+  return static_cast<int>(::SendMessageW(control, isBox ? LB_GETCOUNT : LVM_GETITEMCOUNT, 0, 0));
+}
+
+bool IsList(HWND control) {
+  const tq::ControlKind kind = KindOf(control);
+  return kind == tq::ControlKind::ListBox || kind == tq::ControlKind::ListView;
+}
+
+RECT PlaceOfBoxRow(HWND box, int row) {
   RECT place{};
-  if (KindOf(control) == tq::ControlKind::ListBox) {
-    const LRESULT count = ::SendMessageW(control, LB_GETCOUNT, 0, 0);
-    if (row < 0 || row >= count)
-      return false;
-    ::SendMessageW(control, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
-    ::SendMessageW(control, LB_GETITEMRECT, static_cast<WPARAM>(row),
-                   reinterpret_cast<LPARAM>(&place));
-    point = Middle(place);
-    return true;
-  }
-  const LRESULT count = ::SendMessageW(control, LVM_GETITEMCOUNT, 0, 0);
-  if (KindOf(control) != tq::ControlKind::ListView || row < -1 || row >= count)
-    return false;
-  if (row == -1) { // the lower end, where no row is as long as the table is not full
-    ::GetClientRect(control, &place);
-    point = MAKELPARAM(place.right / 2, place.bottom - 1);
-    return true;
-  }
-  ::SendMessageW(control, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
-  place.left = LVIR_LABEL;
-  ::SendMessageW(control, LVM_GETITEMRECT, static_cast<WPARAM>(row),
+  if (!IsRowInSight(box, row))
+    ::SendMessageW(box, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+  ::SendMessageW(box, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+  return place;
+}
+
+RECT PlaceOfTableRow(HWND table, int row) {
+  RECT place{LVIR_LABEL, 0, 0, 0};
+  ::SendMessageW(table, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+  ::SendMessageW(table, LVM_GETITEMRECT, static_cast<WPARAM>(row),
                  reinterpret_cast<LPARAM>(&place));
-  point = Middle(place);
-  return true;
+  return place;
+}
+
+// Scrolls to the row. False when it is not there, or something lies in front of it.
+bool FindRow(HWND control, int row, LPARAM& point) {
+  if (!IsList(control) || row < kBeside || row >= RowCount(control))
+    return false;
+  if (row == kBeside) { // the lower end, where no row is as long as the list is not full
+    if (RowCount(control) >= RowsInSight(control))
+      return false;
+    RECT client{};
+    ::GetClientRect(control, &client);
+    point = MAKELPARAM(client.right / 2, client.bottom - 1);
+  } else {
+    const bool isBox = KindOf(control) == tq::ControlKind::ListBox;
+    point = Middle(isBox ? PlaceOfBoxRow(control, row) : PlaceOfTableRow(control, row));
+  }
+  return IsInFront(control, point);
 }
 
 WPARAM CodeOf(Key key) {
-  static constexpr WPARAM codes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE, VK_UP,
-                                     VK_DOWN,   VK_HOME,   VK_END, VK_DELETE};
+  static constexpr WPARAM codes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE,  VK_UP,
+                                     VK_DOWN,   VK_HOME,   VK_END, VK_DELETE, VK_PRIOR,
+                                     VK_NEXT,   VK_F2,     'A'};
   return codes[static_cast<int>(key)];
+}
+
+// A key goes down and up, with what follows from it.
+void PressCode(HWND dialog, WPARAM code, Modifier modifier) {
+  constexpr LPARAM kOnce = 1;
+  constexpr LPARAM kAltHeld = 1 << 29;
+  constexpr LPARAM kReleased = static_cast<LPARAM>(0xC0000000);
+  const Holding holding(modifier);
+  const bool alt = modifier == Modifier::Alt;
+  const LPARAM state = alt ? kOnce | kAltHeld : kOnce;
+  const HWND focus = ::IsChild(dialog, ::GetFocus()) ? ::GetFocus() : dialog;
+  ::PostMessageW(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, code, state);
+  ::PostMessageW(focus, alt ? WM_SYSKEYUP : WM_KEYUP, code, state | kReleased);
+  Settle();
+}
+
+// Until the table's selection is another one, or the time is over.
+void WaitForHover(HWND table, DWORD milliseconds) {
+  const int before = CListCtrl(table).GetCurSel();
+  const DWORD start = ::GetTickCount();
+  for (DWORD past = 0; past < milliseconds && CListCtrl(table).GetCurSel() == before;
+       past = ::GetTickCount() - start) {
+    ::MsgWaitForMultipleObjectsEx(0, nullptr, milliseconds - past, QS_ALLINPUT,
+                                  MWMO_INPUTAVAILABLE);
+    MSG waiting{};
+    if (::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+      tq::ServeMessage(tq::Serve::Timers);
+  }
 }
 
 std::wstring Wide(const char* ansi) {
@@ -115,11 +216,10 @@ std::vector<ControlView> ControlsOf(WindowHandle dialog) {
 
 bool Click(WindowHandle control) {
   const tq::ControlKind kind = KindOf(control);
-  if (!IsReachable(control) || (kind != tq::ControlKind::Button && kind != tq::ControlKind::Edit))
+  if (!IsReachable(control) || (kind != tq::ControlKind::Button && kind != tq::ControlKind::Edit) ||
+      !IsInFront(control, MiddleOf(control)))
     return false;
-  RECT place{};
-  ::GetClientRect(control, &place);
-  Press(control, WM_LBUTTONDOWN, Middle(place), Modifier::None);
+  Press(control, WM_LBUTTONDOWN, MiddleOf(control), Modifier::None);
   return true;
 }
 
@@ -145,9 +245,15 @@ bool HoverRow(WindowHandle control, int row) {
   const bool isOn =
       KindOf(control) == tq::ControlKind::ListView &&
       (::SendMessageW(control, LVM_GETEXTENDEDLISTVIEWSTYLE, 0, 0) & LVS_EX_TRACKSELECT) != 0;
-  if (!isOn || row == -1 || !IsReachable(control) || !FindRow(control, row, point))
+  if (!isOn || row == kBeside || !IsReachable(control) || !FindRow(control, row, point))
     return false;
-  ::PostMessageW(control, WM_MOUSEHOVER, 0, point);
+  POINT screen{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
+  ::ClientToScreen(control, &screen);
+  ::SetCursorPos(screen.x, screen.y);
+  ::PostMessageW(control, WM_MOUSEMOVE, 0, point);
+  const unsigned own = CListCtrl(control).GetHoverTime();
+  WaitForHover(control, (own == 0 ? kHoverSlack : own) + kHoverSlack);
+  ::SetCursorPos(0, 0);
   return true;
 }
 
@@ -155,6 +261,8 @@ bool PickEntry(WindowHandle control, int index) {
   const LRESULT count = ::SendMessageW(control, CB_GETCOUNT, 0, 0);
   if (!IsReachable(control) || KindOf(control) != tq::ControlKind::ComboBox || index < 0 ||
       index >= count)
+    return false;
+  if (!IsInFront(control, MiddleOf(control)))
     return false;
   COMBOBOXINFO info{};
   info.cbSize = sizeof info;
@@ -182,13 +290,34 @@ bool TypeText(WindowHandle dialog, const char* ansi) {
   return true;
 }
 
-bool PressKey(WindowHandle dialog, Key key) {
+bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
   if (!IsOpen(dialog))
     return false;
-  const HWND focus = ::IsChild(dialog, ::GetFocus()) ? ::GetFocus() : dialog;
-  ::PostMessageW(focus, WM_KEYDOWN, CodeOf(key), 1);
-  ::PostMessageW(focus, WM_KEYUP, CodeOf(key), static_cast<LPARAM>(0xC0000001));
+  PressCode(dialog, CodeOf(key), modifier);
   return true;
+}
+
+bool PressLetter(WindowHandle dialog, char letter, Modifier modifier) {
+  const bool isPlain = modifier == Modifier::None || modifier == Modifier::Shift;
+  const char text[] = {letter, '\0'};
+  const auto code = static_cast<WPARAM>(std::toupper(static_cast<unsigned char>(letter)));
+  if (!IsOpen(dialog) || (modifier == Modifier::Control && code != 'A'))
+    return false;
+  if (isPlain && KindOf(::GetFocus()) == tq::ControlKind::Edit)
+    return TypeText(dialog, text);
+  if (isPlain && (IsList(::GetFocus()) || KindOf(::GetFocus()) == tq::ControlKind::ComboBox))
+    return false;
+  PressCode(dialog, code, modifier);
+  return true;
+}
+
+bool IsRowInSight(WindowHandle control, int row) {
+  if (!IsList(control) || row < 0 || row >= RowCount(control))
+    return false;
+  const bool isBox = KindOf(control) == tq::ControlKind::ListBox;
+  const auto top =
+      static_cast<int>(::SendMessageW(control, isBox ? LB_GETTOPINDEX : LVM_GETTOPINDEX, 0, 0));
+  return row >= top && row < top + RowsInSight(control);
 }
 
 bool CloseByTitleBar(WindowHandle dialog) {

@@ -5,6 +5,9 @@
 
 #include <commctrl.h>
 
+#include <thread>
+
+#include "platform/framework/CComboBox.h"
 #include "platform/framework/CEdit.h"
 #include "platform/framework/CListCtrl.h"
 
@@ -18,6 +21,71 @@ TEST_F(NativeTest, ADialogWhoseWindowIsDestroyedEndsAsCancelled) {
   EXPECT_EQ(code, CDialog::Cancelled);
   EXPECT_EQ(dialog.log, Log{"init"});
   EXPECT_FALSE(dialog.IsRunning());
+}
+
+constexpr UINT kDestroyYourself = WM_APP;
+
+LRESULT CALLBACK OwnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == kDestroyYourself)
+    return ::DestroyWindow(window);
+  return ::DefWindowProcW(window, message, wParam, lParam);
+}
+
+// The run's loop slept on: a message that is sent from another thread does not wake it.
+TEST_F(NativeTest, ADialogWhoseOwnerIsDestroyedByASentMessageReturns) {
+  constexpr DWORD kTooLong = 5000;
+  const HWND owner = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
+                                       nullptr, nullptr, nullptr, nullptr);
+  ::SetWindowLongPtrW(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OwnerProc));
+  const CWnd parent(owner);
+  TestDialog dialog(101, &parent);
+  const DWORD thread = ::GetCurrentThreadId();
+  const HANDLE returned = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
+  bool woken = false;
+  std::thread other;
+  const int code = RunDialog(dialog, [&](User& user) {
+    user.LeaveUp();
+    other = std::thread([&] {
+      ::Sleep(100); // the loop waits by now
+      ::SendMessageW(owner, kDestroyYourself, 0, 0);
+      woken = ::WaitForSingleObject(returned, kTooLong) == WAIT_OBJECT_0;
+      ::PostThreadMessageW(thread, WM_NULL, 0, 0);
+    });
+  });
+  ::SetEvent(returned);
+  other.join();
+  ::CloseHandle(returned);
+  EXPECT_EQ(code, CDialog::Cancelled);
+  EXPECT_TRUE(woken);
+  EXPECT_EQ(dialog.log, Log{"init"});
+}
+
+// What the program changes makes no event, and the dialog that a handler opened meanwhile heard none either.
+TEST_F(NativeTest, ADialogThatOpensWhileARowIsDrawnHearsItsUser) {
+  InDialog([](User&, TestDialog& dialog) {
+    TestDialog inner(101, &dialog);
+    bool opened = false;
+    dialog.onItemLook = [&](int, int, ItemLook&) {
+      if (opened)
+        return;
+      opened = true;
+      WhenDialogOpens([&](User& user) {
+        CComboBox(inner, 761).AddString("A");
+        EXPECT_TRUE(user.Select(761, 0));
+        EXPECT_TRUE(user.Press(Key::Escape));
+        if (user.IsUp())
+          inner.EndDialog(9);
+      });
+      inner.DoModal();
+    };
+    CListBox box(dialog, 783);
+    box.AddString("row");
+    box.SetCurSel(0);
+    ::UpdateWindow(box.GetSafeHwnd());
+    EXPECT_TRUE(opened);
+    EXPECT_EQ(inner.log, (Log{"init", "761 selection", "cancel"}));
+    EXPECT_EQ(dialog.log, Log());
+  });
 }
 
 TEST_F(NativeTest, TheProgramsEndEndsTheDialogAndIsPassedOn) {

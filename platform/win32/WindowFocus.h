@@ -1,0 +1,45 @@
+// The focus of a dialog: where it goes when a control cannot keep it, and how the user moves it. Internal.
+#pragma once
+
+#include "platform/win32/WindowRun.h"
+
+namespace tq {
+
+// The dialog gives the control the focus, and nobody is told; when it lies behind another one, as soon as that
+// one has ended.
+void PutFocus(Run& run, HWND control);
+
+// Put around what disables or hides a control: when it has the focus the next one gets it, or none.
+class FocusGoesOn {
+public:
+  explicit FocusGoesOn(HWND control);
+  ~FocusGoesOn();
+  FocusGoesOn(const FocusGoesOn&) = delete;
+  FocusGoesOn& operator=(const FocusGoesOn&) = delete;
+
+private:
+  HWND dialog_ = nullptr; // none of whose controls can take the focus
+};
+
+// While a dialog is up on top of another one: keeps the focus of the other one.
+class FocusBehind {
+public:
+  explicit FocusBehind(Run* outer);
+  ~FocusBehind();
+  FocusBehind(const FocusBehind&) = delete;
+  FocusBehind& operator=(const FocusBehind&) = delete;
+
+private:
+  Run* outer_; // null: there is none
+  HWND before_ = nullptr;
+};
+
+// The user's click or letter moves the focus, and who loses and gains it is told. False when it did not stay
+// there, or the dialog has ended: then what moved it has no further effect.
+bool MoveFocusByMouse(Run& run, HWND control);
+bool MoveFocusByKey(Run& run, HWND control);
+
+// Whether a mouse message, not yet delivered, has no effect; moves the focus for it.
+bool IsMouseWithoutEffect(Run& run, const MSG& message);
+
+} // namespace tq

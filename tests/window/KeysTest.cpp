@@ -1,0 +1,196 @@
+// Keys with Shift, Control and Alt, the letters of buttons and labels, and what the dialog hears first.
+#include "platform/framework/CEdit.h"
+#include "platform/framework/CListBox.h"
+#include "tests/window/WindowTest.h"
+
+namespace {
+
+class KeysTest : public WindowTest {
+protected:
+  void InLetters(const std::function<void(User&, TestDialog&)>& script) {
+    TestDialog dialog(106);
+    In(dialog, [&](User& user) { script(user, dialog); });
+  }
+};
+
+TEST_F(KeysTest, AltAndItsLetterClickAButton) {
+  InLetters([](User& user, TestDialog& dialog) {
+    EXPECT_TRUE(user.HasFocus(742));
+    dialog.Take();
+    EXPECT_TRUE(user.PressLetter('A'));
+    EXPECT_EQ(dialog.Take(), (Log{"742 left", "801 clicked"}));
+    EXPECT_TRUE(user.HasFocus(801));
+    user.PressLetter('a');
+    EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
+    user.PressLetter('1'); // two ampersands in front of the A are one that is shown
+    EXPECT_EQ(dialog.Take(), Log{"804 clicked"});
+    CListBox(dialog, 781).SetFocus();
+    user.PressLetter('A');
+    EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
+    EXPECT_EQ(user.Text(742), "");
+  });
+}
+
+TEST_F(KeysTest, TheLetterOfADisabledOrHiddenButtonDoesNothing) {
+  InLetters([](User& user, TestDialog& dialog) {
+    for (const char letter : {'D', 'M', 'X'}) {
+      user.PressLetter(letter);
+      EXPECT_EQ(dialog.log, Log()) << letter;
+      EXPECT_TRUE(user.HasFocus(742)) << letter;
+    }
+    CWnd(dialog, 802).EnableWindow();
+    user.PressLetter('D');
+    EXPECT_EQ(dialog.Take(), (Log{"742 left", "802 clicked"}));
+    CWnd(dialog, 802).EnableWindow(false); // its focus goes to 804, which has another letter
+    user.PressLetter('D');
+    EXPECT_EQ(dialog.log, Log());
+  });
+}
+
+TEST_F(KeysTest, TheLetterOfALabelGoesToTheNextControl) {
+  InLetters([](User& user, TestDialog& dialog) {
+    CWnd(dialog, 742).SetText("text");
+    CWnd(dialog, 801).SetFocus();
+    user.PressLetter('N');
+    EXPECT_TRUE(user.HasFocus(742)); // 741 is disabled
+    EXPECT_TRUE(CEdit(dialog, 742).IsAllSelected());
+    EXPECT_EQ(dialog.Take(), Log{"742 focus"});
+    CWnd(dialog, 741).EnableWindow();
+    user.PressLetter('N');
+    EXPECT_TRUE(user.HasFocus(741));
+  });
+}
+
+TEST_F(KeysTest, TheLettersOfOkAndCancel) {
+  TestDialog ok(106);
+  EXPECT_EQ(RunDialog(ok, [](User& user) { user.PressLetter('K'); }), 1);
+  EXPECT_EQ(ok.log, (Log{"init", "742 left", "ok"}));
+  TestDialog cancel(106);
+  EXPECT_EQ(RunDialog(cancel, [](User& user) { user.PressLetter('C'); }), 2);
+  EXPECT_EQ(cancel.log, (Log{"init", "742 left", "cancel"}));
+}
+
+TEST_F(KeysTest, WhereAButtonHasTheFocusTheLetterAloneIsEnough) {
+  InLetters([](User& user, TestDialog& dialog) {
+    CWnd(dialog, 804).SetFocus();
+    EXPECT_TRUE(user.PressLetter('a', Modifier::None));
+    EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
+    EXPECT_TRUE(user.PressLetter('d', Modifier::None));
+    EXPECT_EQ(dialog.Take(), Log());
+    CWnd(dialog, 742).SetFocus();
+    EXPECT_TRUE(user.PressLetter('a', Modifier::None));
+    EXPECT_EQ(dialog.Take(), Log{"742 text"});
+    EXPECT_EQ(user.Text(742), "a");
+    CWnd(dialog, 781).SetFocus();
+    EXPECT_FALSE(user.PressLetter('a', Modifier::None));
+  });
+}
+
+// As an editor of a list hears them: what renames, deletes, selects all, and moves rows.
+TEST_F(KeysTest, TheDialogHearsKeysAndWhatIsHeld) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CListBox box(dialog, 782);
+    for (const char* text : {"A", "B", "C"})
+      box.AddString(text);
+    box.SetCurSel(1);
+    box.SetFocus();
+    dialog.onKey = [](int, Key, Held) { return true; };
+    const auto heard = [](Key key, const char* with) {
+      return Log{"key 782 " + std::to_string(static_cast<int>(key)) + with};
+    };
+    user.Press(Key::F2);
+    EXPECT_EQ(dialog.Take(), heard(Key::F2, ""));
+    user.Press(Key::Delete);
+    EXPECT_EQ(dialog.Take(), heard(Key::Delete, ""));
+    user.PressLetter('A', Modifier::Control);
+    EXPECT_EQ(dialog.Take(), heard(Key::A, " control"));
+    user.Press(Key::Up, Modifier::Alt);
+    EXPECT_EQ(dialog.Take(), heard(Key::Up, " alt"));
+    user.Press(Key::Down, Modifier::Alt);
+    EXPECT_EQ(dialog.Take(), heard(Key::Down, " alt"));
+    user.Press(Key::PageDown, Modifier::Shift);
+    EXPECT_EQ(dialog.Take(), heard(Key::PageDown, " shift"));
+    EXPECT_EQ(user.SelectedRows(782), std::vector<int>{1});
+  });
+}
+
+TEST_F(KeysTest, KeysThatTheDialogDoesNotTake) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CListBox box(dialog, 782);
+    for (const char* text : {"A", "B", "C"})
+      box.AddString(text);
+    box.SetCurSel(1);
+    box.SetFocus();
+    for (const Key key : {Key::Up, Key::Down})
+      user.Press(key, Modifier::Alt);
+    user.Press(Key::F2);
+    user.Press(Key::Delete);
+    EXPECT_EQ(user.SelectedRows(782), std::vector<int>{1});
+    EXPECT_EQ(user.Rows(782).size(), 3U);
+    EXPECT_EQ(dialog.log, Log());
+  });
+}
+
+TEST_F(KeysTest, EnterInAnEditIsTheDialogsFirst) {
+  InLetters([](User& user, TestDialog& dialog) {
+    dialog.onKey = [](int id, Key key, Held) { return id == 742 && key == Key::Enter; };
+    user.Press(Key::Enter);
+    EXPECT_EQ(dialog.Take(), Log{"key 742 0"});
+    EXPECT_TRUE(user.IsUp());
+  });
+}
+
+TEST_F(KeysTest, AKeyThatEndsTheDialogMovesNothing) {
+  TestDialog dialog;
+  dialog.onKey = [&](int, Key, Held) { return dialog.EndDialog(6), false; };
+  EXPECT_EQ(RunDialog(dialog,
+                      [&](User& user) {
+                        CListBox box(dialog, 781);
+                        box.AddString("A");
+                        box.SetFocus();
+                        user.Press(Key::Down);
+                        EXPECT_EQ(box.GetCurSel(), -1);
+                      }),
+            6);
+}
+
+TEST_F(KeysTest, ControlAndASelectAllOfAnEdit) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CEdit edit(dialog, 741);
+    edit.SetFocus();
+    edit.SetText("abc");
+    user.PressLetter('A', Modifier::Control);
+    EXPECT_TRUE(edit.IsAllSelected());
+    EXPECT_EQ(dialog.Take(), Log());
+    user.Type("x");
+    EXPECT_EQ(user.Text(741), "x");
+    user.Type("yz");
+    user.Press(Key::Home, Modifier::Shift);
+    EXPECT_TRUE(edit.IsAllSelected());
+    user.Press(Key::Home);
+    EXPECT_FALSE(edit.IsAllSelected());
+    user.Press(Key::End, Modifier::Shift);
+    EXPECT_TRUE(edit.IsAllSelected());
+    user.Press(Key::Delete);
+    EXPECT_EQ(user.Text(741), "");
+  });
+}
+
+TEST_F(KeysTest, SettingATextTakesTheSelectionAway) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CEdit edit(dialog, 741);
+    edit.SetText("abc");
+    edit.SetFocus();
+    edit.SetText("abcd");
+    EXPECT_FALSE(edit.IsAllSelected());
+    user.Type("x");
+    EXPECT_EQ(user.Text(741), "xabcd");
+    edit.SelectAll();
+    edit.SetText("ef"); // the same as without the focus
+    EXPECT_FALSE(edit.IsAllSelected());
+    user.Press(Key::Delete);
+    EXPECT_EQ(user.Text(741), "f");
+  });
+}
+
+} // namespace
