@@ -15,6 +15,8 @@
 // written line stands in LogLines.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -130,10 +132,13 @@ TQSTANDIN_API void AnswerGroups(int type, std::string_view parent, std::vector<G
                                 int count);
 TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> records,
                                  int count);
-// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts follow. A
-// trading system that the market does not have is available. Holdings stay those of the market.
-TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records);
-TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records);
+// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts are `claimed`, or
+// follow. A trading system that the market does not have is available. Holdings stay those of the
+// market.
+TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records,
+                                        std::optional<int> claimed = {});
+TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records,
+                                  std::optional<int> claimed = {});
 
 // Puts rows in the place of an info table, as GetInfoArray answers it from now on: columns of any number,
 // none too, the same in both languages. Until Reset.
@@ -153,6 +158,11 @@ TQSTANDIN_API void SetTraditional(bool traditional);
 TQSTANDIN_API void FailCall(std::string_view operation, int n);
 // Every call of the operation fails until Reset or FailCall(operation, 0).
 TQSTANDIN_API void FailAlways(std::string_view operation);
+
+// Runs `function` within each call of the operation (one that Calls records), before it answers: a
+// terminal handles messages while a service works, and may call the library from there. It does not run
+// within itself. An empty function takes the order back; Reset takes all of them back.
+TQSTANDIN_API void OnCall(std::string_view operation, std::function<void()> function);
 
 struct Call {
   std::string operation;

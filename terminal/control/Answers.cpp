@@ -16,8 +16,8 @@ template <class T> using ByGroup = std::map<std::pair<int, std::string>, Answer<
 struct Answers {
   ByGroup<GroupInfo> groups;
   ByGroup<SymbolInfo> members;
-  std::optional<std::vector<TQS_TSINFO>> systems;
-  std::map<std::string, std::vector<TQS_ACCOUNTINFO>, std::less<>> accounts;
+  std::optional<Answer<TQS_TSINFO>> systems;
+  std::map<std::string, Answer<TQS_ACCOUNTINFO>, std::less<>> accounts;
 };
 
 Answers& TheAnswers() {
@@ -34,6 +34,11 @@ const Answer<T>* FindAnswer(const ByGroup<T>& answers, int type, std::string_vie
   return found == answers.end() ? nullptr : &found->second;
 }
 
+template <class T> Answer<T> WithCount(std::vector<T> records, std::optional<int> claimed) {
+  const int count = claimed.value_or(static_cast<int>(records.size()));
+  return {std::move(records), count};
+}
+
 } // namespace
 
 void AnswerGroups(int type, std::string_view parent, std::vector<GroupInfo> records, int count) {
@@ -46,12 +51,13 @@ void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> rec
                                         Answer<SymbolInfo>{std::move(records), count});
 }
 
-void AnswerTradingSystems(std::vector<TQS_TSINFO> records) {
-  TheAnswers().systems = std::move(records);
+void AnswerTradingSystems(std::vector<TQS_TSINFO> records, std::optional<int> claimed) {
+  TheAnswers().systems = WithCount(std::move(records), claimed);
 }
 
-void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records) {
-  TheAnswers().accounts.insert_or_assign(std::string(tsId), std::move(records));
+void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records,
+                    std::optional<int> claimed) {
+  TheAnswers().accounts.insert_or_assign(std::string(tsId), WithCount(std::move(records), claimed));
 }
 
 const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent) {
@@ -62,12 +68,12 @@ const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group) {
   return FindAnswer(TheAnswers().members, type, group);
 }
 
-const std::vector<TQS_TSINFO>* AnsweredTradingSystems() {
-  const std::optional<std::vector<TQS_TSINFO>>& systems = TheAnswers().systems;
+const Answer<TQS_TSINFO>* AnsweredTradingSystems() {
+  const std::optional<Answer<TQS_TSINFO>>& systems = TheAnswers().systems;
   return systems ? &*systems : nullptr;
 }
 
-const std::vector<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId) {
+const Answer<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId) {
   const auto found = TheAnswers().accounts.find(tsId);
   return found == TheAnswers().accounts.end() ? nullptr : &found->second;
 }

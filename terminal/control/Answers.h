@@ -19,7 +19,7 @@ template <class T> struct Answer {
 // Null: no answer was given, the market's holds. Texts are compared as they are.
 TQSTANDIN_API const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent);
 TQSTANDIN_API const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group);
-TQSTANDIN_API const std::vector<TQS_TSINFO>* AnsweredTradingSystems();
-TQSTANDIN_API const std::vector<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId);
+TQSTANDIN_API const Answer<TQS_TSINFO>* AnsweredTradingSystems();
+TQSTANDIN_API const Answer<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId);
 
 } // namespace standin

@@ -14,6 +14,7 @@ constexpr std::string_view kEveryOperation = "*";
 struct Script {
   std::map<std::string, int, std::less<>> countdowns;
   std::set<std::string, std::less<>> always;
+  std::map<std::string, std::function<void()>, std::less<>> functions;
   std::vector<Call> calls;
   bool recording = true;
 };
@@ -35,11 +36,15 @@ bool CountDown(Script& script, std::string_view operation) {
 // To be called whenever an order came or went.
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
+  functionsOrdered = !TheScript().functions.empty();
 }
+
+bool functionRuns = false;
 
 } // namespace
 
 bool failuresOrdered = false;
+bool functionsOrdered = false;
 
 bool Recording() {
   return TheScript().recording;
@@ -71,6 +76,25 @@ void FailCall(std::string_view operation, int n) {
 void FailAlways(std::string_view operation) {
   TheScript().always.emplace(operation);
   NoteOrders();
+}
+
+void OnCall(std::string_view operation, std::function<void()> function) {
+  auto& functions = TheScript().functions;
+  functions.erase(std::string(operation));
+  if (function)
+    functions.emplace(operation, std::move(function));
+  NoteOrders();
+}
+
+void RunOrdered(std::string_view operation) {
+  const auto& functions = TheScript().functions;
+  const auto found = functions.find(operation);
+  if (functionRuns || found == functions.end())
+    return;
+  const std::function<void()> function = found->second; // which may take its own order back
+  functionRuns = true;
+  function();
+  functionRuns = false;
 }
 
 const std::vector<Call>& Calls() {

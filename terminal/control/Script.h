@@ -40,10 +40,16 @@ template <class... Arguments> std::string JoinArguments(Arguments... arguments) 
   return text;
 }
 
+// Whether there are any orders of OnCall; the second runs what was ordered for the operation.
+extern TQSTANDIN_API bool functionsOrdered;
+TQSTANDIN_API void RunOrdered(std::string_view operation);
+
 // Opens a service call: false when it has to fail. `arguments` are the inputs, in order.
 template <class... Arguments> bool Begin(std::string_view operation, Arguments... arguments) {
   if (Recording())
     Record(operation, JoinArguments(arguments...));
+  if (functionsOrdered)
+    RunOrdered(operation);
   return !OrderedToFail(operation);
 }
 

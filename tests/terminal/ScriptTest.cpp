@@ -55,6 +55,41 @@ TEST_F(ScriptTest, EveryOperationIsRecordedByItsName) {
   }
 }
 
+TEST_F(ScriptTest, AFunctionRunsWithinEachCallOfItsOperationButNotWithinItself) {
+  for (const Operation& operation : Operations()) {
+    SCOPED_TRACE(operation.name);
+    int runs = 0;
+    standin::ClearCalls();
+    standin::OnCall(operation.name, [&] {
+      ++runs;
+      EXPECT_EQ(standin::CountCalls(operation.name), runs * 2 - 1);
+      operation.call();
+    });
+    operation.call();
+    operation.call();
+    EXPECT_EQ(runs, 2);
+    EXPECT_EQ(standin::CountCalls(operation.name), 4);
+    standin::OnCall(operation.name, nullptr);
+    operation.call();
+    EXPECT_EQ(runs, 2);
+  }
+}
+
+TEST_F(ScriptTest, AFunctionMayTakeItsOwnOrderBack) {
+  int runs = 0;
+  standin::OnCall("VLGetExch", [&] {
+    ++runs;
+    standin::OnCall("VLGetExch", nullptr);
+  });
+  GetExch();
+  GetExch();
+  EXPECT_EQ(runs, 1);
+  standin::OnCall("VLGetExch", [&] { ++runs; });
+  standin::Reset();
+  GetExch();
+  EXPECT_EQ(runs, 1);
+}
+
 TEST_F(ScriptTest, TheStarCountsTheCallsOfEveryOperation) {
   SymbolInfo info;
   standin::FailCall("*", 2);
