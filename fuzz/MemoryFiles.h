@@ -31,6 +31,7 @@ public:
   }
   bool DirectoryExists(const char*) override { return true; }
   bool FileExists(const char*) override { return true; }
+  std::int64_t LastWriteTime(const char*) override { return 0; }
   bool RenameFile(const char*, const char*) override { return true; }
 
   std::string content;

@@ -14,6 +14,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace tq {
@@ -62,6 +63,10 @@ public:
   // True for an existing file of any kind that is not a directory.
   virtual bool FileExists(const char* path) = 0;
 
+  // When the file was last written, in the system's own unit and epoch: only good for telling whether it
+  // was written since. 0 when that is not known.
+  virtual std::int64_t LastWriteTime(const char* path) = 0;
+
   // Gives a file another name in its directory. A file that has that name already is replaced, in one
   // step. False when that cannot be done: both are then as they were.
   virtual bool RenameFile(const char* from, const char* to) = 0;
@@ -83,6 +88,7 @@ public:
     return target_.DirectoryExists(directory);
   }
   bool FileExists(const char* path) override { return target_.FileExists(path); }
+  std::int64_t LastWriteTime(const char* path) override { return target_.LastWriteTime(path); }
   bool RenameFile(const char* from, const char* to) override {
     return target_.RenameFile(from, to);
   }

@@ -67,6 +67,14 @@ public:
     return ::stat(SystemPath(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
   }
 
+  std::int64_t LastWriteTime(const char* path) override {
+    constexpr std::int64_t second = 1'000'000'000;
+    struct stat info;
+    return ::stat(SystemPath(path).c_str(), &info) != 0
+               ? 0
+               : info.st_mtim.tv_sec * second + info.st_mtim.tv_nsec;
+  }
+
   bool RenameFile(const char* from, const char* to) override {
     return FileExists(from) && ::rename(SystemPath(from).c_str(), SystemPath(to).c_str()) == 0;
   }

@@ -52,6 +52,16 @@ public:
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
   }
 
+  std::int64_t LastWriteTime(const char* path) override {
+    WIN32_FILE_ATTRIBUTE_DATA data;
+    if (::GetFileAttributesExW(SystemPath(path).c_str(), GetFileExInfoStandard, &data) == 0)
+      return 0;
+    ULARGE_INTEGER time;
+    time.LowPart = data.ftLastWriteTime.dwLowDateTime;
+    time.HighPart = data.ftLastWriteTime.dwHighDateTime;
+    return static_cast<std::int64_t>(time.QuadPart);
+  }
+
   bool RenameFile(const char* from, const char* to) override {
     return FileExists(from) &&
            ::MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),

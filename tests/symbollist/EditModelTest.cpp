@@ -30,6 +30,7 @@ public:
   bool FileExists(const char* path) override {
     return !bytes.empty() && std::string(path).ends_with("\\SymbolList.xml");
   }
+  std::int64_t LastWriteTime(const char*) override { return 0; }
   bool RenameFile(const char*, const char*) override { return false; }
   std::string bytes;
 };
