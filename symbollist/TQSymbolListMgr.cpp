@@ -21,7 +21,7 @@ CTQSymbolListMgr::CTQSymbolListMgr()
 
 CTQSymbolListMgr::~CTQSymbolListMgr() {
   ClearSymbolList();
-  ClearTSSymbolList();
+  DestroyTradingLists();
   ClearCloudSymbolList();
   delete groups_;
   delete cloudMap_;
