@@ -2,20 +2,16 @@
 
 #include "groups/CloudMap.h"
 #include "groups/GroupMgr.h"
-#include "platform/framework/CMapStringToString.h"
 #include "symbollist/LibraryString.h"
 #include "symbollist/Log.h"
 
 namespace {
 
-// Names of cloud groups with sub-groups, by id. One map for the process, filled once, in the interface
-// language of that moment.
-const CMapStringToString& DefaultNames() {
-  static CMapStringToString names;
+void FillDefaultNames() {
+  CMapStringToString& names = CCloudeListUtil::DefaultNames();
   if (names.IsEmpty())
     names.SetAt(tq::LibraryString(tq::kStringFirstCloudId),
                 tq::LibraryString(tq::kStringCloudList));
-  return names;
 }
 
 // Whether there is anything to do for a group or below it. Of most there is not, and they are to stay the
@@ -26,7 +22,13 @@ bool IsConcerned(const tq::GroupLevel& level, int index, const tq::CloudMap& lis
 
 } // namespace
 
+CMapStringToString& CCloudeListUtil::DefaultNames() {
+  static CMapStringToString names;
+  return names;
+}
+
 void CCloudeListUtil::Refresh(CGroupMgr& cloudGroups, const tq::CloudMap& lists) {
+  FillDefaultNames();
   const tq::GroupLevel& groups = cloudGroups.Groups();
   for (int i = 0; i < groups.Count(); ++i) {
     if (!IsConcerned(groups, i, lists))
@@ -41,9 +43,7 @@ void CCloudeListUtil::Refresh(CGroupMgr& cloudGroups, const tq::CloudMap& lists)
 void CCloudeListUtil::DoModifyList(CGroupList& group, const tq::CloudMap& lists, const char* id) {
   const tq::GroupLevel* const subs = group.Subs();
   if (group.GetSubCount() == 0) {
-    if (TakeOver(group, lists, id))
-      tq::LogLine(tq::kLogChange, "CCloudeListUtil::DoModifyList ListName=%s, Symbols=%s",
-                  lists.Find(id)->info.Name, group.GetIDs().GetString());
+    TakeOver(group, lists, id, "CCloudeListUtil::DoModifyList");
     return;
   }
   CString name;
@@ -58,11 +58,14 @@ void CCloudeListUtil::DoModifyList(CGroupList& group, const tq::CloudMap& lists,
   }
 }
 
-bool CCloudeListUtil::TakeOver(CGroupList& group, const tq::CloudMap& lists, const char* id) {
-  const tq::CloudList* list = lists.Find(id);
-  if (list == nullptr)
-    return false;
-  group.SetName(list->info.Name);
-  group.Update1(list->symbols);
-  return true;
+void CCloudeListUtil::TakeOver(CGroupList& group, const tq::CloudMap& lists, const char* id,
+                               const char* who) {
+  const tq::CloudList* const found = lists.Find(id);
+  if (found == nullptr)
+    return;
+  const tq::CloudList list = *found; // the terminal may set it anew while its symbols are resolved
+  group.SetName(list.info.Name);
+  group.Update1(list.symbols);
+  tq::LogLine(tq::kLogChange, "%s ListName=%s, Symbols=%s", who, list.info.Name,
+              group.GetIDs().GetString());
 }

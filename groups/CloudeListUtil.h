@@ -1,6 +1,8 @@
 // Gives the groups of the cloud type the names and members of the cloud lists with their ids.
 #pragma once
 
+#include "platform/framework/CMapStringToString.h"
+
 class CGroupList;
 class CGroupMgr;
 
@@ -19,6 +21,12 @@ public:
   // The same for one group, with the list under `id`.
   static void DoModifyList(CGroupList& group, const tq::CloudMap& lists, const char* id);
 
-  // Gives a group name and members of the list under its id. Returns whether there is one.
-  static bool TakeOver(CGroupList& group, const tq::CloudMap& lists, const char* id);
+  // Gives a group name and members of the list under its id, with a line in the log that begins
+  // with `who`. Nothing without such a list.
+  static void TakeOver(CGroupList& group, const tq::CloudMap& lists, const char* id,
+                       const char* who);
+
+  // Names of cloud groups with sub-groups, by id: one map for the process, which the first Refresh
+  // fills in the interface language of that moment, whichever groups there are then.
+  static CMapStringToString& DefaultNames();
 };

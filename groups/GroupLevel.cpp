@@ -31,7 +31,7 @@ CGroupList* GroupLevel::ListAt(int index) {
   GroupParts& parts = MakePartsAt(index);
   if (parts.list == nullptr) {
     SubsAt(index);
-    parts.list = std::make_unique<CGroupList>(records_[Place(index)], std::move(parts.subs));
+    parts.list = std::make_shared<CGroupList>(records_[Place(index)], std::move(parts.subs));
   }
   return parts.list.get();
 }

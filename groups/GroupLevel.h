@@ -25,7 +25,7 @@ struct GroupParts {
   GroupParts& operator=(GroupParts&&) noexcept;
   ~GroupParts();
 
-  std::unique_ptr<CGroupList> list;   // null until somebody asks for it
+  std::shared_ptr<CGroupList> list;   // null until somebody asks for it; see KeepAlive
   std::unique_ptr<GroupLevel> subs;   // null until somebody asks, and once there is a CGroupList
   std::span<const GroupInfo> arrived; // the sub-groups as long as neither of these is there
 };

@@ -62,6 +62,13 @@ int CGroupList::LoadSymbols() {
       VLFree(records);
     return 0;
   }
+  // The terminal may have given the group members meanwhile, those of a cloud list for one: these
+  // stay.
+  if (!CIDList::GetIDs().IsEmpty()) {
+    if (records != nullptr)
+      VLFree(records);
+    return 1;
+  }
   Update2(records, count); // which releases the array
   return 1;
 }

@@ -14,7 +14,7 @@ class GroupLevel;
 // Members are fetched from the service when they are first asked for, and kept. While the service fails
 // there are none, and the next question asks again; so it does for a group whose members the service says
 // are none.
-class CGroupList : public CIDList {
+class CGroupList : public CIDList, public std::enable_shared_from_this<CGroupList> {
 public:
   // Id and name of the record are taken as text that ends at the width of their field at the latest.
   explicit CGroupList(const GroupInfo& info);
@@ -31,7 +31,8 @@ public:
   int Update3() override;
   int Update2(SymbolInfo* records, int count) override;
   int Update1(const CString& ids) override;
-  // Fetches the members unless there are some. 0 when the service failed, else 1.
+  // Fetches the members unless there are some, or came while the service was asked. 0 when the
+  // service failed, else 1.
   virtual int LoadSymbols();
 
   const GroupInfo& GetInfo() const { return info_; }
@@ -52,3 +53,13 @@ private:
   GroupInfo info_;
   std::unique_ptr<tq::GroupLevel> subs_;
 };
+
+namespace tq {
+
+// To be held while a group does something that may ask the service: the terminal may remove the
+// group from there. Null for null.
+inline std::shared_ptr<CGroupList> KeepAlive(CGroupList* group) {
+  return group == nullptr ? nullptr : group->weak_from_this().lock();
+}
+
+} // namespace tq

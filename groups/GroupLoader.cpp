@@ -33,11 +33,8 @@ bool GroupLoader::Ask(const Asked& asked, Answer& answer) {
 GroupLoader::Answer GroupLoader::Keep(std::span<const GroupInfo> records) {
   const std::span<GroupInfo> kept = arena_.Take(records.size());
   int haveSubs = 0;
-  // Writing to memory that is in no cache is what a load takes longest for, so it is fetched ahead.
-  constexpr std::size_t kAhead = 8;
   for (std::size_t i = 0; i < records.size(); ++i) {
     GroupInfo& record = kept[i];
-    __builtin_prefetch(&record + kAhead, 1);
     record = records[i];
     haveSubs |= record.bHasSubGroup;
     if (record.szID[kGroupIdBytes] != '\0' || record.szName[kGroupNameBytes] != '\0')

@@ -84,6 +84,7 @@ int GroupStore::CopyIds(CGroupList* handle, CString& ids) const {
   ids.Empty();
   if (handle == nullptr || indexes_.empty())
     return 0;
+  const auto alive = KeepAlive(handle);
   ids = handle->GetIDs();
   return 1;
 }
@@ -94,6 +95,7 @@ int GroupStore::HoldsText(int type, const CString& groupId, const CString& text)
   if (groupId.IsEmpty() || text.IsEmpty() || !IsSearchedForSymbols(type))
     return 0;
   CGroupList* const group = FindHandle(type, AfterComma(TextView(groupId)));
+  const auto alive = KeepAlive(group);
   return group != nullptr && group->GetIDs().Find(text) >= 0 ? 1 : 0;
 }
 

@@ -2,34 +2,22 @@
 #include "groups/GroupStore.h"
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 #include <utility>
 
 namespace tq {
 namespace {
 
-constexpr int kFullLoad[] = {1,
-                             2,
-                             3,
-                             4,
-                             5,
-                             6,
-                             7,
-                             8,
-                             9,
-                             10,
-                             11,
-                             12,
-                             13,
-                             14,
-                             15,
-                             16,
-                             17,
-                             18,
-                             19,
-                             20,
-                             21,
-                             101,
-                             kCloudGroupType};
+// The types of a full load, ascending.
+constexpr auto kFullLoad = [] {
+  constexpr int kNumbered = 21; // from 1 on
+  std::array<int, kNumbered + 2> types = {};
+  std::iota(types.begin(), types.begin() + kNumbered, 1);
+  types[kNumbered] = 101;
+  types[kNumbered + 1] = kCloudGroupType;
+  return types;
+}();
 
 bool IsServiceType(int type) {
   return type >= 1 && type < kCloudGroupType;
@@ -39,14 +27,25 @@ bool IsServiceType(int type) {
 
 GroupStore::GroupStore(CloudRefresh refresh) : refresh_(std::move(refresh)) {}
 
+// A manager that is being loaded is in no array. The terminal may call back whenever the service is
+// asked, and removes or reloads only what is there.
+GroupStore::Manager GroupStore::MakeLoaded(int type) const {
+  auto manager = std::make_unique<CGroupMgr>(type);
+  manager->Load();
+  if (type == kCloudGroupType && refresh_)
+    refresh_(*manager);
+  return manager;
+}
+
 int GroupStore::LoadAll() {
   Clear();
-  for (const int type : kFullLoad) {
-    auto manager = std::make_unique<CGroupMgr>(type);
-    manager->Load();
-    indexes_[type] = static_cast<int>(managers_.size());
+  std::vector<Manager> loaded;
+  for (const int type : kFullLoad)
+    loaded.push_back(MakeLoaded(type));
+  Clear(); // what the terminal loaded meanwhile
+  for (Manager& manager : loaded) {
+    indexes_[manager->GetType()] = static_cast<int>(managers_.size());
     managers_.push_back(std::move(manager));
-    RefreshCloud(*managers_.back());
   }
   return 1;
 }
@@ -54,30 +53,36 @@ int GroupStore::LoadAll() {
 int GroupStore::Load(int type) {
   if (!IsServiceType(type) && type != kCloudGroupType)
     return 0;
-  CGroupMgr* const manager = FirstOf(type);
-  if (manager == nullptr)
+  const auto present = FirstOf(type);
+  if (present == managers_.end())
     return Add(type);
-  manager->Load(); // which empties it first
-  RefreshCloud(*manager);
+  (*present)->Empty();
+  Manager loaded = MakeLoaded(type);
+  const auto place = FirstOf(type); // the terminal may have moved or removed it
+  if (place == managers_.end())
+    return 0;
+  *place = std::move(loaded);
   return 1;
 }
 
-// Whether there is a manager of the type already is not asked: the new one stands behind it and is the one
-// that the map leads to.
+// Whether there is a manager of the type already is not asked: the new one stands behind it and is
+// the one that the map leads to. Behind all others it moves nothing: positions that a removal left
+// stale stay so.
 int GroupStore::Add(int type) {
   if (!IsServiceType(type))
     return 0;
-  auto manager = std::make_unique<CGroupMgr>(type);
-  manager->Load();
-  const auto behind = std::find_if(managers_.begin(), managers_.end(),
-                                   [=](const auto& other) { return other->GetType() > type; });
-  const int index = static_cast<int>(behind - managers_.begin());
-  for (auto& entry : indexes_) {
-    if (entry.second >= index)
-      ++entry.second;
+  Manager manager = MakeLoaded(type);
+  const auto greater = std::find_if(managers_.begin(), managers_.end(),
+                                    [=](const Manager& other) { return other->GetType() > type; });
+  const int index = static_cast<int>(greater - managers_.begin());
+  if (greater != managers_.end()) {
+    for (auto& entry : indexes_) {
+      if (entry.second >= index)
+        ++entry.second;
+    }
   }
   indexes_[type] = index;
-  managers_.insert(behind, std::move(manager));
+  managers_.insert(greater, std::move(manager));
   return 1;
 }
 
@@ -89,8 +94,7 @@ int GroupStore::Update(int type) {
 int GroupStore::Remove(int type) {
   if (!IsServiceType(type))
     return 0;
-  const auto found = std::find_if(managers_.begin(), managers_.end(),
-                                  [=](const auto& manager) { return manager->GetType() == type; });
+  const auto found = FirstOf(type);
   if (found == managers_.end())
     return 0;
   managers_.erase(found);
@@ -103,17 +107,9 @@ void GroupStore::Clear() {
   indexes_.clear();
 }
 
-CGroupMgr* GroupStore::FirstOf(int type) const {
-  for (const auto& manager : managers_) {
-    if (manager->GetType() == type)
-      return manager.get();
-  }
-  return nullptr;
-}
-
-void GroupStore::RefreshCloud(CGroupMgr& manager) const {
-  if (manager.GetType() == kCloudGroupType && refresh_)
-    refresh_(manager);
+std::vector<GroupStore::Manager>::iterator GroupStore::FirstOf(int type) {
+  return std::find_if(managers_.begin(), managers_.end(),
+                      [=](const Manager& manager) { return manager->GetType() == type; });
 }
 
 int GroupStore::Push(const std::vector<CGroupSet>& sets, GroupPush push) {

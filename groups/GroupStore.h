@@ -1,12 +1,16 @@
 // The groups of all types, for the manager of symbol lists.
 //
-// There is an array of managers, one for each type, in ascending order of the types, and a map from type
-// to position in it. What asks about a loaded type goes through the map; what loads, removes or pushes
-// groups looks at the managers themselves. Removing a type leaves the positions of the others in the map
-// as they were, on purpose: terminals rely on the positions that GetGroupIdx told them until the next full
-// load. So the types behind a removed one answer for their right neighbour, and the last of them, whose
-// position lies behind the array, as one that has no groups. Renumbering the map would be a change of the
-// interface.
+// There is an array of managers, one for each type, in ascending order of the types, and a map from
+// type to position in it. What asks about a loaded type goes through the map; what loads, removes
+// or pushes groups looks at the managers themselves. Removing a type leaves the positions of the
+// others in the map as they were, on purpose: terminals rely on the positions that GetGroupIdx told
+// them until the next full load. So the types behind a removed one answer for their right
+// neighbour, and the last of them, whose position lies behind the array, as one that has no groups.
+// Renumbering the map would be a change of the interface.
+//
+// The terminal may call back whenever the service is asked, which loading and asking for members
+// does. So types are loaded aside and then put in, and a group that is asked for members is kept
+// alive meanwhile (see KeepAlive).
 #pragma once
 
 #include <functional>
@@ -33,7 +37,8 @@ public:
 
   // Types 1 to 21, 101 and 201, anew. A type that the service fails for is empty; that is no failure.
   int LoadAll();
-  // 1 to 201. Adds the type when there is no manager of it.
+  // 1 to 201. Adds the type when there is no manager of it. 0 too when the terminal removed the
+  // type while the service was asked.
   int Load(int type);
   // 1 to 200. Another manager when there is one of the type.
   int Add(int type);
@@ -68,13 +73,15 @@ public:
   int Push(const std::vector<CGroupSet>& sets, GroupPush push);
 
 private:
+  using Manager = std::unique_ptr<CGroupMgr>;
+
   bool Has(int type) const { return indexes_.count(type) != 0; }
-  CGroupMgr* FirstOf(int type) const;
-  void RefreshCloud(CGroupMgr& manager) const;
+  std::vector<Manager>::iterator FirstOf(int type);
+  Manager MakeLoaded(int type) const;
 
   CloudRefresh refresh_;
-  std::vector<std::unique_ptr<CGroupMgr>> managers_; // ascending by type
-  std::map<int, int> indexes_;                       // type to position
+  std::vector<Manager> managers_; // ascending by type
+  std::map<int, int> indexes_;    // type to position
 };
 
 } // namespace tq

@@ -22,6 +22,15 @@ bool ReadFile(const char* path, std::string& bytes) {
   return Files().ReadWholeFile(path, XmlSizeLimit, bytes) == ReadResult::Ok;
 }
 
+// What stands behind the copy of a file that could not be renamed: a comment, so that it is a
+// document still. A file that was renamed ends without it, and a user may put that one in place
+// again.
+std::string MarkOf(const char* path) {
+  FileStamp stamp;
+  Files().StateOf(path, stamp);
+  return "\n<!-- imported in its place, written at " + std::to_string(stamp.modified) + " -->\n";
+}
+
 CString WithoutBadIds(const CString& symbols) {
   if (symbols.FindOneOf(kNotForAFile) < 0)
     return symbols;
@@ -73,13 +82,16 @@ bool ReadImportFile(const char* path, int product, std::vector<ImportedList>& li
 bool IsImported(const char* path, const char* importedPath) {
   std::string bytes;
   std::string imported;
-  return ReadFile(importedPath, imported) && ReadFile(path, bytes) && bytes == imported;
+  return ReadFile(importedPath, imported) && ReadFile(path, bytes) &&
+         bytes + MarkOf(path) == imported;
 }
 
 void SetAside(const char* path, const char* importedPath) {
-  std::string bytes;
-  if (!Files().RenameFile(path, importedPath) && ReadFile(path, bytes))
-    Files().SaveWholeFile(importedPath, bytes.data(), bytes.size());
+  std::string copy;
+  if (Files().RenameFile(path, importedPath) || !ReadFile(path, copy))
+    return;
+  copy += MarkOf(path);
+  Files().SaveWholeFile(importedPath, copy.data(), copy.size());
 }
 
 } // namespace tq

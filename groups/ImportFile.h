@@ -25,11 +25,11 @@ struct ImportedList {
 // other product.
 bool ReadImportFile(const char* path, int product, std::vector<ImportedList>& lists);
 
-// Whether the file was imported before: a file of the same bytes stands under the name for afterwards.
+// Whether this very file was imported before and could not be renamed then: SetAside left a copy of
+// it, and neither its bytes nor its time have changed since.
 bool IsImported(const char* path, const char* importedPath);
 
-// Gives an imported file its other name. Where the system refuses, a copy goes there, by which the next
-// start knows.
+// Gives an imported file its other name. Where the system refuses, a copy goes there that tells so.
 void SetAside(const char* path, const char* importedPath);
 
 } // namespace tq

@@ -1,4 +1,6 @@
 // Cloud lists: the lists of kind 8 and the cloud map.
+#include <memory>
+
 #include "groups/CloudMap.h"
 #include "groups/CloudeListUtil.h"
 #include "groups/GroupList.h"
@@ -66,30 +68,34 @@ int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
   const CString listId = id.IsEmpty() ? tq::NewListId() : id;
   if (listId.IsEmpty())
     return 0;
-  auto* list = new CSymbolList;
+  const int lists = cloudLists_.GetSize();
+  auto list = std::make_unique<CSymbolList>();
   list->Update1(WithoutEmptyPieces(symbols));
+  // The terminal may have added one itself while the symbols were resolved.
+  if (lists != cloudLists_.GetSize() && CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
+    return 0;
   list->SetID(listId);
   list->SetName(name);
-  cloudLists_.Add(list);
+  cloudLists_.Add(list.release());
   return 1;
 }
 
 int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) {
   if (lists == nullptr)
     return 0;
-  // Copied before the old ones go: the caller may hand over lists of the manager itself.
-  CPtrArray old;
-  old.Copy(cloudLists_);
-  cloudLists_.RemoveAll();
+  CPtrArray copies;
   for (int i = 0; i < lists->GetSize(); ++i) {
     CSymbolList* source = tq::ListAt(*lists, i);
     if (source == nullptr)
       continue;
     // In the caller's list too, on purpose: it goes on showing what was stored.
     ReplaceSymbolListExchID(source, tq::kMovedFromExchange, tq::kMovedToExchange);
-    cloudLists_.Add(new CSymbolList(*source));
+    copies.Add(new CSymbolList(*source));
   }
-  tq::DestroyLists(old);
+  // Only now the old ones go: the caller may have handed over lists of the manager itself, and the
+  // terminal may have changed them while symbols were resolved.
+  tq::DestroyLists(cloudLists_);
+  cloudLists_.Copy(copies);
   return 1;
 }
 
@@ -99,12 +105,11 @@ CString CTQSymbolListMgr::GetCloudeList() {
 
 void CTQSymbolListMgr::UpdateCloudGroup(void* handle) {
   auto* group = static_cast<CGroupList*>(handle);
+  const auto alive = tq::KeepAlive(group);
   if (group == nullptr || group->GetSubCount() > 0)
     return;
   const CString id = group->GetInfo().szID;
-  if (CCloudeListUtil::TakeOver(*group, *cloudMap_, id))
-    tq::LogLine(tq::kLogChange, "CTQSymbolListMgr::UpdateCloudGroup ListName=%s, Symbols=%s",
-                cloudMap_->Find(id)->info.Name, group->GetIDs().GetString());
+  CCloudeListUtil::TakeOver(*group, *cloudMap_, id, "CTQSymbolListMgr::UpdateCloudGroup");
 }
 
 void CTQSymbolListMgr::RefreshCloudeSymbol() {

@@ -95,6 +95,7 @@ int CTQSymbolListMgr::GetGroupSymbolCount(int type, const char* id) {
 }
 
 int CTQSymbolListMgr::GetGroupSymbolCount(void* handle) {
+  const auto alive = tq::KeepAlive(GroupOf(handle));
   return handle == nullptr ? 0 : GroupOf(handle)->GetCount();
 }
 
@@ -103,6 +104,7 @@ int CTQSymbolListMgr::GetGroupSymbolInfo(int type, const char* id, int index, Sy
 }
 
 int CTQSymbolListMgr::GetGroupSymbolInfo(void* handle, int index, SymbolInfo* out) {
+  const auto alive = tq::KeepAlive(GroupOf(handle));
   return handle != nullptr && GroupOf(handle)->GetAt(index, out) ? 1 : 0;
 }
 

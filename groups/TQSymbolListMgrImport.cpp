@@ -10,11 +10,26 @@
 #include "symbollist/Notify.h"
 #include "symbollist/TQSymbolListMgr.h"
 
+namespace {
+
+// As AddSymbolList for each list. Last of all, for the terminal may work on the lists when it is
+// told.
+void Announce(int taken) {
+  for (; taken > 0; --taken) {
+    tq::LogLine(tq::kLogChange, "Add SymbolList");
+    tq::Notify(tq::kNotifyUserLists, "");
+  }
+}
+
+} // namespace
+
 int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) {
   std::vector<tq::ImportedList> lists;
   if (path.IsEmpty() || !tq::ReadImportFile(path, product, lists))
     return 0;
-  ImportLists(lists);
+  int taken = 0;
+  ImportLists(lists, taken);
+  Announce(taken);
   return 1;
 }
 
@@ -32,38 +47,39 @@ int CTQSymbolListMgr::LoadOtherProductList() {
   std::vector<tq::ImportedList> lists;
   if (!tq::ReadImportFile(path, tq::kImportedProduct, lists))
     return 0;
+  int taken = 0;
   // Lists that are not on the disk yet would be lost with the file.
-  if (ImportLists(lists) != 0)
+  if (ImportLists(lists, taken) != 0)
     tq::SetAside(path, imported);
+  Announce(taken);
   return 1;
 }
 
-// What AddSymbolList does for each list, but with one save for all: an import may have thousands, and
-// each save writes all that came before. Returns 0 when they could not be saved.
-int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists) {
+// What AddSymbolList does for each list, but with one save for all: an import may have thousands,
+// and each save writes all that came before. `taken` is how many were added or changed. Returns 0
+// when they could not be saved.
+int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists, int& taken) {
   tq::ListIndex index(lists_);
-  const auto taken = std::count_if(lists.begin(), lists.end(), [&](const tq::ImportedList& list) {
-    return ImportList(list, index);
-  });
+  taken =
+      static_cast<int>(std::count_if(lists.begin(), lists.end(), [&](const tq::ImportedList& list) {
+        return ImportList(list, index);
+      }));
   if (taken == 0)
     return 1;
   if (defaultIndex_ == -1)
     defaultIndex_ = 0;
-  const int saved = SaveSymbolList();
-  for (auto i = taken; i > 0; --i) {
-    tq::LogLine(tq::kLogChange, "Add SymbolList");
-    tq::Notify(tq::kNotifyUserLists, "");
-  }
-  return saved;
+  return SaveSymbolList();
 }
 
 bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& index) {
   const int found = index.FindById(from.id);
   if (found >= 0) {
-    // One that the user has renamed is the user's own.
-    if (!tq::ListAt(lists_, found)->IsSameName(from.name))
+    // One that the user has renamed is the user's own; so are lists that the terminal moved or
+    // removed while the symbols of another were resolved.
+    CSymbolList* const list = found < lists_.GetSize() ? tq::ListAt(lists_, found) : nullptr;
+    if (list == nullptr || !list->IsSameID(from.id) || !list->IsSameName(from.name))
       return false;
-    tq::ListAt(lists_, found)->Update1(from.symbols);
+    list->Update1(from.symbols);
     return true;
   }
   const auto taken = [&](const CString& name) { return index.HasName(name); };

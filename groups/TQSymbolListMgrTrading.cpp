@@ -1,11 +1,14 @@
 // What trading accounts hold: logins, changes of holdings, queries. While trading lists are not wanted
-// there is no table, and nothing here does anything.
+// nothing here does anything.
+#include <optional>
 #include <utility>
 
 #include "groups/Holdings.h"
 #include "groups/TradingFile.h"
+#include "groups/TradingService.h"
 #include "groups/TradingTable.h"
 #include "symbollist/LibraryString.h"
+#include "symbollist/ListIndex.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/Notify.h"
 #include "symbollist/TQSymbolListMgr.h"
@@ -24,62 +27,102 @@ struct AccountList {
   CString symbols;
 };
 
+std::vector<AccountList> ListsOfAccounts(const tq::CTS* system) {
+  if (system == nullptr)
+    return {};
+  return std::vector<AccountList>(system->accounts.begin(), system->accounts.end());
+}
+
 } // namespace
 
-// A start begins anew: the accounts of the one before may be another user's.
+// Table and lists outlive a start: they change only with logins and holdings, and the terminal may
+// start again without logging in again.
 void CTQSymbolListMgr::StartTradingLists() {
-  ClearTSSymbolList();
-  delete tradingTable_;
-  tradingTable_ =
-      tradingListsWanted_ == 0 ? nullptr : new tq::TradingTable(FilePath(tq::kTradingFileName));
+  if (tradingTable_ != nullptr)
+    tradingTable_->SetPath(FilePath(tq::kTradingFileName));
+  else if (tradingListsWanted_ != 0)
+    tradingTable_ = new tq::TradingTable(FilePath(tq::kTradingFileName));
+}
+
+// Null while trading lists are not wanted. What is there then is kept as it is for the start that
+// wants them again.
+tq::TradingTable* CTQSymbolListMgr::TradingTable() const {
+  return tradingListsWanted_ != 0 ? tradingTable_ : nullptr;
 }
 
 int CTQSymbolListMgr::LoadTSList() {
-  if (tradingTable_ == nullptr || CheckSymbolListExist(kAllHoldings, tq::kTradingLists) != 0)
+  if (TradingTable() == nullptr || CheckSymbolListExist(kAllHoldings, tq::kTradingLists) != 0)
     return 0;
   return AddTSSymbolList(kAllHoldings, tq::kUserLists, tq::LibraryString(tq::kStringAllHoldings),
                          CString(), 1);
 }
 
+// Whenever the service is asked or the terminal is told, the terminal may log in, change holdings
+// or start anew: what is needed is looked up again behind each of these calls.
 void CTQSymbolListMgr::UpdateTSLogin(CString tsId) {
-  if (tradingTable_ == nullptr)
+  if (TradingTable() == nullptr)
     return;
-  if (const tq::CTS* before = tradingTable_->Find(tsId)) {
-    for (const tq::CAccount& account : before->accounts)
-      DeleteTSSymbolList(account.ListId());
-  }
-  tradingTable_->Reload(tsId);
-  if (const tq::CTS* system = tradingTable_->Find(tsId)) {
-    // Copies: the terminal is told of each list, and may change the table in turn.
-    const std::vector<AccountList> lists(system->accounts.begin(), system->accounts.end());
-    UpdateTSSymbolList(kAllHoldings, tq::kUserLists, tq::LibraryString(tq::kStringAllHoldings),
-                       system->MergedHoldings(), 1);
-    for (const AccountList& list : lists)
-      UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
-  }
+  DeleteAccountLists(tsId);
+  tq::CTS fresh;
+  const bool available = tq::FetchTradingSystem(tsId, fresh);
+  if (TradingTable() == nullptr)
+    return;
+  DeleteAccountLists(tsId); // of a login that the terminal made meanwhile
+  tradingTable_->Put(tsId, available, std::move(fresh));
+  UpdateAllHoldings(tsId);
+  UpdateAccountLists(tsId);
   tq::Notify(tq::kNotifySymbols, kReasonTrading);
 }
 
+void CTQSymbolListMgr::UpdateAllHoldings(const CString& tsId) {
+  const tq::TradingTable* const table = TradingTable();
+  if (const tq::CTS* system = table == nullptr ? nullptr : table->Find(tsId))
+    UpdateTSSymbolList(kAllHoldings, tq::kUserLists, tq::LibraryString(tq::kStringAllHoldings),
+                       system->MergedHoldings(), 1);
+}
+
+// There may be thousands of accounts, so new lists are checked against an index.
+void CTQSymbolListMgr::UpdateAccountLists(const CString& tsId) {
+  std::vector<AccountList> lists;
+  std::optional<unsigned> tableSeen;
+  std::optional<tq::ListIndex> index;
+  unsigned indexed = 0;
+  for (size_t i = 0; TradingTable() != nullptr; ++i) {
+    if (tableSeen != tradingTable_->Changes()) {
+      lists = ListsOfAccounts(tradingTable_->Find(tsId));
+      tableSeen = tradingTable_->Changes();
+    }
+    if (i >= lists.size())
+      return;
+    if (!index || indexed != tradingListChanges_)
+      index.emplace(tradingLists_);
+    indexed = tradingListChanges_;
+    const AccountList& list = lists[i];
+    if (index->FindById(list.id) >= 0)
+      UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
+    else if (AddTradingList(list.id, tq::kTradingLists, list.name, list.symbols, &*index) != 0)
+      ++indexed;
+  }
+}
+
 void CTQSymbolListMgr::UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type) {
-  if (tradingTable_ == nullptr)
+  if (TradingTable() == nullptr)
     return;
   if (!tsId.IsEmpty() && !accountId.IsEmpty())
     tradingTable_->RefetchHoldings(tsId, accountId, type);
-  if (const tq::CTS* system = tradingTable_->Find(tsId)) {
-    const CString merged = system->MergedHoldings();
-    if (const tq::CAccount* account = system->FindAccount(accountId, type)) {
-      const AccountList list(*account);
-      UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
-    }
-    UpdateTSSymbolList(kAllHoldings, tq::kUserLists, tq::LibraryString(tq::kStringAllHoldings),
-                       merged, 1);
+  const tq::CTS* const system = TradingTable() == nullptr ? nullptr : tradingTable_->Find(tsId);
+  if (const tq::CAccount* account =
+          system == nullptr ? nullptr : system->FindAccount(accountId, type)) {
+    const AccountList list(*account);
+    UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
   }
+  UpdateAllHoldings(tsId);
   tq::Notify(tq::kNotifySymbols, kReasonTrading);
 }
 
 int CTQSymbolListMgr::GetTSAccHodling(const CString& tsId, const CString& accountId,
                                       CString& symbols) {
-  const tq::CTS* system = tradingTable_ == nullptr ? nullptr : tradingTable_->Find(tsId);
+  const tq::CTS* system = TradingTable() == nullptr ? nullptr : tradingTable_->Find(tsId);
   if (system == nullptr)
     return 0;
   for (const tq::CAccount& account : system->accounts) {
@@ -93,7 +136,7 @@ int CTQSymbolListMgr::GetTSAccHodling(const CString& tsId, const CString& accoun
 
 int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
                                        const CString& accountId, CString& symbols) {
-  if (tradingTable_ == nullptr || tsId.IsEmpty())
+  if (TradingTable() == nullptr || tsId.IsEmpty())
     return 0;
   const tq::CTS* system = tradingTable_->Find(tsId);
   const tq::CAccount* account = system == nullptr ? nullptr : system->FindAccount(accountId, type);
@@ -107,18 +150,14 @@ int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
 
 int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type, CString& symbols) {
   const tq::CTS* system =
-      tradingTable_ == nullptr || tsId.IsEmpty() ? nullptr : tradingTable_->Find(tsId);
+      TradingTable() == nullptr || tsId.IsEmpty() ? nullptr : tradingTable_->Find(tsId);
   if (system == nullptr)
     return 0;
   tq::MergedHoldings merged;
-  bool any = false;
   for (const tq::CAccount& account : system->accounts) {
-    if (account.info.type != type)
-      continue;
-    any = true;
-    merged.Add(account.holdings);
+    if (account.info.type == type)
+      merged.Add(account.holdings);
   }
-  if (any)
-    symbols = merged.Text();
-  return any;
+  symbols = merged.Text();
+  return 1;
 }

@@ -1,9 +1,15 @@
 #include "groups/TradingService.h"
 
+#include <algorithm>
+
 #include "groups/Holdings.h"
 
 namespace tq {
 namespace {
+
+// Far beyond what any proxy has: what a broken one claims to have above this is not asked for.
+constexpr int kMostSystems = 10'000;
+constexpr int kMostAccounts = 100'000;
 
 // The owner of a text that the proxy handed out.
 class ServiceText {
@@ -24,7 +30,7 @@ private:
 
 bool FindInfo(const CString& tsId, TQS_TSINFO& found) {
   const std::string_view wanted(tsId.GetString(), static_cast<size_t>(tsId.GetLength()));
-  const int count = TQSGetTSCount();
+  const int count = std::min(TQSGetTSCount(), kMostSystems);
   for (int i = 0; i < count; ++i) {
     TQS_TSINFO info = {};
     if (TQSGetTSInfo(i, &info) != 0 && FieldText(info.id) == wanted) {
@@ -40,7 +46,7 @@ bool FindInfo(const CString& tsId, TQS_TSINFO& found) {
 bool FetchTradingSystem(const CString& tsId, CTS& system) {
   if (TQSGetTSStatus(tsId) == 0 || !FindInfo(tsId, system.info))
     return false;
-  const int count = TQSGetTSAccountCount(tsId);
+  const int count = std::min(TQSGetTSAccountCount(tsId), kMostAccounts);
   for (int i = 0; i < count; ++i) {
     CAccount account;
     if (TQSGetTSAccount(tsId, i, &account.info) == 0)

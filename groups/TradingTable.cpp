@@ -82,6 +82,10 @@ int TradingTable::IndexOf(const CString& tsId) const {
 void TradingTable::Reload(const CString& tsId) {
   CTS fresh;
   const bool available = FetchTradingSystem(tsId, fresh);
+  Put(tsId, available, std::move(fresh));
+}
+
+void TradingTable::Put(const CString& tsId, bool available, CTS fresh) {
   const int index = IndexOf(tsId);
   if (index >= 0) {
     CTS& entry = systems_[static_cast<size_t>(index)];
@@ -92,23 +96,35 @@ void TradingTable::Reload(const CString& tsId) {
   } else if (available) {
     systems_.push_back(std::move(fresh));
   }
-  Save();
+  Changed();
+}
+
+CAccount* TradingTable::FindAccount(const CString& tsId, const CString& accountId,
+                                    TqsAccType type) {
+  const int system = IndexOf(tsId);
+  if (system < 0)
+    return nullptr;
+  CTS& entry = systems_[static_cast<size_t>(system)];
+  const int account = entry.IndexOf(accountId, type);
+  return account < 0 ? nullptr : &entry.accounts[static_cast<size_t>(account)];
 }
 
 void TradingTable::RefetchHoldings(const CString& tsId, const CString& accountId, TqsAccType type) {
-  const int system = IndexOf(tsId);
-  if (system < 0)
+  CString holdings;
+  if (FindAccount(tsId, accountId, type) == nullptr ||
+      !FetchHoldings(tsId, accountId, type, holdings))
     return;
-  CTS& entry = systems_[static_cast<size_t>(system)];
-  const int account = entry.IndexOf(accountId, type);
-  if (account >= 0 &&
-      FetchHoldings(tsId, accountId, type, entry.accounts[static_cast<size_t>(account)].holdings))
-    Save();
+  CAccount* const account = FindAccount(tsId, accountId, type); // a login may have replaced it
+  if (account == nullptr)
+    return;
+  account->holdings = holdings;
+  Changed();
 }
 
 // The file is for others to look at; the library never reads it. So one that cannot be written holds up
 // nothing, and the next change tries again.
-void TradingTable::Save() const {
+void TradingTable::Changed() {
+  ++changes_;
   if (path_.IsEmpty())
     return;
   const std::string text = TradingFileText(systems_);

@@ -43,8 +43,9 @@ struct CTS {
   CString MergedHoldings() const;
 };
 
-// Ids of systems and accounts are the service's keys and compared byte by byte. Pointers into the table
-// are good until it changes: telling the terminal something may end in another change.
+// Ids of systems and accounts are the service's keys and compared byte by byte. Pointers into the
+// table are good until it changes, which it may whenever the service is asked or the terminal is
+// told something: the terminal may log in from there.
 class TradingTable {
 public:
   // `path` is the file that is rewritten with each change; empty for none.
@@ -56,19 +57,28 @@ public:
   const std::vector<CTS>& Systems() const { return systems_; }
   const CTS* Find(const CString& tsId) const;
 
-  // Reads a trading system from the service: it takes the place of the entry of that id, or is added.
-  // When the service has it not, an entry that is there keeps only its id. Rewrites the file.
+  // Reads a trading system from the service and puts it in.
   void Reload(const CString& tsId);
+  // Puts in what the service was asked for: `fresh` takes the place of the entry of that id, or is
+  // added. When it was not `available`, an entry that is there keeps only its id. Rewrites the
+  // file.
+  void Put(const CString& tsId, bool available, CTS fresh);
   // Asks for the holdings of one account of the table. When the service fails, or the account is not in
   // the table, nothing changes; else the file is rewritten.
   void RefetchHoldings(const CString& tsId, const CString& accountId, TqsAccType type);
 
+  // Counts the changes of the table: who copied from it, and lets the terminal work, can tell
+  // whether the copy is what the table says still.
+  unsigned Changes() const { return changes_; }
+
 private:
   int IndexOf(const CString& tsId) const;
-  void Save() const;
+  CAccount* FindAccount(const CString& tsId, const CString& accountId, TqsAccType type);
+  void Changed();
 
   std::vector<CTS> systems_; // in the order of their first logins
   CString path_;
+  unsigned changes_ = 0;
 };
 
 } // namespace tq

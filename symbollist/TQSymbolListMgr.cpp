@@ -22,7 +22,7 @@ CTQSymbolListMgr::CTQSymbolListMgr()
 
 CTQSymbolListMgr::~CTQSymbolListMgr() {
   ClearSymbolList();
-  ClearTSSymbolList();
+  DestroyTradingLists();
   ClearCloudSymbolList();
   delete groups_;
   delete cloudMap_;

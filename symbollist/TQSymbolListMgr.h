@@ -85,7 +85,8 @@ public:
   //   loadSystemLists       non-zero: system lists are wanted
   //   systemListNames       their names in order, or null; copied
   //   useUserDefExch        non-zero: the default exchanges are the user's own
-  //   loadTradingLists      non-zero: lists from trading accounts are wanted
+  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start before stay,
+  //                         whatever this says; with 0 nothing changes them
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and there
   // are no lists. A list file that cannot be read is no failure: the manager starts without lists. Where
   // the system does not tell whether there is a list file, none is created.
@@ -369,7 +370,8 @@ public:
   // Read-mostly lists that the symbol-data service publishes: a tree of two levels for each group type.
   // Types 1 to 21, 101 and 201 (the cloud groups) are loaded by Init; 1 to 200 may be added and removed.
   // Members of a group are fetched when they are first asked for. Ids are compared ignoring the case of
-  // ASCII letters, unless said. A type is loaded when it has an entry in the map of types.
+  // ASCII letters, unless said. A type is loaded when it has an entry in the map of types. From within a
+  // call of the service the terminal may call any of it: a load ends as if that had been done before.
 
   // Loads all types anew. Returns 1; a type that the service fails for is empty.
   int LoadGroupList();
@@ -468,7 +470,9 @@ public:
   // What the user holds, as lists of kind 6: one for each account, one for each trading system, and
   // "ALLMYSTOCKLISTS" for all accounts of the trading system that was updated last. The table behind them
   // is written to "\TSList.xml" in the data directory after every change. All of it does nothing, and
-  // asks the service nothing, unless Init was told to load trading lists.
+  // asks the service nothing, unless the last Init was told to load trading lists; that goes for removing
+  // and clearing lists too. Table and lists outlive another Init, which names the directory of the file anew.
+  // From within a call of the proxy, or of TQSCall, the terminal may call any of it.
 
   // Adds "ALLMYSTOCKLISTS", empty, when it is missing. Returns 1 when it was added.
   int LoadTSList();
@@ -494,7 +498,8 @@ public:
   // Deletes the first list of kind 6 with that id.
   int DeleteTSSymbolList(CString id);
   // Holdings joined by ",": of an account; of the first account of that id and type; of all accounts of a
-  // type, each symbol once. 0, `symbols` untouched, when the table has no such trading system or account.
+  // type, each symbol once (1, and empty, when there is none of the type). 0, `symbols` untouched, when the
+  // table has no such trading system or account.
   int GetTSAccHodling(const CString& tsId, const CString& accountId, CString& symbols);
   int GetTSSymbolLists(const CString& tsId, TqsAccType type, const CString& accountId,
                        CString& symbols);
@@ -506,7 +511,8 @@ public:
   // 0 to 2 chooses ids and names. 0 when the file could not be read.
   int DoLoadOtherProductList(CString& path, int product);
   // Imports "\OldOTVList.xml" of the data directory as product 1, once: the file is then renamed to
-  // "\Added_OldOTVList.xml". Returns 1 when it was imported.
+  // "\Added_OldOTVList.xml". Another file that is put there later is imported too, whatever it holds.
+  // Returns 1 when it was imported.
   int LoadOtherProductList();
   // Texts by which the terminal switches on what a broker's edition does differently in the dialogs; each
   // is kept once. Empty ones are ignored.
@@ -557,8 +563,15 @@ private:
   std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
   void StartTradingLists();
+  tq::TradingTable* TradingTable() const;
+  void DestroyTradingLists();
+  void DeleteAccountLists(const CString& tsId);
+  void UpdateAllHoldings(const CString& tsId);
+  void UpdateAccountLists(const CString& tsId);
+  int AddTradingList(const CString& id, int kind, const CString& name, const CString& symbols,
+                     tq::ListIndex* index);
   bool ImportList(const tq::ImportedList& from, tq::ListIndex& index);
-  int ImportLists(const std::vector<tq::ImportedList>& lists);
+  int ImportLists(const std::vector<tq::ImportedList>& lists, int& taken);
   int BuildSymbolTables();
   void ClearAllSymbols();
 
@@ -582,7 +595,8 @@ private:
   CUIntArray exchangeOrder_;
   tq::GroupStore* groups_;         // owned
   tq::CloudMap* cloudMap_;         // owned
-  tq::TradingTable* tradingTable_; // owned; null until Init was told to load trading lists
-  tq::KeptFiles* keptFiles_;       // owned
+  tq::KeptFiles* keptFiles_;        // owned
+  tq::TradingTable* tradingTable_;  // owned; null until Init was first told to load trading lists
+  unsigned tradingListChanges_ = 0; // lists of kind 6 that were added or removed so far
   std::vector<CString> extraInfo_;
 };

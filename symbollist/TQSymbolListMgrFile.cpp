@@ -75,10 +75,6 @@ void CTQSymbolListMgr::ClearSymbolList() {
   tq::DestroyLists(lists_);
 }
 
-void CTQSymbolListMgr::ClearTSSymbolList() {
-  tq::DestroyLists(tradingLists_);
-}
-
 void CTQSymbolListMgr::ClearCloudSymbolList() {
   tq::DestroyLists(cloudLists_);
 }

@@ -16,6 +16,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -131,10 +132,13 @@ TQSTANDIN_API void AnswerGroups(int type, std::string_view parent, std::vector<G
                                 int count);
 TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> records,
                                  int count);
-// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts follow. A
-// trading system that the market does not have is available. Holdings stay those of the market.
-TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records);
-TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records);
+// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts are `claimed`, or
+// follow. A trading system that the market does not have is available. Holdings stay those of the
+// market.
+TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records,
+                                        std::optional<int> claimed = {});
+TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records,
+                                  std::optional<int> claimed = {});
 
 // The same for VLGetSymbolInfos2, by exchange: `result` 0 has the call fail with the array all the same.
 TQSTANDIN_API void AnswerSymbols(int exchId, std::vector<SymbolInfo> records, int count,

@@ -14,14 +14,14 @@ using namespace standin;
 namespace {
 
 const std::vector<TQS_TSINFO>& Systems() {
-  const std::vector<TQS_TSINFO>* answer = AnsweredTradingSystems();
-  return answer ? *answer : CurrentTradingRecords().Systems();
+  const Answer<TQS_TSINFO>* answer = AnsweredTradingSystems();
+  return answer ? answer->records : CurrentTradingRecords().Systems();
 }
 
 const std::vector<TQS_ACCOUNTINFO>& Accounts(const char* tsId) {
   static const std::vector<TQS_ACCOUNTINFO> kNone;
-  if (const std::vector<TQS_ACCOUNTINFO>* answer = AnsweredAccounts(tsId))
-    return *answer;
+  if (const Answer<TQS_ACCOUNTINFO>* answer = AnsweredAccounts(tsId))
+    return answer->records;
   const TradingSystem* system = FindSystem(tsId);
   if (!system)
     return kNone;
@@ -39,8 +39,8 @@ template <class T> int GetRecord(const std::vector<T>& records, int index, T* re
 
 // Whether a test put the system in the market's place: such a one is available.
 bool IsAnswered(std::string_view tsId) {
-  if (const std::vector<TQS_TSINFO>* answer = AnsweredTradingSystems())
-    for (const TQS_TSINFO& info : *answer)
+  if (const Answer<TQS_TSINFO>* answer = AnsweredTradingSystems())
+    for (const TQS_TSINFO& info : answer->records)
       if (std::string_view(info.id, ::strnlen(info.id, sizeof info.id)) == tsId)
         return true;
   return false;
@@ -49,7 +49,10 @@ bool IsAnswered(std::string_view tsId) {
 } // namespace
 
 int TQSGetTSCount() {
-  return Begin("TQSGetTSCount") ? static_cast<int>(Systems().size()) : 0;
+  if (!Begin("TQSGetTSCount"))
+    return 0;
+  const Answer<TQS_TSINFO>* answer = AnsweredTradingSystems();
+  return answer ? answer->count : static_cast<int>(Systems().size());
 }
 
 int TQSGetTSInfo(int index, TQS_TSINFO* info) {
@@ -72,7 +75,8 @@ int TQSGetTSAccountCount(const char* tsId) {
   const bool proceed = Begin("TQSGetTSAccountCount", tsId);
   if (!proceed || !tsId)
     return 0;
-  return static_cast<int>(Accounts(tsId).size());
+  const Answer<TQS_ACCOUNTINFO>* answer = AnsweredAccounts(tsId);
+  return answer ? answer->count : static_cast<int>(Accounts(tsId).size());
 }
 
 int TQSGetTSAccount(const char* tsId, int index, TQS_ACCOUNTINFO* account) {

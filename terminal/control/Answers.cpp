@@ -18,8 +18,8 @@ struct Answers {
   ByGroup<SymbolInfo> members;
   std::map<int, Answer<SymbolInfo>> symbols;
   std::map<std::pair<int, std::string>, std::vector<ExtAttr>> extended;
-  std::optional<std::vector<TQS_TSINFO>> systems;
-  std::map<std::string, std::vector<TQS_ACCOUNTINFO>, std::less<>> accounts;
+  std::optional<Answer<TQS_TSINFO>> systems;
+  std::map<std::string, Answer<TQS_ACCOUNTINFO>, std::less<>> accounts;
 };
 
 Answers& TheAnswers() {
@@ -34,6 +34,11 @@ const Answer<T>* FindAnswer(const ByGroup<T>& answers, int type, std::string_vie
     return nullptr;
   const auto found = answers.find({type, std::string(group)});
   return found == answers.end() ? nullptr : &found->second;
+}
+
+template <class T> Answer<T> WithCount(std::vector<T> records, std::optional<int> claimed) {
+  const int count = claimed.value_or(static_cast<int>(records.size()));
+  return {std::move(records), count};
 }
 
 } // namespace
@@ -57,12 +62,13 @@ void AnswerExtended(std::string_view id, int kind, std::vector<ExtAttr> records)
   TheAnswers().extended.insert_or_assign({kind, std::string(id)}, std::move(records));
 }
 
-void AnswerTradingSystems(std::vector<TQS_TSINFO> records) {
-  TheAnswers().systems = std::move(records);
+void AnswerTradingSystems(std::vector<TQS_TSINFO> records, std::optional<int> claimed) {
+  TheAnswers().systems = WithCount(std::move(records), claimed);
 }
 
-void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records) {
-  TheAnswers().accounts.insert_or_assign(std::string(tsId), std::move(records));
+void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records,
+                    std::optional<int> claimed) {
+  TheAnswers().accounts.insert_or_assign(std::string(tsId), WithCount(std::move(records), claimed));
 }
 
 const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent) {
@@ -83,12 +89,12 @@ const std::vector<ExtAttr>* AnsweredExtended(std::string_view id, int kind) {
   return found == TheAnswers().extended.end() ? nullptr : &found->second;
 }
 
-const std::vector<TQS_TSINFO>* AnsweredTradingSystems() {
-  const std::optional<std::vector<TQS_TSINFO>>& systems = TheAnswers().systems;
+const Answer<TQS_TSINFO>* AnsweredTradingSystems() {
+  const std::optional<Answer<TQS_TSINFO>>& systems = TheAnswers().systems;
   return systems ? &*systems : nullptr;
 }
 
-const std::vector<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId) {
+const Answer<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId) {
   const auto found = TheAnswers().accounts.find(tsId);
   return found == TheAnswers().accounts.end() ? nullptr : &found->second;
 }

@@ -22,7 +22,7 @@ TQSTANDIN_API const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view
 TQSTANDIN_API const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group);
 TQSTANDIN_API const Answer<SymbolInfo>* AnsweredSymbols(int exchId);
 TQSTANDIN_API const std::vector<ExtAttr>* AnsweredExtended(std::string_view id, int kind);
-TQSTANDIN_API const std::vector<TQS_TSINFO>* AnsweredTradingSystems();
-TQSTANDIN_API const std::vector<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId);
+TQSTANDIN_API const Answer<TQS_TSINFO>* AnsweredTradingSystems();
+TQSTANDIN_API const Answer<TQS_ACCOUNTINFO>* AnsweredAccounts(std::string_view tsId);
 
 } // namespace standin

@@ -242,6 +242,30 @@ TEST_F(GroupStoreTest, AddingMovesStalePositionsToo) {
   EXPECT_EQ(store.IndexOf(6), 5);
 }
 
+// A stale position moved although the new type stood behind all others.
+TEST_F(GroupStoreTest, ATypeBehindAllOthersMovesNoPositionStaleOrNot) {
+  store.Add(1);
+  store.Add(101);
+  store.Remove(1);
+  EXPECT_EQ(store.Add(150), 1);
+  EXPECT_EQ(store.IndexOf(101), 1);
+  EXPECT_EQ(store.IndexOf(150), 1);
+  EXPECT_EQ(GroupOf(101), "g150");
+  EXPECT_EQ(GroupOf(150), "g150");
+}
+
+// One in front of another moves every position from there on, those of smaller types too.
+TEST_F(GroupStoreTest, ATypeInFrontOfAnotherMovesEveryPositionFromThereOn) {
+  store.Add(1);
+  store.Add(5);
+  store.Add(101);
+  store.Remove(1); // 5 answers under 1, 101 under 2, where nothing is
+  EXPECT_EQ(store.Add(50), 1);
+  EXPECT_EQ(store.IndexOf(50), 1);
+  EXPECT_EQ(store.IndexOf(5), 2);
+  EXPECT_EQ(store.IndexOf(101), 3);
+}
+
 TEST_F(GroupStoreTest, UpdateReloadsOneTypeOrAll) {
   store.LoadAll();
   store.Add(50);

@@ -192,6 +192,16 @@ TEST_F(GroupsTypesTest, PushesReachTheRightTypeAfterARemoval) {
   EXPECT_EQ(Shape(101), "VORNG01(VORNG0101 VORNG0102 VORNG0103) PICK");
 }
 
+// GetGroupIdx(101) was 2: a type that is added behind all others moves none.
+TEST_F(GroupsTypesTest, ATypeBehindAllOthersMovesNoPosition) {
+  manager.AddNewGroup(1);
+  manager.AddNewGroup(101);
+  manager.RemoveGroupList(1);
+  EXPECT_EQ(manager.AddNewGroup(150), 1);
+  EXPECT_EQ(manager.GetGroupIdx(101), 1);
+  EXPECT_EQ(manager.GetGroupIdx(150), 1);
+}
+
 TEST_F(GroupsTypesTest, RemovingReturnsWhetherThereWasOne) {
   manager.LoadGroupList();
   EXPECT_EQ(manager.RemoveGroupList(6), 1);

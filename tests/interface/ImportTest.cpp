@@ -1,4 +1,6 @@
 // Import of an older product's lists, and the texts of a broker's edition.
+#include <cstdio>
+
 #include "tests/interface/EditTest.h"
 
 namespace {
@@ -35,6 +37,24 @@ TEST_F(ImportTest, ASecondCallOrStartImportsNothing) {
   EXPECT_EQ(Shape(), "");
   ASSERT_EQ(StartWithTables(), 1);
   EXPECT_EQ(Shape(), "");
+}
+
+// A user who exports the same lists again, or puts the same file there again, got nothing.
+TEST_F(ImportTest, TheSameListsExportedAgainAreImportedAgain) {
+  const std::string file = File("<L><IDs>2330.TW</IDs></L>");
+  WriteImport(file);
+  StartWith({});
+  ASSERT_EQ(manager.DeleteSymbolList("eOrvel 1"), 1);
+  WriteImport(file);
+  EXPECT_EQ(manager.LoadOtherProductList(), 1);
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
+  ASSERT_EQ(manager.DeleteSymbolList("eOrvel 1"), 1);
+  ASSERT_EQ(std::rename(directory.Native("Added_OldOTVList.xml").c_str(),
+                        directory.Native("OldOTVList.xml").c_str()),
+            0);
+  directory.Write("Added_OldOTVList.xml", file);
+  EXPECT_EQ(manager.LoadOtherProductList(), 1) << "the imported file itself, put there again";
+  EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
 }
 
 // The lists are on the disk before the file is renamed, so this is what a process leaves that is killed in

@@ -123,4 +123,26 @@ TEST_F(TradingListsFailureTest, EachOperationFailingAlwaysIsSurvived) {
   }
 }
 
+// A login took a minute while the proxy claimed two billion systems or accounts.
+TEST_F(TradingListsFailureTest, ClaimsBeyondAllReasonAreNotFollowed) {
+  constexpr int kClaimed = 1'000'000;
+  constexpr int kAnswered = 200'000;
+  Start();
+  standin::AnswerTradingSystems({}, kClaimed);
+  manager.UpdateTSLogin("T1");
+  EXPECT_LT(standin::CountCalls("TQSGetTSInfo"), kAnswered);
+  TQS_TSINFO system = {};
+  std::strcpy(system.id, "T1");
+  TQS_ACCOUNTINFO account = {};
+  account.type = kStocks;
+  std::strcpy(account.id, "9801");
+  std::strcpy(account.displayId, "shown");
+  standin::AnswerTradingSystems({system});
+  standin::AnswerAccounts("T1", {account}, kClaimed);
+  standin::ClearCalls();
+  manager.UpdateTSLogin("T1");
+  EXPECT_LT(standin::CountCalls("TQSGetTSAccount"), kAnswered);
+  EXPECT_EQ(NameOf("19801"), "shown");
+}
+
 } // namespace

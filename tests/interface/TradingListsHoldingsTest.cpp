@@ -162,10 +162,19 @@ TEST_F(TradingListsHoldingsTest, TheListOfATypeMergesItsAccounts) {
   StartAndLogIn();
   EXPECT_EQ(Lists("T1", kStocks), "1 2330.TW,2317.TW,2454.TW");
   EXPECT_EQ(Lists("T1", kFutures), "1 TXFL6.TF");
-  EXPECT_EQ(Lists("T1", static_cast<TqsAccType>(3)), "0 (untouched)");
+  // What a type without accounts holds was the text of the question before.
+  EXPECT_EQ(Lists("T1", static_cast<TqsAccType>(3)), "1 ");
   EXPECT_EQ(Lists("T2", kStocks), "0 (untouched)");
   EXPECT_EQ(Lists("", kStocks), "0 (untouched)");
   EXPECT_TRUE(standin::Calls().empty());
+}
+
+TEST_F(TradingListsHoldingsTest, ASystemThatLostItsAccountsHoldsNothingOfAnyType) {
+  StartAndLogIn();
+  standin::SetAvailable("T1", false);
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(Lists("T1", kStocks), "1 ");
+  EXPECT_EQ(Lists("T1", kStocks, "9801"), "0 (untouched)");
 }
 
 } // namespace

@@ -63,33 +63,83 @@ TEST_F(TradingListsLifeTest, TheFileGoesOverToTheOtherDirectory) {
   EXPECT_NE(other.Read("TSList.xml").find("'T2'"), std::string::npos);
 }
 
-TEST_F(TradingListsLifeTest, AnotherStartBeginsAnew) {
+// A second start dropped the table and the lists, and holdings that changed later were never shown.
+TEST_F(TradingListsLifeTest, AnotherStartKeepsTableAndLists) {
   Start();
   manager.UpdateTSLogin("T1");
+  const std::string file = TradingFile();
   TempDir other;
   ASSERT_EQ(manager.Init(other.Path().c_str(), 0, 0, 0, nullptr, 0, 1), 1);
-  EXPECT_EQ(Shape(), "ALLMYSTOCKLISTS/" + AllHoldings() + "/");
-  CString symbols;
-  EXPECT_EQ(manager.GetTSAccHodling("T1", "9801", symbols), 0);
-  manager.UpdateTSLogin("T2");
-  EXPECT_EQ(other.Read("TSList.xml").find("'T1'"), std::string::npos);
+  EXPECT_EQ(Shape(), AfterLoginOfT1());
+  EXPECT_FALSE(other.Exists("TSList.xml"));
+  standin::SetHoldings("T1", "F01", 2, "2454.TW");
+  manager.UpDataTSAccHodling("T1", "F01", kFutures);
+  EXPECT_EQ(Symbols("2F01"), "2454.TW");
+  EXPECT_EQ(Symbols("ALLMYSTOCKLISTS"), "2330.TW,2317.TW,2454.TW");
+  EXPECT_EQ(TradingFile(), file);
+  EXPECT_NE(other.Read("TSList.xml").find("'9801'"), std::string::npos);
 }
 
-TEST_F(TradingListsLifeTest, AnotherStartWithoutTradingListsHasNone) {
+TEST_F(TradingListsLifeTest, AStartWithoutTradingListsLeavesWhatIsThereAsItIs) {
+  Start();
+  manager.UpdateTSLogin("T1");
+  const std::string file = TradingFile();
+  ASSERT_EQ(StartWithoutTables(), 1);
+  ForgetCalls();
+  standin::SetHoldings("T1", "9801", 1, "1101.TW");
+  manager.UpdateTSLogin("T1");
+  manager.UpDataTSAccHodling("T1", "9801", kStocks);
+  manager.BuildTSListToSymbolList();
+  EXPECT_EQ(manager.LoadTSList(), 0);
+  EXPECT_EQ(manager.AddTSSymbolList("x", 6, "X", "2330.TW", 1), 0);
+  EXPECT_EQ(manager.UpdateTSSymbolList("19801", 6, "X", "2330.TW", 1), 0);
+  EXPECT_EQ(manager.DeleteTSSymbolList("19801"), 0);
+  manager.ClearTSSymbolList();
+  CString symbols = "(untouched)";
+  EXPECT_EQ(manager.GetTSAccHodling("T1", "9801", symbols), 0);
+  EXPECT_EQ(manager.GetTSSymbolLists("T1", kStocks, "9801", symbols), 0);
+  EXPECT_EQ(manager.GetTSSymbolLists("T1", kStocks, symbols), 0);
+  EXPECT_STREQ(symbols, "(untouched)");
+  EXPECT_TRUE(standin::Calls().empty());
+  EXPECT_EQ(Shape(), AfterLoginOfT1());
+  EXPECT_EQ(TradingFile(), file);
+}
+
+// Once they are wanted again the table is where it was left, so that the next change of holdings is shown.
+TEST_F(TradingListsLifeTest, AThirdStartThatWantsTradingListsAgainHasThem) {
   Start();
   manager.UpdateTSLogin("T1");
   ASSERT_EQ(StartWithoutTables(), 1);
-  EXPECT_EQ(manager.GetSymbolListCount(6), 0);
-  manager.UpdateTSLogin("T1");
-  EXPECT_EQ(manager.GetSymbolListCount(6), 0);
+  TempDir third;
+  ASSERT_EQ(manager.Init(third.Path().c_str(), 0, 0, 0, nullptr, 0, 1), 1);
+  EXPECT_EQ(Shape(), AfterLoginOfT1());
+  standin::SetHoldings("T1", "9801", 1, "1101.TW");
+  manager.UpDataTSAccHodling("T1", "9801", kStocks);
+  EXPECT_EQ(Symbols("19801"), "1101.TW");
+  EXPECT_NE(third.Read("TSList.xml").find("'1101.TW'"), std::string::npos);
 }
 
-TEST_F(TradingListsLifeTest, AStartThatFailsAtTheTablesLeavesNoTradingLists) {
+TEST_F(TradingListsLifeTest, AStartThatFailsAtTheTablesKeepsTableAndLists) {
   Start();
   manager.UpdateTSLogin("T1");
+  const std::string file = TradingFile();
+  TempDir other;
+  standin::FailCall("VLGetExch", 1);
+  EXPECT_EQ(manager.Init(other.Path().c_str(), 0, 1, 0, nullptr, 0, 1), 0);
+  EXPECT_EQ(Shape(), AfterLoginOfT1());
+  standin::SetHoldings("T1", "9801", 1, "1101.TW");
+  manager.UpDataTSAccHodling("T1", "9801", kStocks);
+  EXPECT_EQ(Symbols("19801"), "1101.TW");
+  EXPECT_EQ(TradingFile(), file);
+  EXPECT_TRUE(other.Exists("TSList.xml"));
+}
+
+TEST_F(TradingListsLifeTest, AFirstStartThatFailsAtTheTablesTakesLoginsAllTheSame) {
   standin::FailCall("VLGetExch", 1);
   EXPECT_EQ(manager.Init(directory.Path().c_str(), 0, 1, 0, nullptr, 0, 1), 0);
-  EXPECT_EQ(manager.GetSymbolListCount(6), 0);
+  EXPECT_EQ(Shape(), "");
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(Shape(), AfterLoginOfT1());
 }
 
 TEST_F(TradingListsLifeTest, WithoutADataDirectoryThereIsNoFile) {

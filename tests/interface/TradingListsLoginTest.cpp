@@ -188,6 +188,26 @@ TEST_F(TradingListsLoginTest, FieldsWithoutATerminatorAreReadToTheirWidth) {
   EXPECT_EQ(manager.GetSymbolListCount(6), 2);
 }
 
+TEST_F(TradingListsLoginTest, ThousandsOfAccounts) {
+  constexpr int kAccounts = 4'000;
+  standin::Market market = Market();
+  market.tradingSystems[0].accounts.clear();
+  for (int i = 0; i < kAccounts; ++i) {
+    const std::string id = std::to_string(100'000 + i);
+    market.tradingSystems[0].accounts.push_back(
+        {1, id, "account " + std::to_string(i % (kAccounts / 2)), "2330.TW"});
+  }
+  standin::SetMarket(market);
+  standin::RecordCalls(false);
+  Start();
+  for (int login = 0; login < 2; ++login) {
+    manager.UpdateTSLogin("T1");
+    EXPECT_EQ(manager.GetSymbolListCount(6), kAccounts + 1);
+    EXPECT_EQ(NameOf("1103999"), "account 1999" + UpdateSuffix());
+    EXPECT_EQ(Symbols("1103999"), "2330.TW");
+  }
+}
+
 // A list's id has room for 36 bytes: an account that needs more is in the table, the file and all
 // holdings, but has no list.
 TEST_F(TradingListsLoginTest, AnAccountWhoseListIdWouldBeTooLongHasNoList) {
