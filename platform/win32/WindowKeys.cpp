@@ -30,8 +30,8 @@ bool IsDown(int key) {
   return ::GetKeyState(key) < 0;
 }
 
-Held HeldKeys(const MSG& message) {
-  return {IsDown(VK_SHIFT), IsDown(VK_CONTROL), message.message == WM_SYSKEYDOWN};
+Held HeldKeys() {
+  return {IsDown(VK_SHIFT), IsDown(VK_CONTROL), IsDown(VK_MENU)};
 }
 
 const KeyCode* FindKey(WPARAM code, Held held) {
@@ -135,7 +135,7 @@ bool IsKeyDone(Run& run, const MSG& message) {
   const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   if (!isKey || IsDroppedDown(message.hwnd))
     return false;
-  const Held held = HeldKeys(message);
+  const Held held = HeldKeys();
   if (const KeyCode* const found = FindKey(message.wParam, held)) {
     return OfferKey(run, message.hwnd, found->key, held) ||
            PressInControl(run, message.hwnd, found->key, held);
