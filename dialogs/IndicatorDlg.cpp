@@ -22,7 +22,7 @@ constexpr unsigned kHoverMilliseconds = 10;
 
 // The number of the region or category that is chosen.
 int ChoiceOf(const CComboBox& combo) {
-  return std::max(combo.GetCurSel(), IndicatorTable::All);
+  return std::max(combo.GetCurSel(), IndicatorTable::kAll);
 }
 
 } // namespace
@@ -57,7 +57,7 @@ void IndicatorDlg::FillCombo(int id, unsigned allEntry, const CStringArray& text
   combo.AddString(ResourceContext::Text(allEntry));
   for (const CString& text : texts)
     combo.AddString(text);
-  combo.SetCurSel(IndicatorTable::All);
+  combo.SetCurSel(IndicatorTable::kAll);
 }
 
 void IndicatorDlg::PrepareList() {

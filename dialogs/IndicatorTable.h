@@ -30,7 +30,7 @@ public:
   static IndicatorTable Read(InfoType type);
 
   // The number that stands for all regions, or all categories. The others count from 1.
-  static constexpr int All = 0;
+  static constexpr int kAll = 0;
   // Each text that a row has, once, in the order in which they first come: number 1 is the first of them.
   const CStringArray& Regions() const { return regions_; }
   const CStringArray& Categories() const { return categories_; }
@@ -50,8 +50,8 @@ public:
 
 private:
   struct Row {
-    int region = All;
-    int category = All;
+    int region = kAll;
+    int category = kAll;
     CStringArray columns;
   };
 

@@ -5,14 +5,14 @@
 namespace tq {
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 // The encoding names that this system's programs and those that users keep lists with write.
 struct EncodingName {
   std::string_view name;
   XmlEncoding encoding;
 };
-constexpr EncodingName EncodingNames[] = {
+constexpr EncodingName kEncodingNames[] = {
     {"big5", XmlEncoding::Big5},  {"cp950", XmlEncoding::Big5},     {"x-x-big5", XmlEncoding::Big5},
     {"gb2312", XmlEncoding::Gbk}, {"gbk", XmlEncoding::Gbk},        {"cp936", XmlEncoding::Gbk},
     {"utf-8", XmlEncoding::Utf8}, {"us-ascii", XmlEncoding::Ascii},
@@ -65,7 +65,7 @@ private:
 };
 
 bool FindEncoding(std::string_view name, XmlEncoding& encoding) {
-  for (const EncodingName& known : EncodingNames) {
+  for (const EncodingName& known : kEncodingNames) {
     if (EqualNoCase(known.name.data(), known.name.size(), name.data(), name.size())) {
       encoding = known.encoding;
       return true;
@@ -96,7 +96,7 @@ bool TakeDeclaration(Reader& reader, std::string_view& encoding) {
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration) {
   declaration = {};
   Reader reader(file);
-  const bool marked = reader.Take(Utf8Mark);
+  const bool marked = reader.Take(kUtf8Mark);
   declaration.length = file.size() - reader.Left();
   // A longer name, as of an instruction for style sheets, is no declaration.
   constexpr std::string_view opening = "<?xml";

@@ -8,7 +8,7 @@
 //     in what they make of them. A default namespace (xmlns='...') is allowed.
 //  2. Closed: a document type declaration is refused before the DOM sees the text, so there are no
 //     entities beyond the five predefined ones and character references. Nothing is fetched. Size is
-//     bounded by XmlSizeLimit and nesting by XmlDepthLimit (platform/XmlText.h).
+//     bounded by kXmlSizeLimit and nesting by kXmlDepthLimit (platform/XmlText.h).
 //  3. Text comes out in the process's ANSI code page. From a file in that code page every character
 //     comes out as the very bytes that stand in the file, user-defined characters included. From a
 //     file in another encoding, and from a character reference, a character that the code page lacks

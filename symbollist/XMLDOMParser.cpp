@@ -32,7 +32,7 @@ bool ReadShort(CString text, int& value) {
 
 bool CXMLDOMParser::Load(const CString& path) {
   std::string bytes;
-  return tq::Files().ReadWholeFile(path, tq::XmlSizeLimit, bytes) == tq::ReadResult::Ok &&
+  return tq::Files().ReadWholeFile(path, tq::kXmlSizeLimit, bytes) == tq::ReadResult::Ok &&
          document_.Load(bytes.data(), bytes.size());
 }
 

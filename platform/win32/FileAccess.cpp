@@ -31,7 +31,7 @@ public:
   ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
     bytes.clear();
     FileHandle file;
-    if (file.Open(SystemPath(path), GENERIC_READ, ShareAll, OPEN_EXISTING))
+    if (file.Open(SystemPath(path), GENERIC_READ, kShareAll, OPEN_EXISTING))
       return ReadOpenFile(file.Get(), limit, bytes);
     const DWORD error = ::GetLastError();
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ? ReadResult::Missing

@@ -6,10 +6,10 @@
 namespace tq {
 namespace {
 
-constexpr int SharingTries = 50;
-constexpr DWORD SharingPause = 10; // milliseconds; together the half second of FileAccess.h
+constexpr int kSharingTries = 50;
+constexpr DWORD kSharingPause = 10; // milliseconds; together the half second of FileAccess.h
 // What the temporary file takes over from the target.
-constexpr DWORD KeptAttributes =
+constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 // Errors that concern the way of replacing (rights on the directory, somebody who holds the target or
@@ -64,7 +64,7 @@ private:
 };
 
 StepResult WindowsSaveSteps::OpenTarget() {
-  const bool opened = targetFile_.Open(target_, GENERIC_WRITE, ShareAll, OPEN_EXISTING);
+  const bool opened = targetFile_.Open(target_, GENERIC_WRITE, kShareAll, OPEN_EXISTING);
   if (!opened && ::GetLastError() != ERROR_FILE_NOT_FOUND)
     return StepResult::Failed;
   existed_ = opened;
@@ -78,7 +78,7 @@ StepResult WindowsSaveSteps::OpenTarget() {
     // The system replaces no file that is open, not even by us.
     targetFile_.Close();
   }
-  for (const char* c = TemporarySuffix; *c != '\0'; ++c)
+  for (const char* c = kTemporarySuffix; *c != '\0'; ++c)
     temporary_.push_back(static_cast<wchar_t>(*c));
   temporary_.insert(0, target_);
   return opened ? StepResult::Ok : StepResult::Missing;
@@ -98,13 +98,13 @@ void WindowsSaveSteps::FollowLink() {
 StepResult WindowsSaveSteps::OpenTemporary() {
   // Shared for deletion alone, so that it can be renamed while it is open: from its creation until it
   // bears the target's name no other save can write into it.
-  for (int i = 0; i < SharingTries; ++i) {
+  for (int i = 0; i < kSharingTries; ++i) {
     if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, CREATE_ALWAYS,
-                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes)))
+                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & kKeptAttributes)))
       return StepResult::Ok;
     if (::GetLastError() != ERROR_SHARING_VIOLATION)
       return WhyNotReplaced();
-    ::Sleep(SharingPause);
+    ::Sleep(kSharingPause);
   }
   return StepResult::Failed;
 }
@@ -132,7 +132,7 @@ bool WindowsSaveSteps::SetTargetLength(LONGLONG length) {
 }
 
 bool WindowsSaveSteps::ReserveTarget(std::size_t size) {
-  if (!targetFile_.Open(target_, GENERIC_WRITE, ShareAll, existed_ ? OPEN_EXISTING : CREATE_NEW))
+  if (!targetFile_.Open(target_, GENERIC_WRITE, kShareAll, existed_ ? OPEN_EXISTING : CREATE_NEW))
     return false;
   created_ = !existed_;
   LARGE_INTEGER old;
