@@ -65,7 +65,7 @@ void MeasureWholeLists(Report& report, const std::string& directory, std::size_t
     });
   };
   report.Ratio("add + delete, " + std::to_string(lists) + " lists / two writes",
-               Compare(kRepetitions, library, peer), NoGoal, 2);
+               Compare(kRepetitions, library, peer), kNoGoal, 2);
   if (!right || manager.GetSymbolListCount(kUserLists) != static_cast<int>(lists))
     report.Wrong("adding and deleting");
 }
@@ -99,11 +99,11 @@ void MeasureEntries(Report& report, const std::vector<std::string>& ids, std::si
   };
   const std::string n = std::to_string(symbols);
   report.Ratio("insert + set, list of " + n + " / service", Compare(kRepetitions, insert, ask),
-               NoGoal, 2 * symbols);
+               kNoGoal, 2 * symbols);
   const double seconds =
       Computing([&] { right = manager.SwapSymbolList("id0", 0, middle) != 0 && right; });
   report.Number("swap in a list of " + n, seconds / static_cast<double>(symbols) * 1e9,
-                "ns a symbol", NoGoal);
+                "ns a symbol", kNoGoal);
   if (!right)
     report.Wrong("entry edits");
 }

@@ -165,7 +165,7 @@ void MeasureLookUps(Report& report, const standin::Market& market, std::size_t r
     return;
   }
   LookUps lookUps(report, tables, queries, repetitions);
-  lookUps.Over<FlatMap>("flat map", kGoalOverFlat, NoGoal);
+  lookUps.Over<FlatMap>("flat map", kGoalOverFlat, kNoGoal);
   lookUps.Over<StdMap>("std::unordered_map", kGoalOverStd, kGoalOverStd);
   lookUps.CountAllocations();
 }

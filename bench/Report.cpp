@@ -23,7 +23,7 @@ std::string TimeText(double seconds) {
 
 std::string GoalText(double goal) {
   char text[32] = "-";
-  if (goal != NoGoal)
+  if (goal != kNoGoal)
     std::snprintf(text, sizeof(text), goal < 10 ? "%.2f" : "%.0f", goal);
   return text;
 }
@@ -31,7 +31,7 @@ std::string GoalText(double goal) {
 } // namespace
 
 const char* Report::Verdict(double value, double goal) {
-  if (goal == NoGoal)
+  if (goal == kNoGoal)
     return "";
   ++figures_;
   if (value <= goal)

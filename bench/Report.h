@@ -10,7 +10,7 @@
 namespace bench {
 
 // Instead of a goal: the figure is shown and not judged.
-inline constexpr double NoGoal = -1;
+inline constexpr double kNoGoal = -1;
 
 class Report {
 public:

@@ -111,7 +111,7 @@ void MeasureTime(Report& report, std::size_t symbols, std::size_t repetitions) {
     return checked(InOwnProcess([&] { return ReadRecords() == symbols; }));
   };
   report.Ratio("Init / receiving the records", Compare(repetitions, library, peer), kGoalRatio);
-  report.Ratio("reading the attributes / receiving", Compare(repetitions, reading, peer), NoGoal);
+  report.Ratio("reading the attributes / receiving", Compare(repetitions, reading, peer), kNoGoal);
   if (!right)
     report.Wrong("Init");
 }

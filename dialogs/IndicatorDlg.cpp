@@ -22,7 +22,7 @@ constexpr unsigned kHoverMilliseconds = 10;
 
 // The number of the region or category that is chosen.
 int ChoiceOf(const CComboBox& combo) {
-  return std::max(combo.GetCurSel(), IndicatorTable::All);
+  return std::max(combo.GetCurSel(), IndicatorTable::kAll);
 }
 
 } // namespace

@@ -20,7 +20,7 @@ public:
 
   int NumberOf(const CString& text) {
     if (text.IsEmpty())
-      return IndicatorTable::All;
+      return IndicatorTable::kAll;
     int& number = numbers_[text];
     if (number == 0)
       number = static_cast<int>(texts_.Add(text)) + 1;
@@ -57,7 +57,7 @@ std::vector<int> IndicatorTable::RowsOf(int region, int category) const {
   found.reserve(rows_.size());
   for (int i = 0; i < GetRowCount(); ++i) {
     const Row& row = rows_[static_cast<size_t>(i)];
-    if ((region == All || row.region == region) && (category == All || row.category == category))
+    if ((region == kAll || row.region == region) && (category == kAll || row.category == category))
       found.push_back(i);
   }
   return found;

@@ -57,8 +57,8 @@ public:
 
 private:
   struct Row {
-    int region = All;
-    int category = All;
+    int region = kAll;
+    int category = kAll;
     CStringArray columns;
   };
 

@@ -6,7 +6,7 @@ namespace tq {
 namespace {
 
 bool IsAscii(const FoldedId& id) {
-  return ((id.low | id.high) & TopBits) == 0;
+  return ((id.low | id.high) & kTopBits) == 0;
 }
 
 // A lower-case letter differs from its upper-case form in bit 5, two below the flag of LowerLetters.

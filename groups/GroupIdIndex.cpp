@@ -3,7 +3,7 @@
 namespace tq {
 
 void GroupIdIndex::Reset(std::size_t count) {
-  nodes_.assign(count, Node{{}, None, None});
+  nodes_.assign(count, Node{{}, kNone, kNone});
   firsts_.Reset(count);
 }
 
@@ -14,8 +14,8 @@ void GroupIdIndex::AddFirst(const FoldedId& id, std::uint32_t number) {
 
 void GroupIdIndex::AddInFront(std::uint32_t number, const FoldedId& id) {
   const KeyIndex::Slot slot = SlotOf(id);
-  if (slot == KeyIndex::NoSlot) {
-    nodes_[number] = {id, None, number};
+  if (slot == KeyIndex::kNoSlot) {
+    nodes_[number] = {id, kNone, number};
     AddFirst(id, number);
     return;
   }
@@ -26,14 +26,14 @@ void GroupIdIndex::AddInFront(std::uint32_t number, const FoldedId& id) {
 
 std::uint32_t GroupIdIndex::Find(const FoldedId& id) const {
   const KeyIndex::Slot slot = SlotOf(id);
-  return slot == KeyIndex::NoSlot ? None : firsts_.At(slot).node;
+  return slot == KeyIndex::kNoSlot ? kNone : firsts_.At(slot).node;
 }
 
 void GroupIdIndex::Append(const FoldedId& id) {
   const auto number = static_cast<std::uint32_t>(nodes_.size());
   const std::uint32_t first = Find(id);
-  nodes_.push_back({id, None, number});
-  if (first == None) {
+  nodes_.push_back({id, kNone, number});
+  if (first == kNone) {
     AddFirst(id, number);
     return;
   }
@@ -44,7 +44,7 @@ void GroupIdIndex::Append(const FoldedId& id) {
 void GroupIdIndex::RemoveFirst(std::uint32_t first) {
   const Node& node = nodes_[first];
   const KeyIndex::Slot slot = SlotOf(node.id);
-  if (node.next == None) {
+  if (node.next == kNone) {
     firsts_.Remove(slot);
     return;
   }

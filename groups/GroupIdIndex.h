@@ -16,7 +16,7 @@ inline constexpr int kPlainSearches = 4;
 
 class GroupIdIndex {
 public:
-  static constexpr std::uint32_t None = 0xffffffffu;
+  static constexpr std::uint32_t kNone = 0xffffffffu;
 
   // Indexes the numbers 0 to count - 1; idOf(number) is the id of each.
   template <typename IdOf> void Build(std::size_t count, IdOf idOf) {

@@ -91,7 +91,7 @@ int GroupLevel::Find(const FoldedId& id) {
   if (index_ == nullptr && (Count() <= kSmallLevel || ++searches_ <= kPlainSearches))
     return FindPlainly(id);
   const std::uint32_t number = Index().Find(id);
-  return number == GroupIdIndex::None ? -1 : static_cast<int>(number);
+  return number == GroupIdIndex::kNone ? -1 : static_cast<int>(number);
 }
 
 int GroupLevel::Find(const char* id) {

@@ -74,7 +74,7 @@ bool GroupLevel::RemoveFirsts(std::span<const FoldedId> ids) {
   bool any = false;
   for (const FoldedId& id : ids) {
     const std::uint32_t first = Index().Find(id);
-    if (first == GroupIdIndex::None)
+    if (first == GroupIdIndex::kNone)
       continue;
     Index().RemoveFirst(first);
     marked[first] = any = true;

@@ -19,7 +19,7 @@ constexpr int kProducts = 3;
 constexpr char kNotForAFile[] = "'&<";
 
 bool ReadFile(const char* path, std::string& bytes) {
-  return Files().ReadWholeFile(path, XmlSizeLimit, bytes) == ReadResult::Ok;
+  return Files().ReadWholeFile(path, kXmlSizeLimit, bytes) == ReadResult::Ok;
 }
 
 // What stands behind the copy of a file that could not be renamed: a comment, so that it is a

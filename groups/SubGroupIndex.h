@@ -32,9 +32,9 @@ public:
       return FindPlainly(id, place, wanted);
     const GroupIdIndex& index = Index();
     std::uint32_t number = index.Find(id);
-    while (number != GroupIdIndex::None && !wanted(places_[number]))
+    while (number != GroupIdIndex::kNone && !wanted(places_[number]))
       number = index.Next(number);
-    if (number == GroupIdIndex::None)
+    if (number == GroupIdIndex::kNone)
       return false;
     place = places_[number];
     return true;

@@ -20,7 +20,7 @@ bool NewGuid(Guid& guid) {
   return false;
 }
 
-void FormatGuid(const Guid& guid, char (&text)[GuidTextLength + 1]) {
+void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]) {
   const std::uint8_t* d = guid.data4;
   std::snprintf(text, sizeof text, "%08lX-%04X-%04x-%02X%02X-%02X%02X%02X%02X%02X%02X",
                 static_cast<unsigned long>(guid.data1), guid.data2, guid.data3, d[0], d[1], d[2],

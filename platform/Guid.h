@@ -14,7 +14,7 @@ struct Guid {
 };
 
 // Characters of a GUID's text form, without the NUL.
-inline constexpr int GuidTextLength = 36;
+inline constexpr int kGuidTextLength = 36;
 
 // Fills `guid` with a new identifier from the operating system (CoCreateGuid on Windows, the kernel's
 // random source elsewhere, as a version 4 GUID). False, with `guid` zeroed, when the system has none
@@ -23,7 +23,7 @@ bool NewGuid(Guid& guid);
 
 // Writes the text form, 8-4-4-4-12 hexadecimal digits, and a NUL. The third group is in lower case and
 // the others in upper case: the ids of stored lists have always looked like this. Do not change it.
-void FormatGuid(const Guid& guid, char (&text)[GuidTextLength + 1]);
+void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]);
 
 // What NewGuid asks. A test puts its own source in place to get known ids, or a failure.
 using GuidSource = bool (*)(Guid& guid);

@@ -9,7 +9,7 @@ namespace tq {
 
 // Longest module path that is handed out, in bytes without the NUL; a longer one is cut there, as the
 // operating system's call cuts it, but never within a double-byte character.
-inline constexpr int ModulePathLimit = 260;
+inline constexpr int kModulePathLimit = 260;
 
 // Full path of the module file, with the operating system's separators, in the process's ANSI code
 // page (on POSIX the path's raw bytes). Empty when the system does not tell. Any thread.

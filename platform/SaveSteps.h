@@ -59,6 +59,6 @@ SaveResult RunSave(SaveSteps& steps, const void* bytes, std::size_t size);
 std::unique_ptr<SaveSteps> MakeSaveSteps(const char* path);
 
 // The temporary file's name is the target's with this behind it.
-inline constexpr char TemporarySuffix[] = ".tmp";
+inline constexpr char kTemporarySuffix[] = ".tmp";
 
 } // namespace tq

@@ -8,14 +8,14 @@
 namespace tq {
 
 // Code pages that text of the library's files may be in, by their Windows numbers.
-inline constexpr unsigned CodePageBig5 = 950;
-inline constexpr unsigned CodePageGbk = 936;
+inline constexpr unsigned kCodePageBig5 = 950;
+inline constexpr unsigned kCodePageGbk = 936;
 
 // The process's ANSI code page: GetACP() on Windows; elsewhere 950 while the terminal runs in
 // Traditional Chinese and 936 while it does not. Any thread.
 unsigned AnsiCodePage();
 
-// Decodes text of CodePageBig5 or CodePageGbk into `utf8`, which is replaced. The text is built of whole
+// Decodes text of kCodePageBig5 or kCodePageGbk into `utf8`, which is replaced. The text is built of whole
 // characters of that code page (AnsiCharLength). One that the system's table does not assign becomes "?"
 // or a character of the private use area, which no other code page has. False when the system has no such
 // table.

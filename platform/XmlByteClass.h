@@ -47,13 +47,13 @@ constexpr std::array<std::uint16_t, 256> BuildByteClasses() {
   return classes;
 }
 
-inline constexpr auto ByteClasses = BuildByteClasses();
+inline constexpr auto kByteClasses = BuildByteClasses();
 
 inline unsigned ClassOf(char byte) {
-  return ByteClasses[static_cast<unsigned char>(byte)];
+  return kByteClasses[static_cast<unsigned char>(byte)];
 }
 
-inline constexpr std::ptrdiff_t BlockSize = 32;
+inline constexpr std::ptrdiff_t kBlockSize = 32;
 
 constexpr std::uint64_t InEachByte(unsigned char byte) {
   return byte * 0x0101010101010101U;
@@ -69,10 +69,10 @@ inline std::uint64_t MarkSpecial(std::uint64_t bytes) {
          (((bytes | InEachByte(2)) ^ InEachByte('>')) - one) | ((bytes ^ InEachByte('"')) - one);
 }
 
-// True when none of BlockSize bytes is special: then only the inside of a comment, a CDATA section or a
+// True when none of kBlockSize bytes is special: then only the inside of a comment, a CDATA section or a
 // tag would stop in the block. Symbol strings are long, and this takes them many bytes at a time.
 inline bool IsPlainBlock(const char* block) {
-  std::uint64_t words[BlockSize / 8];
+  std::uint64_t words[kBlockSize / 8];
   std::memcpy(words, block, sizeof words);
   const std::uint64_t special =
       MarkSpecial(words[0]) | MarkSpecial(words[1]) | MarkSpecial(words[2]) | MarkSpecial(words[3]);

@@ -34,9 +34,9 @@ bool IsAllowed(char32_t character, std::size_t length) {
 }
 
 bool IsTrail(unsigned codePage, unsigned byte) {
-  if (codePage == CodePageBig5)
+  if (codePage == kCodePageBig5)
     return Within(byte, 0x40, 0x7E) || Within(byte, 0xA1, 0xFE);
-  if (codePage == CodePageGbk)
+  if (codePage == kCodePageGbk)
     return Within(byte, 0x40, 0x7E) || Within(byte, 0x80, 0xFE);
   return byte >= 0x40;
 }
@@ -73,12 +73,12 @@ char* PutUtf8Char(char32_t character, char* bytes) {
 }
 
 std::size_t AnsiCharLength(unsigned codePage, const char* at, const char* end) {
-  const bool chinese = codePage == CodePageBig5 || codePage == CodePageGbk;
+  const bool chinese = codePage == kCodePageBig5 || codePage == kCodePageGbk;
   const unsigned first = Byte(at);
   const bool lead = chinese ? Within(first, 0x81, 0xFE) : IsLeadByte(*at);
   if (lead)
     return end - at > 1 && IsTrail(codePage, Byte(at + 1)) ? 2 : 0;
-  const bool single = !chinese || (codePage == CodePageGbk && first == 0x80); // the euro sign
+  const bool single = !chinese || (codePage == kCodePageGbk && first == 0x80); // the euro sign
   return single ? 1 : 0;
 }
 

@@ -5,7 +5,7 @@
 namespace tq {
 namespace {
 
-constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
 // The encoding names that this system's programs and those that users keep lists with write.
 struct EncodingName {
@@ -68,7 +68,7 @@ private:
 };
 
 bool FindEncoding(std::string_view name, XmlEncoding& encoding) {
-  for (const EncodingName& known : EncodingNames) {
+  for (const EncodingName& known : kEncodingNames) {
     if (EqualNoCase(known.name.data(), known.name.size(), name.data(), name.size())) {
       encoding = known.encoding;
       return true;

@@ -62,9 +62,9 @@ private:
 bool Scanner::SkipTo(unsigned stops) {
   stops |= NotAscii | Forbidden;
   for (;;) {
-    while (end_ - at_ >= BlockSize && (stops & Closer) == 0 && IsPlainBlock(at_))
-      at_ += BlockSize;
-    const char* const pause = at_ + std::min(end_ - at_, BlockSize);
+    while (end_ - at_ >= kBlockSize && (stops & Closer) == 0 && IsPlainBlock(at_))
+      at_ += kBlockSize;
+    const char* const pause = at_ + std::min(end_ - at_, kBlockSize);
     while (at_ != pause && (ClassOf(*at_) & stops) == 0)
       ++at_;
     if (at_ == end_)
@@ -114,7 +114,7 @@ bool Scanner::TakeCarried() {
       return false;
     const char32_t first = static_cast<unsigned char>(p[0]);
     const char32_t pair = length == 1 ? first : first << 8 | static_cast<unsigned char>(p[1]);
-    out = PutUtf8Char(CarriedBase | pair, out);
+    out = PutUtf8Char(kCarriedBase | pair, out);
     p += length;
   }
   Replace(static_cast<std::size_t>(p - at_), {bytes, static_cast<std::size_t>(out - bytes)});
@@ -156,10 +156,10 @@ void Scanner::TakeReference() {
     if (!digit && !(hexadecimal && letter >= 'a' && letter <= 'f'))
       return;
     const auto number = static_cast<char32_t>(digit ? *p - '0' : letter - 'a' + 10);
-    if (value < CarriedBase + plane) // beyond it stays beyond it
+    if (value < kCarriedBase + plane) // beyond it stays beyond it
       value = value * (hexadecimal ? 16 : 10) + number;
   }
-  if (p != end_ && value >= CarriedBase && value < CarriedBase + plane)
+  if (p != end_ && value >= kCarriedBase && value < kCarriedBase + plane)
     Replace(static_cast<std::size_t>(p + 1 - at_), "?");
 }
 
@@ -288,7 +288,7 @@ bool Scanner::TakeQuoted() {
 
 bool Scanner::TakeStartTag() {
   anyElement_ = true;
-  if (depth_ == XmlDepthLimit)
+  if (depth_ == kXmlDepthLimit)
     return Refuse(XmlVerdict::TooDeep);
   ++at_;
   std::string_view name;

@@ -15,13 +15,13 @@
 namespace tq {
 namespace {
 
-constexpr std::size_t ShortText = 512; // bytes; list names and ids are far shorter
+constexpr std::size_t kShortText = 512; // bytes; list names and ids are far shorter
 
 // A list file holds text of the process's code page whatever its declaration says: the writer names big5
 // or gb2312 by the interface language, and on Windows the code page does not follow that. So a
 // declaration that this process would write now stands for the code page, as does the code page's own.
 bool IsProcessText(unsigned declared) {
-  const unsigned written = ::IsTraditionChinese() != 0 ? CodePageBig5 : CodePageGbk;
+  const unsigned written = ::IsTraditionChinese() != 0 ? kCodePageBig5 : kCodePageGbk;
   return declared == written || declared == AnsiCodePage();
 }
 
@@ -70,7 +70,7 @@ void DecodeLatin(std::string_view body, std::string& utf8) {
 }
 
 XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& text) {
-  const unsigned declared = encoding == XmlEncoding::Big5 ? CodePageBig5 : CodePageGbk;
+  const unsigned declared = encoding == XmlEncoding::Big5 ? kCodePageBig5 : kCodePageGbk;
   const bool chinese = encoding == XmlEncoding::Big5 || encoding == XmlEncoding::Gbk;
   if (chinese && !IsProcessText(declared))
     return PrepareForeign(declared, body, text);
@@ -150,7 +150,7 @@ XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text) {
   text.utf8 = {};
   text.buffer.clear();
   text.carried = false;
-  if (size > XmlSizeLimit)
+  if (size > kXmlSizeLimit)
     return XmlVerdict::TooLarge;
   const std::string_view file(data, size);
   if (IsUtf16(file))
@@ -183,7 +183,7 @@ void AssignXmlText(std::string_view utf8, bool carried, CString& value) {
     value.SetString(utf8.data(), static_cast<int>(utf8.size()));
     return;
   }
-  char local[ShortText];
+  char local[kShortText];
   std::string large;
   char* out = local;
   if (utf8.size() > sizeof local) {

@@ -5,7 +5,7 @@
 //
 // Carrying: a file in the process's own code page is not decoded with conversion tables. Each
 // double-byte character travels through the DOM as one private code point that names its two bytes,
-// CarriedBase + (lead << 8 | trail), and comes out as those two bytes. A round trip through Unicode
+// kCarriedBase + (lead << 8 | trail), and comes out as those two bytes. A round trip through Unicode
 // would change characters that share a code point with another or have none at all; and no two
 // systems' tables agree on all of them.
 #pragma once
@@ -20,7 +20,7 @@ namespace tq {
 
 // Largest file, in bytes. A list file has some kilobytes; this only keeps a wrong file from taking
 // the terminal's memory.
-inline constexpr std::size_t XmlSizeLimit = std::size_t{64} << 20;
+inline constexpr std::size_t kXmlSizeLimit = std::size_t{64} << 20;
 // Deepest nesting of elements, the root being 1. The list files have 3.
 inline constexpr int XmlDepthLimit = 64;
 // What a hostile file could make a DOM slow with: pieces of markup (elements, comments, CDATA sections,
@@ -31,7 +31,7 @@ inline constexpr int XmlAttributeLimit = 64;
 inline constexpr int XmlNameLimit = 256;
 inline constexpr std::size_t XmlNameLengthLimit = 256;
 // First code point of the plane that carries double-byte characters.
-inline constexpr char32_t CarriedBase = 0xF0000;
+inline constexpr char32_t kCarriedBase = 0xF0000;
 
 enum class XmlVerdict {
   Ok,

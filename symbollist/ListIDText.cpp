@@ -9,18 +9,18 @@
 
 namespace {
 
-constexpr char TypeMark = ',';
-constexpr char ListMark = ';';
+constexpr char kTypeMark = ',';
+constexpr char kListMark = ';';
 // One character of type, the mark, the id.
-constexpr int TypeMarkPosition = 1;
-constexpr int IdPosition = 2;
+constexpr int kTypeMarkPosition = 1;
+constexpr int kIdPosition = 2;
 
 ListIDType TypeOf(const CString& text) {
-  return ListIDType{tq::LeadingInt(tq::ViewOf(text).substr(0, TypeMarkPosition))};
+  return ListIDType{tq::LeadingInt(tq::ViewOf(text).substr(0, kTypeMarkPosition))};
 }
 
 bool HasMarkInPlace(const CString& text) {
-  return text.Find(TypeMark) == TypeMarkPosition;
+  return text.Find(kTypeMark) == kTypeMarkPosition;
 }
 
 // The digit of a type that needs an id, and nothing behind it.
@@ -57,15 +57,15 @@ CString CListID::ToStringForList() const {
 void CListID::AddNameAndSymbolList(CString& text) const {
   if (type_ != ListIDUserList || name_.IsEmpty() || symbolList_.IsEmpty())
     return;
-  text += ListMark;
+  text += kListMark;
   text += name_;
-  text += TypeMark;
+  text += kTypeMark;
   text += symbolList_;
 }
 
 void CListID::ReadTypeAndID(const CString& text) {
   type_ = TypeOf(text);
-  id_ = text.Mid(IdPosition);
+  id_ = text.Mid(kIdPosition);
 }
 
 int CListID::FromString(const CString& text) {
@@ -87,14 +87,14 @@ int CListID::FromString(const CString& text) {
 int CListID::FromStringForList(const CString& text) {
   Clear();
   if (HasMarkInPlace(text)) {
-    const int end = text.Find(ListMark, IdPosition);
+    const int end = text.Find(kListMark, kIdPosition);
     ReadTypeAndID(end < 0 ? text : text.Left(end));
   } else {
     type_ = ListIDUserList;
     id_.Empty();
   }
   if (type_ == ListIDUserList) {
-    const int mark = text.Find(ListMark);
+    const int mark = text.Find(kListMark);
     GetNameAndSymbolList(mark < 0 ? CString() : text.Mid(mark + 1));
   }
   return IsValid();
@@ -102,7 +102,7 @@ int CListID::FromStringForList(const CString& text) {
 
 void CListID::GetNameAndSymbolList(CString text) {
   name_.Empty();
-  CutStringAndGetParamBefore(text, TypeMark, name_);
+  CutStringAndGetParamBefore(text, kTypeMark, name_);
   symbolList_ = text;
 }
 
@@ -115,10 +115,10 @@ int CListID::ConvertFromGroupID(const char* groupId) {
   if (!HasMarkInPlace(text))
     return 0;
   const int groupType = TypeOf(text);
-  for (const GroupKind& kind : GroupKinds) {
+  for (const GroupKind& kind : kGroupKinds) {
     if (kind.groupType != groupType)
       continue;
-    SetData(kind.type, text.Mid(IdPosition), 0);
+    SetData(kind.type, text.Mid(kIdPosition), 0);
     return IsValid();
   }
   return 0;

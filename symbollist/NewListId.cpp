@@ -6,7 +6,7 @@ namespace tq {
 
 CString NewListId() {
   Guid guid;
-  char text[GuidTextLength + 1] = {};
+  char text[kGuidTextLength + 1] = {};
   if (NewGuid(guid))
     FormatGuid(guid, text);
   return CString(text);

@@ -30,9 +30,9 @@ OptFutError CheckOptionCode(std::string_view code) {
     return OptFutBadCommodity;
   if (std::any_of(strike.begin(), strike.end(), IsUnreadable))
     return OptFutUnreadableCode;
-  if (CallPutOf(ByteAt(code, OptionMonthPosition)) == ' ')
+  if (CallPutOf(ByteAt(code, kOptionMonthPosition)) == ' ')
     return OptFutBadMonth;
-  return IsDecimalDigit(ByteAt(code, OptionYearPosition)) ? OptFutNoError : OptFutBadYear;
+  return IsDecimalDigit(ByteAt(code, kOptionYearPosition)) ? OptFutNoError : OptFutBadYear;
 }
 
 OptFutError CheckPriceSpread(char callPut, std::string_view strike, std::string_view other) {

@@ -8,7 +8,7 @@
 
 namespace tq {
 
-// A code of OptionCodeLength characters, looked at from left to right.
+// A code of kOptionCodeLength characters, looked at from left to right.
 OptFutError CheckOptionCode(std::string_view code);
 
 // Two strikes of one month: of calls the first must be the higher one, of puts the lower.

@@ -6,7 +6,7 @@
 namespace tq {
 namespace {
 
-constexpr int YearShift = 100; // a year and a month as one number: 202612
+constexpr int kYearShift = 100; // a year and a month as one number: 202612
 
 // "TXO 202612 S 21000 CALL - B 22000 CALL"
 CString DescribeTwoStrikes(const OptionLeg& leg, const OptionLeg& other) {
@@ -37,7 +37,7 @@ CString DescribeTwoMonths(const OptionLeg& leg, const OptionLeg& other) {
 // "S 202612TF TX1 21000 CALL"
 CString DescribeLeg(const OptionLeg& leg, const LegNames& names, KindWords words) {
   CString text;
-  text.Format("%c %06d%s %s%s %s", leg.side, leg.year * YearShift + leg.month,
+  text.Format("%c %06d%s %s%s %s", leg.side, leg.year * kYearShift + leg.month,
               names.exchange.GetString(), names.shortName.GetString(), leg.strike.GetString(),
               words == KindWords::Written ? leg.Kind() : "");
   return text;
@@ -47,11 +47,11 @@ CString DescribeLeg(const OptionLeg& leg, const LegNames& names, KindWords words
 
 OptionLeg::OptionLeg(const CString& code, char sideOfLeg) : side(sideOfLeg) {
   const std::string_view text = ViewOf(code);
-  const char letter = ByteAt(text, OptionMonthPosition);
-  commodity = code.Left(CommodityLength);
+  const char letter = ByteAt(text, kOptionMonthPosition);
+  commodity = code.Left(kCommodityLength);
   strike = ToCString(WithoutLeadingZeros(StrikeOf(text)));
   monthCode = ToCString(MonthCodeOf(text));
-  year = ExpiryYear(ByteAt(text, OptionYearPosition));
+  year = ExpiryYear(ByteAt(text, kOptionYearPosition));
   month = OptionMonth(letter);
   callPut = CallPutOf(letter);
 }
@@ -77,11 +77,11 @@ CString DescribeLegs(const OptionLeg& leg, const LegNames& names, const OptionLe
 }
 
 FutureLeg::FutureLeg(const CString& code, char sideOfLeg, const CString& weekText)
-    : week(weekText), year(ExpiryYear(code.GetAt(FutureYearPosition))),
-      month(FutureMonth(code.GetAt(FutureMonthPosition))), side(sideOfLeg) {}
+    : week(weekText), year(ExpiryYear(code.GetAt(kFutureYearPosition))),
+      month(FutureMonth(code.GetAt(kFutureMonthPosition))), side(sideOfLeg) {}
 
 int FutureLeg::YearMonth() const {
-  return year * YearShift + month;
+  return year * kYearShift + month;
 }
 
 CString DescribeCalendarSpread(const CString& commodity, const FutureLeg& nearer,

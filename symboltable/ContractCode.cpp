@@ -10,10 +10,10 @@
 namespace tq {
 namespace {
 
-constexpr char FirstCall = 'A';
-constexpr char FirstPut = 'M';
-constexpr char AfterLastPut = 'Y';
-constexpr int YearsOfDigit = 10;
+constexpr char kFirstCall = 'A';
+constexpr char kFirstPut = 'M';
+constexpr char kAfterLastPut = 'Y';
+constexpr int kYearsOfDigit = 10;
 
 // The whole text as a number; a terminal's own prices have neither sign nor exponent, but a service
 // may write blanks around them.
@@ -31,15 +31,15 @@ std::optional<double> ReadPrice(std::string_view text) {
 
 // 0 to 11; the letter is one of a call or a put.
 int MonthIndex(char monthLetter) {
-  return monthLetter - (CallPutOf(monthLetter) == 'C' ? FirstCall : FirstPut);
+  return monthLetter - (CallPutOf(monthLetter) == 'C' ? kFirstCall : kFirstPut);
 }
 
 } // namespace
 
 char CallPutOf(char monthLetter) {
-  if (monthLetter >= FirstCall && monthLetter < FirstPut)
+  if (monthLetter >= kFirstCall && monthLetter < kFirstPut)
     return 'C';
-  return monthLetter >= FirstPut && monthLetter < AfterLastPut ? 'P' : ' ';
+  return monthLetter >= kFirstPut && monthLetter < kAfterLastPut ? 'P' : ' ';
 }
 
 int OptionMonth(char monthLetter) {
@@ -52,7 +52,7 @@ int FutureMonth(char monthLetter) {
 
 int ExpiryYear(char yearDigit) {
   const int year = CurrentLocalYear();
-  return year % YearsOfDigit == yearDigit - '0' ? year : year + 1;
+  return year % kYearsOfDigit == yearDigit - '0' ? year : year + 1;
 }
 
 std::string_view WithoutLeadingZeros(std::string_view strike) {

@@ -10,19 +10,19 @@
 
 namespace tq {
 
-inline constexpr std::size_t OptionCodeLength = 10;
-inline constexpr std::size_t CommodityLength = 3;
-inline constexpr std::size_t StrikeLength = 5;
-inline constexpr std::size_t MonthCodeLength = 2;
+inline constexpr std::size_t kOptionCodeLength = 10;
+inline constexpr std::size_t kCommodityLength = 3;
+inline constexpr std::size_t kStrikeLength = 5;
+inline constexpr std::size_t kMonthCodeLength = 2;
 // A code less its month code, and a code less its commodity: what a typed combination may leave out.
-inline constexpr std::size_t CommodityStrikeLength = CommodityLength + StrikeLength;
-inline constexpr std::size_t StrikeMonthLength = StrikeLength + MonthCodeLength;
-static_assert(CommodityStrikeLength + MonthCodeLength == OptionCodeLength);
+inline constexpr std::size_t kCommodityStrikeLength = kCommodityLength + kStrikeLength;
+inline constexpr std::size_t kStrikeMonthLength = kStrikeLength + kMonthCodeLength;
+static_assert(kCommodityStrikeLength + kMonthCodeLength == kOptionCodeLength);
 
-inline constexpr std::size_t OptionMonthPosition = 8;
-inline constexpr std::size_t OptionYearPosition = 9;
-inline constexpr std::size_t FutureMonthPosition = 3;
-inline constexpr std::size_t FutureYearPosition = 4;
+inline constexpr std::size_t kOptionMonthPosition = 8;
+inline constexpr std::size_t kOptionYearPosition = 9;
+inline constexpr std::size_t kFutureMonthPosition = 3;
+inline constexpr std::size_t kFutureYearPosition = 4;
 
 inline char ByteAt(std::string_view text, std::size_t position) {
   return position < text.size() ? text[position] : '\0';
@@ -34,15 +34,15 @@ inline bool IsDecimalDigit(char letter) {
 
 // Commodity, strike and month code of an option code.
 inline std::string_view CommodityOf(std::string_view code) {
-  return code.substr(0, CommodityLength);
+  return code.substr(0, kCommodityLength);
 }
 inline std::string_view StrikeOf(std::string_view code) {
-  return code.size() > CommodityLength ? code.substr(CommodityLength, StrikeLength)
-                                       : std::string_view();
+  return code.size() > kCommodityLength ? code.substr(kCommodityLength, kStrikeLength)
+                                        : std::string_view();
 }
 inline std::string_view MonthCodeOf(std::string_view code) {
-  return code.size() > OptionMonthPosition ? code.substr(OptionMonthPosition, MonthCodeLength)
-                                           : std::string_view();
+  return code.size() > kOptionMonthPosition ? code.substr(kOptionMonthPosition, kMonthCodeLength)
+                                            : std::string_view();
 }
 
 // 'C' for a month letter of a call, 'P' for one of a put, a blank for any other.

@@ -11,14 +11,14 @@
 namespace tq {
 namespace {
 
-constexpr int AnyExchange = -1;
+constexpr int kAnyExchange = -1;
 
-constexpr char StrikeKey[] = "V3";     // of ExtAttrWeekly
-constexpr char WeekPrefixKey[] = "V4"; // "W"
-constexpr char WeekNumberKey[] = "V5"; // "2"
+constexpr char kStrikeKey[] = "V3";     // of ExtAttrWeekly
+constexpr char kWeekPrefixKey[] = "V4"; // "W"
+constexpr char kWeekNumberKey[] = "V5"; // "2"
 
-constexpr char NameFirstKey[] = "V5"; // of ExtAttrShortName
-constexpr char NameSecondKey[] = "V6";
+constexpr char kNameFirstKey[] = "V5"; // of ExtAttrShortName
+constexpr char kNameSecondKey[] = "V6";
 
 // The text of a record, ended by its field when the service left the NUL out.
 CString TextOf(const ExtAttr& record) {
@@ -29,7 +29,7 @@ CString TextOf(const ExtAttr& record) {
 
 CString ServiceId(const CString& code) {
   char id[VLServiceIdSize + 1] = {}; // with a NUL behind whatever the service writes
-  if (!VLGetZUID(AnyExchange, code, id))
+  if (!VLGetZUID(kAnyExchange, code, id))
     return CString();
   return id;
 }
@@ -42,9 +42,9 @@ int ReadWeek(const CString& serviceId, ContractWeek& week) {
     return 0;
   const CString text = TextOf(attributes.Records().front());
   CString number;
-  CStockKey::ParseExtAttr(text, StrikeKey, week.strike);
-  CStockKey::ParseExtAttr(text, WeekPrefixKey, week.text);
-  CStockKey::ParseExtAttr(text, WeekNumberKey, number);
+  CStockKey::ParseExtAttr(text, kStrikeKey, week.strike);
+  CStockKey::ParseExtAttr(text, kWeekPrefixKey, week.text);
+  CStockKey::ParseExtAttr(text, kWeekNumberKey, number);
   week.number = LeadingInt(ViewOf(number));
   week.text += number;
   return 1;
@@ -67,8 +67,8 @@ int ReadShortName(const CString& serviceId, CString& name) {
   const CString text = TextOf(attributes.Records().front());
   CString first;
   CString second;
-  if (!CStockKey::ParseExtAttr(text, NameFirstKey, first) ||
-      !CStockKey::ParseExtAttr(text, NameSecondKey, second))
+  if (!CStockKey::ParseExtAttr(text, kNameFirstKey, first) ||
+      !CStockKey::ParseExtAttr(text, kNameSecondKey, second))
     return 0;
   // The blank sets the name off from what a description writes behind it.
   name.Format("%s%s ", first.GetString(), second.GetString());

@@ -31,11 +31,11 @@ int ReadExchangeName(int exchId, CString& name) {
 }
 
 bool IsEntitled(int exchId) {
-  int mask[LastEntitledExchange + 1] = {};
+  int mask[kLastEntitledExchange + 1] = {};
   return CanBeEntitled(exchId) && ReadEntitlements(mask) && mask[exchId] != 0;
 }
 
-int ReadEntitlements(std::span<int, LastEntitledExchange + 1> mask) {
+int ReadEntitlements(std::span<int, kLastEntitledExchange + 1> mask) {
   return ReadLoginNumbers(LoginInfoEntitledExchanges, [&](int exchId) {
     if (CanBeEntitled(exchId))
       mask[static_cast<std::size_t>(exchId)] = 1;

@@ -11,13 +11,13 @@
 namespace tq {
 
 // Only exchanges 1 to 127 can be entitled.
-constexpr int LastEntitledExchange = 127;
+constexpr int kLastEntitledExchange = 127;
 constexpr bool CanBeEntitled(int exchId) {
-  return exchId >= 1 && exchId <= LastEntitledExchange;
+  return exchId >= 1 && exchId <= kLastEntitledExchange;
 }
 
 // These three are one family: supported together, and hidden together without a full menu.
-constexpr std::array<int, 3> FamilyExchanges = {10, 11, 12};
+constexpr std::array<int, 3> kFamilyExchanges = {10, 11, 12};
 
 // The service's list of exchanges, read when constructed.
 class ExchangeList {
@@ -47,7 +47,7 @@ bool IsEntitled(int exchId);
 
 // Sets mask[n] to 1 for each exchange n that the user is entitled to. 0, and nothing set, when the
 // service fails.
-int ReadEntitlements(std::span<int, LastEntitledExchange + 1> mask);
+int ReadEntitlements(std::span<int, kLastEntitledExchange + 1> mask);
 
 // Whether the user has the full menu. The service is asked each time.
 bool HasFullMenu();

@@ -8,7 +8,7 @@ ItemArena::Block ItemArena::MakeBlock(std::size_t count) {
 
 void* ItemArena::LaterPlaceAt(std::uint32_t number) const {
   const std::uint32_t later = number - firstCount_;
-  return &later_[later / LaterCount][later % LaterCount];
+  return &later_[later / kLaterCount][later % kLaterCount];
 }
 
 void ItemArena::Reset(std::size_t count) {
@@ -27,8 +27,8 @@ std::uint32_t ItemArena::TakePlace() {
     returned_.pop_back();
     return number;
   }
-  if (taken_ >= firstCount_ && (taken_ - firstCount_) / LaterCount == later_.size())
-    later_.push_back(MakeBlock(LaterCount));
+  if (taken_ >= firstCount_ && (taken_ - firstCount_) / kLaterCount == later_.size())
+    later_.push_back(MakeBlock(kLaterCount));
   return taken_++;
 }
 
@@ -37,7 +37,7 @@ void ItemArena::ReturnPlace(std::uint32_t number) {
 }
 
 std::size_t ItemArena::Footprint() const {
-  return (firstCount_ + later_.size() * LaterCount) * sizeof(CSymbolItem) +
+  return (firstCount_ + later_.size() * kLaterCount) * sizeof(CSymbolItem) +
          later_.capacity() * sizeof(Block) + returned_.capacity() * sizeof(std::uint32_t);
 }
 

@@ -34,7 +34,7 @@ public:
   std::size_t Footprint() const;
 
 private:
-  static constexpr std::uint32_t LaterCount = 64; // items in a later block
+  static constexpr std::uint32_t kLaterCount = 64; // items in a later block
 
   struct alignas(CSymbolItem) Place {
     std::byte bytes[sizeof(CSymbolItem)];

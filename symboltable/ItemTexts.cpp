@@ -9,17 +9,17 @@
 namespace tq {
 namespace {
 
-constexpr int TextFields[ItemTextCount] = {FieldLegExchange,   FieldIndustry, FieldUnderlying,
-                                           FieldContractMonth, FieldCurrency, FieldExchangeCode};
-static_assert(TextFields[ExchangeCodeText] == FieldExchangeCode);
-constexpr std::size_t RecentCount = 1024; // a power of two
+constexpr int kTextFields[kItemTextCount] = {FieldLegExchange,   FieldIndustry, FieldUnderlying,
+                                             FieldContractMonth, FieldCurrency, FieldExchangeCode};
+static_assert(kTextFields[kExchangeCodeText] == FieldExchangeCode);
+constexpr std::size_t kRecentCount = 1024; // a power of two
 
 } // namespace
 
 int ItemTextIndex(int field) {
-  const int* const end = TextFields + ItemTextCount;
-  const int* const at = std::find(TextFields, end, field);
-  return at == end ? -1 : static_cast<int>(at - TextFields);
+  const int* const end = kTextFields + kItemTextCount;
+  const int* const at = std::find(kTextFields, end, field);
+  return at == end ? -1 : static_cast<int>(at - kTextFields);
 }
 
 std::shared_ptr<const ItemTexts> ItemTextReader::Read(const CStaticKey& key,
@@ -27,13 +27,13 @@ std::shared_ptr<const ItemTexts> ItemTextReader::Read(const CStaticKey& key,
   std::uint32_t hash = 0;
   bool any = false;
   codeIsSymbol = false;
-  for (int i = 0; i < ItemTextCount; ++i) {
+  for (int i = 0; i < kItemTextCount; ++i) {
     CString& text = read_.texts[i];
-    if (!key.GetFieldString(TextFields[i], text) || text.IsEmpty()) {
+    if (!key.GetFieldString(kTextFields[i], text) || text.IsEmpty()) {
       text.Truncate(0);
       continue;
     }
-    if (i == ExchangeCodeText && ViewOf(text) == symbol) {
+    if (i == kExchangeCodeText && ViewOf(text) == symbol) {
       codeIsSymbol = true;
       text.Truncate(0);
       continue;
@@ -49,17 +49,17 @@ char ItemTextReader::ReadLetter(const CStaticKey& key, int field) {
 }
 
 bool ItemTextReader::Matches(const ItemTexts& known) const {
-  return std::equal(read_.texts, read_.texts + ItemTextCount, known.texts);
+  return std::equal(read_.texts, read_.texts + kItemTextCount, known.texts);
 }
 
 std::shared_ptr<const ItemTexts> ItemTextReader::Shared(std::uint32_t hash) {
   if (recent_.empty())
-    recent_.resize(RecentCount);
-  std::shared_ptr<const ItemTexts>& known = recent_[hash % RecentCount];
+    recent_.resize(kRecentCount);
+  std::shared_ptr<const ItemTexts>& known = recent_[hash % kRecentCount];
   if (!known || !Matches(*known)) {
     // Characters of its own, as those just read are written over by the next symbol.
     auto texts = std::make_shared<ItemTexts>();
-    for (int i = 0; i < ItemTextCount; ++i)
+    for (int i = 0; i < kItemTextCount; ++i)
       texts->texts[i].SetString(read_.texts[i].GetString(), read_.texts[i].GetLength());
     known = std::move(texts);
   }

@@ -13,15 +13,15 @@ class CStaticKey;
 
 namespace tq {
 
-constexpr int ItemTextCount = 6;
+constexpr int kItemTextCount = 6;
 
 // The position in ItemTexts of the text with a field code of tqStock, or -1.
 int ItemTextIndex(int field);
 // The position of the exchange's own code.
-constexpr int ExchangeCodeText = 5;
+constexpr int kExchangeCodeText = 5;
 
 struct ItemTexts {
-  CString texts[ItemTextCount];
+  CString texts[kItemTextCount];
 };
 
 // Reads the texts of one symbol after the other and hands out one record for equal ones. It finds

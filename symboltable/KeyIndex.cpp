@@ -6,8 +6,8 @@ namespace tq {
 namespace {
 
 // Of ten slots at most eight are taken when the index is made anew: full groups are rare then.
-constexpr std::size_t FullestTenths = 8;
-constexpr std::size_t Tenths = 10;
+constexpr std::size_t kFullestTenths = 8;
+constexpr std::size_t kTenths = 10;
 
 } // namespace
 
@@ -16,21 +16,21 @@ void KeyIndex::Reset(std::size_t count) {
   if (count == 0)
     return;
   capacity_ = count;
-  groupCount_ = count * Tenths / (SlotCount * FullestTenths) + 1;
+  groupCount_ = count * kTenths / (kSlotCount * kFullestTenths) + 1;
   groups_ = std::make_unique<Group[]>(groupCount_);
-  codes_ = std::make_unique_for_overwrite<PackedText[]>(groupCount_ * SlotCount);
-  entries_ = std::make_unique<Entry[]>(groupCount_ * SlotCount);
+  codes_ = std::make_unique_for_overwrite<PackedText[]>(groupCount_ * kSlotCount);
+  entries_ = std::make_unique<Entry[]>(groupCount_ * kSlotCount);
 }
 
 bool KeyIndex::HasRoom() const {
-  return size_ < capacity_ && worn_ <= groupCount_ * SlotCount;
+  return size_ < capacity_ && worn_ <= groupCount_ * kSlotCount;
 }
 
 void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
   for (std::size_t at = GroupOf(hash);; at = Next(at)) {
     Group& group = groups_[at];
-    std::uint8_t* const tag = std::find(group.tags, group.tags + SlotCount, NoTag);
-    if (tag == group.tags + SlotCount) {
+    std::uint8_t* const tag = std::find(group.tags, group.tags + kSlotCount, kNoTag);
+    if (tag == group.tags + kSlotCount) {
       group.passed |= PassedBit(hash);
       continue;
     }
@@ -43,8 +43,8 @@ void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
 }
 
 void KeyIndex::Remove(Slot slot) {
-  Group& group = groups_[slot / SlotCount];
-  group.tags[slot % SlotCount] = NoTag;
+  Group& group = groups_[slot / kSlotCount];
+  group.tags[slot % kSlotCount] = kNoTag;
   entries_[slot] = {};
   --size_;
   if (group.passed != 0)

@@ -22,7 +22,7 @@ class KeyIndex {
 public:
   // An entry's place; it is good until an entry is added or removed.
   using Slot = std::uint32_t;
-  static constexpr Slot NoSlot = 0xffffffffu;
+  static constexpr Slot kNoSlot = 0xffffffffu;
 
   // What stands under a key.
   struct Entry {
@@ -40,10 +40,10 @@ public:
       __builtin_prefetch(&groups_[GroupOf(hash)]);
   }
 
-  // The entry with that key; NoSlot when there is none. Keys that are longer than their codes are told
+  // The entry with that key; kNoSlot when there is none. Keys that are longer than their codes are told
   // apart by isMatch(node).
   template <typename IsMatch> Slot Find(const SymbolKey& key, IsMatch isMatch) const {
-    if (key.text.size() <= CodedBytes)
+    if (key.text.size() <= kCodedBytes)
       return FindCode(key.code, key.hash);
     return Search(key.code, key.hash, isMatch);
   }
@@ -66,22 +66,22 @@ public:
 
   // Heap bytes held.
   std::size_t Footprint() const {
-    return groupCount_ * (sizeof(Group) + SlotCount * (sizeof(PackedText) + sizeof(Entry)));
+    return groupCount_ * (sizeof(Group) + kSlotCount * (sizeof(PackedText) + sizeof(Entry)));
   }
 
 private:
-  static constexpr std::size_t SlotCount = 12;
-  static constexpr std::uint8_t NoTag = 0; // the slot is free
+  static constexpr std::size_t kSlotCount = 12;
+  static constexpr std::uint8_t kNoTag = 0; // the slot is free
 
   struct alignas(16) Group {
-    std::uint8_t tags[SlotCount];
+    std::uint8_t tags[kSlotCount];
     // Which hashes went past this group when it was full, by their PassedBit. Never taken back: what
     // they look for may still stand behind.
     std::uint32_t passed;
 
     // A bit for each slot with that tag.
     unsigned SlotsWith(std::uint8_t tag) const {
-      return EqualBytes(tags, tag) & ((1u << SlotCount) - 1);
+      return EqualBytes(tags, tag) & ((1u << kSlotCount) - 1);
     }
   };
 
@@ -89,11 +89,11 @@ private:
   std::size_t GroupOf(std::uint32_t hash) const { return hash * groupCount_ >> 32; }
   std::size_t Next(std::size_t at) const { return at + 1 == groupCount_ ? 0 : at + 1; }
   static Slot SlotOf(std::size_t group, std::size_t at) {
-    return static_cast<Slot>(group * SlotCount + at);
+    return static_cast<Slot>(group * kSlotCount + at);
   }
   static std::uint8_t TagOf(std::uint32_t hash) {
     const auto tag = static_cast<std::uint8_t>(hash);
-    return tag == NoTag ? 1 : tag;
+    return tag == kNoTag ? 1 : tag;
   }
   static std::uint32_t PassedBit(std::uint32_t hash) { return 1u << (hash >> 8 & 31u); }
 
@@ -110,7 +110,7 @@ private:
       if ((group.passed & PassedBit(hash)) == 0)
         break;
     }
-    return NoSlot;
+    return kNoSlot;
   }
   bool HasRoom() const;
   void Put(std::uint32_t hash, PackedText code, Entry entry);
@@ -120,8 +120,8 @@ private:
     // Half as many again: an index that grows by ones is not made anew for each of them. Where removals
     // have only worn it out it stays as large as it was.
     Reset(old.size_ < old.capacity_ ? old.capacity_ : old.size_ + old.size_ / 2 + 1);
-    for (std::size_t i = 0; i < old.groupCount_ * SlotCount; ++i)
-      if (old.groups_[i / SlotCount].tags[i % SlotCount] != NoTag)
+    for (std::size_t i = 0; i < old.groupCount_ * kSlotCount; ++i)
+      if (old.groups_[i / kSlotCount].tags[i % kSlotCount] != kNoTag)
         Put(hashOf(old.entries_[i].node), old.codes_[i], old.entries_[i]);
     size_ = old.size_;
   }

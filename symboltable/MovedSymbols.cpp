@@ -38,10 +38,10 @@ private:
   static const CSymbolTable* TableOf(const CSymbolTableMgr& tables, CString exchName) {
     exchName.MakeUpper();
     const int slot = tables.slots_->FindName(ViewOf(exchName));
-    return slot == TableSlots::None ? nullptr : tables.slots_->At(slot);
+    return slot == TableSlots::kNone ? nullptr : tables.slots_->At(slot);
   }
   static bool IsListed(const CSymbolTable& table, std::string_view symbol) {
-    return table.Find(MakeKey(symbol)) != CSymbolTable::NoSymbol;
+    return table.Find(MakeKey(symbol)) != CSymbolTable::kNoSymbol;
   }
 
   const CSymbolTable* from_;

@@ -35,7 +35,7 @@ int COptFutID::ChkCommIDFormat(const CString& code) {
   const std::string_view text = tq::ViewOf(code);
   // A code of another length has no error of its own: the number that terminals would show for it does
   // not exist, so none is to be stored here.
-  return text.size() == tq::OptionCodeLength && Report(tq::CheckOptionCode(text));
+  return text.size() == tq::kOptionCodeLength && Report(tq::CheckOptionCode(text));
 }
 
 int COptFutID::ChkTheSameCP(char month1, char month2) {

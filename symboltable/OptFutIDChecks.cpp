@@ -16,7 +16,7 @@ CString CompleteLeg(std::string_view first, std::size_t shared, std::string_view
 }
 
 char MonthLetterOf(const CString& code) {
-  return tq::ByteAt(tq::ViewOf(code), tq::OptionMonthPosition);
+  return tq::ByteAt(tq::ViewOf(code), tq::kOptionMonthPosition);
 }
 
 CString MonthOf(const CString& code) {
@@ -41,12 +41,12 @@ int COptFutID::ChkSpread(const CString& first, const CString& second, CString& i
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
   const bool price =
-      head.size() == tq::CommodityStrikeLength && tail.size() == tq::StrikeMonthLength;
-  if (!price && (head.size() != tq::OptionCodeLength || tail.size() != tq::MonthCodeLength))
+      head.size() == tq::kCommodityStrikeLength && tail.size() == tq::kStrikeMonthLength;
+  if (!price && (head.size() != tq::kOptionCodeLength || tail.size() != tq::kMonthCodeLength))
     return Report(OptFutSpreadLength);
   const CString leg1 =
-      price ? CompleteLeg(head, head.size(), tail.substr(tq::StrikeLength)) : first;
-  const std::size_t shared = price ? tq::CommodityLength : tq::CommodityStrikeLength;
+      price ? CompleteLeg(head, head.size(), tail.substr(tq::kStrikeLength)) : first;
+  const std::size_t shared = price ? tq::kCommodityLength : tq::kCommodityStrikeLength;
   const CString leg2 = CompleteLeg(head, shared, tail);
   if (!ChkTwoFormats(leg1, leg2))
     return 0;
@@ -66,11 +66,11 @@ int COptFutID::ChkStraddle_Strangle(const CString& first, const CString& second,
                                     CString& id2) {
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
-  const bool straddle = tail.size() == tq::MonthCodeLength;
-  if (head.size() != tq::OptionCodeLength || (!straddle && tail.size() != tq::StrikeMonthLength))
+  const bool straddle = tail.size() == tq::kMonthCodeLength;
+  if (head.size() != tq::kOptionCodeLength || (!straddle && tail.size() != tq::kStrikeMonthLength))
     return Report(OptFutStraddleLength);
   const CString& leg1 = first;
-  const std::size_t shared = straddle ? tq::CommodityStrikeLength : tq::CommodityLength;
+  const std::size_t shared = straddle ? tq::kCommodityStrikeLength : tq::kCommodityLength;
   const CString leg2 = CompleteLeg(head, shared, tail);
   if (!ChkTwoFormats(leg1, leg2))
     return 0;
@@ -89,10 +89,10 @@ int COptFutID::ChkReversals_Conversion(const CString& first, const CString& seco
                                        CString& id2) {
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
-  if (head.size() != tq::OptionCodeLength || tail.size() != tq::MonthCodeLength)
+  if (head.size() != tq::kOptionCodeLength || tail.size() != tq::kMonthCodeLength)
     return Report(OptFutReversalLength);
   const CString& leg1 = first;
-  const CString leg2 = CompleteLeg(head, tq::CommodityStrikeLength, tail);
+  const CString leg2 = CompleteLeg(head, tq::kCommodityStrikeLength, tail);
   if (!ChkTwoFormats(leg1, leg2))
     return 0;
   if (ChkTheSameCP(MonthLetterOf(leg1), MonthLetterOf(leg2)))

@@ -20,7 +20,7 @@ CString Trimmed(const CString& id) {
 }
 
 bool IsFuturesCode(const CString& id) {
-  return id.GetLength() > static_cast<int>(tq::FutureYearPosition);
+  return id.GetLength() > static_cast<int>(tq::kFutureYearPosition);
 }
 
 } // namespace
@@ -69,7 +69,7 @@ int COptFutID::MergeFuturID(CString& text, char& side, const CString& id1, char 
   const bool inOrder = one.YearMonth() <= two.YearMonth();
   const tq::FutureLeg& nearer = inOrder ? one : two;
   const tq::FutureLeg& later = inOrder ? two : one;
-  text = tq::DescribeCalendarSpread(id1.Left(tq::CommodityLength), nearer, later);
+  text = tq::DescribeCalendarSpread(id1.Left(tq::kCommodityLength), nearer, later);
   side = later.side;
   return 1;
 }

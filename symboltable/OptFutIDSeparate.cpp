@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr char SpreadMark = '/';
-constexpr char StraddleMark = ':';
-constexpr char ReversalMark = '-';
+constexpr char kSpreadMark = '/';
+constexpr char kStraddleMark = ':';
+constexpr char kReversalMark = '-';
 
 struct Typed {
   char mark = '\0'; // '\0': the text is no combination
@@ -17,7 +17,7 @@ struct Typed {
 Typed SplitTyped(const CString& id) {
   CString text = id;
   text.Trim();
-  for (const char mark : {SpreadMark, StraddleMark, ReversalMark}) {
+  for (const char mark : {kSpreadMark, kStraddleMark, kReversalMark}) {
     const int at = text.Find(mark);
     if (at > 0)
       return {mark, text.Left(at), text.Mid(at + 1)};
@@ -32,12 +32,12 @@ char Opposite(char side) {
 // Legs by their lengths alone, of whatever was typed. `first` without a month code has a digit of the
 // strike where that would be.
 void CompleteUnchecked(const Typed& typed, CString& leg1, CString& leg2) {
-  constexpr int monthLength{tq::MonthCodeLength};
+  constexpr int monthLength{tq::kMonthCodeLength};
   leg1 = typed.first;
   if (tq::IsDecimalDigit(leg1.GetAt(leg1.GetLength() - monthLength)))
     leg1 += typed.second.Right(monthLength);
-  const bool hasStrike = typed.second.GetLength() == tq::StrikeMonthLength;
-  const std::size_t shared = hasStrike ? tq::CommodityLength : tq::CommodityStrikeLength;
+  const bool hasStrike = typed.second.GetLength() == tq::kStrikeMonthLength;
+  const std::size_t shared = hasStrike ? tq::kCommodityLength : tq::kCommodityStrikeLength;
   leg2 = leg1.Left(static_cast<int>(shared)) + typed.second;
 }
 
@@ -53,9 +53,9 @@ int COptFutID::SeparateID(const CString& id, char side, CString& id1, char& side
   int passed = 1;
   if (!check)
     CompleteUnchecked(typed, leg1, leg2);
-  else if (typed.mark == SpreadMark)
+  else if (typed.mark == kSpreadMark)
     passed = ChkSpread(typed.first, typed.second, leg1, leg2);
-  else if (typed.mark == StraddleMark)
+  else if (typed.mark == kStraddleMark)
     passed = ChkStraddle_Strangle(typed.first, typed.second, leg1, leg2);
   else
     passed = ChkReversals_Conversion(typed.first, typed.second, leg1, leg2);

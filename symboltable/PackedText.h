@@ -67,24 +67,24 @@ inline PackedText CutHead(PackedText head, std::size_t size) {
 constexpr std::uint64_t RepeatByte(std::uint8_t byte) {
   return 0x0101010101010101u * byte;
 }
-constexpr std::uint64_t TopBits = RepeatByte(0x80);
+constexpr std::uint64_t kTopBits = RepeatByte(0x80);
 
 // The top bit of each byte of `word` that is `byte`. Exact: the shorter form that lets a borrow run into the
 // next byte would report neighbours, too.
 constexpr std::uint64_t BytesEqual(std::uint64_t word, std::uint8_t byte) {
   const std::uint64_t difference = word ^ RepeatByte(byte);
-  return ~(((difference & ~TopBits) + ~TopBits) | difference | ~TopBits);
+  return ~(((difference & ~kTopBits) + ~kTopBits) | difference | ~kTopBits);
 }
 
 // The same for a word and a byte without top bits, in half the steps.
 constexpr std::uint64_t AsciiBytesEqual(std::uint64_t ascii, std::uint8_t byte) {
-  return ~((ascii ^ RepeatByte(byte)) + ~TopBits) & TopBits;
+  return ~((ascii ^ RepeatByte(byte)) + ~kTopBits) & kTopBits;
 }
 
 // The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f sets the top bit of
 // a byte from 'a' on, adding 5 that of one behind 'z'.
 constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
-  return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & TopBits;
+  return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & kTopBits;
 }
 
 #if defined(__SSE2__)
@@ -107,7 +107,7 @@ inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
 // Whether sixteen bytes are ASCII without a letter of lower case.
 constexpr bool IsUpperAscii(PackedText head) {
   // A top bit disturbs what LowerLetters says, but then it is of no interest.
-  return (((head.low | head.high) & TopBits) | LowerLetters(head.low) | LowerLetters(head.high)) ==
+  return (((head.low | head.high) & kTopBits) | LowerLetters(head.low) | LowerLetters(head.high)) ==
          0;
 }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr char NoMark = ' ';
+constexpr char kNoMark = ' ';
 
 // Bits of present_: the held numbers that the service gave, and what is not held because it can be told
 // from the id.
@@ -130,7 +130,7 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
   else if (field == FieldSymbolName)
     value = name_;
   else if (field == FieldMark)
-    value.SetString(&mark_, mark_ == NoMark ? 0 : 1);
+    value.SetString(&mark_, mark_ == kNoMark ? 0 : 1);
   else if (const int held = tq::ItemTextIndex(field); held >= 0)
     GetHeldText(held, value);
   else
@@ -139,7 +139,7 @@ int CSymbolItem::GetText(int field, CString& value, tq::IdPart part) const {
 }
 
 void CSymbolItem::GetHeldText(int index, CString& value) const {
-  if (index == tq::ExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
+  if (index == tq::kExchangeCodeText && (present_ & CodeIsSymbolBit) != 0)
     value.SetString(id_.GetString(), static_cast<int>(Symbol().size()));
   else if (texts_)
     value = texts_->texts[index];

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr char NoPrice[] = "--"; // what a person reads where there is no price
+constexpr char kNoPrice[] = "--"; // what a person reads where there is no price
 
 // The number without its decimals, the nearest int for one that an int cannot hold, 0 for no number.
 int CutToInt(double number) {
@@ -90,7 +90,7 @@ int CSymbolItem::AskText(int field, CString& value) const {
   case FieldOpeningReference:
     if (AskService(field, value))
       return 1;
-    value = NoPrice;
+    value = kNoPrice;
     return 0;
   case FieldExchangeTitle:
   case FieldTradingSession:

@@ -68,11 +68,11 @@ KeyHashMode HashModeOf(int exchId) {
 
 int BucketOf(std::string_view key, KeyHashMode mode) {
   if (mode == KeyHashMode::Numeric)
-    return std::abs(LeadingInt(key) % BucketCount);
+    return std::abs(LeadingInt(key) % kBucketCount);
   int sum = 0;
-  for (const char c : key.substr(0, SummedBytes))
+  for (const char c : key.substr(0, kSummedBytes))
     sum += static_cast<unsigned char>(c);
-  return sum % BucketCount;
+  return sum % kBucketCount;
 }
 
 } // namespace tq

@@ -10,7 +10,7 @@
 namespace tq {
 
 // Keys up to this size are told apart by their codes alone.
-constexpr std::size_t CodedBytes = sizeof(PackedText) - 1;
+constexpr std::size_t kCodedBytes = sizeof(PackedText) - 1;
 
 // A key with what a look-up compares before it looks at the text; see MakeKey.
 struct SymbolKey {
@@ -19,19 +19,19 @@ struct SymbolKey {
   std::uint32_t hash; // of all bytes
 };
 
-// The top byte of a code: the size of a key up to CodedBytes, whose bytes are the others, or this.
-constexpr std::uint64_t LongKey = 0xff;
-constexpr int SizeShift = 56;
+// The top byte of a code: the size of a key up to kCodedBytes, whose bytes are the others, or this.
+constexpr std::uint64_t kLongKey = 0xff;
+constexpr int kSizeShift = 56;
 
 // A key in two words: all of nearly every key. A longer one has its first eight bytes and its size there.
 inline PackedText CodeOf(std::size_t size, PackedText head) {
-  const bool isLong = size > CodedBytes;
-  return {head.low, isLong ? LongKey << SizeShift | static_cast<std::uint32_t>(size)
-                           : std::uint64_t{size} << SizeShift | head.high};
+  const bool isLong = size > kCodedBytes;
+  return {head.low, isLong ? kLongKey << kSizeShift | static_cast<std::uint32_t>(size)
+                           : std::uint64_t{size} << kSizeShift | head.high};
 }
 inline std::size_t SizeOf(PackedText code) {
-  const std::uint64_t size = code.high >> SizeShift;
-  return size != LongKey ? size : static_cast<std::uint32_t>(code.high);
+  const std::uint64_t size = code.high >> kSizeShift;
+  return size != kLongKey ? size : static_cast<std::uint32_t>(code.high);
 }
 
 // The hash of a key has two numbers in it that are other ones in every process. So nobody can choose ids whose
@@ -57,7 +57,7 @@ inline std::uint32_t HashOf(PackedText code) {
 // `head` is PackHead(text), for callers who have it.
 inline SymbolKey MakeKey(std::string_view text, PackedText head) {
   const PackedText code = CodeOf(text.size(), head);
-  if (text.size() <= CodedBytes)
+  if (text.size() <= kCodedBytes)
     return {text, code, HashOf(code)};
   const std::uint64_t state = MixRest(MixCode(code), text);
   return {text, code, static_cast<std::uint32_t>(state >> 32)};
@@ -89,7 +89,7 @@ inline std::size_t LastDot(PackedText ascii) {
 }
 
 inline IdParts SplitId(std::string_view id, PackedText head) {
-  if (id.size() > sizeof head || ((head.low | head.high) & TopBits) != 0)
+  if (id.size() > sizeof head || ((head.low | head.high) & kTopBits) != 0)
     return SplitLongId(id);
   const std::size_t dot = LastDot(head);
   if (dot >= id.size())
@@ -102,7 +102,7 @@ inline IdParts SplitId(std::string_view id) {
 
 // Whether a short id of ASCII has exactly one "."; false for all others.
 inline bool HasSingleDot(std::string_view id, PackedText head) {
-  if (id.size() > sizeof head || ((head.low | head.high) & TopBits) != 0)
+  if (id.size() > sizeof head || ((head.low | head.high) & kTopBits) != 0)
     return false;
   const std::uint64_t dots = AsciiBytesEqual(head.low, '.') >> 1 | AsciiBytesEqual(head.high, '.');
   return dots != 0 && (dots & (dots - 1)) == 0;
@@ -121,9 +121,9 @@ enum class KeyHashMode {
 
 KeyHashMode HashModeOf(int exchId);
 
-constexpr int BucketCount = 780;
+constexpr int kBucketCount = 780;
 // Bytes that the character sum takes in: longer keys that agree in these share a chain.
-constexpr int SummedBytes = 12;
+constexpr int kSummedBytes = 12;
 
 // The chain of a key, 0 to 779. Seen from outside: look-ups by name go chain by chain.
 int BucketOf(std::string_view key, KeyHashMode mode);

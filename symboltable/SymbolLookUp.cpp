@@ -5,7 +5,7 @@ namespace {
 
 FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffix) {
   const CSymbolTable::Place place = table->Find(key);
-  if (place == CSymbolTable::NoSymbol)
+  if (place == CSymbolTable::kNoSymbol)
     return {};
   return {table, place, bySuffix};
 }
@@ -13,7 +13,7 @@ FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffi
 FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_view exchName) {
   constexpr int noId = -1;
   const int slot = slots.Find(exchName, noId);
-  if (slot == TableSlots::None)
+  if (slot == TableSlots::kNone)
     return {};
   const CSymbolTable* const table = slots.At(slot);
   return FindIn(table, MakeKey(table->KeyOf(id)), false);
@@ -72,7 +72,7 @@ FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::str
     return FindOn(slots, id.text, exchName);
   const auto [symbol, suffix] = SplitId(id.text, id.head);
   if (!suffix.empty()) {
-    if (const int slot = FindSuffix(slots, id, suffix); slot != TableSlots::None) {
+    if (const int slot = FindSuffix(slots, id, suffix); slot != TableSlots::kNone) {
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
       return FindIn(slots.At(slot), key, true);
     }

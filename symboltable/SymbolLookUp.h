@@ -14,7 +14,7 @@ enum class BareSymbol { Refused, FirstDefault };
 // A symbol that was looked for. Its item's memory has not been touched.
 struct FoundSymbol {
   const CSymbolTable* table = nullptr; // null when there is none
-  CSymbolTable::Place place = CSymbolTable::NoSymbol;
+  CSymbolTable::Place place = CSymbolTable::kNoSymbol;
   bool bySuffix = false; // on the exchange whose name the id's suffix is
 
   explicit operator bool() const { return table != nullptr; }
@@ -28,18 +28,18 @@ FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::str
 // Answers for a full id of some bytes of ASCII whose suffix is an exchange's name, as nearly all are that
 // are asked for, without a branch that differs from one to the next. False for any other id.
 inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSymbol& found) {
-  if (id.text.size() > sizeof id.head || ((id.head.low | id.head.high) & TopBits) != 0)
+  if (id.text.size() > sizeof id.head || ((id.head.low | id.head.high) & kTopBits) != 0)
     return false;
   const std::size_t dot = LastDot(id.head);
   const std::size_t suffix = id.text.size() - dot - 1;
-  if (dot > CodedBytes || suffix - 1 >= sizeof id.tail)
+  if (dot > kCodedBytes || suffix - 1 >= sizeof id.tail)
     return false;
   const int slot = slots.FindNameInTail(id.tail, suffix);
-  if (slot == TableSlots::None)
+  if (slot == TableSlots::kNone)
     return false;
   const CSymbolTable* const table = slots.At(slot);
   const CSymbolTable::Place place = table->FindCode(CodeOf(dot, CutHead(id.head, dot)));
-  if (place != CSymbolTable::NoSymbol)
+  if (place != CSymbolTable::kNoSymbol)
     found = {table, place, true};
   return true;
 }

@@ -19,9 +19,9 @@ SymbolRecords::SymbolRecords(const char* records, int count)
     : records_(records), count_(records == nullptr || count < 0 ? 0 : count) {}
 
 std::string_view SymbolRecords::At(int index) const {
-  const char* const record = records_ + static_cast<std::ptrdiff_t>(index) * SymbolRecordSize;
-  std::size_t length = strnlen(record, SymbolRecordSize);
-  if (length == SymbolRecordSize && EndsInHalf(record, length))
+  const char* const record = records_ + static_cast<std::ptrdiff_t>(index) * kSymbolRecordSize;
+  std::size_t length = strnlen(record, kSymbolRecordSize);
+  if (length == kSymbolRecordSize && EndsInHalf(record, length))
     --length;
   return Trimmed({record, length});
 }

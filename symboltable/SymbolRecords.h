@@ -7,7 +7,7 @@
 
 namespace tq {
 
-constexpr int SymbolRecordSize = 19;
+constexpr int kSymbolRecordSize = 19;
 
 // `count` records at `records`, which stays the caller's. Null or a negative count are no records.
 class SymbolRecords {

@@ -6,7 +6,7 @@
 #include "symboltable/UpperText.h"
 
 CSymbolTable::CSymbolTable(const CString& exchName, int exchId)
-    : exchName_(exchName), exchId_(exchId), chains_(tq::BucketCount) {}
+    : exchName_(exchName), exchId_(exchId), chains_(tq::kBucketCount) {}
 
 CSymbolTable::~CSymbolTable() {
   Clear();
@@ -111,7 +111,7 @@ void CSymbolTable::Remove(std::string_view id) {
   if (&ChainOf(asked) != &ChainOf(key.text))
     return;
   const Place place = Find(key);
-  if (place == NoSymbol)
+  if (place == kNoSymbol)
     return;
   CSymbolItem* const item = arena_.At(index_.At(place).node);
   if (CSymbolItem* const next = item->LeaveSame())

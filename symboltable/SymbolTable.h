@@ -56,10 +56,10 @@ public:
 
   // The key of an id in this table.
   std::string_view KeyOf(std::string_view id) const { return tq::KeyOf(id, tq::ViewOf(exchName_)); }
-  // Where the symbol with this key stands, or NoSymbol; good until a symbol is added or removed. Letter
+  // Where the symbol with this key stands, or kNoSymbol; good until a symbol is added or removed. Letter
   // case matters: ids are held in upper case.
   using Place = tq::KeyIndex::Slot;
-  static constexpr Place NoSymbol = tq::KeyIndex::NoSlot;
+  static constexpr Place kNoSymbol = tq::KeyIndex::kNoSlot;
   Place Find(const tq::SymbolKey& key) const {
     return index_.Find(key,
                        [&](std::uint32_t number) { return arena_.At(number)->Key() == key.text; });
@@ -93,7 +93,7 @@ private:
 
   CSymbolItem* FindItem(const tq::SymbolKey& key) const {
     const Place place = Find(key);
-    return place == NoSymbol ? nullptr : arena_.At(index_.At(place).node);
+    return place == kNoSymbol ? nullptr : arena_.At(index_.At(place).node);
   }
   Chain& ChainOf(std::string_view key) {
     return chains_[static_cast<std::size_t>(tq::BucketOf(key, HashMode()))];

@@ -60,7 +60,7 @@ int CSymbolTable::Update(const CString& symbols) {
     if (record.code[0] == '\0' || record.usable == 0 || !key.Setup(&record) || !ReadId(key, id))
       continue;
     const Place place = Find(tq::MakeKey(KeyOf(tq::ViewOf(id))));
-    if (place == NoSymbol)
+    if (place == kNoSymbol)
       continue;
     CSymbolItem* const item = arena_.At(index_.At(place).node);
     item->UpdateFrom(key, reader);

@@ -27,7 +27,7 @@ int CSymbolTableMgr::InitAllSymbolTable() {
   int result = exchanges.Result();
   int slot = 0;
   for (const ExchInfo& exchange : exchanges.Records()) {
-    if (slot == tq::TableSlots::Count)
+    if (slot == tq::TableSlots::kCount)
       break;
     auto table = std::make_unique<CSymbolTable>(tq::ToCString(tq::NameOf(exchange)), exchange.id);
     if (!table->Load())
@@ -39,10 +39,10 @@ int CSymbolTableMgr::InitAllSymbolTable() {
 
 int CSymbolTableMgr::InitAuthorizedExch() {
   const tq::TableSlots::Use slots(*slots_);
-  int mask[tq::TableSlots::Count] = {};
+  int mask[tq::TableSlots::kCount] = {};
   if (!GetAuthMask(mask))
     return 0;
-  for (int slot = 0; slot < tq::TableSlots::Count; ++slot)
+  for (int slot = 0; slot < tq::TableSlots::kCount; ++slot)
     if (CSymbolTable* const table = slots->At(slot))
       table->SetAuthorized(tq::CanBeEntitled(table->ExchId()) && mask[table->ExchId()] != 0);
   return 1;

@@ -16,13 +16,13 @@ int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) {
   if (exchName.IsEmpty())
     return 0;
   const int slot = slots_->FindName(tq::ViewOf(exchName));
-  return slot != TableSlots::None && slots_->At(slot)->IsAuthorized();
+  return slot != TableSlots::kNone && slots_->At(slot)->IsAuthorized();
 }
 
 int CSymbolTableMgr::IsSupportUJKExch() {
-  int mask[TableSlots::Count] = {};
+  int mask[TableSlots::kCount] = {};
   return GetAuthMask(mask) &&
-         std::ranges::all_of(tq::FamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
+         std::ranges::all_of(tq::kFamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
 }
 
 CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
@@ -30,7 +30,7 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
   const auto isLeftOut = [&](int exchId) {
-    if (std::ranges::find(tq::FamilyExchanges, exchId) == tq::FamilyExchanges.end())
+    if (std::ranges::find(tq::kFamilyExchanges, exchId) == tq::kFamilyExchanges.end())
       return false;
     if (family == FamilyShown::NotAsked)
       family = tq::HasFullMenu() ? FamilyShown::Yes : FamilyShown::No;
@@ -38,8 +38,8 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
   };
   CString names;
   tq::ForEachNumber(tq::ViewOf(exchIds), [&](int position, int exchId) {
-    const int slot = isLeftOut(exchId) ? TableSlots::None : slots->FindId(exchId);
-    if (slot == TableSlots::None)
+    const int slot = isLeftOut(exchId) ? TableSlots::kNone : slots->FindId(exchId);
+    if (slot == TableSlots::kNone)
       return;
     // By the position in the input: a first id that is left out leaves its comma behind, and
     // callers count on that. Do not make it depend on what was written.
@@ -108,7 +108,7 @@ int CSymbolTableMgr::MapToSymbolTableIndex(int exchId) {
 }
 
 int CSymbolTableMgr::GetAuthMask(int mask[128]) {
-  return tq::ReadEntitlements(std::span<int, TableSlots::Count>(mask, TableSlots::Count));
+  return tq::ReadEntitlements(std::span<int, TableSlots::kCount>(mask, TableSlots::kCount));
 }
 
 int CSymbolTableMgr::IsAuthExch(int exchId) {

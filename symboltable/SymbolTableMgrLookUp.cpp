@@ -20,7 +20,7 @@ int GetExchangeName(const tq::TableSlots& slots, const tq::UpperText& id, const 
   const int slot = slots.FindName(name);
   if (isGiven && name.data() == given.GetString())
     value = given;
-  else if (slot != tq::TableSlots::None)
+  else if (slot != tq::TableSlots::kNone)
     value = slots.At(slot)->ExchName();
   else
     value.SetString(name.data(), static_cast<int>(name.size()));
@@ -62,7 +62,7 @@ int GetLong(const tq::FoundSymbol& found, int field, long& value) {
 int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) {
   if (name.IsEmpty())
     return 0;
-  for (int slot = 0; slot < tq::TableSlots::Count; ++slot) {
+  for (int slot = 0; slot < tq::TableSlots::kCount; ++slot) {
     const CSymbolTable* const table = slots_->At(slot);
     const CSymbolItem* const item = table == nullptr ? nullptr : table->FindName(name);
     if (item != nullptr)

@@ -9,10 +9,10 @@ TableSlots::TableSlots() = default;
 TableSlots::~TableSlots() = default;
 
 int TableSlots::FirstFree(int from) const {
-  for (int slot = from; slot < Count; ++slot)
+  for (int slot = from; slot < kCount; ++slot)
     if (At(slot) == nullptr)
       return slot;
-  return None;
+  return kNone;
 }
 
 void TableSlots::Delete(std::unique_ptr<TableSlots> slots) {
@@ -64,7 +64,7 @@ void TableSlots::Forget() {
 template <typename IsName>
 void TableSlots::Enter(NameIndex& index, std::string_view name, int slot, IsName isName) {
   std::size_t at = NameHash(PackHead(name));
-  for (; index[at] != 0; at = (at + 1) % NameIndexSize)
+  for (; index[at] != 0; at = (at + 1) % kNameIndexSize)
     if (isName(index[at] - 1))
       return;
   index[at] = static_cast<std::uint8_t>(slot + 1);
@@ -73,7 +73,7 @@ void TableSlots::Enter(NameIndex& index, std::string_view name, int slot, IsName
 void TableSlots::Reindex() {
   byName_.fill(0);
   byUpperName_.fill(0);
-  for (int slot = 0; slot < Count; ++slot) {
+  for (int slot = 0; slot < kCount; ++slot) {
     if (At(slot) == nullptr)
       continue;
     const std::string_view name = NameAt(slot);
@@ -93,7 +93,7 @@ void TableSlots::Reindex() {
 void TableSlots::FindDefaults() {
   defaults_.clear();
   for (const int exchId : defaultIds_)
-    if (const int slot = FindId(exchId); slot != None)
+    if (const int slot = FindId(exchId); slot != kNone)
       defaults_.push_back(At(slot));
 }
 
@@ -106,21 +106,21 @@ int TableSlots::FindName(std::string_view exchName) const {
   const PackedText head = PackHead(exchName);
   std::size_t at = NameHash(head);
   while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
-    at = (at + 1) % NameIndexSize;
+    at = (at + 1) % kNameIndexSize;
   return byName_[at] - 1;
 }
 
 int TableSlots::FindId(int exchId) const {
-  for (int slot = 0; slot < Count; ++slot)
+  for (int slot = 0; slot < kCount; ++slot)
     if (At(slot) != nullptr && At(slot)->ExchId() == exchId)
       return slot;
-  return None;
+  return kNone;
 }
 
 bool TableSlots::HasUpperName(std::string_view upperName) const {
   std::size_t at = NameHash(PackHead(upperName));
   while (byUpperName_[at] != 0 && UpperNameAt(byUpperName_[at] - 1) != upperName)
-    at = (at + 1) % NameIndexSize;
+    at = (at + 1) % kNameIndexSize;
   return byUpperName_[at] != 0;
 }
 

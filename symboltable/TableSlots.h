@@ -19,8 +19,8 @@ namespace tq {
 
 class TableSlots {
 public:
-  static constexpr int Count = 128;
-  static constexpr int None = -1;
+  static constexpr int kCount = 128;
+  static constexpr int kNone = -1;
 
   // Keeps the slots and what was in them while an operation asks the services.
   class Use {
@@ -63,7 +63,7 @@ public:
     const PackedText head = {tail >> 8 * (sizeof tail - size), 0};
     std::size_t at = NameHash(head);
     while (byName_[at] != 0 && !IsShortNameAt(byName_[at] - 1, head.low, size))
-      at = (at + 1) % NameIndexSize;
+      at = (at + 1) % kNameIndexSize;
     return byName_[at] - 1;
   }
   int FindId(int exchId) const;
@@ -73,8 +73,8 @@ public:
   }
   // Whether a look-up of the table's name finds this very table.
   bool IsFirstOfName(const CSymbolTable& table) const {
-    const int slot = Find(ViewOf(table.ExchName()), None);
-    return slot != None && At(slot) == &table;
+    const int slot = Find(ViewOf(table.ExchName()), kNone);
+    return slot != kNone && At(slot) == &table;
   }
   // Whether some table has that name but for letter case; `upperName` is in upper case.
   bool HasUpperName(std::string_view upperName) const;
@@ -86,10 +86,10 @@ public:
 
 private:
   // Slots plus 1 by the hash of a name, 0 for no entry: at most half of it is taken.
-  static constexpr std::size_t NameIndexSize = 256;
-  using NameIndex = std::array<std::uint8_t, NameIndexSize>;
+  static constexpr std::size_t kNameIndexSize = 256;
+  using NameIndex = std::array<std::uint8_t, kNameIndexSize>;
   static std::size_t NameHash(PackedText head) {
-    return MixWords(head.high, head.low) >> 56; // below NameIndexSize
+    return MixWords(head.high, head.low) >> 56; // below kNameIndexSize
   }
 
   struct NameHead {
@@ -117,12 +117,12 @@ private:
     return upperNames_[static_cast<std::size_t>(slot)];
   }
 
-  std::array<std::unique_ptr<CSymbolTable>, Count> tables_;
+  std::array<std::unique_ptr<CSymbolTable>, kCount> tables_;
   std::vector<std::unique_ptr<CSymbolTable>> takenOut_; // while they may be in use
   int uses_ = 0;
   bool ownerless_ = false; // to be deleted with the last use
-  std::array<NameHead, Count> nameHeads_;
-  std::array<std::string, Count> upperNames_;
+  std::array<NameHead, kCount> nameHeads_;
+  std::array<std::string, kCount> upperNames_;
   NameIndex byName_ = {};
   NameIndex byUpperName_ = {};
   std::vector<int> defaultIds_;

@@ -11,7 +11,7 @@ namespace {
 enum class Letters { Upper, SomeLower, DoubleByte };
 
 Letters Classify(std::uint64_t word) {
-  if ((word & TopBits) != 0)
+  if ((word & kTopBits) != 0)
     return Letters::DoubleByte;
   return LowerLetters(word) != 0 ? Letters::SomeLower : Letters::Upper;
 }

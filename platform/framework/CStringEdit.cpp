@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr const char* blanks = " \t\n\v\f\r";
+constexpr const char* kBlanks = " \t\n\v\f\r";
 
 int CountOf(const char* at, const char* end, const char* what, int length) {
   const auto size = static_cast<size_t>(length);
@@ -119,13 +119,13 @@ void CString::Keep(const char* from, const char* to) {
 }
 
 CString& CString::Trim() {
-  return Trim(blanks);
+  return Trim(kBlanks);
 }
 CString& CString::TrimLeft() {
-  return TrimLeft(blanks);
+  return TrimLeft(kBlanks);
 }
 CString& CString::TrimRight() {
-  return TrimRight(blanks);
+  return TrimRight(kBlanks);
 }
 
 CString& CString::Trim(char letter) {

@@ -6,16 +6,16 @@
 namespace {
 
 // Most texts the terminal composes fit here and then go straight into the string's own room.
-constexpr size_t localSize = 512;
+constexpr size_t kLocalSize = 512;
 
 // A composed text, kept apart from the string until it is complete: the arguments may point into
 // that.
 struct Composed {
   Composed(const char* format, va_list arguments);
 
-  bool IsLong() const { return static_cast<size_t>(length) >= localSize; }
+  bool IsLong() const { return static_cast<size_t>(length) >= kLocalSize; }
 
-  char local[localSize];
+  char local[kLocalSize];
   CString whole; // the text, where it is too long for `local`
   int length = 0;
 };
@@ -25,7 +25,7 @@ Composed::Composed(const char* format, va_list arguments) {
     return;
   va_list again;
   va_copy(again, arguments);
-  const int composed = std::vsnprintf(local, localSize, format, arguments);
+  const int composed = std::vsnprintf(local, kLocalSize, format, arguments);
   length = composed < 0 ? 0 : composed;
   if (IsLong()) {
     const auto size = static_cast<size_t>(length) + 1;

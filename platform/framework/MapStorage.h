@@ -69,7 +69,7 @@ template <class KEY, class VALUE> struct MapStorage {
 
   // Gives the table at least `wanted` buckets.
   void ResizeTable(size_t wanted) {
-    size_t buckets = m_table == nullptr ? leastBuckets : m_mask + 1;
+    size_t buckets = m_table == nullptr ? kLeastBuckets : m_mask + 1;
     while (buckets < wanted)
       buckets *= 2;
     if (m_table != nullptr && buckets == m_mask + 1)
@@ -99,7 +99,7 @@ template <class KEY, class VALUE> struct MapStorage {
   }
 
 private:
-  static constexpr size_t leastBuckets = 16;
+  static constexpr size_t kLeastBuckets = 16;
 
   // Room of a node that is not in use.
   struct FreeNode {

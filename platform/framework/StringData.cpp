@@ -9,19 +9,19 @@ namespace tq {
 
 namespace {
 
-constexpr int uncounted = -1;
+constexpr int kUncounted = -1;
 // Blocks are rounded to what the allocator gives out anyway; the slack serves later appends.
-constexpr size_t blockStep = 8;
+constexpr size_t kBlockStep = 8;
 
 } // namespace
 
-constinit EmptyString emptyString{{{uncounted}, 0, 0}, {}};
+constinit EmptyString emptyString{{{kUncounted}, 0, 0}, {}};
 
 char* AllocateText(int capacity) {
   if (capacity < 0 || capacity > INT_MAX - 64)
     OutOfMemory();
   const size_t needed = sizeof(StringHeader) + static_cast<size_t>(capacity) + 1;
-  const size_t bytes = (needed + blockStep - 1) / blockStep * blockStep;
+  const size_t bytes = (needed + kBlockStep - 1) / kBlockStep * kBlockStep;
   const int room = static_cast<int>(bytes - sizeof(StringHeader) - 1);
   char* text = TextOf(new (AllocateStorage(bytes)) StringHeader{{1}, 0, room});
   *text = '\0';

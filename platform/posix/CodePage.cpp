@@ -4,12 +4,12 @@ namespace tq {
 
 namespace {
 
-constexpr unsigned char firstLead = 0x81;
-constexpr unsigned char lastLead = 0xFE;
+constexpr unsigned char kFirstLead = 0x81;
+constexpr unsigned char kLastLead = 0xFE;
 
 constexpr LeadByteTable BuildLeadBytes() {
   LeadByteTable table{};
-  for (unsigned byte = firstLead; byte <= lastLead; ++byte)
+  for (unsigned byte = kFirstLead; byte <= kLastLead; ++byte)
     table.lead[byte] = true;
   return table;
 }

@@ -8,7 +8,7 @@
 namespace tq {
 namespace {
 
-const char g_inThisModule = 0;
+const char kInThisModule = 0;
 
 std::string ProgramPath() {
   char path[PATH_MAX];
@@ -22,23 +22,23 @@ std::string OwnModulePath() {
   Dl_info info;
   std::string path;
   char full[PATH_MAX];
-  if (::dladdr(&g_inThisModule, &info) != 0 && info.dli_fname != nullptr)
+  if (::dladdr(&kInThisModule, &info) != 0 && info.dli_fname != nullptr)
     path = info.dli_fname;
   // A program is known by the name that started it, which says where it lies only with a directory.
   if (path.find('/') == std::string::npos)
     path = ProgramPath();
   else if (path[0] != '/')
     path = ::realpath(path.c_str(), full) != nullptr ? std::string(full) : ProgramPath();
-  if (path.size() > ModulePathLimit)
-    path.resize(ModulePathLimit);
+  if (path.size() > kModulePathLimit)
+    path.resize(kModulePathLimit);
   return path;
 }
 
 void* OwnModule() {
   Dl_info info;
-  if (::dladdr(&g_inThisModule, &info) != 0 && info.dli_fbase != nullptr)
+  if (::dladdr(&kInThisModule, &info) != 0 && info.dli_fbase != nullptr)
     return info.dli_fbase;
-  return const_cast<char*>(&g_inThisModule);
+  return const_cast<char*>(&kInThisModule);
 }
 
 std::string DirectoryOf(const std::string& path) {

@@ -12,16 +12,16 @@
 namespace tq {
 namespace {
 
-constexpr int LongestLinkChain = 40; // as many as the kernel follows
-constexpr int LockTries = 50;
-constexpr useconds_t LockPause = 10'000; // microseconds; together the half second of FileAccess.h
-constexpr mode_t NewFileMode = 0666;     // less the process's umask
+constexpr int kLongestLinkChain = 40; // as many as the kernel follows
+constexpr int kLockTries = 50;
+constexpr useconds_t kLockPause = 10'000; // microseconds; together the half second of FileAccess.h
+constexpr mode_t kNewFileMode = 0666;     // less the process's umask
 
 // Follows the symbolic links of the file itself, also when the last names nothing yet. A chain that
 // is too long is returned as it is and fails when it is opened.
 std::string FollowLinks(std::string path) {
   char link[PATH_MAX];
-  for (int i = 0; i < LongestLinkChain; ++i) {
+  for (int i = 0; i < kLongestLinkChain; ++i) {
     const ssize_t length = ::readlink(path.c_str(), link, sizeof link);
     if (length <= 0)
       break;
@@ -69,7 +69,7 @@ public:
   File& operator=(const File&) = delete;
   ~File() { Close(); }
 
-  bool Open(const std::string& path, int flags, mode_t mode = NewFileMode) {
+  bool Open(const std::string& path, int flags, mode_t mode = kNewFileMode) {
     Close();
     fd_ = ::open(path.c_str(), flags | O_CLOEXEC, mode);
     return fd_ >= 0;
@@ -89,7 +89,7 @@ private:
 class PosixSaveSteps : public SaveSteps {
 public:
   explicit PosixSaveSteps(const char* path)
-      : target_(FollowLinks(SystemPath(path))), temporary_(target_ + TemporarySuffix) {}
+      : target_(FollowLinks(SystemPath(path))), temporary_(target_ + kTemporarySuffix) {}
 
   StepResult OpenTarget() override;
   StepResult OpenTemporary() override;
@@ -159,7 +159,7 @@ StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
         return StepResult::Ok;
       continue; // its holder has just renamed or deleted it
     }
-    ::usleep(LockPause);
+    ::usleep(kLockPause);
   }
   return StepResult::Failed;
 }

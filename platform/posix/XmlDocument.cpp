@@ -14,7 +14,7 @@ namespace tq {
 namespace {
 
 // Own bounds stand before the parser's (XmlText.h); errors are the caller's to report.
-constexpr int ParserOptions =
+constexpr int kParserOptions =
     XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
 
 xmlNode* NodeOf(void* node) {
@@ -37,7 +37,8 @@ bool IsElement(const xmlNode* node, std::string_view name) {
 // No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though the
 // same, would cost a copy.
 xmlDoc* Parse(std::string_view text) {
-  return xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, ParserOptions);
+  return xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
+                       kParserOptions);
 }
 
 // An attribute's value lies in one node, unless references stand in it.

@@ -10,7 +10,7 @@
 namespace tq {
 
 // No program is to be kept from reading, writing or replacing a file while this library uses it.
-inline constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+inline constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 class FileHandle {
 public:

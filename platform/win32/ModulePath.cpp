@@ -7,23 +7,23 @@
 namespace tq {
 namespace {
 
-const char g_inThisModule = 0;
+const char kInThisModule = 0;
 
 } // namespace
 
 std::string OwnModulePath() {
-  char path[ModulePathLimit + 1];
+  char path[kModulePathLimit + 1];
   const DWORD length = ::GetModuleFileNameA(static_cast<HMODULE>(OwnModule()), path,
                                             static_cast<DWORD>(sizeof path));
   // A path that was cut may end in half a character.
-  return std::string(path, CutLength(path, length, ModulePathLimit));
+  return std::string(path, CutLength(path, length, kModulePathLimit));
 }
 
 void* OwnModule() {
   HMODULE module = nullptr;
   ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                            GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       &g_inThisModule, &module);
+                       &kInThisModule, &module);
   return module;
 }
 

@@ -6,10 +6,10 @@
 namespace tq {
 namespace {
 
-constexpr int SharingTries = 50;
-constexpr DWORD SharingPause = 10; // milliseconds; together the half second of FileAccess.h
+constexpr int kSharingTries = 50;
+constexpr DWORD kSharingPause = 10; // milliseconds; together the half second of FileAccess.h
 // What the temporary file takes over from the target.
-constexpr DWORD KeptAttributes =
+constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
 // Errors that concern the way of replacing (rights on the directory, somebody who holds the target or
@@ -97,7 +97,7 @@ StepResult WindowsSaveSteps::OpenTarget() {
     // The system replaces no file that is open, not even by us.
     targetFile_.Close();
   }
-  for (const char* c = TemporarySuffix; *c != '\0'; ++c)
+  for (const char* c = kTemporarySuffix; *c != '\0'; ++c)
     temporary_.push_back(static_cast<wchar_t>(*c));
   temporary_.insert(0, target_);
   return opened ? StepResult::Ok : StepResult::Missing;
@@ -148,7 +148,7 @@ StepResult WindowsSaveSteps::OpenTemporary() {
     }
     if (::GetLastError() != ERROR_SHARING_VIOLATION)
       return WhyNotReplaced();
-    ::Sleep(SharingPause);
+    ::Sleep(kSharingPause);
   }
   return StepResult::Failed;
 }

@@ -8,9 +8,9 @@ namespace tq {
 namespace {
 
 // The free-threaded document of version 3.0, by number: import libraries do not all name it.
-constexpr CLSID FreeThreadedDocument30 = {
+constexpr CLSID kFreeThreadedDocument30 = {
     0xF5078F33, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
-constexpr IID DocumentWithProperties = { // IXMLDOMDocument2
+constexpr IID kDocumentWithProperties = { // IXMLDOMDocument2
     0x2933BF95,
     0x7B36,
     0x11D2,
@@ -52,8 +52,8 @@ bool Configure(Dom* document) {
 
 bool Create(ComPtr<Dom>& document) {
   void** receiver = reinterpret_cast<void**>(document.Receive());
-  return SUCCEEDED(::CoCreateInstance(FreeThreadedDocument30, nullptr, CLSCTX_INPROC_SERVER,
-                                      DocumentWithProperties, receiver)) &&
+  return SUCCEEDED(::CoCreateInstance(kFreeThreadedDocument30, nullptr, CLSCTX_INPROC_SERVER,
+                                      kDocumentWithProperties, receiver)) &&
          Configure(document.Get());
 }
 

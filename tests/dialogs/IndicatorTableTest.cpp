@@ -73,16 +73,16 @@ TEST(IndicatorTable, RegionsThatDifferInLetterCaseAreTwo) {
 // --- Rows of a choice ----------------------------------------------------------------------------
 
 TEST(IndicatorTable, AllOfBothAreAllRows) {
-  EXPECT_EQ(Sample().RowsOf(IndicatorTable::All, IndicatorTable::All), (Numbers{0, 1, 2, 3}));
+  EXPECT_EQ(Sample().RowsOf(IndicatorTable::kAll, IndicatorTable::kAll), (Numbers{0, 1, 2, 3}));
 }
 
 TEST(IndicatorTable, ARegionHasItsRowsInTheirOrder) {
-  EXPECT_EQ(Sample().RowsOf(1, IndicatorTable::All), (Numbers{0, 2}));
-  EXPECT_EQ(Sample().RowsOf(2, IndicatorTable::All), (Numbers{1, 3}));
+  EXPECT_EQ(Sample().RowsOf(1, IndicatorTable::kAll), (Numbers{0, 2}));
+  EXPECT_EQ(Sample().RowsOf(2, IndicatorTable::kAll), (Numbers{1, 3}));
 }
 
 TEST(IndicatorTable, ACategoryHasItsRowsOfAllRegions) {
-  EXPECT_EQ(Sample().RowsOf(IndicatorTable::All, 1), (Numbers{0, 1}));
+  EXPECT_EQ(Sample().RowsOf(IndicatorTable::kAll, 1), (Numbers{0, 1}));
 }
 
 TEST(IndicatorTable, BothTogetherLeaveTheRowsThatHaveBoth) {
@@ -95,15 +95,15 @@ TEST(IndicatorTable, ACategoryThatTheRegionDoesNotHaveLeavesNoRow) {
 
 TEST(IndicatorTable, ARowWithoutRegionOrCategoryIsOnlyInAllOfThem) {
   const IndicatorTable table = Table({{"", "Trade"}, {"Asia", ""}, {"Asia", "Trade"}});
-  EXPECT_EQ(table.RowsOf(1, IndicatorTable::All), (Numbers{1, 2}));
-  EXPECT_EQ(table.RowsOf(IndicatorTable::All, 1), (Numbers{0, 2}));
-  EXPECT_EQ(table.RowsOf(IndicatorTable::All, IndicatorTable::All), (Numbers{0, 1, 2}));
+  EXPECT_EQ(table.RowsOf(1, IndicatorTable::kAll), (Numbers{1, 2}));
+  EXPECT_EQ(table.RowsOf(IndicatorTable::kAll, 1), (Numbers{0, 2}));
+  EXPECT_EQ(table.RowsOf(IndicatorTable::kAll, IndicatorTable::kAll), (Numbers{0, 1, 2}));
 }
 
 TEST(IndicatorTable, ANumberThatIsNotThereHasNoRows) {
-  EXPECT_EQ(Sample().RowsOf(3, IndicatorTable::All), Numbers{});
-  EXPECT_EQ(Sample().RowsOf(IndicatorTable::All, 4), Numbers{});
-  EXPECT_EQ(Sample().RowsOf(-1, IndicatorTable::All), Numbers{});
+  EXPECT_EQ(Sample().RowsOf(3, IndicatorTable::kAll), Numbers{});
+  EXPECT_EQ(Sample().RowsOf(IndicatorTable::kAll, 4), Numbers{});
+  EXPECT_EQ(Sample().RowsOf(-1, IndicatorTable::kAll), Numbers{});
 }
 
 TEST(IndicatorTable, AnEmptyTableHasNothing) {
@@ -111,7 +111,7 @@ TEST(IndicatorTable, AnEmptyTableHasNothing) {
     EXPECT_EQ(table.GetRowCount(), 0);
     EXPECT_TRUE(table.Regions().IsEmpty());
     EXPECT_TRUE(table.Categories().IsEmpty());
-    EXPECT_EQ(table.RowsOf(IndicatorTable::All, IndicatorTable::All), Numbers{});
+    EXPECT_EQ(table.RowsOf(IndicatorTable::kAll, IndicatorTable::kAll), Numbers{});
     EXPECT_EQ(table.Find("C1"), -1);
   }
 }

@@ -173,12 +173,12 @@ TEST(CMapStringToString, IsAskedWithCharacters) {
   CMapStringToString map;
   const CString value("value");
   map.SetAt("key", value);
-  map["other"] = backslashTrails;
+  map["other"] = kBackslashTrails;
   CString found;
   const StorageCount storage;
   EXPECT_TRUE(map.Lookup("key", found));
   EXPECT_EQ(found.GetString(), value.GetString()) << "the value is shared";
   EXPECT_TRUE(map.Lookup(CString(), found) == false);
   EXPECT_EQ(storage.Taken(), 0);
-  EXPECT_EQ(map["other"], backslashTrails);
+  EXPECT_EQ(map["other"], kBackslashTrails);
 }

@@ -84,14 +84,14 @@ TEST(CStringEdit, DeletesWholeCharacters) {
   EXPECT_EQ(text.Delete(0, -1), 3);
   EXPECT_EQ(text.Delete(-1, 1), 2);
   EXPECT_EQ(text, "cd");
-  CString wide(backslashTrails);
+  CString wide(kBackslashTrails);
   EXPECT_EQ(wide.Delete(0, 1), 4) << "a character that loses one byte goes whole";
   EXPECT_EQ(wide, "\xA5\x5C\xBB\x5C");
   EXPECT_EQ(wide.Delete(1, 2), 0);
 }
 
 TEST(CStringEdit, TruncatesAtAWholeCharacter) {
-  CString text(backslashTrails);
+  CString text(kBackslashTrails);
   text.Truncate(5);
   EXPECT_EQ(text, "\xB3\x5C\xA5\x5C");
   text.Truncate(-1);

@@ -33,7 +33,7 @@ TEST(CStringSearch, StartOutsideOfTheTextIsDefined) {
 }
 
 TEST(CStringSearch, TrailByteIsNeitherBackslashNorBarNorLetter) {
-  CString text(backslashTrails);
+  CString text(kBackslashTrails);
   EXPECT_EQ(text.Find('\\'), -1);
   EXPECT_EQ(text.Find("\\"), -1);
   EXPECT_EQ(text.ReverseFind('\\'), -1);
@@ -75,7 +75,7 @@ TEST(CStringSearch, LeftRightMidClamp) {
 }
 
 TEST(CStringSearch, CutDropsTheHalfCharacter) {
-  const CString text(backslashTrails);
+  const CString text(kBackslashTrails);
   EXPECT_EQ(text.Left(3), "\xB3\x5C");
   EXPECT_EQ(text.Left(1), "");
   EXPECT_EQ(text.Right(3), "\xBB\x5C");
@@ -139,7 +139,7 @@ TEST(CStringSearch, TokenizeStaysAtItsEnd) {
 }
 
 TEST(CStringSearch, HashIsThatOfTheCharacters) {
-  for (const char* text : {"", "a", "2330.TW", "TXO18000A8.TF", "12345678", backslashTrails})
+  for (const char* text : {"", "a", "2330.TW", "TXO18000A8.TF", "12345678", kBackslashTrails})
     EXPECT_EQ(tq::HashKey(CString(text)), tq::HashKey(text)) << text;
   EXPECT_EQ(std::hash<CString>()("2330.TW"), tq::HashKey("2330.TW"));
   EXPECT_NE(tq::HashKey("2330.TW"), tq::HashKey("2331.TW"));

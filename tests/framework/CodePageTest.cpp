@@ -90,27 +90,27 @@ TEST(CodePage, FindTextFindsWhatAWalkByCharactersFinds) {
 }
 
 TEST(CodePage, FindLastCharPassesOverTrailBytes) {
-  const std::string path = std::string("C:\\TW\\") + backslashTrails;
+  const std::string path = std::string("C:\\TW\\") + kBackslashTrails;
   const char* const end = path.data() + path.size();
   EXPECT_EQ(tq::FindLastChar(path.data(), end, '\\'), path.data() + 5);
-  EXPECT_EQ(tq::FindLastChar(backslashTrails, backslashTrails + 6, '\\'), nullptr);
+  EXPECT_EQ(tq::FindLastChar(kBackslashTrails, kBackslashTrails + 6, '\\'), nullptr);
   EXPECT_EQ(tq::FindLastChar(path.data(), path.data(), '\\'), nullptr);
 }
 
 TEST(CodePage, CutLengthNeverSplitsACharacter) {
   EXPECT_EQ(tq::CutLength("abc", 3, 2), 2u);
   EXPECT_EQ(tq::CutLength("abc", 3, 9), 3u);
-  EXPECT_EQ(tq::CutLength(backslashTrails, 6, 6), 6u);
-  EXPECT_EQ(tq::CutLength(backslashTrails, 6, 5), 4u);
-  EXPECT_EQ(tq::CutLength(backslashTrails, 6, 1), 0u);
-  EXPECT_EQ(tq::CutLength(backslashTrails, 6, 0), 0u);
+  EXPECT_EQ(tq::CutLength(kBackslashTrails, 6, 6), 6u);
+  EXPECT_EQ(tq::CutLength(kBackslashTrails, 6, 5), 4u);
+  EXPECT_EQ(tq::CutLength(kBackslashTrails, 6, 1), 0u);
+  EXPECT_EQ(tq::CutLength(kBackslashTrails, 6, 0), 0u);
   EXPECT_EQ(tq::CutLength("\xA1\xA1\xA1\xA1", 4, 3), 2u) << "every byte could open a character";
 }
 
 TEST(CodePage, CopyCutFillsTheFieldWithZeros) {
   char field[6];
   std::memset(field, 'x', sizeof field);
-  EXPECT_EQ(tq::CopyCut(field, backslashTrails), 4u);
+  EXPECT_EQ(tq::CopyCut(field, kBackslashTrails), 4u);
   EXPECT_EQ(std::memcmp(field, "\xB3\x5C\xA5\x5C\0\0", 6), 0);
   std::memset(field, 'x', sizeof field);
   EXPECT_EQ(tq::CopyCut(field, "ab"), 2u);

@@ -15,7 +15,7 @@ inline void PrintTo(const CString& text, std::ostream* out) {
 
 // Big5, and three of the characters every double-byte bug is found with: each ends in a backslash
 // byte. In code page 936 the same bytes are three other characters.
-inline constexpr char backslashTrails[] = "\xB3\x5C\xA5\x5C\xBB\x5C";
+inline constexpr char kBackslashTrails[] = "\xB3\x5C\xA5\x5C\xBB\x5C";
 
 // Counts the storage that strings, arrays and maps ask for while it lives.
 class StorageCount {

@@ -8,11 +8,11 @@
 
 namespace {
 
-constexpr int handlerExit = 7;
+constexpr int kHandlerExit = 7;
 
 void ExitWithMessage(const char* message) {
   std::fprintf(stderr, "handler got: %s\n", message);
-  std::_Exit(handlerExit);
+  std::_Exit(kHandlerExit);
 }
 
 void Return(const char*) {}
@@ -38,7 +38,7 @@ TEST_F(InvalidArgumentDeathTest, HandlerOfTheHostGetsTheMessage) {
         tq::SetInvalidArgumentHandler(&ExitWithMessage);
         m_array[-1] = 1;
       },
-      testing::ExitedWithCode(handlerExit), "handler got: CArray::operator.*: index -1 of 3");
+      testing::ExitedWithCode(kHandlerExit), "handler got: CArray::operator.*: index -1 of 3");
 }
 
 TEST_F(InvalidArgumentDeathTest, HandlerThatReturnsStopsAllTheSame) {
@@ -52,7 +52,7 @@ TEST_F(InvalidArgumentDeathTest, HandlerThatReturnsStopsAllTheSame) {
 
 TEST_F(InvalidArgumentDeathTest, EveryOperationOutsideOfTheArrayStops) {
   tq::SetInvalidArgumentHandler(&ExitWithMessage);
-  const auto stopped = testing::ExitedWithCode(handlerExit);
+  const auto stopped = testing::ExitedWithCode(kHandlerExit);
   EXPECT_EXIT(m_array.ElementAt(3), stopped, "ElementAt: index 3");
   EXPECT_EXIT(m_array.RemoveAt(2, 2), stopped, "RemoveAt: index 2");
   EXPECT_EXIT(m_array.RemoveAt(-1), stopped, "RemoveAt: index -1");

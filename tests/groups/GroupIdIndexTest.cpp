@@ -23,14 +23,14 @@ std::uint32_t PlainFind(const Numbers& numbers, const std::string& id, std::size
   for (std::size_t i = from; i < numbers.size(); ++i)
     if (numbers[i] && Folded(*numbers[i]) == Folded(id))
       return static_cast<std::uint32_t>(i);
-  return tq::GroupIdIndex::None;
+  return tq::GroupIdIndex::kNone;
 }
 
 TEST(GroupIdIndexTest, EmptyFindsNothing) {
   tq::GroupIdIndex index;
-  EXPECT_EQ(index.Find(Folded("a")), tq::GroupIdIndex::None);
+  EXPECT_EQ(index.Find(Folded("a")), tq::GroupIdIndex::kNone);
   index.Build(0, [](std::size_t) { return tq::FoldedId{}; });
-  EXPECT_EQ(index.Find(Folded("")), tq::GroupIdIndex::None);
+  EXPECT_EQ(index.Find(Folded("")), tq::GroupIdIndex::kNone);
   index.Append(Folded("a"));
   EXPECT_EQ(index.Find(Folded("A")), 0u);
 }
@@ -51,10 +51,10 @@ TEST(GroupIdIndexTest, AnswersAsAPlainSearch) {
       const std::string id = anyId();
       const std::uint32_t first = PlainFind(numbers, id, 0);
       ASSERT_EQ(index.Find(Folded(id)), first);
-      if (first != tq::GroupIdIndex::None) {
+      if (first != tq::GroupIdIndex::kNone) {
         ASSERT_EQ(index.Next(first), PlainFind(numbers, id, first + 1));
       }
-      if (step % 3 == 0 && first != tq::GroupIdIndex::None) {
+      if (step % 3 == 0 && first != tq::GroupIdIndex::kNone) {
         index.RemoveFirst(first);
         numbers[first].reset();
       } else if (step % 3 == 1) {

@@ -39,7 +39,7 @@ struct OpenTables : CSymbolTableMgr {
 
 class SymbolTablesTest : public StandInTest {
 protected:
-  static constexpr int recordSize = 19;
+  static constexpr int kRecordSize = 19;
 
   // All tables of the market, with exchanges 1 and 2 as defaults.
   void Start() {
@@ -54,7 +54,7 @@ protected:
   static std::string Packed(std::initializer_list<std::string> symbols) {
     std::string bytes;
     for (std::string symbol : symbols) {
-      symbol.resize(recordSize, '\0');
+      symbol.resize(kRecordSize, '\0');
       bytes += symbol;
     }
     return bytes;

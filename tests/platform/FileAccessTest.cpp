@@ -11,14 +11,14 @@ using tq::ReadResult;
 using tq::SaveResult;
 using tqtest::TestDirectory;
 
-constexpr size_t Plenty = 1 << 20;
+constexpr size_t kPlenty = 1 << 20;
 
 SaveResult Save(const TestDirectory& directory, const std::string& bytes) {
   return Files().SaveWholeFile(directory.File("SymbolList.xml").c_str(), bytes.data(),
                                bytes.size());
 }
 
-ReadResult Read(const std::string& path, std::string& bytes, size_t limit = Plenty) {
+ReadResult Read(const std::string& path, std::string& bytes, size_t limit = kPlenty) {
   bytes = "before";
   return Files().ReadWholeFile(path.c_str(), limit, bytes);
 }
@@ -132,7 +132,7 @@ TEST(FileAccess, WhatAKilledSaveLeftIsOverwrittenAndGone) {
 
 // A directory name may end in a double-byte character whose trail byte is a backslash, and hold others.
 TEST(FileAccess, DirectoryNamesMayEndInATrailByteBackslash) {
-  const bool big5 = tq::AnsiCodePage() == tq::CodePageBig5;
+  const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string names[] = {big5 ? "\xB3\x5C\xA5\x5C\xBB\x5C" : "\x97\x5C",
                                big5 ? "\xA5\x5C" : "\x90\x5C", big5 ? "\xA5\x7C" : "\x8D\x5C"};
   for (const std::string& name : names) {

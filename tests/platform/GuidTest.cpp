@@ -8,7 +8,7 @@
 namespace {
 
 std::string Text(const tq::Guid& guid) {
-  char text[tq::GuidTextLength + 1];
+  char text[tq::kGuidTextLength + 1];
   tq::FormatGuid(guid, text);
   return text;
 }

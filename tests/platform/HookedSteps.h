@@ -23,7 +23,7 @@ enum class Step {
   RemoveNewTarget,
 };
 
-inline constexpr Step AllSteps[] = {
+inline constexpr Step kAllSteps[] = {
     Step::OpenTarget,    Step::OpenTemporary,  Step::WriteTemporary,  Step::FlushTemporary,
     Step::ReplaceTarget, Step::FlushDirectory, Step::RemoveTemporary, Step::ReserveTarget,
     Step::WriteTarget,   Step::FlushTarget,    Step::CloseTarget,     Step::RemoveNewTarget,

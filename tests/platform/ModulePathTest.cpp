@@ -28,7 +28,7 @@ TEST(ModulePath, ADirectoryEndsBeforeTheLastSeparator) {
 // A file name may hold double-byte characters whose trail byte is a backslash.
 TEST(ModulePath, ATrailByteIsNoSeparator) {
   const std::string name =
-      tq::AnsiCodePage() == tq::CodePageBig5 ? "\xB3\x5C\xA5\x5C" : "\x81\x5C\x97\x5C";
+      tq::AnsiCodePage() == tq::kCodePageBig5 ? "\xB3\x5C\xA5\x5C" : "\x81\x5C\x97\x5C";
   EXPECT_EQ("/a", tq::DirectoryOf("/a/" + name));
   EXPECT_EQ("/" + name, tq::DirectoryOf("/" + name + "/" + name + "x"));
 }

@@ -15,10 +15,10 @@ namespace tqtest {
 
 namespace {
 
-constexpr size_t Size = 60'000;
-const std::string Old(Size, 'o');
-const std::string New(Size + 777, 'n');
-constexpr char FileName[] = "SymbolList.xml";
+constexpr size_t kSize = 60'000;
+const std::string Old(kSize, 'o');
+const std::string New(kSize + 777, 'n');
+constexpr char kFileName[] = "SymbolList.xml";
 
 // argument: <'b' or 'a': before or after><step as a letter><path>
 void SaveAndEndAtStep(const std::string& argument) {
@@ -91,10 +91,10 @@ bool IsWhole(const std::string& bytes) {
 }
 
 void ExpectThatSavingGoesOn(const TestDirectory& directory) {
-  const std::string path = directory.File(FileName);
+  const std::string path = directory.File(kFileName);
   EXPECT_EQ(tq::SaveResult::Saved, tq::Files().SaveWholeFile(path.c_str(), "short", 5));
-  EXPECT_EQ("short", directory.Read(FileName));
-  EXPECT_EQ(FileName, directory.List()) << "left over";
+  EXPECT_EQ("short", directory.Read(kFileName));
+  EXPECT_EQ(kFileName, directory.List()) << "left over";
 }
 
 } // namespace
@@ -106,25 +106,25 @@ int ChildBodyNumber(ChildBody body) {
 }
 
 ChildBody ChildBodyByNumber(int number) {
-  return Bodies[number];
+  return kBodies[number];
 }
 
 TEST(SaveKill, AKillAroundAnyStepLeavesTheOldFileOrTheNew) {
   const TestDirectory directory("data");
-  const std::string path = directory.File(FileName);
+  const std::string path = directory.File(kFileName);
   int killed = 0;
-  for (Step step : AllSteps) {
+  for (Step step : kAllSteps) {
     if (step > Step::FlushDirectory)
       break; // the rest is cleaning up after failures and saving in place
     for (char when : {'b', 'a'}) {
       SCOPED_TRACE(std::string(1, when) + std::to_string(static_cast<int>(step)));
-      directory.Write(FileName, Old);
+      directory.Write(kFileName, Old);
       const char letter = static_cast<char>('A' + static_cast<int>(step));
       killed += RunChild(SaveAndEndAtStep, std::string{when, letter} + path) ? 0 : 1;
       const bool replaced =
           step > Step::ReplaceTarget || (step == Step::ReplaceTarget && when == 'a');
-      EXPECT_EQ(replaced ? New.size() : Old.size(), directory.Read(FileName).size());
-      EXPECT_TRUE(IsWhole(directory.Read(FileName)));
+      EXPECT_EQ(replaced ? New.size() : Old.size(), directory.Read(kFileName).size());
+      EXPECT_TRUE(IsWhole(directory.Read(kFileName)));
       ExpectThatSavingGoesOn(directory);
     }
   }
@@ -159,14 +159,14 @@ TEST(SaveKill, AKillAroundAnyStepOfKeepingLosesNothing) {
 // Kills `saver` so many times, each time within so many microseconds.
 void KillAtRandomTimes(ChildBody saver, int kills, int longest) {
   const TestDirectory directory("data");
-  const std::string path = directory.File(FileName);
-  directory.Write(FileName, Old);
+  const std::string path = directory.File(kFileName);
+  directory.Write(kFileName, Old);
   std::mt19937 random(20'290'101);
   std::uniform_int_distribution<int> microseconds(0, longest);
   int damaged = 0;
   for (int i = 0; i < kills; ++i) {
     RunChild(saver, path, microseconds(random));
-    damaged += IsWhole(directory.Read(FileName)) ? 0 : 1;
+    damaged += IsWhole(directory.Read(kFileName)) ? 0 : 1;
   }
   EXPECT_EQ(0, damaged);
   ExpectThatSavingGoesOn(directory);

@@ -14,8 +14,8 @@ using tqtest::HookedSteps;
 using tqtest::Step;
 using tqtest::TestDirectory;
 
-const std::string Old = "the old lists";
-const std::string New = "the new lists, rather longer than the old ones";
+const std::string kOld = "the old lists";
+const std::string kNew = "the new lists, rather longer than the old ones";
 
 struct Trouble {
   Step step;
@@ -31,10 +31,10 @@ SaveResult Save(const TestDirectory& directory, const std::vector<Trouble>& trou
     }
     return Fate::Proceed;
   });
-  return tq::RunSave(steps, New.data(), New.size());
+  return tq::RunSave(steps, kNew.data(), kNew.size());
 }
 
-constexpr Trouble NoReplacing = {Step::ReplaceTarget, Fate::Refuse};
+constexpr Trouble kNoReplacing = {Step::ReplaceTarget, Fate::Refuse};
 
 struct Case {
   const char* what;
@@ -43,7 +43,7 @@ struct Case {
   SaveResult whenNew;
 };
 
-const Case KeepingTheOldFile[] = {
+const Case kKeepingTheOldFile[] = {
     {"target not writable",
      {{Step::OpenTarget, Fate::Fail}},
      SaveResult::NotOpened,
@@ -63,7 +63,7 @@ const Case KeepingTheOldFile[] = {
      SaveResult::Failed,
      SaveResult::Failed},
     {"replacing refused, no room in place",
-     {NoReplacing, {Step::ReserveTarget, Fate::Fail}},
+     {kNoReplacing, {Step::ReserveTarget, Fate::Fail}},
      SaveResult::Failed,
      SaveResult::NotOpened},
     {"temporary file refused, no room in place",
@@ -73,18 +73,18 @@ const Case KeepingTheOldFile[] = {
 };
 
 TEST(SaveSteps, AFailingStepKeepsTheOldFileAndLeavesNothingBeside) {
-  for (const Case& c : KeepingTheOldFile) {
+  for (const Case& c : kKeepingTheOldFile) {
     SCOPED_TRACE(c.what);
     TestDirectory directory("data");
-    directory.Write("SymbolList.xml", Old);
+    directory.Write("SymbolList.xml", kOld);
     EXPECT_EQ(c.whenThere, Save(directory, c.troubles));
-    EXPECT_EQ(Old, directory.Read("SymbolList.xml"));
+    EXPECT_EQ(kOld, directory.Read("SymbolList.xml"));
     EXPECT_EQ("SymbolList.xml", directory.List());
   }
 }
 
 TEST(SaveSteps, AFailingStepLeavesNoNewFile) {
-  for (const Case& c : KeepingTheOldFile) {
+  for (const Case& c : kKeepingTheOldFile) {
     SCOPED_TRACE(c.what);
     TestDirectory directory("data");
     EXPECT_EQ(c.whenNew, Save(directory, c.troubles));
@@ -92,24 +92,24 @@ TEST(SaveSteps, AFailingStepLeavesNoNewFile) {
   }
 }
 
-const Case InPlace[] = {
+const Case kInPlace[] = {
     {"temporary file refused",
      {{Step::OpenTemporary, Fate::Refuse}},
      SaveResult::Saved,
      SaveResult::Saved},
-    {"replacing refused", {NoReplacing}, SaveResult::Saved, SaveResult::Saved},
+    {"replacing refused", {kNoReplacing}, SaveResult::Saved, SaveResult::Saved},
 };
 
 TEST(SaveSteps, WhereReplacingIsRefusedTheFileIsWrittenInPlace) {
-  for (const Case& c : InPlace) {
+  for (const Case& c : kInPlace) {
     SCOPED_TRACE(c.what);
     TestDirectory directory("data");
     EXPECT_EQ(c.whenNew, Save(directory, c.troubles));
-    EXPECT_EQ(New, directory.Read("SymbolList.xml"));
-    for (const std::string& before : {Old, Old + std::string(1000, 'x'), std::string()}) {
+    EXPECT_EQ(kNew, directory.Read("SymbolList.xml"));
+    for (const std::string& before : {kOld, kOld + std::string(1000, 'x'), std::string()}) {
       directory.Write("SymbolList.xml", before);
       EXPECT_EQ(c.whenThere, Save(directory, c.troubles));
-      EXPECT_EQ(New, directory.Read("SymbolList.xml"));
+      EXPECT_EQ(kNew, directory.Read("SymbolList.xml"));
       EXPECT_EQ("SymbolList.xml", directory.List());
     }
   }
@@ -122,10 +122,10 @@ TEST(SaveSteps, AFailureInPlaceIsReportedAndLeavesNoNewFile) {
                               {Step::CloseTarget, Fate::Fail}};
   for (const Trouble& failure : failures) {
     TestDirectory directory("data");
-    EXPECT_EQ(SaveResult::Failed, Save(directory, {NoReplacing, failure}));
+    EXPECT_EQ(SaveResult::Failed, Save(directory, {kNoReplacing, failure}));
     EXPECT_EQ("", directory.List());
-    directory.Write("SymbolList.xml", Old);
-    EXPECT_EQ(SaveResult::Failed, Save(directory, {NoReplacing, failure}));
+    directory.Write("SymbolList.xml", kOld);
+    EXPECT_EQ(SaveResult::Failed, Save(directory, {kNoReplacing, failure}));
     EXPECT_EQ("SymbolList.xml", directory.List());
   }
 }
@@ -133,7 +133,7 @@ TEST(SaveSteps, AFailureInPlaceIsReportedAndLeavesNoNewFile) {
 TEST(SaveSteps, ADirectoryThatCannotBeFlushedIsNoFailure) {
   TestDirectory directory("data");
   EXPECT_EQ(SaveResult::Saved, Save(directory, {{Step::FlushDirectory, Fate::Fail}}));
-  EXPECT_EQ(New, directory.Read("SymbolList.xml"));
+  EXPECT_EQ(kNew, directory.Read("SymbolList.xml"));
 }
 
 TEST(SaveSteps, TheStepsOfAnUndisturbedSaveAreFew) {
@@ -143,7 +143,7 @@ TEST(SaveSteps, TheStepsOfAnUndisturbedSaveAreFew) {
     taken += static_cast<char>('0' + static_cast<int>(step));
     return Fate::Proceed;
   });
-  EXPECT_EQ(SaveResult::Saved, tq::RunSave(steps, New.data(), New.size()));
+  EXPECT_EQ(SaveResult::Saved, tq::RunSave(steps, kNew.data(), kNew.size()));
   EXPECT_EQ("012345", taken);
 }
 

@@ -33,11 +33,11 @@ private:
 // What a child process does; ends before the process when it is killed.
 using ChildBody = void (*)(const std::string& argument);
 
-constexpr int NotKilled = -1;
+constexpr int kNotKilled = -1;
 
 // Runs `body` in another process, on Windows by starting this program again. Kills it after so many
-// microseconds unless NotKilled, and waits for its end. True when it came to its own end.
-bool RunChild(ChildBody body, const std::string& argument, int killAfter = NotKilled);
+// microseconds unless kNotKilled, and waits for its end. True when it came to its own end.
+bool RunChild(ChildBody body, const std::string& argument, int killAfter = kNotKilled);
 
 // How many kills at random times this system can do in about two seconds.
 int RandomKills();

@@ -81,7 +81,7 @@ std::string Dump(const tq::XmlDocument& document) {
 
 // Where the expectation for this process's language stands; empty when the file is not meant for it.
 fs::path ExpectationOf(fs::path file) {
-  const char* language = tq::AnsiCodePage() == tq::CodePageBig5 ? ".tw.expected" : ".cn.expected";
+  const char* language = tq::AnsiCodePage() == tq::kCodePageBig5 ? ".tw.expected" : ".cn.expected";
   const fs::path always = file.replace_extension(".expected");
   fs::path own = file.replace_extension(language);
   if (fs::exists(own))

@@ -24,7 +24,7 @@ bool Loads(const std::string& file) {
 
 // The declaration that the list writer would write now.
 std::string OwnDeclaration() {
-  const bool big5 = tq::AnsiCodePage() == tq::CodePageBig5;
+  const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   return std::string("<?xml version='1.0' encoding='") + (big5 ? "big5" : "gb2312") + "' ?>";
 }
 
@@ -69,8 +69,8 @@ TEST(XmlText, AFileThatNeedsNoChangeIsNotCopied) {
 }
 
 TEST(XmlText, AFileOfTheLargestSizeIsReadAndALargerOneIsNot) {
-  std::string file = "<a b='" + std::string(tq::XmlSizeLimit - 9, 'x') + "'/>";
-  ASSERT_EQ(tq::XmlSizeLimit, file.size());
+  std::string file = "<a b='" + std::string(tq::kXmlSizeLimit - 9, 'x') + "'/>";
+  ASSERT_EQ(tq::kXmlSizeLimit, file.size());
   EXPECT_EQ(XmlVerdict::Ok, Prepare(file));
   file.insert(6, 1, 'x');
   EXPECT_EQ(XmlVerdict::TooLarge, Prepare(file));
@@ -87,12 +87,12 @@ TEST(XmlText, NestingIsBoundedBeforeTheDomSeesIt) {
       file += "</a>";
     return file;
   };
-  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::XmlDepthLimit, "")));
-  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::XmlDepthLimit - 1, "<b/><b/>")));
-  EXPECT_EQ(XmlVerdict::TooDeep, Prepare(nested(tq::XmlDepthLimit, "<b/>")));
+  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::kXmlDepthLimit, "")));
+  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::kXmlDepthLimit - 1, "<b/><b/>")));
+  EXPECT_EQ(XmlVerdict::TooDeep, Prepare(nested(tq::kXmlDepthLimit, "<b/>")));
   EXPECT_EQ(XmlVerdict::TooDeep, Prepare(nested(1'000'000, "")));
   EXPECT_EQ(XmlVerdict::Malformed, Prepare(std::string(100'000, '<')));
-  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::XmlDepthLimit, "<!-- <b><b> -->")));
+  EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::kXmlDepthLimit, "<!-- <b><b> -->")));
 }
 
 // 80,000 attributes in one element took the DOM 105 seconds, two million different names 156.
@@ -143,7 +143,7 @@ TEST(XmlText, NamesThatTheDomsTreatDifferentlyTravelAsHexadecimal) {
 // Every pair of bytes that is built like a character of the code page comes out as it went in, assigned
 // or not; every other pair refuses the file.
 TEST(XmlText, EveryDoubleByteCharacterComesOutAsItsOwnBytes) {
-  const bool big5 = tq::AnsiCodePage() == tq::CodePageBig5;
+  const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string start = OwnDeclaration() + "<a b='";
   std::string all;
   for (unsigned lead = 0x80; lead <= 0xFF; ++lead) {

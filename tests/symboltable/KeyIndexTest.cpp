@@ -31,7 +31,7 @@ protected:
   }
   bool Has(std::uint32_t node, std::uint32_t hash) const {
     const KeyIndex::Slot slot = Find(node, hash);
-    if (slot == KeyIndex::NoSlot)
+    if (slot == KeyIndex::kNoSlot)
       return false;
     EXPECT_EQ(index.At(slot).node, node);
     EXPECT_EQ(index.At(slot).value, ValueOf(node));
@@ -77,7 +77,7 @@ TEST_F(KeyIndexTest, KeysLongerThanTheirCodesAreToldApartByTheirNodes) {
   };
   EXPECT_EQ(index.At(slotOf(leftKey, 0)).value, 10);
   EXPECT_EQ(index.At(slotOf(rightKey, 1)).value, 11);
-  EXPECT_EQ(slotOf(leftKey, 2), KeyIndex::NoSlot);
+  EXPECT_EQ(slotOf(leftKey, 2), KeyIndex::kNoSlot);
 }
 
 TEST_F(KeyIndexTest, ReservedRoomIsNotOutgrown) {

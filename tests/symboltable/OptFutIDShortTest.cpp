@@ -6,8 +6,8 @@
 
 namespace {
 
-const std::set<int> AllErrors = {0,  1,  3,  4,  5,  6,  8,   9,   11,  12,  13,
-                                 14, 15, 16, 17, 18, 19, 100, 101, 102, 103, 104};
+const std::set<int> kAllErrors = {0,  1,  3,  4,  5,  6,  8,   9,   11,  12,  13,
+                                  14, 15, 16, 17, 18, 19, 100, 101, 102, 103, 104};
 
 // Visits all texts of `least` to `most` characters.
 template <class Visit>
@@ -62,7 +62,7 @@ protected:
     char side2 = '2';
     if (!id.SeparateID(text, 'B', id1, side1, id2, side2, check)) {
       EXPECT_TRUE(id1.IsEmpty() && id2.IsEmpty() && side1 == '1' && side2 == '2');
-      EXPECT_TRUE(AllErrors.contains(id.GetErrorCode()));
+      EXPECT_TRUE(kAllErrors.contains(id.GetErrorCode()));
       return "error " + std::to_string(id.GetErrorCode());
     }
     if (check) {
@@ -86,7 +86,7 @@ protected:
         merged = id.MergeFuturID(text, side, id1, 'S', id2, 'B');
       EXPECT_EQ(merged != 0, !text.IsEmpty());
       EXPECT_EQ(merged != 0, side == 'B' || side == 'S');
-      EXPECT_TRUE(AllErrors.contains(id.GetErrorCode()));
+      EXPECT_TRUE(kAllErrors.contains(id.GetErrorCode()));
     }
   }
 };

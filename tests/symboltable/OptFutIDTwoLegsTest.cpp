@@ -6,7 +6,7 @@
 
 namespace {
 
-const std::string Letters = "ABCDEFGHIJKLMNOPQRSTUVWX"; // twelve calls, twelve puts
+const std::string kLetters = "ABCDEFGHIJKLMNOPQRSTUVWX"; // twelve calls, twelve puts
 
 // The years of two legs: equal, in order, out of order, over a decade's end, too far apart.
 struct Years {
@@ -14,8 +14,8 @@ struct Years {
   char second;
   int order; // of the years: 0 equal, 1 the first earlier, 2 later, -1 more than one apart
 };
-const Years AllYears[] = {{'6', '6', 0}, {'6', '7', 1},  {'7', '6', 2},  {'9', '0', 1},
-                          {'0', '9', 2}, {'9', '1', -1}, {'0', '8', -1}, {'9', '9', 0}};
+const Years kAllYears[] = {{'6', '6', 0}, {'6', '7', 1},  {'7', '6', 2},  {'9', '0', 1},
+                           {'0', '9', 2}, {'9', '1', -1}, {'0', '8', -1}, {'9', '9', 0}};
 
 // One pair, and what is true of it.
 struct Pair {
@@ -41,9 +41,9 @@ struct Pair {
 };
 
 template <class Visit> void ForEachPair(Visit visit) {
-  for (const char letter1 : Letters)
-    for (const char letter2 : Letters)
-      for (const Years& years : AllYears)
+  for (const char letter1 : kLetters)
+    for (const char letter2 : kLetters)
+      for (const Years& years : kAllYears)
         for (const int strikes : {0, 1, 2})
           visit(Pair{letter1, letter2, years, strikes});
 }
@@ -124,9 +124,9 @@ TEST_F(OptFutIDTwoLegs, TypedTimeSpreadsAreCheckedByKindAndOrder) {
 }
 
 TEST_F(OptFutIDTwoLegs, TypedPriceSpreadsAreCheckedByStrikes) {
-  for (const char letter : Letters)
+  for (const char letter : kLetters)
     for (const int strikes : {0, 1, 2}) {
-      const Pair pair{letter, letter, AllYears[0], strikes};
+      const Pair pair{letter, letter, kAllYears[0], strikes};
       const std::string text = pair.Id1().substr(0, 8) + "/" + pair.Id2().substr(3);
       Expect(Typed(text), PriceSpreadError(pair), text);
     }

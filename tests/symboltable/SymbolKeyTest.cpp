@@ -168,12 +168,12 @@ std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
   for (std::uint64_t lower = 0; keys.size() < count; ++lower) {
     const std::uint64_t first = 0x4141414141414141u + (lower & 0xf);
     const std::uint64_t second = (wantedUpperHalf << 32 | lower) * inverse ^ tq::MixWords(0, first);
-    if (second >> 56 != tq::CodedBytes)
+    if (second >> 56 != tq::kCodedBytes)
       continue;
     std::string key(16, '\0');
     std::memcpy(key.data(), &first, 8);
     std::memcpy(key.data() + 8, &second, 8);
-    key.resize(tq::CodedBytes);
+    key.resize(tq::kCodedBytes);
     keys.insert(key);
   }
   return keys;

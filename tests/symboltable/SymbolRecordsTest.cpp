@@ -10,7 +10,7 @@ namespace {
 std::string Packed(std::initializer_list<std::string> symbols) {
   std::string bytes;
   for (std::string symbol : symbols) {
-    symbol.resize(tq::SymbolRecordSize, '\0');
+    symbol.resize(tq::kSymbolRecordSize, '\0');
     bytes += symbol;
   }
   return bytes;

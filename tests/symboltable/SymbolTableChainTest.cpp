@@ -21,7 +21,7 @@ bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
 
 class PlainTable {
 public:
-  explicit PlainTable(int exchId) : mode(tq::HashModeOf(exchId)), chains(tq::BucketCount) {}
+  explicit PlainTable(int exchId) : mode(tq::HashModeOf(exchId)), chains(tq::kBucketCount) {}
 
   void Insert(const PlainSymbol& symbol) { ChainOf(symbol.key).push_back(symbol); }
   PlainSymbol* Find(std::string_view key) {
@@ -113,7 +113,7 @@ protected:
     ASSERT_EQ(item, nullptr);
   }
   void CompareAll() {
-    for (int bucket = 0; bucket < tq::BucketCount; ++bucket) {
+    for (int bucket = 0; bucket < tq::kBucketCount; ++bucket) {
       const CSymbolItem* item = table.Head(bucket);
       for (const PlainSymbol& symbol : plain.chains[static_cast<std::size_t>(bucket)]) {
         ASSERT_EQ(LotOf(item), symbol.lot);

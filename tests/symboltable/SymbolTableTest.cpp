@@ -22,7 +22,7 @@ TEST_F(TableTest, NewTableIsEmptyAndNotEntitled) {
   EXPECT_EQ(table.FindId("A"), nullptr);
   EXPECT_EQ(table.FindId(""), nullptr);
   EXPECT_FALSE(table.IsAuthorized());
-  for (int bucket = 0; bucket < tq::BucketCount; ++bucket)
+  for (int bucket = 0; bucket < tq::kBucketCount; ++bucket)
     EXPECT_EQ(table.Head(bucket), nullptr);
 }
 

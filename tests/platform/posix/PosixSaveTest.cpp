@@ -19,8 +19,8 @@ using tq::Files;
 using tq::SaveResult;
 using tqtest::TestDirectory;
 
-constexpr uid_t Nobody = 65534;
-constexpr char Name[] = "SymbolList.xml";
+constexpr uid_t kNobody = 65534;
+constexpr char kName[] = "SymbolList.xml";
 
 SaveResult Save(const std::string& path, const std::string& bytes) {
   return Files().SaveWholeFile(path.c_str(), bytes.data(), bytes.size());
@@ -28,7 +28,7 @@ SaveResult Save(const std::string& path, const std::string& bytes) {
 
 // A right is no obstacle to the superuser: children give it up.
 void BecomeNobody() {
-  if (::geteuid() == 0 && ::setuid(Nobody) != 0)
+  if (::geteuid() == 0 && ::setuid(kNobody) != 0)
     ::_exit(2);
 }
 
@@ -38,7 +38,7 @@ void ExitUnless(bool expected) {
 
 void Own(const std::string& path) {
   if (::geteuid() == 0) {
-    ASSERT_EQ(0, ::chown(path.c_str(), Nobody, Nobody));
+    ASSERT_EQ(0, ::chown(path.c_str(), kNobody, kNobody));
   }
 }
 
@@ -50,43 +50,43 @@ void LetEverybodyEnter(const TestDirectory& directory) {
 TEST(PosixSave, AReadOnlyFileIsRefusedThoughItsDirectoryWouldLetUsReplaceIt) {
   const TestDirectory directory("data");
   LetEverybodyEnter(directory);
-  directory.Write(Name, "old");
+  directory.Write(kName, "old");
   Own(directory.Path());
-  Own(directory.OsFile(Name));
-  fs::permissions(directory.OsFile(Name), fs::perms(0444));
+  Own(directory.OsFile(kName));
+  fs::permissions(directory.OsFile(kName), fs::perms(0444));
   const auto body = [](const std::string& path) {
     BecomeNobody();
     ExitUnless(Save(path, "new") == SaveResult::NotOpened);
   };
-  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
-  EXPECT_EQ("old", directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(kName)));
+  EXPECT_EQ("old", directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(PosixSave, InADirectoryThatMayNotBeWrittenTheFileIsWrittenInPlace) {
   const TestDirectory directory("data");
   LetEverybodyEnter(directory);
-  directory.Write(Name, "an old text that is longer");
-  Own(directory.OsFile(Name));
+  directory.Write(kName, "an old text that is longer");
+  Own(directory.OsFile(kName));
   fs::permissions(directory.Path(), fs::perms(0555));
   const auto body = [](const std::string& path) {
     BecomeNobody();
     ExitUnless(Save(path, "new") == SaveResult::Saved &&
                Save(path + "2", "x") == SaveResult::NotOpened);
   };
-  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(kName)));
   fs::permissions(directory.Path(), fs::perms(0755));
-  EXPECT_EQ("new", directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ("new", directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(PosixSave, ALinkStaysOneAndItsFileIsReplaced) {
   const TestDirectory directory("data");
   directory.Write("real.xml", "old");
   fs::create_symlink("real.xml", directory.OsFile("middle.xml"));
-  fs::create_symlink(directory.OsFile("middle.xml"), directory.OsFile(Name));
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-  EXPECT_TRUE(fs::is_symlink(directory.OsFile(Name)));
+  fs::create_symlink(directory.OsFile("middle.xml"), directory.OsFile(kName));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+  EXPECT_TRUE(fs::is_symlink(directory.OsFile(kName)));
   EXPECT_TRUE(fs::is_symlink(directory.OsFile("middle.xml")));
   EXPECT_FALSE(fs::is_symlink(directory.OsFile("real.xml")));
   EXPECT_EQ("new", directory.Read("real.xml"));
@@ -94,9 +94,9 @@ TEST(PosixSave, ALinkStaysOneAndItsFileIsReplaced) {
 
 TEST(PosixSave, ALinkToAFileThatIsNotThereYetMakesIt) {
   const TestDirectory directory("data");
-  fs::create_symlink("real.xml", directory.OsFile(Name));
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-  EXPECT_TRUE(fs::is_symlink(directory.OsFile(Name)));
+  fs::create_symlink("real.xml", directory.OsFile(kName));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+  EXPECT_TRUE(fs::is_symlink(directory.OsFile(kName)));
   EXPECT_EQ("new", directory.Read("real.xml"));
 }
 
@@ -109,24 +109,24 @@ TEST(PosixSave, LinksInACircleAreRefused) {
 
 TEST(PosixSave, AnotherNameOfTheFileKeepsTheOldBytes) {
   const TestDirectory directory("data");
-  directory.Write(Name, "old");
-  fs::create_hard_link(directory.OsFile(Name), directory.OsFile("snapshot.xml"));
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-  EXPECT_EQ("new", directory.Read(Name));
+  directory.Write(kName, "old");
+  fs::create_hard_link(directory.OsFile(kName), directory.OsFile("snapshot.xml"));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+  EXPECT_EQ("new", directory.Read(kName));
   EXPECT_EQ("old", directory.Read("snapshot.xml"));
 }
 
 TEST(PosixSave, ModeAndOwnerAreKept) {
   const TestDirectory directory("data");
-  directory.Write(Name, "old");
-  Own(directory.OsFile(Name));
+  directory.Write(kName, "old");
+  Own(directory.OsFile(kName));
   for (mode_t mode : {0640U, 0600U, 0664U}) {
-    ASSERT_EQ(0, ::chmod(directory.OsFile(Name).c_str(), mode));
+    ASSERT_EQ(0, ::chmod(directory.OsFile(kName).c_str(), mode));
     struct stat before;
     struct stat after;
-    ASSERT_EQ(0, ::stat(directory.OsFile(Name).c_str(), &before));
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-    ASSERT_EQ(0, ::stat(directory.OsFile(Name).c_str(), &after));
+    ASSERT_EQ(0, ::stat(directory.OsFile(kName).c_str(), &before));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+    ASSERT_EQ(0, ::stat(directory.OsFile(kName).c_str(), &after));
     EXPECT_NE(before.st_ino, after.st_ino) << "replaced";
     EXPECT_EQ(before.st_mode, after.st_mode);
     EXPECT_EQ(before.st_uid, after.st_uid);
@@ -137,32 +137,32 @@ TEST(PosixSave, ModeAndOwnerAreKept) {
 TEST(PosixSave, ANewFileGetsTheModeOfAnyNewFile) {
   const TestDirectory directory("data");
   directory.Write("other.xml", "");
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
   EXPECT_EQ(fs::status(directory.OsFile("other.xml")).permissions(),
-            fs::status(directory.OsFile(Name)).permissions());
+            fs::status(directory.OsFile(kName)).permissions());
 }
 
 TEST(PosixSave, AFullDiskKeepsTheOldFileAndLeavesNothingBeside) {
   const TestDirectory directory("data");
   const std::string old(3000, 'o');
-  directory.Write(Name, old);
+  directory.Write(kName, old);
   const auto body = [](const std::string& path) {
     const rlimit small = {4096, 4096}; // no file may grow beyond
     ::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, &small);
     ExitUnless(Save(path, std::string(5000, 'n')) == SaveResult::Failed);
   };
-  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
-  EXPECT_EQ(old, directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(kName)));
+  EXPECT_EQ(old, directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(PosixSave, AFullDiskInPlaceKeepsTheOldFile) {
   const TestDirectory directory("data");
   LetEverybodyEnter(directory);
   const std::string old(3000, 'o');
-  directory.Write(Name, old);
-  Own(directory.OsFile(Name));
+  directory.Write(kName, old);
+  Own(directory.OsFile(kName));
   fs::permissions(directory.Path(), fs::perms(0555));
   const auto body = [](const std::string& path) {
     const rlimit small = {4096, 4096};
@@ -171,9 +171,9 @@ TEST(PosixSave, AFullDiskInPlaceKeepsTheOldFile) {
     BecomeNobody();
     ExitUnless(Save(path, std::string(5000, 'n')) == SaveResult::Failed);
   };
-  EXPECT_TRUE(tqtest::RunChild(body, directory.File(Name)));
+  EXPECT_TRUE(tqtest::RunChild(body, directory.File(kName)));
   fs::permissions(directory.Path(), fs::perms(0755));
-  EXPECT_EQ(old, directory.Read(Name));
+  EXPECT_EQ(old, directory.Read(kName));
 }
 
 TEST(PosixSave, ADeviceIsWrittenAndNotReplaced) {
@@ -188,33 +188,33 @@ TEST(PosixSave, ADeviceIsWrittenAndNotReplaced) {
 
 TEST(PosixSave, APipeDoesNotHangTheTerminal) {
   const TestDirectory directory("data");
-  ASSERT_EQ(0, ::mkfifo(directory.OsFile(Name).c_str(), 0600));
+  ASSERT_EQ(0, ::mkfifo(directory.OsFile(kName).c_str(), 0600));
   std::string bytes;
-  EXPECT_EQ(SaveResult::NotOpened, Save(directory.File(Name), "new"));
+  EXPECT_EQ(SaveResult::NotOpened, Save(directory.File(kName), "new"));
   EXPECT_EQ(tq::ReadResult::Failed,
-            Files().ReadWholeFile(directory.File(Name).c_str(), 100, bytes));
+            Files().ReadWholeFile(directory.File(kName).c_str(), 100, bytes));
 }
 
 TEST(PosixSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
   const TestDirectory directory("data");
-  directory.Write(Name, "old");
+  directory.Write(kName, "old");
   const int other =
       ::open(directory.OsFile("SymbolList.xml.tmp").c_str(), O_CREAT | O_WRONLY, 0600);
   ASSERT_EQ(0, ::flock(other, LOCK_EX));
-  EXPECT_EQ(SaveResult::Failed, Save(directory.File(Name), "new"));
-  EXPECT_EQ("old", directory.Read(Name));
+  EXPECT_EQ(SaveResult::Failed, Save(directory.File(kName), "new"));
+  EXPECT_EQ("old", directory.Read(kName));
   ::close(other);
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(PosixSave, ALinkUnderTheTemporaryNameIsNotFollowed) {
   const TestDirectory directory("data");
-  directory.Write(Name, "old");
+  directory.Write(kName, "old");
   directory.Write("victim.txt", "precious");
   fs::create_symlink("victim.txt", directory.OsFile("SymbolList.xml.tmp"));
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+  EXPECT_EQ("new", directory.Read(kName));
   EXPECT_EQ("precious", directory.Read("victim.txt"));
 }
 
@@ -293,9 +293,9 @@ TEST(PosixSave, DirectoryNamesMayBeInAnyEncoding) {
        {"\xE8\xA8\xB1", "\xB3\x5C\xA5\x5C", "\xA5\x5C", "caf\xE9", "back\\slash", "a b"}) {
     const TestDirectory directory(name);
     EXPECT_TRUE(Files().DirectoryExists(directory.Path().c_str()));
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), name));
-    EXPECT_EQ(name, directory.Read(Name));
-    EXPECT_EQ(Name, directory.List());
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), name));
+    EXPECT_EQ(name, directory.Read(kName));
+    EXPECT_EQ(kName, directory.List());
   }
 }
 

@@ -51,7 +51,7 @@ void EndIn(int microseconds) {
 bool RunChild(ChildBody body, const std::string& argument, int killAfter) {
   const pid_t child = ::fork();
   if (child == 0) {
-    if (killAfter != NotKilled)
+    if (killAfter != kNotKilled)
       EndIn(killAfter);
     body(argument);
     ::_exit(0);

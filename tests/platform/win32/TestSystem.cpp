@@ -76,7 +76,7 @@ bool RunChild(ChildBody body, const std::string& argument, int killAfter) {
   if (::CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr,
                        nullptr, &startup, &process) == 0)
     return false;
-  if (killAfter != NotKilled) {
+  if (killAfter != kNotKilled) {
     ::Sleep(static_cast<DWORD>(killAfter / 1000));
     ::TerminateProcess(process.hProcess, 1);
   }

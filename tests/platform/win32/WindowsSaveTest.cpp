@@ -15,11 +15,11 @@ using tq::Files;
 using tq::SaveResult;
 using tqtest::TestDirectory;
 
-constexpr char Name[] = "SymbolList.xml";
-const std::string Old = "old, and a good deal longer";
+constexpr char kName[] = "SymbolList.xml";
+const std::string kOld = "old, and a good deal longer";
 
 SaveResult Save(const TestDirectory& directory) {
-  return Files().SaveWholeFile(directory.File(Name).c_str(), "new", 3);
+  return Files().SaveWholeFile(directory.File(kName).c_str(), "new", 3);
 }
 
 // Another program that holds a file.
@@ -39,59 +39,59 @@ private:
 
 TEST(WindowsSave, AFileHeldWithoutShareWriteIsRefused) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   for (DWORD share : {0UL, static_cast<DWORD>(FILE_SHARE_READ),
                       static_cast<DWORD>(FILE_SHARE_READ | FILE_SHARE_DELETE)}) {
-    const Holder holder(directory.File(Name), share);
+    const Holder holder(directory.File(kName), share);
     EXPECT_EQ(SaveResult::NotOpened, Save(directory));
   }
-  EXPECT_EQ(Old, directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ(kOld, directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(WindowsSave, AFileHeldWithoutShareDeleteIsWrittenInPlace) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   {
-    const Holder holder(directory.File(Name), FILE_SHARE_READ | FILE_SHARE_WRITE);
+    const Holder holder(directory.File(kName), FILE_SHARE_READ | FILE_SHARE_WRITE);
     EXPECT_EQ(SaveResult::Saved, Save(directory));
   }
-  EXPECT_EQ("new", directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ("new", directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(WindowsSave, AFileHeldWithAllSharingIsSaved) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   {
-    const Holder holder(directory.File(Name),
+    const Holder holder(directory.File(kName),
                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE);
     EXPECT_EQ(SaveResult::Saved, Save(directory));
   }
-  EXPECT_EQ("new", directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ("new", directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(WindowsSave, AReadOnlyFileIsRefused) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
-  ::SetFileAttributesA(directory.File(Name).c_str(), FILE_ATTRIBUTE_READONLY);
+  directory.Write(kName, kOld);
+  ::SetFileAttributesA(directory.File(kName).c_str(), FILE_ATTRIBUTE_READONLY);
   EXPECT_EQ(SaveResult::NotOpened, Save(directory));
-  EXPECT_EQ(Old, directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ(kOld, directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 TEST(WindowsSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   {
     const Holder holder(directory.File("SymbolList.xml.tmp"), FILE_SHARE_DELETE, CREATE_NEW);
     EXPECT_EQ(SaveResult::Failed, Save(directory));
-    EXPECT_EQ(Old, directory.Read(Name));
+    EXPECT_EQ(kOld, directory.Read(kName));
   }
   EXPECT_EQ(SaveResult::Saved, Save(directory));
-  EXPECT_EQ("new", directory.Read(Name));
-  EXPECT_EQ(Name, directory.List());
+  EXPECT_EQ("new", directory.Read(kName));
+  EXPECT_EQ(kName, directory.List());
 }
 
 // A target that another program held without share-write for a moment was given up at once.
@@ -163,11 +163,11 @@ TEST(WindowsSave, AFileThatSomebodyHoldsIsThereAllTheSame) {
 
 TEST(WindowsSave, AReaderWithoutSharingMakesReadingFail) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
-  const Holder holder(directory.File(Name), 0);
+  directory.Write(kName, kOld);
+  const Holder holder(directory.File(kName), 0);
   std::string bytes;
   EXPECT_EQ(tq::ReadResult::Failed,
-            Files().ReadWholeFile(directory.File(Name).c_str(), 100, bytes));
+            Files().ReadWholeFile(directory.File(kName).c_str(), 100, bytes));
 }
 
 } // namespace
