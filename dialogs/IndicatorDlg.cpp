@@ -46,7 +46,7 @@ bool IndicatorDlg::OnInitDialog() {
   table_ = IndicatorTable::Read(kind_.table);
   const int input = InputRow();
   FillCombo(kRegions, kAllRegions, table_.Regions(), StartRegion(input));
-  FillCombo(kCategories, kAllCategories, table_.Categories(), IndicatorTable::All);
+  FillCombo(kCategories, kAllCategories, table_.Categories(), IndicatorTable::kAll);
   PrepareList();
   FillList();
   SelectRow(input);
@@ -56,9 +56,9 @@ bool IndicatorDlg::OnInitDialog() {
 // Tables begin with the region that their users ask for most. A row that the terminal asks for is
 // to be seen.
 int IndicatorDlg::StartRegion(int input) const {
-  if (input != IndicatorTable::NoRow)
+  if (input != IndicatorTable::kNoRow)
     return table_.RegionOf(input);
-  return table_.Regions().IsEmpty() ? IndicatorTable::All : IndicatorTable::FirstRegion;
+  return table_.Regions().IsEmpty() ? IndicatorTable::kAll : IndicatorTable::kFirstRegion;
 }
 
 void IndicatorDlg::FillCombo(int id, unsigned allEntry, const CStringArray& texts, int chosen) {
@@ -91,15 +91,15 @@ void IndicatorDlg::FillList() {
 int IndicatorDlg::InputRow() const {
   for (const CString& input : inputs_) {
     const int row = table_.Find(input);
-    if (row != IndicatorTable::NoRow)
+    if (row != IndicatorTable::kNoRow)
       return row;
   }
-  return IndicatorTable::NoRow;
+  return IndicatorTable::kNoRow;
 }
 
 void IndicatorDlg::SelectRow(int row) {
   CListCtrl list(*this, kList);
-  const int count = row == IndicatorTable::NoRow ? 0 : list.GetRowCount();
+  const int count = row == IndicatorTable::kNoRow ? 0 : list.GetRowCount();
   for (int i = 0; i < count; ++i) {
     if (list.GetItemData(i) == row) {
       list.SetCurSel(i);

@@ -82,8 +82,8 @@ std::vector<CString> IndicatorTable::Titles(const std::vector<int>& rows) const 
   }
   for (size_t i = 0; i < rows.size(); ++i) {
     const int region = RegionOf(rows[i]);
-    if (region != All && counts[titles[i]] > 1)
-      titles[i] += "(" + regions_[region - FirstRegion] + ")";
+    if (region != kAll && counts[titles[i]] > 1)
+      titles[i] += "(" + regions_[region - kFirstRegion] + ")";
   }
   return titles;
 }
@@ -100,12 +100,12 @@ IndicatorTexts IndicatorTable::Texts(int row) const {
 
 int IndicatorTable::Find(const char* text) const {
   if (text == nullptr || *text == '\0')
-    return NoRow;
-  int named = NoRow;
+    return kNoRow;
+  int named = kNoRow;
   for (int i = 0; i < GetRowCount(); ++i) {
     if (Column(i, InfoCode).CompareNoCase(text) == 0)
       return i;
-    if (named == NoRow && Column(i, InfoName).CompareNoCase(text) == 0)
+    if (named == kNoRow && Column(i, InfoName).CompareNoCase(text) == 0)
       named = i;
   }
   return named;

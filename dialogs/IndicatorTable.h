@@ -30,10 +30,10 @@ public:
   static IndicatorTable Read(InfoType type);
 
   // The number that stands for all regions, or all categories. The others count from 1.
-  static constexpr int All = 0;
-  static constexpr int FirstRegion = 1;
+  static constexpr int kAll = 0;
+  static constexpr int kFirstRegion = 1;
   // In place of a row's number where there is none.
-  static constexpr int NoRow = -1;
+  static constexpr int kNoRow = -1;
   // Each text that a row has, once, in the order in which they first come: number 1 is the first of
   // them.
   const CStringArray& Regions() const { return regions_; }
@@ -49,10 +49,10 @@ public:
   int GetRowCount() const { return static_cast<int>(rows_.size()); }
   // These take the number of a row, which is there.
   IndicatorTexts Texts(int row) const;
-  int RegionOf(int row) const; // its number; All for a row without one
+  int RegionOf(int row) const; // its number; kAll for a row without one
 
   // The first row whose code is the text, or else the first with that name; letter case is ignored.
-  // NoRow when there is none, and for an empty text.
+  // kNoRow when there is none, and for an empty text.
   int Find(const char* text) const;
 
 private:

@@ -7,6 +7,7 @@
 #include "platform/XmlText.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LibraryString.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
@@ -36,7 +37,7 @@ CString WithoutBadIds(const CString& symbols) {
     return symbols;
   CString kept;
   std::string_view piece;
-  for (size_t at = 0; NextPiece(View(symbols), at, piece);) {
+  for (size_t at = 0; NextPiece(ViewOf(symbols), at, piece);) {
     if (piece.find_first_of(kNotForAFile) != std::string_view::npos)
       continue;
     if (!kept.IsEmpty())

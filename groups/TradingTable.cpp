@@ -6,16 +6,13 @@
 #include "groups/TradingFile.h"
 #include "groups/TradingService.h"
 #include "platform/FileAccess.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
 
 CString ToText(std::string_view text) {
   return CString(text.data(), static_cast<int>(text.size()));
-}
-
-std::string_view View(const CString& text) {
-  return std::string_view(text.GetString(), static_cast<size_t>(text.GetLength()));
 }
 
 } // namespace
@@ -35,7 +32,7 @@ CString CAccount::ListId() const {
 }
 
 bool CAccount::HasId(const CString& id) const {
-  return FieldText(info.id) == View(id);
+  return FieldText(info.id) == ViewOf(id);
 }
 
 CString CTS::Id() const {
@@ -73,7 +70,7 @@ const CTS* TradingTable::Find(const CString& tsId) const {
 
 int TradingTable::IndexOf(const CString& tsId) const {
   for (size_t i = 0; i < systems_.size(); ++i) {
-    if (FieldText(systems_[i].info.id) == View(tsId))
+    if (FieldText(systems_[i].info.id) == ViewOf(tsId))
       return static_cast<int>(i);
   }
   return -1;

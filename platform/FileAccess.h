@@ -55,7 +55,7 @@ public:
 
   // Reads the whole file into `bytes`, which is replaced when the result is Ok and emptied otherwise.
   // `limit` is the largest size accepted, in bytes. A file whose size or time changes while it is read,
-  // because somebody writes it in place, is read again, ReadTries times in all (platform/ReadSteps.h), and
+  // because somebody writes it in place, is read again, kReadTries times in all (platform/ReadSteps.h), and
   // gives Failed when it does not come to rest.
   virtual ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) = 0;
 

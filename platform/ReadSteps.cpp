@@ -4,7 +4,7 @@ namespace tq {
 
 ReadResult RunRead(ReadSteps& steps, std::size_t limit, std::string& bytes) {
   FileStamp before;
-  for (int i = 0; i < ReadTries; ++i) {
+  for (int i = 0; i < kReadTries; ++i) {
     bytes.clear();
     if (!steps.Stamp(before))
       return ReadResult::Failed;

@@ -10,7 +10,7 @@
 namespace tq {
 
 // How often a file is read that changes under the reader's hands.
-inline constexpr int ReadTries = 5;
+inline constexpr int kReadTries = 5;
 
 // One open file.
 class ReadSteps {

@@ -12,7 +12,7 @@ struct EncodingName {
   std::string_view name;
   XmlEncoding encoding;
 };
-constexpr EncodingName EncodingNames[] = {
+constexpr EncodingName kEncodingNames[] = {
     {"big5", XmlEncoding::Big5},     {"cp950", XmlEncoding::Big5},
     {"x-x-big5", XmlEncoding::Big5}, {"gb2312", XmlEncoding::Gbk},
     {"gbk", XmlEncoding::Gbk},       {"cp936", XmlEncoding::Gbk},
@@ -98,7 +98,7 @@ bool TakeDeclaration(Reader& reader, std::string_view& encoding) {
 
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration) {
   Reader reader(file);
-  const bool marked = declaration.encoding == XmlEncoding::Utf8 && reader.Take(Utf8Mark);
+  const bool marked = declaration.encoding == XmlEncoding::Utf8 && reader.Take(kUtf8Mark);
   declaration.length = file.size() - reader.Left();
   // A longer name, as of an instruction for style sheets, is no declaration.
   constexpr std::string_view opening = "<?xml";

@@ -206,9 +206,9 @@ bool Scanner::TakeName(std::string_view& name) {
   name = {start, static_cast<std::size_t>(at_ - start)};
   if (name.empty())
     return Refuse(XmlVerdict::Malformed);
-  if (name.size() > XmlNameLengthLimit || !names_.Add(name))
+  if (name.size() > kXmlNameLengthLimit || !names_.Add(name))
     return Refuse(XmlVerdict::TooMany);
-  if (foreign || name.starts_with(ForeignNameMark)) {
+  if (foreign || name.starts_with(kForeignNameMark)) {
     std::string travelling;
     AppendForeignName(name, travelling);
     at_ = start;
@@ -307,7 +307,7 @@ bool Scanner::TakeStartTag() {
     }
     if (!blank)
       return Refuse(XmlVerdict::Malformed);
-    if (attributes == XmlAttributeLimit)
+    if (attributes == kXmlAttributeLimit)
       return Refuse(XmlVerdict::TooMany);
     if (!TakeName(name) || !TakeEquals() || !TakeQuoted())
       return false;
@@ -318,7 +318,7 @@ bool Scanner::TakeStartTag() {
 bool Scanner::TakeMarkup() {
   if (StartsWith("</"))
     return TakeEndTag();
-  if (++pieces_ > XmlPieceLimit)
+  if (++pieces_ > kXmlPieceLimit)
     return Refuse(XmlVerdict::TooMany);
   if (StartsWith("<!--")) {
     at_ += 4;

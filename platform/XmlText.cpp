@@ -40,7 +40,7 @@ bool IsStructured(unsigned codePage, std::string_view text) {
 // The buffer holds the text, in UTF-8.
 XmlVerdict ScanDecoded(XmlText& text) {
   std::string rewritten;
-  const XmlVerdict verdict = ScanXml(text.buffer, XmlCharset::Utf8, CodePageBig5, rewritten);
+  const XmlVerdict verdict = ScanXml(text.buffer, XmlCharset::Utf8, kCodePageBig5, rewritten);
   if (!rewritten.empty())
     text.buffer.swap(rewritten);
   text.utf8 = text.buffer;
@@ -175,7 +175,7 @@ void AssignXmlName(std::string_view name, bool carried, CString& value) {
 }
 
 bool IsXmlNamespace(std::string_view name) {
-  return name == "xmlns" || name.starts_with(ForeignDeclarationMark);
+  return name == "xmlns" || name.starts_with(kForeignDeclarationMark);
 }
 
 void AssignXmlText(std::string_view utf8, bool carried, CString& value) {

@@ -22,14 +22,14 @@ namespace tq {
 // the terminal's memory.
 inline constexpr std::size_t kXmlSizeLimit = std::size_t{64} << 20;
 // Deepest nesting of elements, the root being 1. The list files have 3.
-inline constexpr int XmlDepthLimit = 64;
+inline constexpr int kXmlDepthLimit = 64;
 // What a hostile file could make a DOM slow with: pieces of markup (elements, comments, CDATA sections,
 // instructions) of the whole text, attributes of one element, different names, bytes of a name. The list
 // files have an element for each list, four attributes and eight names.
-inline constexpr int XmlPieceLimit = 1'000'000;
-inline constexpr int XmlAttributeLimit = 64;
-inline constexpr int XmlNameLimit = 256;
-inline constexpr std::size_t XmlNameLengthLimit = 256;
+inline constexpr int kXmlPieceLimit = 1'000'000;
+inline constexpr int kXmlAttributeLimit = 64;
+inline constexpr int kXmlNameLimit = 256;
+inline constexpr std::size_t kXmlNameLengthLimit = 256;
 // First code point of the plane that carries double-byte characters.
 inline constexpr char32_t kCarriedBase = 0xF0000;
 

@@ -5,9 +5,9 @@
 namespace tq {
 namespace {
 
-constexpr std::string_view LittleMark = "\xFF\xFE";
-constexpr std::string_view BigMark = "\xFE\xFF";
-constexpr std::string_view Utf32Mark{"\xFF\xFE\0\0", 4};
+constexpr std::string_view kLittleMark = "\xFF\xFE";
+constexpr std::string_view kBigMark = "\xFE\xFF";
+constexpr std::string_view kUtf32Mark{"\xFF\xFE\0\0", 4};
 
 class Units {
 public:
@@ -59,15 +59,15 @@ void Append(char32_t character, std::string& utf8) {
 } // namespace
 
 bool IsUtf16(std::string_view file) {
-  return (file.starts_with(LittleMark) && !file.starts_with(Utf32Mark)) ||
-         file.starts_with(BigMark);
+  return (file.starts_with(kLittleMark) && !file.starts_with(kUtf32Mark)) ||
+         file.starts_with(kBigMark);
 }
 
 bool DecodeUtf16(std::string_view file, std::string& utf8) {
   utf8.clear();
   if (file.size() % 2 != 0)
     return false;
-  Units units(file.substr(LittleMark.size()), file.starts_with(LittleMark));
+  Units units(file.substr(kLittleMark.size()), file.starts_with(kLittleMark));
   while (!units.AtEnd()) {
     char32_t character = units.Take();
     if (IsLow(character) || (IsHigh(character) && (units.AtEnd() || !IsLow(units.Peek()))))

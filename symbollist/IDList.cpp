@@ -10,6 +10,8 @@
 #include "symbollist/RecordIndex.h"
 #include "symbollist/StorableText.h"
 #include "symboltable/ServiceArray.h"
+#include "symboltable/TextPieces.h"
+#include "symboltable/UpperText.h"
 
 namespace {
 
@@ -144,11 +146,11 @@ void CIDList::TakeRows(const SymbolInfo* found, int foundCount, int headings) {
   tq::RecordIndex index({found, static_cast<size_t>(foundCount)});
   std::string_view piece;
   unsigned token = 0;
-  for (size_t at = 0; count_ < capacity && tq::NextPiece(tq::View(ids_), at, piece); ++token) {
+  for (size_t at = 0; count_ < capacity && tq::NextPiece(tq::ViewOf(ids_), at, piece); ++token) {
     SymbolInfo& row = records[static_cast<size_t>(count_)];
     if (tq::IsHeading(piece))
       std::memcpy(row.id, tq::kHeadingMarker, sizeof(tq::kHeadingMarker));
-    else if (const SymbolInfo* record = index.Find(tq::WithoutBlanks(piece)))
+    else if (const SymbolInfo* record = index.Find(tq::Trimmed(piece)))
       std::memcpy(&row, record, sizeof(SymbolInfo));
     else
       continue;

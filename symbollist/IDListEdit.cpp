@@ -7,6 +7,7 @@
 #include "symbollist/IdString.h"
 #include "symbollist/RecordIndex.h"
 #include "symbollist/StorableText.h"
+#include "symboltable/UpperText.h"
 
 int CIDList::RemoveEntry(int row) {
   if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)
@@ -41,10 +42,11 @@ int CIDList::SwapEntries(int first, int second) {
 
 int CIDList::ReplaceEntry(int row, const CString& text) {
   const CString kept = tq::StorableText(text);
-  if (ResolveIfDue() != Rows::There || row < 0 || row >= count_ || !tq::IsOneToken(tq::View(kept)))
+  if (ResolveIfDue() != Rows::There || row < 0 || row >= count_ ||
+      !tq::IsOneToken(tq::ViewOf(kept)))
     return 0;
   std::vector<std::string_view> entries = Entries();
-  entries[rowTokens_[row]] = tq::View(kept);
+  entries[rowTokens_[row]] = tq::ViewOf(kept);
   return ChangeEntries(entries);
 }
 
@@ -54,7 +56,7 @@ int CIDList::InsertEntry(int row, const CString& text, bool before) {
   const Rows rows = ResolveIfDue();
   if (rows == Rows::ListGone || (rows == Rows::None && !ids_.IsEmpty()))
     return 0;
-  if (!tq::IsOneToken(tq::View(kept)) || (!tq::IsHeading(tq::View(kept)) && Holds(kept)))
+  if (!tq::IsOneToken(tq::ViewOf(kept)) || (!tq::IsHeading(tq::ViewOf(kept)) && Holds(kept)))
     return 0;
   std::vector<std::string_view> entries = Entries();
   size_t place = 0;
@@ -62,7 +64,7 @@ int CIDList::InsertEntry(int row, const CString& text, bool before) {
     place = entries.size();
   else if (row >= 0)
     place = rowTokens_[row] + (before ? 0 : 1);
-  entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(place), tq::View(kept));
+  entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(place), tq::ViewOf(kept));
   return ChangeEntries(entries);
 }
 
@@ -95,7 +97,7 @@ std::vector<std::string_view> CIDList::Entries() const {
   std::vector<std::string_view> entries;
   entries.reserve(static_cast<size_t>(tokens_.GetSize()));
   std::string_view piece;
-  for (size_t at = 0; tq::NextPiece(tq::View(ids_), at, piece);)
+  for (size_t at = 0; tq::NextPiece(tq::ViewOf(ids_), at, piece);)
     entries.push_back(piece);
   for (int row = 0; row < count_; ++row) {
     std::string_view& entry = entries[rowTokens_[row]];

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "symboltable/TextPieces.h"
+#include "symboltable/UpperText.h"
+
 namespace tq {
 namespace {
-
-// Those that CString trims. None of them is the second byte of a character in either code page.
-constexpr std::string_view kBlanks = " \t\n\v\f\r";
 
 int CountPieces(std::string_view ids) {
   int count = 0;
@@ -27,32 +27,26 @@ bool NextPiece(std::string_view ids, size_t& at, std::string_view& piece) {
     const size_t end = std::min(ids.find(',', at), ids.size());
     piece = ids.substr(at, end - at);
     at = end + 1;
-    if (piece.find_first_not_of(kBlanks) != std::string_view::npos)
+    if (!Trimmed(piece).empty())
       return true;
   }
   return false;
 }
 
-std::string_view WithoutBlanks(std::string_view piece) {
-  const size_t first = std::min(piece.find_first_not_of(kBlanks), piece.size());
-  return piece.substr(first, piece.find_last_not_of(kBlanks) + 1 - first);
-}
-
 bool IsOneToken(std::string_view text) {
-  return text.find_first_not_of(kBlanks) != std::string_view::npos &&
-         text.find(',') == std::string_view::npos;
+  return !Trimmed(text).empty() && text.find(',') == std::string_view::npos;
 }
 
 SplitIds SplitIdString(const CString& ids, CStringArray& tokens) {
   SplitIds result;
-  const std::string_view text = View(ids);
+  const std::string_view text = ViewOf(ids);
   tokens.SetSize(CountPieces(text));
   size_t plainLength = 0; // of the look-up string, were every piece an id without blanks
   std::string_view piece;
   int index = 0;
   for (size_t at = 0; NextPiece(text, at, piece); ++index) {
     const bool heading = IsHeading(piece);
-    const std::string_view token = heading ? piece : WithoutBlanks(piece);
+    const std::string_view token = heading ? piece : Trimmed(piece);
     tokens[index].SetString(token.data(), static_cast<int>(token.size()));
     if (heading)
       ++result.headings;
@@ -68,12 +62,12 @@ CString LookupString(const CString& ids) {
   CString lookup;
   lookup.Preallocate(ids.GetLength());
   std::string_view piece;
-  for (size_t at = 0; NextPiece(View(ids), at, piece);) {
+  for (size_t at = 0; NextPiece(ViewOf(ids), at, piece);) {
     if (IsHeading(piece))
       continue;
     if (!lookup.IsEmpty())
       lookup += ',';
-    const std::string_view id = WithoutBlanks(piece);
+    const std::string_view id = Trimmed(piece);
     lookup.Append(id.data(), static_cast<int>(id.size()));
   }
   return lookup;

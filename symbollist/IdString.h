@@ -24,15 +24,8 @@ bool IsHeading(std::string_view token);
 // `at`, which starts at 0, behind it. False at the end.
 bool NextPiece(std::string_view ids, size_t& at, std::string_view& piece);
 
-// A piece without the blanks around it.
-std::string_view WithoutBlanks(std::string_view piece);
-
 // Whether `text` can stand in an id string as one token: not empty, not only blanks, no ",".
 bool IsOneToken(std::string_view text);
-
-inline std::string_view View(const CString& text) {
-  return {text.GetString(), static_cast<size_t>(text.GetLength())};
-}
 
 struct SplitIds {
   int headings = 0;  // tokens that are headings

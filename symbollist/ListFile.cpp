@@ -40,7 +40,7 @@ std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
 
 bool CanBeLoaded(const std::string& text, int lists) {
   constexpr int kFrameElements = 2;
-  return text.size() <= XmlSizeLimit && lists <= XmlPieceLimit - kFrameElements;
+  return text.size() <= kXmlSizeLimit && lists <= kXmlPieceLimit - kFrameElements;
 }
 
 } // namespace tq

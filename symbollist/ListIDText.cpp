@@ -26,7 +26,7 @@ bool HasMarkInPlace(const CString& text) {
 // The digit of a type that needs an id, and nothing behind it.
 bool IsTypeWithoutItsId(const CString& text) {
   constexpr std::string_view typesWithId = "12378";
-  return text.GetLength() == TypeMarkPosition && typesWithId.find(text[0]) != typesWithId.npos;
+  return text.GetLength() == kTypeMarkPosition && typesWithId.find(text[0]) != typesWithId.npos;
 }
 
 struct GroupKind {
@@ -36,7 +36,7 @@ struct GroupKind {
 
 // The group types of three digits are never met, as one character is read. They are no licence to
 // read more of them: a terminal that stored "201,x" has lived with its being refused.
-constexpr GroupKind GroupKinds[] = {
+constexpr GroupKind kGroupKinds[] = {
     {1, ListIDGroup}, {201, ListIDGroup}, {3, ListIDGroup3}, {101, ListIDGroup101}};
 
 } // namespace

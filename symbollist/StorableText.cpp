@@ -9,6 +9,7 @@
 #include "symbollist/IdString.h"
 #include "symbollist/Log.h"
 #include "symbollist/TQSymbolListInfo.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
@@ -43,7 +44,7 @@ size_t FirstBadByte(std::string_view text) {
 } // namespace
 
 bool IsStorable(const CString& text) {
-  return FirstBadByte(View(text)) == View(text).size();
+  return FirstBadByte(ViewOf(text)) == ViewOf(text).size();
 }
 
 bool IsKeptWhole(const CString& id) {
@@ -52,7 +53,7 @@ bool IsKeptWhole(const CString& id) {
 }
 
 CString StorableText(const CString& text) {
-  const std::string_view all = View(text);
+  const std::string_view all = ViewOf(text);
   const size_t bad = FirstBadByte(all);
   if (bad == all.size())
     return text;

@@ -15,7 +15,7 @@ CTQSymbolListMgr::CTQSymbolListMgr()
     : symbolTables_(nullptr), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
       systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
       exchangeRecords_(nullptr), groups_(nullptr), cloudMap_(new tq::CloudMap),
-      tradingTable_(nullptr), keptFiles_(new tq::KeptFiles) {
+      keptFiles_(new tq::KeptFiles), tradingTable_(nullptr) {
   groups_ = new tq::GroupStore(
       [this](CGroupMgr& cloudGroups) { CCloudeListUtil::Refresh(cloudGroups, *cloudMap_); });
 }

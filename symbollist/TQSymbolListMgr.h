@@ -106,8 +106,9 @@ public:
   // without lists, and bytes that are kept already are not copied. A copy that cannot be made refuses the
   // save.
 
-  // Reads the working file. The lists in memory are destroyed first, so a file that cannot be read
-  // leaves none. Always 1: judge a load by the lists that it made. Ids are resolved as they are read.
+  // Reads the working file in the place of the lists in memory; a file that cannot be read leaves none.
+  // Always 1: judge a load by the lists that it made. Ids are resolved as they are read; calls from within
+  // the service meanwhile still find the lists of before, whole.
   int LoadSymbolList();
   // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0, after
   // message 48026 to the user, when the file could not be written, a copy of it could not be made, or the
@@ -558,7 +559,6 @@ private:
   CSymbolList* FindUserList(const char* id);
   int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
   void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
-  void AdoptSymbolList(CSymbolList* list);
   void PutSymbolList(CSymbolList* list, int append);
   std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
@@ -593,8 +593,8 @@ private:
   ExchInfo* exchangeRecords_; // the service's array, released with VLFree
   CUIntArray userDefaultExchanges_;
   CUIntArray exchangeOrder_;
-  tq::GroupStore* groups_;         // owned
-  tq::CloudMap* cloudMap_;         // owned
+  tq::GroupStore* groups_;          // owned
+  tq::CloudMap* cloudMap_;          // owned
   tq::KeptFiles* keptFiles_;        // owned
   tq::TradingTable* tradingTable_;  // owned; null until Init was first told to load trading lists
   unsigned tradingListChanges_ = 0; // lists of kind 6 that were added or removed so far

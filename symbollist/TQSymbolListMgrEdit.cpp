@@ -75,11 +75,6 @@ int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
   return 1;
 }
 
-void CTQSymbolListMgr::AdoptSymbolList(CSymbolList* list) {
-  ReplaceSymbolListExchID(list, tq::kMovedFromExchange, tq::kMovedToExchange);
-  PutSymbolList(list, 1);
-}
-
 void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
   if (append == 0)
     lists_.InsertAt(0, list);

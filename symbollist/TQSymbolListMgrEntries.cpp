@@ -3,6 +3,7 @@
 #include "symbollist/ListArray.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
+#include "symboltable/UpperText.h"
 
 CSymbolList* CTQSymbolListMgr::FindUserList(const char* id) {
   const int index = tq::FindListById(lists_, id);
@@ -19,7 +20,7 @@ int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, i
   CSymbolList* list = FindUserList(id);
   // Cleaned before the ":" is put behind it: a heading of nothing is no heading.
   const CString kept = tq::StorableText(text);
-  if (list == nullptr || !tq::IsOneToken(tq::View(kept)))
+  if (list == nullptr || !tq::IsOneToken(tq::ViewOf(kept)))
     return 0;
   return list->InsertEntry(position, heading != 0 ? kept + ":" : kept, before != 0);
 }

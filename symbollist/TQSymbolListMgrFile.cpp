@@ -100,9 +100,8 @@ int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
 }
 
 int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) {
-  // Before the file is even opened: a file that cannot be read leaves no lists.
-  ClearSymbolList();
   if (path.IsEmpty()) {
+    ClearSymbolList();
     keptFiles_->ForgetAll();
     return 1;
   }

@@ -9,10 +9,12 @@
 #include <utility>
 
 #include "platform/XmlText.h"
+#include "symbollist/ListArray.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symbollist/WriteBack.h"
+#include "symboltable/MovedSymbols.h"
 
 namespace {
 
@@ -49,7 +51,7 @@ tq::LoadOutcome OutcomeOf(tq::ReadResult result) {
 } // namespace
 
 bool CXMLDOMParser::Load(const CString& path) {
-  const tq::ReadResult result = tq::ReadContents(path, tq::XmlSizeLimit, contents_);
+  const tq::ReadResult result = tq::ReadContents(path, tq::kXmlSizeLimit, contents_);
   outcome_ = OutcomeOf(result);
   const bool loaded = result == tq::ReadResult::Ok &&
                       document_.Load(contents_.bytes.data(), contents_.bytes.size());
@@ -69,27 +71,37 @@ int CXMLDOMParser::GetDefaultIndex(const tq::XmlElement& symbolList) {
 
 void CXMLDOMParser::LoadSymbolList(const CString& path) {
   manager_.keptFiles_->BeginLoad();
+  CPtrArray lists;
+  int defaultIndex = manager_.defaultIndex_;
   if (Load(path))
-    outcome_ = FillManager();
+    outcome_ = ReadLists(lists, defaultIndex);
+  // Only now: while the ids are resolved the service may let the terminal save, or load again, and it must
+  // find the whole of the lists of before, not a part of these. A file that could not be read leaves none.
+  CPtrArray before;
+  before.Copy(manager_.lists_);
+  manager_.lists_.Copy(lists);
+  manager_.SetDefaultIndex(defaultIndex);
+  tq::DestroyLists(before);
   manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
   if (outcome_ == tq::LoadOutcome::Empty)
     manager_.SaveSymbolList();
 }
 
-tq::LoadOutcome CXMLDOMParser::FillManager() {
+tq::LoadOutcome CXMLDOMParser::ReadLists(CPtrArray& lists, int& defaultIndex) {
   const tq::XmlElement symbolList = document_.SelectSingle("/Result/SymbolList");
   if (symbolList.IsNull())
     return tq::LoadOutcome::NoListFile;
   // Nothing bounds the index by the number of lists: callers do.
-  manager_.SetDefaultIndex(GetDefaultIndex(symbolList));
+  defaultIndex = GetDefaultIndex(symbolList);
   const std::vector<tq::XmlElement> elements = document_.Select("/Result/SymbolList/List");
   for (const tq::XmlElement& element : elements) {
     auto list = std::make_unique<CSymbolList>();
     if (list->FillFromElement(element) == 0)
       return tq::LoadOutcome::EndedEarly;
-    manager_.AdoptSymbolList(list.release());
+    manager_.ReplaceSymbolListExchID(list.get(), tq::kMovedFromExchange, tq::kMovedToExchange);
+    lists.Add(list.release());
   }
-  const std::string text = tq::ListFileText(manager_.lists_, std::max(manager_.defaultIndex_, 0));
+  const std::string text = tq::ListFileText(lists, std::max(defaultIndex, 0));
   contents_.returns = tq::ComesBack(contents_.bytes, document_, text);
   return elements.empty() ? tq::LoadOutcome::Empty : tq::LoadOutcome::Whole;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/XmlDocument.h"
+#include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "symbollist/KeptFiles.h"
 
@@ -22,10 +23,10 @@ public:
   // in the log, when it is missing or no such number.
   static int GetDefaultIndex(const tq::XmlElement& symbolList);
 
-  // Loads the file and appends its lists to the manager, in document order, its default index with
-  // them; nothing happens when there is no document or it is no list file. The manager's knowledge of
-  // its files is told how that ended. A list file without any list is written anew at once, to the
-  // working file whichever file it was.
+  // Puts the file's lists, in document order, and its default index in the place of the manager's, all at
+  // once when they have been read. Without a document, or when it is no list file, the manager has no
+  // lists and keeps its index. The manager's knowledge of its files is told how that ended. A list file
+  // without any list is written anew at once, to the working file whichever file it was.
   void LoadSymbolList(const CString& path);
 
   // Status answers in their two forms: <Result Status='%d'>%s</Result> and
@@ -34,7 +35,7 @@ public:
   static CString FormatStatus(int status, const char* reason, const char* body);
 
 private:
-  tq::LoadOutcome FillManager();
+  tq::LoadOutcome ReadLists(CPtrArray& lists, int& defaultIndex);
 
   CTQSymbolListMgr& manager_;
   tq::XmlDocument document_;

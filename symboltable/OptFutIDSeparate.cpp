@@ -63,7 +63,7 @@ int COptFutID::SeparateID(const CString& id, char side, CString& id1, char& side
     return 0;
   id1 = leg1;
   id2 = leg2;
-  side1 = typed.mark == StraddleMark ? side : Opposite(side);
+  side1 = typed.mark == kStraddleMark ? side : Opposite(side);
   side2 = side;
   return 1;
 }

@@ -14,14 +14,14 @@
 namespace tq {
 namespace {
 
-constexpr useconds_t ReadPause = 10'000; // microseconds
+constexpr useconds_t kReadPause = 10'000; // microseconds
 
-constexpr std::uint64_t NanosecondsOfASecond = 1'000'000'000;
+constexpr std::uint64_t kNanosecondsOfASecond = 1'000'000'000;
 
 FileStamp StampOf(const struct stat& info) {
   FileStamp stamp;
   stamp.size = static_cast<std::uint64_t>(info.st_size);
-  stamp.modified = static_cast<std::uint64_t>(info.st_mtim.tv_sec) * NanosecondsOfASecond +
+  stamp.modified = static_cast<std::uint64_t>(info.st_mtim.tv_sec) * kNanosecondsOfASecond +
                    static_cast<std::uint64_t>(info.st_mtim.tv_nsec);
   stamp.volume = info.st_dev;
   stamp.index = info.st_ino;
@@ -55,7 +55,7 @@ public:
     return true;
   }
 
-  void Pause() override { ::usleep(ReadPause); }
+  void Pause() override { ::usleep(kReadPause); }
 
 private:
   const int file_;

@@ -136,9 +136,9 @@ bool PosixSaveSteps::IsTemporary(const struct stat& open) const {
 // The lock keeps a second process from writing into a temporary file that is about to take the
 // target's place; it goes with the process that holds it. Failed when somebody else holds it throughout.
 StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
-  for (int i = 0; i < LockTries; ++i) {
+  for (int i = 0; i < kLockTries; ++i) {
     if (!temporaryFile_.Open(temporary_, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK,
-                             existed_ ? old_.st_mode & 07777 : NewFileMode))
+                             existed_ ? old_.st_mode & 07777 : kNewFileMode))
       return WhyNotReplaced();
     if (::fstat(temporaryFile_.Get(), &locked) != 0)
       return StepResult::Failed;

@@ -12,8 +12,8 @@
 namespace tq {
 namespace {
 
-constexpr DWORD ReadPause = 10; // milliseconds
-constexpr std::uint64_t OneCall = std::numeric_limits<DWORD>::max() - 1;
+constexpr DWORD kReadPause = 10; // milliseconds
+constexpr std::uint64_t kOneCall = std::numeric_limits<DWORD>::max() - 1;
 
 std::uint64_t Join(DWORD high, DWORD low) {
   return static_cast<std::uint64_t>(high) << 32 | low;
@@ -49,7 +49,7 @@ public:
            got == bytes.size();
   }
 
-  void Pause() override { ::Sleep(ReadPause); }
+  void Pause() override { ::Sleep(kReadPause); }
 
 private:
   const HANDLE file_;
@@ -66,10 +66,10 @@ public:
   ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
     bytes.clear();
     FileHandle file;
-    if (!file.Open(SystemPath(path), GENERIC_READ, ShareAll, OPEN_EXISTING))
+    if (!file.Open(SystemPath(path), GENERIC_READ, kShareAll, OPEN_EXISTING))
       return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
     WindowsReadSteps steps(file.Get());
-    return RunRead(steps, std::min<std::uint64_t>(limit, OneCall), bytes);
+    return RunRead(steps, std::min<std::uint64_t>(limit, kOneCall), bytes);
   }
 
   SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
@@ -89,7 +89,7 @@ public:
   FileState StateOf(const char* path, FileStamp& stamp) override {
     stamp = {};
     FileHandle file; // for its attributes alone, which nobody's sharing forbids
-    if (!file.Open(SystemPath(path), FILE_READ_ATTRIBUTES, ShareAll, OPEN_EXISTING,
+    if (!file.Open(SystemPath(path), FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING,
                    FILE_FLAG_BACKUP_SEMANTICS))
       return IsMissing() ? FileState::Missing : FileState::Unknown;
     BY_HANDLE_FILE_INFORMATION info;

@@ -38,7 +38,7 @@ bool IsTooLong(const std::wstring& path) {
 // program that copies it does.
 bool OpenPatiently(FileHandle& file, const std::wstring& path, DWORD disposition) {
   for (int i = 0; i < SharingTries; ++i) {
-    if (file.Open(path, GENERIC_WRITE, ShareAll, disposition))
+    if (file.Open(path, GENERIC_WRITE, kShareAll, disposition))
       return true;
     if (::GetLastError() != ERROR_SHARING_VIOLATION)
       return false;

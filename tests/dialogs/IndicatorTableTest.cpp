@@ -152,8 +152,8 @@ TEST(IndicatorTable, ARowsRegionIsItsNumber) {
   const IndicatorTable table = Table({{"R1"}, {"R2"}, {""}, {}, {"R1"}});
   EXPECT_EQ(table.RegionOf(0), 1);
   EXPECT_EQ(table.RegionOf(1), 2);
-  EXPECT_EQ(table.RegionOf(2), IndicatorTable::All);
-  EXPECT_EQ(table.RegionOf(3), IndicatorTable::All);
+  EXPECT_EQ(table.RegionOf(2), IndicatorTable::kAll);
+  EXPECT_EQ(table.RegionOf(3), IndicatorTable::kAll);
   EXPECT_EQ(table.RegionOf(4), 1);
 }
 

@@ -27,7 +27,7 @@ public:
   }
   bool renameFails = false;
   std::uint64_t later = 0; // as if every file had been written that much later
-  std::string failing;    // part of the path whose saves fail
+  std::string failing;     // part of the path whose saves fail
   int saves = 0;
 };
 

@@ -61,12 +61,12 @@ TEST(ReadSteps, AFileThatChangesIsReadAgainUntilItIsAtRest) {
   for (const bool longer : {false, true}) {
     ChangingFile file;
     file.longer = longer;
-    file.changes = tq::ReadTries - 1;
+    file.changes = tq::kReadTries - 1;
     std::string bytes;
     EXPECT_EQ(ReadResult::Ok, tq::RunRead(file, 100, bytes));
     EXPECT_EQ(file.bytes, bytes);
-    EXPECT_EQ(tq::ReadTries, file.reads);
-    EXPECT_EQ(tq::ReadTries - 1, file.pauses);
+    EXPECT_EQ(tq::kReadTries, file.reads);
+    EXPECT_EQ(tq::kReadTries - 1, file.pauses);
   }
 }
 
@@ -76,7 +76,7 @@ TEST(ReadSteps, AFileThatNeverRestsIsNotRead) {
   std::string bytes = "before";
   EXPECT_EQ(ReadResult::Failed, tq::RunRead(file, 100, bytes));
   EXPECT_EQ("", bytes);
-  EXPECT_EQ(tq::ReadTries, file.reads);
+  EXPECT_EQ(tq::kReadTries, file.reads);
 }
 
 TEST(ReadSteps, AFileThatGrowsOverTheLimitIsTooLarge) {

@@ -99,10 +99,10 @@ void ExpectThatSavingGoesOn(const TestDirectory& directory) {
 
 } // namespace
 
-constexpr ChildBody Bodies[] = {SaveAndEndAtStep, SaveForEver, KeepAndEndAtStep};
+constexpr ChildBody kBodies[] = {SaveAndEndAtStep, SaveForEver, KeepAndEndAtStep};
 
 int ChildBodyNumber(ChildBody body) {
-  return static_cast<int>(std::find(std::begin(Bodies), std::end(Bodies), body) - Bodies);
+  return static_cast<int>(std::find(std::begin(kBodies), std::end(kBodies), body) - kBodies);
 }
 
 ChildBody ChildBodyByNumber(int number) {
@@ -135,7 +135,7 @@ TEST(SaveKill, AKillAroundAnyStepLeavesTheOldFileOrTheNew) {
 TEST(SaveKill, AKillAroundAnyStepOfKeepingLosesNothing) {
   constexpr char copy[] = "SymbolList_Kept.xml";
   int killed = 0;
-  for (Step step : AllSteps) {
+  for (Step step : kAllSteps) {
     if (step > Step::FlushDirectory)
       break;
     for (char when : {'b', 'a'}) {

@@ -50,7 +50,8 @@ TEST(XmlText, EachReasonHasItsVerdict) {
       {"character of no name", "<a\xC3\x97/>", XmlVerdict::BadCharacters},
       {"no name", "<1/>", XmlVerdict::Malformed},
       {"attributes without a blank", "<a b='1'c='2'/>", XmlVerdict::Malformed},
-      {"long name", "<" + std::string(tq::XmlNameLengthLimit + 1, 'a') + "/>", XmlVerdict::TooMany},
+      {"long name", "<" + std::string(tq::kXmlNameLengthLimit + 1, 'a') + "/>",
+       XmlVerdict::TooMany},
       {"open tag", "<a b='c", XmlVerdict::Malformed},
       {"no element", "<!-- a -->", XmlVerdict::Malformed},
   };
@@ -111,7 +112,7 @@ TEST(XmlText, WhatWouldMakeADomSlowIsRefusedAtOnce) {
       "<a" + many(80'000, attribute) + "/>",
       "<a>" + many(2'000'000, element) + "</a>",
       "<a>" + many(200'000, instruction) + "</a>",
-      "<a>" + many(tq::XmlPieceLimit, comment) + "</a>",
+      "<a>" + many(tq::kXmlPieceLimit, comment) + "</a>",
   };
   const auto start = std::chrono::steady_clock::now();
   for (const std::string& file : files)
@@ -119,7 +120,7 @@ TEST(XmlText, WhatWouldMakeADomSlowIsRefusedAtOnce) {
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   for (const std::string& file : files)
     EXPECT_EQ(XmlVerdict::TooMany, Prepare(file)) << file.substr(0, 30);
-  EXPECT_EQ(XmlVerdict::Ok, Prepare("<a>" + many(tq::XmlPieceLimit - 1, comment) + "</a>"));
+  EXPECT_EQ(XmlVerdict::Ok, Prepare("<a>" + many(tq::kXmlPieceLimit - 1, comment) + "</a>"));
 }
 
 // The library asks for ASCII names alone; every other name reaches the DOM as one that all DOMs take.
