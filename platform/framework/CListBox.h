@@ -57,6 +57,12 @@ public:
   // otherwise the selected row is the caret row, and false the answer.
   bool SetCaretIndex(int row);
 
+  // With true, the whole text of a row that is wider than the box appears when the mouse rests on it. Off at
+  // the start. Not for a box that has a tip of its own (CDialog::SetToolTip).
+  void SetRowTips(bool on);
+  // What appears on that row: empty where the text fits, where there is no row, and while row tips are off.
+  CString GetRowTip(int row) const;
+
   // Scrolls as little as needed to show the row.
   bool EnsureVisible(int row);
   // Draws again what is in sight: after a change of what OnItemLook answers.

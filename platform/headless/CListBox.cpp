@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/headless/Windows.h"
+#include "platform/headless/HitTest.h"
 
 using namespace tq::headless;
 
@@ -116,6 +116,18 @@ bool CListBox::SetCaretIndex(int row) {
   Control* const box = Find(handle_);
   const bool isFree = box != nullptr && (box->IsMulti() || box->rows.CountSelected() == 0);
   return isFree && box->rows.SetCaret(row) && EnsureVisible(row);
+}
+
+void CListBox::SetRowTips(bool on) {
+  if (Control* const box = Find(handle_))
+    box->rowTips = on;
+}
+
+CString CListBox::GetRowTip(int row) const {
+  const Control* const box = Find(handle_);
+  const Row* const at = FindRow(handle_, row);
+  const bool has = at != nullptr && box->rowTips && !FitsInRow(*box, at->text);
+  return has ? at->text : CString();
 }
 
 bool CListBox::EnsureVisible(int row) {

@@ -8,6 +8,7 @@ namespace {
 
 // In dialog units, of which a line of text has eight from top to bottom.
 constexpr int kRowHeight = 8;
+constexpr int kByteWidth = 4; // a full-width character is two bytes and twice as wide
 constexpr int kBorder = 1;
 constexpr int kHeaderHeight = 12;
 constexpr int kClosedComboHeight = 12;
@@ -41,6 +42,10 @@ bool IsInFrontAt(const Control& control, const Place& place) {
 
 int RowsInSight(ControlKind kind, const Place& place) {
   return std::max(1, (place.height - kBorder - HeaderOf(kind)) / kRowHeight);
+}
+
+bool FitsInRow(const Control& list, const CString& text) {
+  return text.GetLength() * kByteWidth <= list.place.width - 2 * kBorder;
 }
 
 Place PlaceOfRow(const Control& list, int row) {

@@ -7,6 +7,8 @@ namespace tq::headless {
 
 // How many whole rows a list of that place shows.
 int RowsInSight(ControlKind kind, const Place& place);
+// Whether a text can be read whole in a row of the list.
+bool FitsInRow(const Control& list, const CString& text);
 // The place of a row that is in sight.
 Place PlaceOfRow(const Control& list, int row);
 

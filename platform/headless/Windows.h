@@ -41,6 +41,7 @@ struct Control : Node {
   unsigned style = 0;
   Place place;
   Rows rows;                   // list box, combo box, list view
+  bool rowTips = false;        // list box
   std::vector<Column> columns; // list view
   unsigned listStyles = 0;
   unsigned hoverTime = 0;

@@ -4,31 +4,8 @@
 #include <algorithm>
 
 #include "platform/framework/DialogAccess.h"
-#include "platform/win32/WindowRun.h"
 #include "platform/win32/WindowText.h"
-
-namespace {
-
-TTTOOLINFOW ToolOf(HWND dialog, HWND control) {
-  TTTOOLINFOW tool{};
-  tool.cbSize = TTTOOLINFOW_V2_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-  tool.hwnd = dialog;
-  tool.uId = reinterpret_cast<UINT_PTR>(control);
-  return tool;
-}
-
-// Owned by the dialog's window and gone with it.
-HWND TipWindowOf(tq::Run& run) {
-  if (run.tipWindow == nullptr) {
-    run.tipWindow = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                                      WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
-                                      run.window, nullptr, nullptr, nullptr);
-  }
-  return run.tipWindow;
-}
-
-} // namespace
+#include "platform/win32/WindowTips.h"
 
 CDialog* CDialog::FromHandle(WindowHandle handle) {
   const tq::Run* const run = tq::FindRun(handle);
@@ -56,15 +33,11 @@ void CDialog::SetToolTip(int controlId, const char* text) {
   const HWND control = CWnd(*this, controlId).GetSafeHwnd();
   if (run == nullptr || control == nullptr)
     return;
-  TTTOOLINFOW tool = ToolOf(run->window, control);
-  const HWND tips = TipWindowOf(*run);
-  ::SendMessageW(tips, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  run->tips.erase(controlId);
   std::wstring wide = tq::ToWide(text);
+  run->tips.erase(controlId);
+  tq::SetTip(*run, control, wide.empty() ? nullptr : wide.data());
   if (wide.empty())
     return;
-  tool.lpszText = wide.data();
-  ::SendMessageW(tips, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
   run->tips[controlId] = text;
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/win32/WindowListBox.h"
 #include "platform/win32/WindowText.h"
+#include "platform/win32/WindowTips.h"
 
 using tq::IsMultiBox;
 using tq::KeepPlace;
@@ -23,6 +24,19 @@ int Insert(HWND box, int row, const char* text) {
   const int at =
       tq::AskBox(box, LB_INSERTSTRING, Number(row), reinterpret_cast<LPARAM>(wide.c_str()));
   return at < 0 ? -1 : at;
+}
+
+bool FitsInRow(HWND box, const std::wstring& text) {
+  const HDC context = ::GetDC(box);
+  const auto font = reinterpret_cast<HGDIOBJ>(::SendMessageW(box, WM_GETFONT, 0, 0));
+  const HGDIOBJ before = ::SelectObject(context, font);
+  SIZE size{};
+  ::GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
+  ::SelectObject(context, before);
+  ::ReleaseDC(box, context);
+  RECT client{};
+  ::GetClientRect(box, &client);
+  return size.cx <= client.right;
 }
 
 void SelectOneOfSeveral(HWND box, int row) {
@@ -180,6 +194,19 @@ bool CListBox::SetCaretIndex(int row) {
   const bool isFree = IsMultiBox(handle_) || GetCurSel() == -1;
   return HasRow(handle_, row) && isFree &&
          tq::AskBox(handle_, LB_SETCARETINDEX, Number(row), FALSE) != LB_ERR && EnsureVisible(row);
+}
+
+void CListBox::SetRowTips(bool on) {
+  tq::Run* const run = tq::FindRun(::GetParent(handle_));
+  if (run != nullptr && handle_ != nullptr && tq::HasRowTips(handle_) != on)
+    tq::SetRowTips(*run, handle_, on);
+}
+
+CString CListBox::GetRowTip(int row) const {
+  if (handle_ == nullptr || !tq::HasRowTips(handle_))
+    return CString();
+  const CString text = GetItemText(row);
+  return FitsInRow(handle_, tq::ToWide(text)) ? CString() : text;
 }
 
 bool CListBox::EnsureVisible(int row) {

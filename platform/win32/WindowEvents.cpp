@@ -2,6 +2,7 @@
 #include "platform/framework/DialogAccess.h"
 #include "platform/win32/WindowRun.h"
 #include "platform/win32/WindowText.h"
+#include "platform/win32/WindowTips.h"
 
 namespace tq {
 
@@ -81,6 +82,8 @@ void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam) {
 }
 
 void TranslateNotify(Run& run, const NMHDR& header) {
+  if (header.code == TTN_GETDISPINFOW && header.hwndFrom == run.tipWindow)
+    return GiveRowTip(run, header);
   if (KindOf(header.hwndFrom) != ControlKind::ListView)
     return;
   if (header.code == LVN_GETDISPINFOW)

@@ -2,6 +2,7 @@
 #include "platform/framework/DialogAccess.h"
 #include "platform/win32/WindowFocus.h"
 #include "platform/win32/WindowKeys.h"
+#include "platform/win32/WindowTips.h"
 
 namespace tq {
 
@@ -15,6 +16,7 @@ void Deliver(MSG& message) {
   Run* const run = FindRunOf(message.hwnd);
   if (run != nullptr) {
     const HWND window = run->window;
+    NoteMouseOnRow(*run, message);
     if (IsMouseWithoutEffect(*run, message) || IsKeyDone(*run, message) ||
         ::IsDialogMessageW(window, &message))
       return;

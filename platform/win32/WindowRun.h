@@ -7,6 +7,7 @@
 
 #include <map>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "platform/framework/CDialog.h"
@@ -22,6 +23,8 @@ struct Run {
   std::set<int> selectionNews; // list views whose SelectionChanged is on its way
   std::map<int, CString> tips; // by control
   HWND tipWindow = nullptr;    // made for the first tip
+  std::wstring rowTip;         // of the row under the mouse, while it is shown
+  int tipRow = -1;             // that row
   HFONT boldFont = nullptr;    // made for the first bold row
   HWND focusBehind = nullptr;  // while it lies behind another dialog: where the focus will be
 };

@@ -268,6 +268,26 @@ TEST_F(ListBoxTest, ALongText) {
   });
 }
 
+TEST_F(ListBoxTest, RowsThatAreWiderThanTheBoxHaveTips) {
+  InBox([](User&, TestDialog& dialog, CListBox box) {
+    const CString wide = CString('x', 60) + TrickyText();
+    box.AddString(wide);
+    EXPECT_TRUE(box.GetRowTip(3).IsEmpty()); // off
+    box.SetRowTips(true);
+    EXPECT_EQ(box.GetRowTip(3), wide);
+    for (const int row : {-1, 0, 4})
+      EXPECT_TRUE(box.GetRowTip(row).IsEmpty()) << row;
+    box.SetItemText(3, "short");
+    EXPECT_TRUE(box.GetRowTip(3).IsEmpty());
+    box.SetItemText(3, wide);
+    box.SetRowTips(true);
+    EXPECT_EQ(box.GetRowTip(3), wide);
+    box.SetRowTips(false);
+    EXPECT_TRUE(box.GetRowTip(3).IsEmpty());
+    EXPECT_EQ(dialog.log, Log());
+  });
+}
+
 TEST_F(ListBoxTest, WithoutAWindowItIsAnEmptyBox) {
   for (CListBox box : {CListBox(), CListBox(CWnd(), kBox)}) {
     EXPECT_EQ(box.AddString("x"), -1);
@@ -282,6 +302,8 @@ TEST_F(ListBoxTest, WithoutAWindowItIsAnEmptyBox) {
     EXPECT_TRUE(box.GetItemText(0).IsEmpty());
     EXPECT_EQ(box.GetItemData(0), 0);
     box.RedrawItems();
+    box.SetRowTips(true);
+    EXPECT_TRUE(box.GetRowTip(0).IsEmpty());
   }
 }
 

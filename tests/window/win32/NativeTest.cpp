@@ -187,6 +187,49 @@ TEST_F(NativeTest, ToolTipsReachTheirWindow) {
   });
 }
 
+HWND TipsOf(const CDialog& dialog) {
+  HWND tips = nullptr;
+  while ((tips = ::FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr &&
+         ::GetWindow(tips, GW_OWNER) != dialog.GetSafeHwnd()) {
+  }
+  return tips;
+}
+
+// As the tip window asks for it when the mouse rests.
+std::string TipUnderTheMouse(const CDialog& dialog, HWND box, int row) {
+  RECT place{};
+  ::SendMessageW(box, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+  POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  ::ClientToScreen(box, &middle);
+  ::SetCursorPos(middle.x, middle.y);
+  NMTTDISPINFOW asked{};
+  asked.hdr = {TipsOf(dialog), reinterpret_cast<UINT_PTR>(box), TTN_GETDISPINFOW};
+  asked.lpszText = asked.szText;
+  ::SendMessageW(dialog.GetSafeHwnd(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&asked));
+  ::SetCursorPos(0, 0);
+  std::string text;
+  for (const wchar_t* at = asked.lpszText; *at != L'\0'; ++at)
+    text += static_cast<char>(*at);
+  return text;
+}
+
+TEST_F(NativeTest, TheTipOfARowIsThatUnderTheMouse) {
+  InDialog([](User&, TestDialog& dialog) {
+    CListBox box(dialog, 781);
+    box.AddString("short");
+    box.AddString(CString('x', 60));
+    box.AddString(CString('y', 70));
+    box.SetRowTips(true);
+    ASSERT_NE(TipsOf(dialog), nullptr);
+    EXPECT_EQ(::SendMessageW(TipsOf(dialog), TTM_GETTOOLCOUNT, 0, 0), 1);
+    EXPECT_EQ(TipUnderTheMouse(dialog, box.GetSafeHwnd(), 0), "");
+    EXPECT_EQ(TipUnderTheMouse(dialog, box.GetSafeHwnd(), 1), std::string(60, 'x'));
+    EXPECT_EQ(TipUnderTheMouse(dialog, box.GetSafeHwnd(), 2), std::string(70, 'y'));
+    box.SetRowTips(false);
+    EXPECT_EQ(::SendMessageW(TipsOf(dialog), TTM_GETTOOLCOUNT, 0, 0), 0);
+  });
+}
+
 TEST_F(NativeTest, TheWaitCursorIsTheSystems) {
   SetCursorShape(CursorShape::Wait);
   EXPECT_EQ(::GetCursor(), ::LoadCursorA(nullptr, IDC_WAIT));
