@@ -11,7 +11,6 @@
 #include "symbollist/Notify.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
-#include "symboltable/MovedSymbols.h"
 
 namespace {
 
@@ -88,9 +87,7 @@ int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) {
     CSymbolList* source = tq::ListAt(*lists, i);
     if (source == nullptr)
       continue;
-    // In the caller's list too, on purpose: it goes on showing what was stored.
-    ReplaceSymbolListExchID(source, tq::kMovedFromExchange, tq::kMovedToExchange);
-    copies.Add(new CSymbolList(*source));
+    copies.Add(CopyMoved(*source));
   }
   // Only now the old ones go: the caller may have handed over lists of the manager itself, and the
   // terminal may have changed them while symbols were resolved.

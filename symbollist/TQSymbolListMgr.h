@@ -560,6 +560,7 @@ private:
   int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
   void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
   void PutSymbolList(CSymbolList* list, int append);
+  CSymbolList* CopyMoved(CSymbolList& source);
   std::pair<CString, CString> SplitId(const CString& id) const;
   CString FilePath(const char* name) const;
   void StartTradingLists();

@@ -1,6 +1,7 @@
 // Editing of whole lists. Each operation that reports a change saves the working file first, then
 // writes its log line, then tells the terminal.
 #include <algorithm>
+#include <memory>
 
 #include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
@@ -70,9 +71,21 @@ void CTQSymbolListMgr::PutNewList(const CString& id, const CString& name, const 
 int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
   if (source == nullptr)
     return 0;
-  ReplaceSymbolListExchID(source, tq::kMovedFromExchange, tq::kMovedToExchange);
-  PutSymbolList(new CSymbolList(*source), append);
+  PutSymbolList(CopyMoved(*source), append);
   return 1;
+}
+
+// A copy for the manager, with moved symbols renamed in both lists. In the caller's too, on purpose: it goes
+// on showing what was stored. The caller's list may be the manager's own, which the terminal can delete
+// while the service is asked: it is not looked at after that.
+CSymbolList* CTQSymbolListMgr::CopyMoved(CSymbolList& source) {
+  auto copy = std::make_unique<CSymbolList>(source);
+  CString ids = source.GetIDs();
+  if (ReplaceSymbolListExchID(ids, tq::kMovedFromExchange, tq::kMovedToExchange) != 0) {
+    source.Update1(ids);
+    copy->Update1(ids);
+  }
+  return copy.release();
 }
 
 void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
@@ -85,13 +98,15 @@ void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
 int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
   if (lists == nullptr)
     return 0;
-  // Copied before the old ones go: the caller may hand over lists of the manager itself.
-  CPtrArray old;
-  old.Copy(lists_);
-  lists_.RemoveAll();
-  for (int i = 0; i < lists->GetSize(); ++i)
-    AddTQSymbolList(tq::ListAt(*lists, i), 1);
-  tq::DestroyLists(old);
+  CPtrArray copies;
+  for (int i = 0; i < lists->GetSize(); ++i) {
+    if (CSymbolList* source = tq::ListAt(*lists, i))
+      copies.Add(CopyMoved(*source));
+  }
+  // Only now the old ones go: the caller may have handed over lists of the manager itself, and a save by the
+  // terminal, while symbols were resolved, must not have found a part of the new ones.
+  tq::DestroyLists(lists_);
+  lists_.Copy(copies);
   if (defaultIndex_ < 0 && !lists_.IsEmpty())
     defaultIndex_ = 0;
   else

@@ -48,7 +48,8 @@ int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
     return 0;
   list->Update1(symbols);
   nameChanged = 0;
-  if (name.IsEmpty())
+  list = FindUserList(id); // which the terminal may have deleted while the service was asked
+  if (list == nullptr || name.IsEmpty())
     return 1;
   // Compared as it is kept: a name that is cut is not another name each time.
   const CString before = list->GetName();

@@ -141,11 +141,11 @@ TEST(SaveKill, AKillAroundAnyStepOfKeepingLosesNothing) {
     for (char when : {'b', 'a'}) {
       SCOPED_TRACE(std::string(1, when) + std::to_string(static_cast<int>(step)));
       const TestDirectory directory("data");
-      const std::string path = directory.File(FileName);
-      directory.Write(FileName, Old);
+      const std::string path = directory.File(kFileName);
+      directory.Write(kFileName, Old);
       const char letter = static_cast<char>('A' + static_cast<int>(step));
       killed += RunChild(KeepAndEndAtStep, std::string{when, letter} + path) ? 0 : 1;
-      EXPECT_EQ(Old, directory.Read(FileName));
+      EXPECT_EQ(Old, directory.Read(kFileName));
       const std::string kept = directory.Read(copy);
       EXPECT_TRUE(kept == Old || kept == "(none)") << kept.size();
       EXPECT_TRUE(tq::KeptFiles().MayWrite(path.c_str()));

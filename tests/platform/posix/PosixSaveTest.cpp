@@ -233,11 +233,11 @@ TEST(PosixSave, WhatBearsTheTemporaryNameAndIsNoFileIsPassedBy) {
     struct stat before;
     struct stat after;
     ASSERT_EQ(0, ::lstat(directory.OsFile(temporary).c_str(), &before));
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "first"));
-    EXPECT_EQ("first", directory.Read(Name));
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "second, longer"));
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "third"));
-    EXPECT_EQ("third", directory.Read(Name));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "first"));
+    EXPECT_EQ("first", directory.Read(kName));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "second, longer"));
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "third"));
+    EXPECT_EQ("third", directory.Read(kName));
     ASSERT_EQ(0, ::lstat(directory.OsFile(temporary).c_str(), &after));
     EXPECT_EQ(before.st_ino, after.st_ino) << "it is not ours to remove";
   }
@@ -248,8 +248,8 @@ TEST(PosixSave, APipeThatSomebodyReadsUnderTheTemporaryNameGetsNoByte) {
   const std::string pipe = directory.OsFile("SymbolList.xml.tmp");
   ASSERT_EQ(0, ::mkfifo(pipe.c_str(), 0600));
   const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
-  EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "lists"));
-  EXPECT_EQ("lists", directory.Read(Name));
+  EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "lists"));
+  EXPECT_EQ("lists", directory.Read(kName));
   char byte;
   EXPECT_GE(0, ::read(reader, &byte, 1));
   ::close(reader);
@@ -259,19 +259,19 @@ TEST(PosixSave, APipeThatSomebodyReadsUnderTheTemporaryNameGetsNoByte) {
 // A second name of one of the user's files, or of the list file itself, was written over.
 TEST(PosixSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
   const TestDirectory directory("data");
-  directory.Write(Name, "old");
+  directory.Write(kName, "old");
   directory.Write("victim.txt", "precious, and longer than the lists");
-  for (const char* file : {"victim.txt", Name}) {
+  for (const char* file : {"victim.txt", kName}) {
     fs::create_hard_link(directory.OsFile(file), directory.OsFile("SymbolList.xml.tmp"));
     const auto node = [&](const char* name) {
       struct stat info;
       EXPECT_EQ(0, ::stat(directory.OsFile(name).c_str(), &info));
       return info.st_ino;
     };
-    const ino_t target = node(Name);
-    EXPECT_EQ(SaveResult::Saved, Save(directory.File(Name), "new"));
-    EXPECT_EQ("new", directory.Read(Name));
-    EXPECT_NE(target, node(Name)) << "replaced, not written in place";
+    const ino_t target = node(kName);
+    EXPECT_EQ(SaveResult::Saved, Save(directory.File(kName), "new"));
+    EXPECT_EQ("new", directory.Read(kName));
+    EXPECT_NE(target, node(kName)) << "replaced, not written in place";
     EXPECT_EQ("precious, and longer than the lists", directory.Read("victim.txt"));
     EXPECT_EQ("SymbolList.xml victim.txt", directory.List());
   }
@@ -279,9 +279,9 @@ TEST(PosixSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
 
 TEST(PosixSave, ALinkThatLeadsInACircleIsNotMissing) {
   const TestDirectory directory("data");
-  fs::create_symlink(Name, directory.OsFile(Name));
+  fs::create_symlink(kName, directory.OsFile(kName));
   tq::FileStamp stamp;
-  EXPECT_EQ(tq::FileState::Unknown, Files().StateOf(directory.File(Name).c_str(), stamp));
+  EXPECT_EQ(tq::FileState::Unknown, Files().StateOf(directory.File(kName).c_str(), stamp));
   fs::create_symlink("/dev/null", directory.OsFile("null"));
   EXPECT_EQ(tq::FileState::Other, Files().StateOf(directory.File("null").c_str(), stamp));
 }

@@ -97,27 +97,27 @@ TEST(WindowsSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
 // A target that another program held without share-write for a moment was given up at once.
 TEST(WindowsSave, ATargetHeldWithoutShareWriteIsWaitedFor) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
-  auto holder = std::make_unique<Holder>(directory.File(Name), FILE_SHARE_READ);
+  directory.Write(kName, kOld);
+  auto holder = std::make_unique<Holder>(directory.File(kName), FILE_SHARE_READ);
   std::thread releaser([&] {
     ::Sleep(100);
     holder.reset();
   });
   EXPECT_EQ(SaveResult::Saved, Save(directory));
   releaser.join();
-  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ("new", directory.Read(kName));
 }
 
 // A second name of one of the user's files, or of the list file itself, was emptied.
 TEST(WindowsSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   directory.Write("victim.txt", "precious");
-  for (const char* file : {"victim.txt", Name}) {
+  for (const char* file : {"victim.txt", kName}) {
     ASSERT_TRUE(::CreateHardLinkA(directory.File("SymbolList.xml.tmp").c_str(),
                                   directory.File(file).c_str(), nullptr));
     EXPECT_EQ(SaveResult::Saved, Save(directory));
-    EXPECT_EQ("new", directory.Read(Name));
+    EXPECT_EQ("new", directory.Read(kName));
     EXPECT_EQ("precious", directory.Read("victim.txt"));
     EXPECT_EQ("SymbolList.xml victim.txt", directory.List());
   }
@@ -125,10 +125,10 @@ TEST(WindowsSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
 
 TEST(WindowsSave, ADirectoryUnderTheTemporaryNameIsPassedBy) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
+  directory.Write(kName, kOld);
   ASSERT_TRUE(::CreateDirectoryA(directory.File("SymbolList.xml.tmp").c_str(), nullptr));
   EXPECT_EQ(SaveResult::Saved, Save(directory));
-  EXPECT_EQ("new", directory.Read(Name));
+  EXPECT_EQ("new", directory.Read(kName));
   ::RemoveDirectoryA(directory.File("SymbolList.xml.tmp").c_str());
 }
 
@@ -140,7 +140,7 @@ TEST(WindowsSave, APathWithoutRoomForTheTemporaryNameIsSavedInPlace) {
     SCOPED_TRACE(length);
     const std::string name = std::string(length - start - 4, 'n') + ".xml";
     const std::string path = directory.File(name);
-    directory.Write(name, Old);
+    directory.Write(name, kOld);
     tq::FileStamp before;
     tq::FileStamp after;
     Files().StateOf(path.c_str(), before);
@@ -154,10 +154,10 @@ TEST(WindowsSave, APathWithoutRoomForTheTemporaryNameIsSavedInPlace) {
 
 TEST(WindowsSave, AFileThatSomebodyHoldsIsThereAllTheSame) {
   const TestDirectory directory("data");
-  directory.Write(Name, Old);
-  const Holder holder(directory.File(Name), 0);
+  directory.Write(kName, kOld);
+  const Holder holder(directory.File(kName), 0);
   tq::FileStamp stamp;
-  EXPECT_EQ(tq::FileState::File, Files().StateOf(directory.File(Name).c_str(), stamp));
+  EXPECT_EQ(tq::FileState::File, Files().StateOf(directory.File(kName).c_str(), stamp));
   EXPECT_EQ(Old.size(), stamp.size);
 }
 
