@@ -1,19 +1,19 @@
-// tqSymbol: watch lists and symbol resolution for a quote-and-order terminal. This header brings in the
-// whole interface; each class has a header of its own, with its conventions at the top.
+// tqSymbol: watch lists and symbol resolution for a quote-and-order terminal. This header brings in
+// the whole interface; each class has a header of its own, with its conventions at the top.
 //
-//   CTQSymbolListMgr   symbollist/TQSymbolListMgr.h    the user's lists: the one object that a terminal
-//                                                      creates
+//   CTQSymbolListMgr   symbollist/TQSymbolListMgr.h    the user's lists: the one object that a
+//                                                      terminal creates
 //   CSymbolTableMgr    symboltable/SymbolTableMgr.h    the symbol tables behind it
 //   CSymbolList        symbollist/SymbolList.h         one list
 //   CGroupSet          groups/GroupSet.h               a group that the terminal pushes in
-//   CListID            symbollist/ListID.h             which source of symbols a page shows, as text
+//   CListID            symbollist/ListID.h             what a page shows, as text
 //   CIDConvert         symboltable/IDConvert.h         an id and its kind in one text
 //   COptFutID          symboltable/OptFutID.h          combination orders of options and futures
 //   SymbolInfo         platform/services/VLProxy.h     one symbol
 //   GroupInfo          groups/GroupInfo.h              one group
 //
-// The library calls the terminal's services (platform/services/) and is not linked to them: the process
-// that loads it provides them, on Windows as DLLs of their names.
+// The library calls the terminal's services (platform/services/) and is not linked to them: the
+// process that loads it provides them, on Windows as DLLs of their names.
 #pragma once
 
 #include "groups/GroupInfo.h"

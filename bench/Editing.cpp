@@ -70,8 +70,8 @@ void MeasureWholeLists(Report& report, const std::string& directory, std::size_t
     report.Wrong("adding and deleting");
 }
 
-// Inserting into and deleting from a list of `symbols` ids, which is then resolved again, against the
-// service's answer for the same ids; and swapping, which asks nobody.
+// Inserting into and deleting from a list of `symbols` ids, which is then resolved again, against
+// the service's answer for the same ids; and swapping, which asks nobody.
 void MeasureEntries(Report& report, const std::vector<std::string>& ids, std::size_t symbols,
                     CTQSymbolListMgr& manager) {
   std::string value;

@@ -8,9 +8,9 @@
 
 namespace bench {
 
-// Adding and deleting in front of 10, 1,000 and 100,000 lists, entry edits of lists as long, and the
-// queries of a list. `market` is the one that the services have at the moment. Files in `directory`,
-// which exists, are deleted at the end. `quick` leaves the largest out.
+// Adding and deleting in front of 10, 1,000 and 100,000 lists, entry edits of lists as long, and
+// the queries of a list. `market` is the one that the services have at the moment. Files in
+// `directory`, which exists, are deleted at the end. `quick` leaves the largest out.
 void MeasureEditing(Report& report, const standin::Market& market, const std::string& directory,
                     bool quick);
 

@@ -67,9 +67,9 @@ std::size_t ReadRecords() {
   });
 }
 
-// A start-up happens once in a process. So each is measured in a process of its own, where memory comes
-// from the system and not from what an earlier repetition left behind. Negative when `work` returned
-// false or the process failed.
+// A start-up happens once in a process. So each is measured in a process of its own, where memory
+// comes from the system and not from what an earlier repetition left behind. Negative when `work`
+// returned false or the process failed.
 template <typename Work> double InOwnProcess(Work work) {
   int ends[2];
   if (pipe(ends) != 0)

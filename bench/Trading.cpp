@@ -20,8 +20,8 @@ constexpr char kSystem[] = "T";
 
 using IdSet = boost::unordered_flat_set<std::string_view, TextHash, std::equal_to<>>;
 
-// One trading system. The accounts know no exchange, so that a login does not wait for symbol records;
-// merging never asks for them.
+// One trading system. The accounts know no exchange, so that a login does not wait for symbol
+// records; merging never asks for them.
 standin::Market MakeAccounts(const std::vector<std::string>& ids, std::size_t accounts,
                              std::size_t positions) {
   constexpr unsigned kSeed = 33;

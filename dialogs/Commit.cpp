@@ -32,7 +32,8 @@ void Report(const char* line, long code, const char* reason) {
   Notify(code, reason);
 }
 
-// By position: lists that changed places count as renamed, as the terminal's pages go by position too.
+// By position: lists that changed places count as renamed, as the terminal's pages go by position
+// too.
 bool NamesDiffer(const WorkingCopy& stored, const WorkingCopy& copy) {
   if (stored.Lists().GetSize() != copy.Lists().GetSize())
     return false;

@@ -1,5 +1,5 @@
-// Any bytes as the id string of a list: how it is split, what is asked of the service, and the rows that
-// come of it. What the text means is worked out here once more, the plain way.
+// Any bytes as the id string of a list: how it is split, what is asked of the service, and the rows
+// that come of it. What the text means is worked out here once more, the plain way.
 #pragma once
 
 #include <cstring>
@@ -75,8 +75,8 @@ inline std::string CheckSplitting(std::string_view ids) {
   return "";
 }
 
-// The rows in order must each be that of a later token than the row before: a heading's, or the one whose
-// id the record bears. The service reads an id up to a NUL, and so does this.
+// The rows in order must each be that of a later token than the row before: a heading's, or the one
+// whose id the record bears. The service reads an id up to a NUL, and so does this.
 inline std::string CheckRows(CIDList& list) {
   const CStringArray& tokens = list.GetTokens();
   const int rows = list.GetCount();

@@ -1,5 +1,5 @@
-// Any bytes as an identifier that a person or a settings file may hold: a typed combination, a list's
-// identity in both text forms, an id with its kind.
+// Any bytes as an identifier that a person or a settings file may hold: a typed combination, a
+// list's identity in both text forms, an id with its kind.
 #pragma once
 
 #include <string>
@@ -27,9 +27,9 @@ inline bool HasPlainStrike(const CString& code) {
   return true;
 }
 
-// What passes a check is one of the forms that the exchange takes, so the same without a check must come
-// out alike (strikes of digits given: "100.0" is a number, but not taken for one there), and the legs
-// can be described.
+// What passes a check is one of the forms that the exchange takes, so the same without a check must
+// come out alike (strikes of digits given: "100.0" is a number, but not taken for one there), and
+// the legs can be described.
 inline std::string CheckSeparated(const CString& text) {
   COptFutID id;
   CString legs[4] = {"-", "-", "-", "-"};
@@ -74,7 +74,8 @@ inline std::string CheckMerged(std::string_view bytes) {
   return "";
 }
 
-// A valid identity, written and read, is the same. Type 0 is written as another, type 4 with a label.
+// A valid identity, written and read, is the same. Type 0 is written as another, type 4 with a
+// label.
 inline std::string CheckListID(const CString& text) {
   CListID list;
   CListID again;

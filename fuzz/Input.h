@@ -1,8 +1,8 @@
-// What the inputs of all fuzzers have in common. A fuzzer feeds them bytes that it makes up; the unit
-// tests feed them the checked-in ones, on every platform.
+// What the inputs of all fuzzers have in common. A fuzzer feeds them bytes that it makes up; the
+// unit tests feed them the checked-in ones, on every platform.
 //
-// The first byte of an input chooses the interface language (bit 0 set: Traditional Chinese), the rest is
-// what is fuzzed. A check returns what does not hold, in words, or an empty text.
+// The first byte of an input chooses the interface language (bit 0 set: Traditional Chinese), the
+// rest is what is fuzzed. A check returns what does not hold, in words, or an empty text.
 #pragma once
 
 #include <cstddef>
@@ -30,7 +30,8 @@ inline standin::Market SmallMarket() {
   return market;
 }
 
-// To be called before the first input: puts the stand-in services into the state that inputs expect.
+// To be called before the first input: puts the stand-in services into the state that inputs
+// expect.
 inline void PrepareServices() {
   standin::Reset();
   standin::RecordCalls(false);

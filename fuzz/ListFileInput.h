@@ -1,5 +1,5 @@
-// Any bytes as a list file: loading them must end well, and what the manager saves then must be loaded
-// as the same lists and saved as the same bytes.
+// Any bytes as a list file: loading them must end well, and what the manager saves then must be
+// loaded as the same lists and saved as the same bytes.
 #pragma once
 
 #include <cstring>
@@ -22,14 +22,14 @@ struct ListState {
   bool operator==(const ListState&) const = default;
 };
 
-// Nothing is escaped on saving, so these do not survive it, nor do line ends and tabs, which a file can
-// hold as character references only.
+// Nothing is escaped on saving, so these do not survive it, nor do line ends and tabs, which a file
+// can hold as character references only.
 inline bool SurvivesSaving(const std::string& text) {
   return text.find_first_of("'&<\t\n\r") == std::string::npos;
 }
 
-// The lists by position; GetSymbolList finds the first of an identifier, so a list behind another of the
-// same one is told by its name alone.
+// The lists by position; GetSymbolList finds the first of an identifier, so a list behind another
+// of the same one is told by its name alone.
 inline std::string ReadLists(CTQSymbolListMgr& manager, std::vector<ListState>& states) {
   const int count = manager.GetSymbolListCount(kUserLists);
   for (int i = 0; i < count; ++i) {

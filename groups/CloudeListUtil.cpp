@@ -14,8 +14,8 @@ void FillDefaultNames() {
                 tq::LibraryString(tq::kStringCloudList));
 }
 
-// Whether there is anything to do for a group or below it. Of most there is not, and they are to stay the
-// records that they are.
+// Whether there is anything to do for a group or below it. Of most there is not, and they are to
+// stay the records that they are.
 bool IsConcerned(const tq::GroupLevel& level, int index, const tq::CloudMap& lists) {
   return level.SubCountAt(index) > 0 || lists.Find(level.InfoAt(index).szID) != nullptr;
 }

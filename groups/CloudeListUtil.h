@@ -13,9 +13,10 @@ class CloudMap;
 // The spelling of the name is the interface's own.
 class CCloudeListUtil {
 public:
-  // To be called whenever the cloud groups were loaded. A group without sub-groups takes name and members
-  // of the list with its id; one with sub-groups takes its name from the library's default names, and each
-  // of its sub-groups is treated likewise. A group whose id no list has keeps what the service gave it.
+  // To be called whenever the cloud groups were loaded. A group without sub-groups takes name and
+  // members of the list with its id; one with sub-groups takes its name from the library's default
+  // names, and each of its sub-groups is treated likewise. A group whose id no list has keeps what
+  // the service gave it.
   static void Refresh(CGroupMgr& cloudGroups, const tq::CloudMap& lists);
 
   // The same for one group, with the list under `id`.

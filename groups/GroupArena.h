@@ -1,5 +1,5 @@
-// Where the records of a type's groups are kept as the service handed them out: thousands of short arrays,
-// one for each group with sub-groups, which are all let go at once.
+// Where the records of a type's groups are kept as the service handed them out: thousands of short
+// arrays, one for each group with sub-groups, which are all let go at once.
 #pragma once
 
 #include <algorithm>

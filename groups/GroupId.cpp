@@ -9,7 +9,8 @@ bool IsAscii(const FoldedId& id) {
   return ((id.low | id.high) & kTopBits) == 0;
 }
 
-// A lower-case letter differs from its upper-case form in bit 5, two below the flag of LowerLetters.
+// A lower-case letter differs from its upper-case form in bit 5, two below the flag of
+// LowerLetters.
 std::uint64_t UpperAscii(std::uint64_t ascii) {
   return ascii ^ LowerLetters(ascii) >> 2;
 }

@@ -13,8 +13,8 @@ namespace tq {
 inline constexpr std::size_t kGroupIdBytes = sizeof(GroupInfo::szID) - 1;
 inline constexpr std::size_t kGroupNameBytes = sizeof(GroupInfo::szName) - 1;
 
-// An id of a record, which has at most 16 bytes and no NUL, so the two words are all of it. Equal when
-// the ids are equal ignoring the case of ASCII letters.
+// An id of a record, which has at most 16 bytes and no NUL, so the two words are all of it. Equal
+// when the ids are equal ignoring the case of ASCII letters.
 using FoldedId = PackedText;
 static_assert(kGroupIdBytes == sizeof(FoldedId));
 
@@ -32,7 +32,8 @@ inline std::string_view TextView(const char* text) {
 // The text behind the first comma; all of it when there is none.
 std::string_view AfterComma(std::string_view id);
 
-// Ends both texts within their fields, at a whole character. What the service fills is not trusted to.
+// Ends both texts within their fields, at a whole character. What the service fills is not trusted
+// to.
 void TerminateTexts(GroupInfo& info);
 
 // Gives a record another name, cut at a whole character.

@@ -1,5 +1,5 @@
-// From a group id to the groups that have it: the ids of a sequence of groups, numbered from 0 in the order
-// in which a plain search would pass them.
+// From a group id to the groups that have it: the ids of a sequence of groups, numbered from 0 in
+// the order in which a plain search would pass them.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +10,8 @@
 
 namespace tq {
 
-// A sequence is searched plainly so many times after each change before its index is built: a terminal
-// that pushes one group after the other would pay for an index at each push.
+// A sequence is searched plainly so many times after each change before its index is built: a
+// terminal that pushes one group after the other would pay for an index at each push.
 inline constexpr int kPlainSearches = 4;
 
 class GroupIdIndex {

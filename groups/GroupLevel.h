@@ -1,10 +1,10 @@
 // One level of the tree of groups: the groups of a type, or the sub-groups of a group, in order.
 //
-// A full load brings tens of thousands of groups of which the terminal shows a few. So a level is, to begin
-// with, nothing but the service's records, which lie in the type's arena. What is more is made for those
-// groups that somebody asks for: a level of their sub-groups, and a CGroupList, which is what a handle is.
-// A CGroupList is the truth about its group from then on: it has the group's name, its members, and the
-// level of its sub-groups, which goes over to it.
+// A full load brings tens of thousands of groups of which the terminal shows a few. So a level is,
+// to begin with, nothing but the service's records, which lie in the type's arena. What is more is
+// made for those groups that somebody asks for: a level of their sub-groups, and a CGroupList,
+// which is what a handle is. A CGroupList is the truth about its group from then on: it has the
+// group's name, its members, and the level of its sub-groups, which goes over to it.
 #pragma once
 
 #include <memory>
@@ -58,7 +58,8 @@ public:
   int Find(const char* id);
 
   void Clear();
-  // Puts in records that stay where they are as long as the level lives; and sub-groups of one group.
+  // Puts in records that stay where they are as long as the level lives; and sub-groups of one
+  // group.
   void Adopt(std::span<const GroupInfo> records);
   void AdoptSubsAt(int index, std::span<const GroupInfo> records);
   void Append(const GroupInfo& record, std::unique_ptr<GroupLevel> subs = nullptr);

@@ -29,7 +29,8 @@ const CString& CGroupList::GetIDs() {
   return CIDList::GetIDs();
 }
 
-// The lines show what the list holds now; asking through GetIDs would fetch members to write a line.
+// The lines show what the list holds now; asking through GetIDs would fetch members to write a
+// line.
 int CGroupList::Update3() {
   const int result = CIDList::Update3();
   tq::LogLine(tq::kLogChange, "CGroupList::Update3 GroupName=%s, Symbols=%s", info_.szName,
@@ -44,7 +45,8 @@ int CGroupList::Update2(SymbolInfo* records, int count) {
   return result;
 }
 
-// The blanks around "=" are in this line only. Whoever reads the log looks for them: do not tidy them.
+// The blanks around "=" are in this line only. Whoever reads the log looks for them: do not tidy
+// them.
 int CGroupList::Update1(const CString& ids) {
   const int result = CIDList::Update1(ids);
   tq::LogLine(tq::kLogChange, "CGroupList::Update1 GroupName = %s, Symbols = %s", info_.szName,

@@ -1,5 +1,5 @@
-// A group, or a sub-group, of the symbol-data service: its record, its members, its sub-groups. What the
-// terminal holds as a group handle is a pointer to one.
+// A group, or a sub-group, of the symbol-data service: its record, its members, its sub-groups.
+// What the terminal holds as a group handle is a pointer to one.
 #pragma once
 
 #include <memory>
@@ -11,12 +11,13 @@ namespace tq {
 class GroupLevel;
 }
 
-// Members are fetched from the service when they are first asked for, and kept. While the service fails
-// there are none, and the next question asks again; so it does for a group whose members the service says
-// are none.
+// Members are fetched from the service when they are first asked for, and kept. While the service
+// fails there are none, and the next question asks again; so it does for a group whose members the
+// service says are none.
 class CGroupList : public CIDList, public std::enable_shared_from_this<CGroupList> {
 public:
-  // Id and name of the record are taken as text that ends at the width of their field at the latest.
+  // Id and name of the record are taken as text that ends at the width of their field at the
+  // latest.
   explicit CGroupList(const GroupInfo& info);
   // The same with sub-groups; null for none.
   CGroupList(const GroupInfo& info, std::unique_ptr<tq::GroupLevel> subs);
@@ -39,8 +40,8 @@ public:
   // Cut to the record's 48 bytes at a whole character.
   void SetName(const char* name);
 
-  // The sub-groups, in the service's order. Null for an index out of range and for an id that none has;
-  // ids are compared ignoring the case of ASCII letters.
+  // The sub-groups, in the service's order. Null for an index out of range and for an id that none
+  // has; ids are compared ignoring the case of ASCII letters.
   int GetSubCount() const;
   CGroupList* GetSub(int index);
   CGroupList* FindSub(const char* id);

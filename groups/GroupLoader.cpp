@@ -18,8 +18,8 @@ bool GroupLoader::Load(int type, GroupLevel& groups) {
   return true;
 }
 
-// The service's array is released before the levels below are asked for, so that a tree costs the service
-// one array at a time.
+// The service's array is released before the levels below are asked for, so that a tree costs the
+// service one array at a time.
 bool GroupLoader::Ask(const Asked& asked, Answer& answer) {
   ServiceArray<GroupInfo> array;
   if (VLGetSubGroup(asked.type, asked.id, array.List(), array.Count()) == 0)
@@ -44,8 +44,8 @@ GroupLoader::Answer GroupLoader::Keep(std::span<const GroupInfo> records) {
   return {kept, haveSubs != 0};
 }
 
-// `groups` is what was answered and stands in `level`. Types and ids are those of the records, which need
-// not be of the type that was asked for.
+// `groups` is what was answered and stands in `level`. Types and ids are those of the records,
+// which need not be of the type that was asked for.
 void GroupLoader::FillSubGroups(const Asked& asked, const Answer& groups, GroupLevel& level) {
   path_.push_back(asked);
   int index = -1;

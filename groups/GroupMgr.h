@@ -23,13 +23,13 @@ public:
   CGroupList* GetAt(int index);
   CGroupList* Find(const char* id);
 
-  // The first group with that id, each top-level group in front of its sub-groups; null when there is
-  // none.
+  // The first group with that id, each top-level group in front of its sub-groups; null when there
+  // is none.
   CGroupList* FindAnywhere(std::string_view id);
   // The first sub-group with that id, or null. Top-level groups are not looked at.
   CGroupList* FindSub(std::string_view id);
-  // The record of the first sub-group with exactly that id, letter case included; null when there is
-  // none. Good until groups change.
+  // The record of the first sub-group with exactly that id, letter case included; null when there
+  // is none. Good until groups change.
   const GroupInfo* FindSubExactly(std::string_view id);
 
   // The level of the top-level groups. Who adds, removes or moves sub-groups says so.

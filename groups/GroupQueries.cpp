@@ -89,8 +89,8 @@ int GroupStore::CopyIds(CGroupList* handle, CString& ids) const {
   return 1;
 }
 
-// Any part of the member ids will do, also one that goes over a comma: terminals ask with beginnings of
-// ids.
+// Any part of the member ids will do, also one that goes over a comma: terminals ask with
+// beginnings of ids.
 int GroupStore::HoldsText(int type, const CString& groupId, const CString& text) const {
   if (groupId.IsEmpty() || text.IsEmpty() || !IsSearchedForSymbols(type))
     return 0;

@@ -7,8 +7,8 @@
 #include "platform/framework/CString.h"
 #include "tqSymbolApi.h"
 
-// A value: copies are independent. Text is in the process's ANSI code page; what does not fit into a
-// group's record (16 bytes of id, 48 of name) is cut there, not here.
+// A value: copies are independent. Text is in the process's ANSI code page; what does not fit into
+// a group's record (16 bytes of id, 48 of name) is cut there, not here.
 class TQSYMBOL_API CGroupSet {
 public:
   // Type -1, everything else empty.

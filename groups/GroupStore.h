@@ -32,10 +32,11 @@ public:
 
   explicit GroupStore(CloudRefresh refresh = nullptr);
 
-  // --- Types ---------------------------------------------------------------------------------------
+  // --- Types -------------------------------------------------------------------------------------
   // All return 1 when done and 0 for a type out of their range.
 
-  // Types 1 to 21, 101 and 201, anew. A type that the service fails for is empty; that is no failure.
+  // Types 1 to 21, 101 and 201, anew. A type that the service fails for is empty; that is no
+  // failure.
   int LoadAll();
   // 1 to 201. Adds the type when there is no manager of it. 0 too when the terminal removed the
   // type while the service was asked.
@@ -48,11 +49,12 @@ public:
   int Remove(int type);
   void Clear();
 
-  // --- Loaded types --------------------------------------------------------------------------------
+  // --- Loaded types ------------------------------------------------------------------------------
 
   // Position in the array, as the map has it, or -1.
   int IndexOf(int type) const;
-  // What the map leads to: null for a type that is not in it or whose position lies behind the array.
+  // What the map leads to: null for a type that is not in it or whose position lies behind the
+  // array.
   CGroupMgr* Loaded(int type) const;
 
   int CountGroups(int type, const CGroupList* handle) const;
@@ -67,9 +69,10 @@ public:
   // For types 2, 7 and 8.
   int HoldsText(int type, const CString& groupId, const CString& text) const;
 
-  // --- Pushes --------------------------------------------------------------------------------------
+  // --- Pushes ------------------------------------------------------------------------------------
 
-  // Hands each manager the sets of its type, if there are any. 1 when one of them changed something.
+  // Hands each manager the sets of its type, if there are any. 1 when one of them changed
+  // something.
   int Push(const std::vector<CGroupSet>& sets, GroupPush push);
 
 private:

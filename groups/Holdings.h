@@ -10,11 +10,12 @@
 
 namespace tq {
 
-// The trading-system proxy's text with the blanks around ids and the empty pieces left out. Order, letter
-// case and repetitions stay. A null text has none.
+// The trading-system proxy's text with the blanks around ids and the empty pieces left out. Order,
+// letter case and repetitions stay. A null text has none.
 CString TidyHoldings(const char* text);
 
-// The holdings of several accounts as one text: each id where it is met first, compared byte by byte.
+// The holdings of several accounts as one text: each id where it is met first, compared byte by
+// byte.
 class MergedHoldings {
 public:
   // `holdings` is tidy and not longer than any CString.

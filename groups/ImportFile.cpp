@@ -16,7 +16,8 @@ namespace {
 constexpr const char* kIdPatterns[] = {"PellarPlus %d", "eOrvel %d", "eTamsin %d"};
 constexpr int kProducts = 3;
 
-// What the list file cannot carry: one such character would keep all of the user's lists from loading.
+// What the list file cannot carry: one such character would keep all of the user's lists from
+// loading.
 constexpr char kNotForAFile[] = "'&<";
 
 bool ReadFile(const char* path, std::string& bytes) {

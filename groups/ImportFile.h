@@ -1,4 +1,5 @@
-// Lists of older products that the terminal's user brings along. docs/import-file.md describes their file.
+// Lists of older products that the terminal's user brings along. docs/import-file.md describes
+// their file.
 #pragma once
 
 #include <vector>
@@ -7,7 +8,8 @@
 
 namespace tq {
 
-// Names of the file, put behind the data directory as they stand: before it was imported, and after.
+// Names of the file, put behind the data directory as they stand: before it was imported, and
+// after.
 inline constexpr char kImportFileName[] = "\\OldOTVList.xml";
 inline constexpr char kImportedFileName[] = "\\Added_OldOTVList.xml";
 
@@ -20,9 +22,9 @@ struct ImportedList {
   CString symbols; // ids joined by ",", not empty
 };
 
-// Reads the lists of an import file, named and numbered as lists of `product`, 0 to 2. A document of
-// another kind has none. False, `lists` empty, for a file that is missing or not well-formed and for any
-// other product.
+// Reads the lists of an import file, named and numbered as lists of `product`, 0 to 2. A document
+// of another kind has none. False, `lists` empty, for a file that is missing or not well-formed and
+// for any other product.
 bool ReadImportFile(const char* path, int product, std::vector<ImportedList>& lists);
 
 // Whether this very file was imported before and could not be renamed then: SetAside left a copy of

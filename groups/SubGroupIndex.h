@@ -21,12 +21,12 @@ public:
   // Finds the sub-groups of these groups, which outlive the index.
   explicit SubGroupIndex(GroupLevel& groups) : groups_(groups) {}
 
-  // To be told when sub-groups came, went or moved; one that is replaced by another of its id is none of
-  // these.
+  // To be told when sub-groups came, went or moved; one that is replaced by another of its id is
+  // none of these.
   void Drop();
 
-  // The first sub-group with that id, group by group, of which `wanted` approves; false when there is
-  // none. Letter case is ignored.
+  // The first sub-group with that id, group by group, of which `wanted` approves; false when there
+  // is none. Letter case is ignored.
   template <typename Wanted> bool Find(const FoldedId& id, SubGroupPlace& place, Wanted wanted) {
     if (index_ == nullptr && ++searches_ <= kPlainSearches)
       return FindPlainly(id, place, wanted);

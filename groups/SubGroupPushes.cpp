@@ -6,7 +6,8 @@
 namespace tq {
 namespace {
 
-// Puts the set's pairs in the place of the group's sub-groups of their ids. Returns whether there was any.
+// Puts the set's pairs in the place of the group's sub-groups of their ids. Returns whether there
+// was any.
 bool ReplaceSubGroups(GroupLevel& groups, int at, const CGroupSet& set) {
   GroupLevel* const subs = groups.SubsAt(at);
   if (subs == nullptr)

@@ -38,8 +38,8 @@ int CTQSymbolListMgr::LoadOtherProductList() {
   const CString imported = FilePath(tq::kImportedFileName);
   if (path.IsEmpty() || !tq::Files().FileExists(path))
     return 0;
-  // A file that could not be renamed when it was imported: what the user did to its lists since is not
-  // to be undone.
+  // A file that could not be renamed when it was imported: what the user did to its lists since is
+  // not to be undone.
   if (tq::IsImported(path, imported)) {
     tq::Files().RenameFile(path, imported);
     return 0;

@@ -1,5 +1,5 @@
-// What trading accounts hold: logins, changes of holdings, queries. While trading lists are not wanted
-// nothing here does anything.
+// What trading accounts hold: logins, changes of holdings, queries. While trading lists are not
+// wanted nothing here does anything.
 #include <optional>
 #include <utility>
 

@@ -36,8 +36,9 @@ std::string Folded(CString id) {
   return std::string(id.GetString(), static_cast<size_t>(id.GetLength()));
 }
 
-// Gives an empty list those of the symbols that the service knows, as one question: the service leaves
-// unknown ids out and answers in order, so its records are the list. When it fails it knows none.
+// Gives an empty list those of the symbols that the service knows, as one question: the service
+// leaves unknown ids out and answers in order, so its records are the list. When it fails it knows
+// none.
 void AddKnownSymbols(CSymbolList& list, const CString& symbols) {
   CStringArray tokens;
   const tq::SplitIds split = tq::SplitIdString(symbols, tokens);
@@ -105,7 +106,8 @@ int CTQSymbolListMgr::UpdateTSSymbolList(const CString& id, int kind, const CStr
   CSymbolList* list = FindList(id, tq::kTradingLists);
   if (list == nullptr)
     return AddTSSymbolList(id, kind, name, symbols, allowEmpty);
-  // The whole string, ids that the service does not know yet included: they get no row until it does.
+  // The whole string, ids that the service does not know yet included: they get no row until it
+  // does.
   list->Update1(symbols);
   tq::Notify(tq::kNotifyUserLists, kReasonTrading);
   return 1;

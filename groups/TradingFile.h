@@ -1,5 +1,5 @@
-// The text of the file that shows the trading systems. docs/trading-list-file.md describes it byte for
-// byte.
+// The text of the file that shows the trading systems. docs/trading-list-file.md describes it byte
+// for byte.
 #pragma once
 
 #include <string>
@@ -12,8 +12,8 @@ namespace tq {
 // The file's name, put behind the data directory as it stands.
 inline constexpr char kTradingFileName[] = "\\TSList.xml";
 
-// The whole document, in the process's ANSI code page. Nothing is escaped: the file is the broker's own
-// texts, and whoever reads it expects them as they are.
+// The whole document, in the process's ANSI code page. Nothing is escaped: the file is the broker's
+// own texts, and whoever reads it expects them as they are.
 std::string TradingFileText(const std::vector<CTS>& systems);
 
 } // namespace tq

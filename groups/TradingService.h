@@ -5,9 +5,9 @@
 
 namespace tq {
 
-// Fills an empty `system` with the trading system of that id, its accounts and their holdings. False, and
-// `system` as it was, when the service has it not available or does not list it. An account that the
-// service fails for is left out; one whose holdings it fails for holds nothing.
+// Fills an empty `system` with the trading system of that id, its accounts and their holdings.
+// False, and `system` as it was, when the service has it not available or does not list it. An
+// account that the service fails for is left out; one whose holdings it fails for holds nothing.
 bool FetchTradingSystem(const CString& tsId, CTS& system);
 
 // What one account holds, tidy. False, `holdings` untouched, when the service fails.

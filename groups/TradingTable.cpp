@@ -118,8 +118,8 @@ void TradingTable::RefetchHoldings(const CString& tsId, const CString& accountId
   Changed();
 }
 
-// The file is for others to look at; the library never reads it. So one that cannot be written holds up
-// nothing, and the next change tries again.
+// The file is for others to look at; the library never reads it. So one that cannot be written
+// holds up nothing, and the next change tries again.
 void TradingTable::Changed() {
   ++changes_;
   if (path_.IsEmpty())

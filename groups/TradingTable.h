@@ -1,5 +1,5 @@
-// The user's trading systems with their accounts and what these hold: a mirror of the trading-system
-// proxy, as of the last login or change of holdings that the terminal told of.
+// The user's trading systems with their accounts and what these hold: a mirror of the
+// trading-system proxy, as of the last login or change of holdings that the terminal told of.
 #pragma once
 
 #include <cstring>
@@ -16,7 +16,8 @@ template <size_t SIZE> std::string_view FieldText(const char (&field)[SIZE]) {
   return std::string_view(field, strnlen(field, SIZE));
 }
 
-// One account. Its holdings are kept as one tidy text: lists, queries and the file all want them joined.
+// One account. Its holdings are kept as one tidy text: lists, queries and the file all want them
+// joined.
 struct CAccount {
   CString holdings; // ids joined by ",", in the service's order
   TQS_ACCOUNTINFO info = {};
@@ -63,8 +64,8 @@ public:
   // added. When it was not `available`, an entry that is there keeps only its id. Rewrites the
   // file.
   void Put(const CString& tsId, bool available, CTS fresh);
-  // Asks for the holdings of one account of the table. When the service fails, or the account is not in
-  // the table, nothing changes; else the file is rewritten.
+  // Asks for the holdings of one account of the table. When the service fails, or the account is
+  // not in the table, nothing changes; else the file is rewritten.
   void RefetchHoldings(const CString& tsId, const CString& accountId, TqsAccType type);
 
   // Counts the changes of the table: who copied from it, and lets the terminal work, can tell

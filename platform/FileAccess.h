@@ -9,8 +9,8 @@
 //     separator; see SeparatorOf.
 //  2. A directory path carries no trailing separator and is used as it stands.
 //  3. Nothing throws and nothing is shown to the user: the caller reports failures.
-//  4. Calls come from the terminal's user-interface thread and are synchronous. Files() may be asked
-//     from any thread.
+//  4. Calls come from the terminal's user-interface thread and are synchronous. Files() may be
+//     asked from any thread.
 #pragma once
 
 #include <cstddef>
@@ -19,8 +19,9 @@
 
 namespace tq {
 
-// What the system tells of a regular file without a look at its bytes. As long as it stays equal nobody has
-// written the file, as far as can be told from outside. Units and origins are the system's own.
+// What the system tells of a regular file without a look at its bytes. As long as it stays equal
+// nobody has written the file, as far as can be told from outside. Units and origins are the
+// system's own.
 struct FileStamp {
   std::uint64_t size = 0;     // bytes
   std::uint64_t modified = 0; // the time of the last write; later is greater
@@ -33,7 +34,7 @@ enum class FileState {
   Missing, // there is no such file, or no such directory: the system says so
   File,    // a regular file, or a link to one
   Other,   // a directory, a device, a pipe
-  Unknown, // the system does not tell (rights, a drive that does not answer): a file may well be there
+  Unknown, // the system does not tell (rights, a drive that is gone): a file may well be there
 };
 
 enum class ReadResult {
@@ -53,10 +54,10 @@ class FileAccess {
 public:
   virtual ~FileAccess() = default;
 
-  // Reads the whole file into `bytes`, which is replaced when the result is Ok and emptied otherwise.
-  // `limit` is the largest size accepted, in bytes. A file whose size or time changes while it is read,
-  // because somebody writes it in place, is read again, kReadTries times in all (platform/ReadSteps.h), and
-  // gives Failed when it does not come to rest.
+  // Reads the whole file into `bytes`, which is replaced when the result is Ok and emptied
+  // otherwise. `limit` is the largest size accepted, in bytes. A file whose size or time changes
+  // while it is read, because somebody writes it in place, is read again, kReadTries times in all
+  // (platform/ReadSteps.h), and gives Failed when it does not come to rest.
   virtual ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) = 0;
 
   // Makes the file hold exactly these bytes, creating it when it is missing. Anything but Saved
@@ -64,38 +65,41 @@ public:
   //
   // - A file that cannot be opened for writing (read-only, or on Windows held by another program
   //   without share-write) is refused, although its directory might let us replace it.
-  // - The bytes go in one write to "<path>.tmp", are flushed, and that file takes the target's place:
-  //   whatever kills the process or fills the disk, the target is the old file or the new one. What a
-  //   killed save left in "<path>.tmp" is overwritten by the next save, so leftovers never pile up.
+  // - The bytes go in one write to "<path>.tmp", are flushed, and that file takes the target's
+  //   place: whatever kills the process or fills the disk, the target is the old file or the new
+  //   one. What a killed save left in "<path>.tmp" is overwritten by the next save, so leftovers
+  //   never pile up.
   // - A link under the temporary name, symbolic or a second name of another file, is not written
-  //   through: it is removed, or the save goes in place. What else has that name and is no file stays.
-  // - Where the system refuses to replace (no rights on the directory, a mount point, a directory or a
-  //   device under the temporary name, a name without room for the suffix, on Windows a target held
-  //   without share-delete), the bytes are written over the target in place, after the room for them
-  //   has been reserved. Only this way is not safe against a kill in mid-write.
+  //   through: it is removed, or the save goes in place. What else has that name and is no file
+  //   stays.
+  // - Where the system refuses to replace (no rights on the directory, a mount point, a directory
+  //   or a device under the temporary name, a name without room for the suffix, on Windows a target
+  //   held without share-delete), the bytes are written over the target in place, after the room
+  //   for them has been reserved. Only this way is not safe against a kill in mid-write.
   // - A symbolic link stays one: the file that it names is replaced. On POSIX mode, owner and group
-  //   are kept; another hard link to the file keeps the old bytes. On Windows file attributes are kept
-  //   and the access list is the directory's.
+  //   are kept; another hard link to the file keeps the old bytes. On Windows file attributes are
+  //   kept and the access list is the directory's.
   // - Two processes that save the same file at once do not mix: the later one waits up to half a
-  //   second and then fails. On Windows a target that somebody holds without share-write is waited for
-  //   as long.
+  //   second and then fails. On Windows a target that somebody holds without share-write is waited
+  //   for as long.
   virtual SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) = 0;
 
   // True for an existing directory (a link to one too).
   virtual bool DirectoryExists(const char* directory) = 0;
-  // True for an existing file of any kind that is not a directory. False also when the system does not
-  // tell: who creates or overwrites what is missing asks StateOf.
+  // True for an existing file of any kind that is not a directory. False also when the system does
+  // not tell: who creates or overwrites what is missing asks StateOf.
   virtual bool FileExists(const char* path) = 0;
-  // What is under that name now. `stamp` is filled for FileState::File and emptied otherwise. One question
-  // to the system; links are followed.
+  // What is under that name now. `stamp` is filled for FileState::File and emptied otherwise. One
+  // question to the system; links are followed.
   virtual FileState StateOf(const char* path, FileStamp& stamp) = 0;
 
-  // Gives a file another name in its directory. A file that has that name already is replaced, in one
-  // step. False when that cannot be done: both are then as they were.
+  // Gives a file another name in its directory. A file that has that name already is replaced, in
+  // one step. False when that cannot be done: both are then as they were.
   virtual bool RenameFile(const char* from, const char* to) = 0;
 };
 
-// Hands every operation on to another object, so that a test overrides the one that it wants to fail.
+// Hands every operation on to another object, so that a test overrides the one that it wants to
+// fail.
 class FileAccessWrapper : public FileAccess {
 public:
   // `target` is not owned and must outlive the wrapper.
@@ -130,10 +134,10 @@ FileAccess& Files();
 FileAccess* SetFiles(FileAccess* files);
 
 // The position of the library's own separator in `path` (convention 1): the last backslash, when a
-// plain ASCII file name follows it and no other separator; npos otherwise. Any backslash further left
-// is part of the user's directory. Since the library's file names are ASCII, this finds the separator
-// without knowing the encoding of the directory, so it can neither split a double-byte character nor
-// take a separator for a trail byte.
+// plain ASCII file name follows it and no other separator; npos otherwise. Any backslash further
+// left is part of the user's directory. Since the library's file names are ASCII, this finds the
+// separator without knowing the encoding of the directory, so it can neither split a double-byte
+// character nor take a separator for a trail byte.
 std::size_t SeparatorOf(const char* path);
 
 } // namespace tq

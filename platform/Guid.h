@@ -16,13 +16,14 @@ struct Guid {
 // Characters of a GUID's text form, without the NUL.
 inline constexpr int kGuidTextLength = 36;
 
-// Fills `guid` with a new identifier from the operating system (CoCreateGuid on Windows, the kernel's
-// random source elsewhere, as a version 4 GUID). False, with `guid` zeroed, when the system has none
-// to give. Any thread.
+// Fills `guid` with a new identifier from the operating system (CoCreateGuid on Windows, the
+// kernel's random source elsewhere, as a version 4 GUID). False, with `guid` zeroed, when the
+// system has none to give. Any thread.
 bool NewGuid(Guid& guid);
 
-// Writes the text form, 8-4-4-4-12 hexadecimal digits, and a NUL. The third group is in lower case and
-// the others in upper case: the ids of stored lists have always looked like this. Do not change it.
+// Writes the text form, 8-4-4-4-12 hexadecimal digits, and a NUL. The third group is in lower case
+// and the others in upper case: the ids of stored lists have always looked like this. Do not change
+// it.
 void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]);
 
 // What NewGuid asks. A test puts its own source in place to get known ids, or a failure.

@@ -1,5 +1,5 @@
-// The steps of reading one file whole while others may write it in place. Apart, so that a test changes the
-// file at each of them.
+// The steps of reading one file whole while others may write it in place. Apart, so that a test
+// changes the file at each of them.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
-// The steps of one crash-safe save, each a system call or two, and the order in which they are taken.
-// Apart, so that a test fails or ends the process at each of them.
+// The steps of one crash-safe save, each a system call or two, and the order in which they are
+// taken. Apart, so that a test fails or ends the process at each of them.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ enum class StepResult {
   Failed,  // the save cannot succeed: the disk is full or broken, the file may not be written
 };
 
-// One save of one file. The steps are called by RunSave only, in the order in which they stand here.
-// Destroying the object closes what is open and leaves files as they are.
+// One save of one file. The steps are called by RunSave only, in the order in which they stand
+// here. Destroying the object closes what is open and leaves files as they are.
 class SaveSteps {
 public:
   virtual ~SaveSteps() = default;
@@ -32,8 +32,8 @@ public:
   virtual std::size_t WriteTemporary(const void* bytes, std::size_t size) = 0;
   // Brings the temporary file's bytes to the disk.
   virtual bool FlushTemporary() = 0;
-  // Lets the temporary file take the target's place in one step and closes it. Ok, Refused or Failed;
-  // unless Ok, the target is as it was.
+  // Lets the temporary file take the target's place in one step and closes it. Ok, Refused or
+  // Failed; unless Ok, the target is as it was.
   virtual StepResult ReplaceTarget() = 0;
   // Makes the replacement survive a power failure. A failure changes nothing about the files.
   virtual void FlushDirectory() = 0;

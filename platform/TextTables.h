@@ -15,10 +15,10 @@ inline constexpr unsigned kCodePageGbk = 936;
 // Traditional Chinese and 936 while it does not. Any thread.
 unsigned AnsiCodePage();
 
-// Decodes text of kCodePageBig5 or kCodePageGbk into `utf8`, which is replaced. The text is built of whole
-// characters of that code page (AnsiCharLength). One that the system's table does not assign becomes "?"
-// or a character of the private use area, which no other code page has. False when the system has no such
-// table.
+// Decodes text of kCodePageBig5 or kCodePageGbk into `utf8`, which is replaced. The text is built
+// of whole characters of that code page (AnsiCharLength). One that the system's table does not
+// assign becomes "?" or a character of the private use area, which no other code page has. False
+// when the system has no such table.
 bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8);
 
 // Encodes single characters into one code page. Create one for a text, not for a character.

@@ -60,17 +60,18 @@ constexpr std::uint64_t InEachByte(unsigned char byte) {
 }
 
 // The high bit of a byte is set in the result where the byte is not plain: beyond ASCII, a control
-// character, '<', '>', '&' or a quotation mark of either kind. It may be set for plain bytes above such a
-// one too. Subtracting sets the high bit of a byte that is smaller; '&' and '\'' differ in the lowest
-// bit, '<' and '>' in the next.
+// character, '<', '>', '&' or a quotation mark of either kind. It may be set for plain bytes above
+// such a one too. Subtracting sets the high bit of a byte that is smaller; '&' and '\'' differ in
+// the lowest bit, '<' and '>' in the next.
 inline std::uint64_t MarkSpecial(std::uint64_t bytes) {
   constexpr std::uint64_t one = InEachByte(1);
   return bytes | (bytes - InEachByte(0x20)) | (((bytes | one) ^ InEachByte('\'')) - one) |
          (((bytes | InEachByte(2)) ^ InEachByte('>')) - one) | ((bytes ^ InEachByte('"')) - one);
 }
 
-// True when none of kBlockSize bytes is special: then only the inside of a comment, a CDATA section or a
-// tag would stop in the block. Symbol strings are long, and this takes them many bytes at a time.
+// True when none of kBlockSize bytes is special: then only the inside of a comment, a CDATA section
+// or a tag would stop in the block. Symbol strings are long, and this takes them many bytes at a
+// time.
 inline bool IsPlainBlock(const char* block) {
   std::uint64_t words[kBlockSize / 8];
   std::memcpy(words, block, sizeof words);

@@ -16,8 +16,8 @@ char32_t TakeUtf8Char(const char*& at);
 char* PutUtf8Char(char32_t character, char* bytes);
 
 // Bytes, 1 or 2, of the character of an ANSI code page at `at`, a byte above 0x7F; 0 when the bytes
-// cannot be one. This is the code page's structure, without regard to which characters are assigned:
-// users define their own.
+// cannot be one. This is the code page's structure, without regard to which characters are
+// assigned: users define their own.
 std::size_t AnsiCharLength(unsigned codePage, const char* at, const char* end);
 
 } // namespace tq

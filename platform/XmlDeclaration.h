@@ -13,9 +13,9 @@ struct XmlDeclaration {
   std::size_t length = 0; // bytes before the text proper
 };
 
-// Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without declaration
-// is Ok. `declaration.encoding` is what the file is in unless it names one; a file in UTF-16 is given
-// decoded.
+// Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without
+// declaration is Ok. `declaration.encoding` is what the file is in unless it names one; a file in
+// UTF-16 is given decoded.
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration);
 
 } // namespace tq

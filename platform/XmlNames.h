@@ -1,10 +1,11 @@
-// Names of elements, attributes and instructions: what XML takes for one, and how names travel through the
-// DOM that the DOMs would treat differently. Internal.
+// Names of elements, attributes and instructions: what XML takes for one, and how names travel
+// through the DOM that the DOMs would treat differently. Internal.
 //
-// The library asks for plain ASCII names without a prefix only. Every other name (with a colon, with
-// characters beyond ASCII) is handed to the DOM as kForeignNameMark and its bytes in hexadecimal: no DOM then
-// has to agree with another one about namespaces, unbound prefixes or the letters of a language, and two
-// names are equal to the DOM exactly when they are equal in the file.
+// The library asks for plain ASCII names without a prefix only. Every other name (with a colon,
+// with characters beyond ASCII) is handed to the DOM as kForeignNameMark and its bytes in
+// hexadecimal: no DOM then has to agree with another one about namespaces, unbound prefixes or the
+// letters of a language, and two names are equal to the DOM exactly when they are equal in the
+// file.
 #pragma once
 
 #include <array>

@@ -17,9 +17,10 @@ namespace {
 
 constexpr std::size_t kShortText = 512; // bytes; list names and ids are far shorter
 
-// A list file holds text of the process's code page whatever its declaration says: the writer names big5
-// or gb2312 by the interface language, and on Windows the code page does not follow that. So a
-// declaration that this process would write now stands for the code page, as does the code page's own.
+// A list file holds text of the process's code page whatever its declaration says: the writer names
+// big5 or gb2312 by the interface language, and on Windows the code page does not follow that. So a
+// declaration that this process would write now stands for the code page, as does the code page's
+// own.
 bool IsProcessText(unsigned declared) {
   const unsigned written = ::IsTraditionChinese() != 0 ? kCodePageBig5 : kCodePageGbk;
   return declared == written || declared == AnsiCodePage();
@@ -47,8 +48,8 @@ XmlVerdict ScanDecoded(XmlText& text) {
   return verdict;
 }
 
-// Text of the other Chinese code page. The structure is checked by us, so that all platforms refuse the
-// same bytes whatever their tables make of them.
+// Text of the other Chinese code page. The structure is checked by us, so that all platforms refuse
+// the same bytes whatever their tables make of them.
 XmlVerdict PrepareForeign(unsigned codePage, std::string_view body, XmlText& text) {
   if (!IsStructured(codePage, body) || !DecodeText(codePage, body, text.buffer))
     return XmlVerdict::BadCharacters;
@@ -104,7 +105,8 @@ XmlVerdict PrepareUtf16(std::string_view file, XmlText& text) {
   return ScanDecoded(text);
 }
 
-// Takes the two bytes, or the one, that a carried character at `at` stands for. False when it is none.
+// Takes the two bytes, or the one, that a carried character at `at` stands for. False when it is
+// none.
 bool TakeCarried(const char*& at, char*& out) {
   // All of the plane, and nothing else, begins with these twelve bits.
   const auto byte = [at](int i) { return static_cast<unsigned char>(at[i]); };

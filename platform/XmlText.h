@@ -1,13 +1,14 @@
 // What both bodies of XmlDocument do before the DOM sees a file and after it hands out text.
 //
 // Before: the bytes are checked against everything that the DOMs treat differently (encodings,
-// declarations, document types, names, nesting) and become UTF-8 without a byte-order mark and declaration.
+// declarations, document types, names, nesting) and become UTF-8 without a byte-order mark and
+// declaration.
 //
 // Carrying: a file in the process's own code page is not decoded with conversion tables. Each
 // double-byte character travels through the DOM as one private code point that names its two bytes,
-// kCarriedBase + (lead << 8 | trail), and comes out as those two bytes. A round trip through Unicode
-// would change characters that share a code point with another or have none at all; and no two
-// systems' tables agree on all of them.
+// kCarriedBase + (lead << 8 | trail), and comes out as those two bytes. A round trip through
+// Unicode would change characters that share a code point with another or have none at all; and no
+// two systems' tables agree on all of them.
 #pragma once
 
 #include <cstddef>
@@ -23,9 +24,9 @@ namespace tq {
 inline constexpr std::size_t kXmlSizeLimit = std::size_t{64} << 20;
 // Deepest nesting of elements, the root being 1. The list files have 3.
 inline constexpr int kXmlDepthLimit = 64;
-// What a hostile file could make a DOM slow with: pieces of markup (elements, comments, CDATA sections,
-// instructions) of the whole text, attributes of one element, different names, bytes of a name. The list
-// files have an element for each list, four attributes and eight names.
+// What a hostile file could make a DOM slow with: pieces of markup (elements, comments, CDATA
+// sections, instructions) of the whole text, attributes of one element, different names, bytes of a
+// name. The list files have an element for each list, four attributes and eight names.
 inline constexpr int kXmlPieceLimit = 1'000'000;
 inline constexpr int kXmlAttributeLimit = 64;
 inline constexpr int kXmlNameLimit = 256;
@@ -41,25 +42,25 @@ enum class XmlVerdict {
   BadCharacters,   // bytes that the encoding does not have, or characters that XML does not allow
   DocumentType,    // "<!DOCTYPE" or another markup declaration
   TooDeep,
-  TooMany, // more markup, attributes or names than the limits, or a name that is too long
-  Malformed, // a tag that is none, an open comment, CDATA section or instruction at the end, and the like
+  TooMany,   // more markup, attributes or names than the limits, or a name that is too long
+  Malformed, // a tag that is none, an open comment, CDATA section or instruction at the end, ...
 };
 
 struct XmlText {
-  // The text in UTF-8. It refers to the caller's bytes or to `buffer`: the one must live, and the other
-  // must not be moved, while it is used.
+  // The text in UTF-8. It refers to the caller's bytes or to `buffer`: the one must live, and the
+  // other must not be moved, while it is used.
   std::string_view utf8;
   std::string buffer;
   // True when double-byte characters travel as private code points.
   bool carried = false;
 };
 
-// Prepares a whole file for the DOM. Only with Ok is `text` filled. The DOM still has to check that the
-// text is well-formed. Does not copy a file that is ASCII, or UTF-8, as it stands.
+// Prepares a whole file for the DOM. Only with Ok is `text` filled. The DOM still has to check that
+// the text is well-formed. Does not copy a file that is ASCII, or UTF-8, as it stands.
 XmlVerdict PrepareXml(const char* data, std::size_t size, XmlText& text);
 
-// Text of the DOM, in UTF-8, to the process's code page. `carried` is that of the document's XmlText.
-// `value` is assigned once.
+// Text of the DOM, in UTF-8, to the process's code page. `carried` is that of the document's
+// XmlText. `value` is assigned once.
 void AssignXmlText(std::string_view utf8, bool carried, CString& value);
 
 // The same with a name, as the file has it: its prefix included.

@@ -104,16 +104,16 @@ void CIDList::DiscardRecords() {
   rowTokens_.RemoveAll();
 }
 
-// A list without a string has nothing to ask for; one whose look-up failed asks again, whether its string
-// came from a caller or from records.
+// A list without a string has nothing to ask for; one whose look-up failed asks again, whether its
+// string came from a caller or from records.
 CIDList::Rows CIDList::ResolveIfDue() {
   if (records_ == nullptr && (modified_ != 0 || !ids_.IsEmpty()))
     return Resolve();
   return State();
 }
 
-// Fills the rows from the string. There are none when the service failed, and the next question asks it
-// again.
+// Fills the rows from the string. There are none when the service failed, and the next question
+// asks it again.
 CIDList::Rows CIDList::Resolve() {
   const tq::SplitIds split = tq::SplitIdString(ids_, tokens_);
   if (ids_.IsEmpty()) {
@@ -128,8 +128,8 @@ CIDList::Rows CIDList::Resolve() {
     const int answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count());
     if (watch.IsGone())
       return Rows::ListGone;
-    // What the list has now, if the terminal changed it from within the call, was resolved then or could
-    // not be; this answer is to another question.
+    // What the list has now, if the terminal changed it from within the call, was resolved then or
+    // could not be; this answer is to another question.
     if (answered == 0 || ids_ != asked)
       return State();
   }

@@ -91,8 +91,8 @@ bool CIDList::Holds(const CString& id) const {
   return std::find(tokens_.begin(), tokens_.end(), wanted) != tokens_.end();
 }
 
-// What each token contributes when the string is rebuilt: its record's id, or where it has no record (a
-// heading, an id that the service does not know) the text as it is written.
+// What each token contributes when the string is rebuilt: its record's id, or where it has no
+// record (a heading, an id that the service does not know) the text as it is written.
 std::vector<std::string_view> CIDList::Entries() const {
   std::vector<std::string_view> entries;
   entries.reserve(static_cast<size_t>(tokens_.GetSize()));

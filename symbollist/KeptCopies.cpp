@@ -37,8 +37,8 @@ bool Holds(const CString& copy, const Place& place, const std::string& bytes) {
          Files().ReadWholeFile(copy, bytes.size(), kept) == ReadResult::Ok && kept == bytes;
 }
 
-// Free names in order, then copies by age. Those of one time stand in the order in which they were made
-// from the one behind `last` on.
+// Free names in order, then copies by age. Those of one time stand in the order in which they were
+// made from the one behind `last` on.
 void SortByTurn(std::vector<Place>& places, int last) {
   const auto turn = [last](const Place& place) {
     const int behind = (place.number - last - 1 + kKeptCopies) % kKeptCopies;

@@ -1,9 +1,10 @@
-// What the manager knows of the list files on the disk, so that no save writes over lists that nobody has
-// seen. A file that was read whole, or that the manager wrote itself, may be written over; any other (its
-// load failed or ended early, the start failed before it, another program wrote it since) is copied beside
-// itself first.
+// What the manager knows of the list files on the disk, so that no save writes over lists that
+// nobody has seen. A file that was read whole, or that the manager wrote itself, may be written
+// over; any other (its load failed or ended early, the start failed before it, another program
+// wrote it since) is copied beside itself first.
 //
-// One thread. Paths are compared byte by byte; another spelling of one file's path only costs a copy.
+// One thread. Paths are compared byte by byte; another spelling of one file's path only costs a
+// copy.
 #pragma once
 
 #include <string>
@@ -14,7 +15,8 @@
 
 namespace tq {
 
-// The largest file that is copied, in bytes. Far more than any list file has, and than is ever read as one.
+// The largest file that is copied, in bytes. Far more than any list file has, and than is ever read
+// as one.
 inline constexpr std::size_t kKeptSizeLimit = std::size_t{1} << 30;
 
 // How the load of a list file ended.
@@ -45,21 +47,21 @@ class KeptFiles {
 public:
   // No file is known: the lists in memory come from none.
   void ForgetAll();
-  // The load of a file begins, which empties the lists in memory: until it ends no file counts as known,
-  // for the symbol-data service may let the terminal save meanwhile.
+  // The load of a file begins, which empties the lists in memory: until it ends no file counts as
+  // known, for the symbol-data service may let the terminal save meanwhile.
   void BeginLoad() { ++loads_; }
-  // It ended. After Whole that file is known, and the others stay as they are; after Empty that file alone
-  // is, after any other outcome none.
+  // It ended. After Whole that file is known, and the others stay as they are; after Empty that
+  // file alone is, after any other outcome none.
   void EndLoad(const CString& path, LoadOutcome outcome, FileContents contents);
 
-  // Saves `bytes`, the manager's lists, which makes the file known. Results as FileAccess::SaveWholeFile;
-  // NotOpened also when MayWrite says no.
+  // Saves `bytes`, the manager's lists, which makes the file known. Results as
+  // FileAccess::SaveWholeFile; NotOpened also when MayWrite says no.
   SaveResult Save(const CString& path, std::string bytes);
 
-  // Whether the file may be written over: it is missing, holds no list, or is known as it is now; else its
-  // bytes are kept in a copy (KeptCopies.h) first, with a line in the log that says why. False, with a line,
-  // when that cannot be done. For a known file that nobody has written since, this is one question to the
-  // system.
+  // Whether the file may be written over: it is missing, holds no list, or is known as it is now;
+  // else its bytes are kept in a copy (KeptCopies.h) first, with a line in the log that says why.
+  // False, with a line, when that cannot be done. For a known file that nobody has written since,
+  // this is one question to the system.
   bool MayWrite(const CString& path);
 
 private:

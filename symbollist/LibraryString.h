@@ -16,8 +16,8 @@ inline constexpr unsigned kStringFirstProduct =
 inline constexpr unsigned kStringCloudList = 48047;
 inline constexpr unsigned kStringFirstCloudId = 48049;
 
-// Entry `id` in the terminal's interface language and the process's ANSI code page; a character that the
-// code page lacks is "?". Empty for an entry that the table does not have.
+// Entry `id` in the terminal's interface language and the process's ANSI code page; a character
+// that the code page lacks is "?". Empty for an entry that the table does not have.
 CString LibraryString(unsigned id);
 
 } // namespace tq

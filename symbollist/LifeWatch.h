@@ -1,9 +1,9 @@
 // Tells a member function whether its object was destroyed by what it called.
 //
-// The symbol-data service may handle the terminal's messages while it is asked, and the terminal may then
-// delete the very list that asks. The object keeps a pointer to the innermost watch on it, null at the
-// start, and cuts them all in its destructor; a function that asked the service looks at its watch before
-// it touches the object again.
+// The symbol-data service may handle the terminal's messages while it is asked, and the terminal
+// may then delete the very list that asks. The object keeps a pointer to the innermost watch on it,
+// null at the start, and cuts them all in its destructor; a function that asked the service looks
+// at its watch before it touches the object again.
 #pragma once
 
 namespace tq {

@@ -13,11 +13,12 @@ inline CSymbolList* ListAt(const CPtrArray& lists, int index) {
 // Position of the first list with that identifier (ignoring letter case), or -1.
 int FindListById(const CPtrArray& lists, const char* id);
 
-// Position of the first list with that name (ignoring letter case) other than the one at `skip`, or -1.
+// Position of the first list with that name (ignoring letter case) other than the one at `skip`, or
+// -1.
 int FindListByName(const CPtrArray& lists, const char* name, int skip = -1);
 
-// Whether the two arrays hold, position by position, lists of the same name (letter case counts) and
-// the same symbol string.
+// Whether the two arrays hold, position by position, lists of the same name (letter case counts)
+// and the same symbol string.
 bool SameNamesAndContents(const CPtrArray& left, const CPtrArray& right);
 
 // Deletes every list and empties the array.

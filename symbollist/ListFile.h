@@ -12,8 +12,8 @@ inline constexpr char kListFileName[] = "\\SymbolList.xml";
 inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 
 // The whole document: declaration in the interface's language, the default index, and one line for
-// each CSymbolList of `lists` in order. With a negative default index no list is written: that is the
-// file of a manager that has no lists. Text is in the process's ANSI code page, unescaped.
+// each CSymbolList of `lists` in order. With a negative default index no list is written: that is
+// the file of a manager that has no lists. Text is in the process's ANSI code page, unescaped.
 std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 
 // Whether a file of that text and that many lists is within the bounds that hold for loading one

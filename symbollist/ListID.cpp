@@ -131,6 +131,6 @@ int CListID::IsValid() {
   return 1;
 }
 
-// Nothing, and it has to stay so: terminals read a new text into an identity that bears a name and an
-// original identity, and go on using these.
+// Nothing, and it has to stay so: terminals read a new text into an identity that bears a name and
+// an original identity, and go on using these.
 void CListID::Clear() {}

@@ -11,7 +11,8 @@
 
 namespace tq {
 
-// Gives the answers of FindListById and FindListByName. Whoever adds a list to the array tells the index.
+// Gives the answers of FindListById and FindListByName. Whoever adds a list to the array tells the
+// index.
 class ListIndex {
 public:
   explicit ListIndex(const CPtrArray& lists);

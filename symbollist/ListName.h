@@ -18,15 +18,15 @@ inline CString NumberSuffix(int number) {
   return suffix;
 }
 
-// The name with `suffix` behind it, shortened in front of the suffix at a whole character where the two
-// would not fit.
+// The name with `suffix` behind it, shortened in front of the suffix at a whole character where the
+// two would not fit.
 inline CString WithSuffix(const CString& name, const CString& suffix) {
   return name.Left(std::min(name.GetLength(), kNameLimit - suffix.GetLength())) + suffix;
 }
 
-// `name`, or where `taken` says yes, the name with "(1)" behind it, then with "(2)" in the place of that,
-// and so on up to "(100)"; a name that has the number already is renumbered, everywhere in it. After the
-// last attempt the candidate comes back although it is taken.
+// `name`, or where `taken` says yes, the name with "(1)" behind it, then with "(2)" in the place of
+// that, and so on up to "(100)"; a name that has the number already is renumbered, everywhere in
+// it. After the last attempt the candidate comes back although it is taken.
 template <typename TAKEN> CString FreeName(const CString& wanted, TAKEN taken) {
   CString name = wanted.Left(std::min(wanted.GetLength(), kNameLimit));
   int number = 1;
@@ -49,9 +49,9 @@ template <typename TAKEN> CString FreeName(const CString& wanted, TAKEN taken) {
 // Times that a suffix is put behind a taken name. Part of the interface.
 inline constexpr int kSuffixAttempts = 5;
 
-// `name`, or where `taken` says yes, the name with `suffix` behind it, then with another behind that, up
-// to five. Names are tried as they are kept: one that does not fit is shortened in front of its suffixes.
-// After the last attempt the candidate comes back although it is taken.
+// `name`, or where `taken` says yes, the name with `suffix` behind it, then with another behind
+// that, up to five. Names are tried as they are kept: one that does not fit is shortened in front
+// of its suffixes. After the last attempt the candidate comes back although it is taken.
 template <typename TAKEN>
 CString SuffixedName(const CString& wanted, const CString& suffix, TAKEN taken) {
   CString name = WithSuffix(wanted, CString());

@@ -9,12 +9,12 @@ namespace tq {
 inline constexpr int kLogChange = 64; // lists and groups changed or were found odd
 inline constexpr int kLogGeneral = 256;
 
-// The logger, or null before OpenLog and after CloseLog. It is created once and lives until the library is
-// unloaded.
+// The logger, or null before OpenLog and after CloseLog. It is created once and lives until the
+// library is unloaded.
 TQLog* Log();
 
-// Creates the logger in the subdirectory "Log" of the directory that holds this library, unless there
-// is one, and writes its first line. When it cannot be allocated it stays absent.
+// Creates the logger in the subdirectory "Log" of the directory that holds this library, unless
+// there is one, and writes its first line. When it cannot be allocated it stays absent.
 void OpenLog();
 
 // Destroys the logger, if there is one. Managers may outlive it: their lines are then dropped.

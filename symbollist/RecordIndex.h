@@ -14,15 +14,15 @@ namespace tq {
 std::string_view IdOf(const SymbolInfo& record);
 
 // Refers to the service's array, which must outlive it. The service answers in the order of the
-// request, so the next record is nearly always the one wanted; only when it is not (an unknown id, a
-// repeated one, another order, another letter case) is a hash index over all records built.
+// request, so the next record is nearly always the one wanted; only when it is not (an unknown id,
+// a repeated one, another order, another letter case) is a hash index over all records built.
 class RecordIndex {
 public:
   explicit RecordIndex(std::span<const SymbolInfo> records) : records_(records) {}
 
-  // The record whose id is `id`, or else one whose id differs from it in letter case only: lists may have
-  // an id in another case than the service, and some services tell "PFDa" from "PFDA". Of several alike
-  // the last. Null when there is none.
+  // The record whose id is `id`, or else one whose id differs from it in letter case only: lists
+  // may have an id in another case than the service, and some services tell "PFDa" from "PFDA". Of
+  // several alike the last. Null when there is none.
   const SymbolInfo* Find(std::string_view id);
 
 private:

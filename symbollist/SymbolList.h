@@ -15,8 +15,8 @@ class XmlElement;
 void AppendListElement(const TQSymbolListInfo& list, const CString& ids, std::string& document);
 } // namespace tq
 
-// The terminal gets lists from CTQSymbolListMgr: live ones, which stay the manager's, or copies, which
-// it deletes.
+// The terminal gets lists from CTQSymbolListMgr: live ones, which stay the manager's, or copies,
+// which it deletes.
 class TQSYMBOL_API CSymbolList : public CIDList {
 public:
   CSymbolList();
@@ -44,13 +44,13 @@ public:
   int GetFlag() const { return flag_; }
 
   // Reads the list from a List element of the list file: the attributes ID, Name and Value; Flag is
-  // worked out from the identifier, whatever the file says. Returns 0, with the list empty, when the
-  // element carries no attributes at all, else 1. The ids are resolved at once.
+  // worked out from the identifier, whatever the file says. Returns 0, with the list empty, when
+  // the element carries no attributes at all, else 1. The ids are resolved at once.
   int FillFromElement(const tq::XmlElement& element);
 
-  // Identifiers are kept up to 36 bytes and names up to 64, both cut at a whole character; bytes that the
-  // list file cannot hold are left out, with a line in the log. Setting the identifier works the system
-  // flag out anew.
+  // Identifiers are kept up to 36 bytes and names up to 64, both cut at a whole character; bytes
+  // that the list file cannot hold are left out, with a line in the log. Setting the identifier
+  // works the system flag out anew.
   void SetID(const char* id);
   void SetName(const char* name);
 

@@ -43,8 +43,8 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   bCN_ = bCN;
 
   // Here and not only when the file is loaded: a start that fails at the tables must not leave the
-  // lists of the directory before, for the next save would put them into this one. Nor may that save take
-  // the file for one that has been seen.
+  // lists of the directory before, for the next save would put them into this one. Nor may that
+  // save take the file for one that has been seen.
   ClearSymbolList();
   keptFiles_->ForgetAll();
   StartTradingLists();
@@ -57,7 +57,8 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
     return 0;
 
   const CString listFile = FilePath(tq::kListFileName);
-  // Only where the system says that there is none: an error of a drive must not cost the user's lists.
+  // Only where the system says that there is none: an error of a drive must not cost the user's
+  // lists.
   tq::FileStamp stamp;
   if (tq::Files().DirectoryExists(dataDirectory_) &&
       tq::Files().StateOf(listFile, stamp) == tq::FileState::Missing)

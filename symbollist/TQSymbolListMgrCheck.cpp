@@ -23,8 +23,8 @@ int CTQSymbolListMgr::CheckSymbolListExist(const CString& id, int kind) {
   return lists != nullptr && tq::FindListById(*lists, id) >= 0;
 }
 
-// Identifiers need not be unique in a file that somebody else wrote, so one of several may be the one
-// with the name.
+// Identifiers need not be unique in a file that somebody else wrote, so one of several may be the
+// one with the name.
 int CTQSymbolListMgr::CheckListAndNameExist(const CString& id, const CString& name, int kind) {
   const CPtrArray* lists = ListsOf(kind);
   for (int i = 0; lists != nullptr && i < lists->GetSize(); ++i) {

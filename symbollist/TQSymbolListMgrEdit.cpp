@@ -22,8 +22,8 @@ constexpr int kListBearsName = 2;
 
 int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CString& name,
                                     const CString& symbols, int append, int overwrite) {
-  // Name and symbols as they are going to be kept: what the file cannot hold does not make a name another
-  // one, and is no symbol.
+  // Name and symbols as they are going to be kept: what the file cannot hold does not make a name
+  // another one, and is no symbol.
   const CString keptName = tq::StorableText(name);
   const CString keptSymbols = tq::StorableText(symbols);
   if (keptName.IsEmpty() || keptSymbols.IsEmpty() || !tq::IsKeptWhole(id))
@@ -75,9 +75,9 @@ int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
   return 1;
 }
 
-// A copy for the manager, with moved symbols renamed in both lists. In the caller's too, on purpose: it goes
-// on showing what was stored. The caller's list may be the manager's own, which the terminal can delete
-// while the service is asked: it is not looked at after that.
+// A copy for the manager, with moved symbols renamed in both lists. In the caller's too, on
+// purpose: it goes on showing what was stored. The caller's list may be the manager's own, which
+// the terminal can delete while the service is asked: it is not looked at after that.
 CSymbolList* CTQSymbolListMgr::CopyMoved(CSymbolList& source) {
   auto copy = std::make_unique<CSymbolList>(source);
   CString ids = source.GetIDs();
@@ -103,8 +103,8 @@ int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
     if (CSymbolList* source = tq::ListAt(*lists, i))
       copies.Add(CopyMoved(*source));
   }
-  // Only now the old ones go: the caller may have handed over lists of the manager itself, and a save by the
-  // terminal, while symbols were resolved, must not have found a part of the new ones.
+  // Only now the old ones go: the caller may have handed over lists of the manager itself, and a
+  // save by the terminal, while symbols were resolved, must not have found a part of the new ones.
   tq::DestroyLists(lists_);
   lists_.Copy(copies);
   if (defaultIndex_ < 0 && !lists_.IsEmpty())
@@ -118,8 +118,8 @@ int CTQSymbolListMgr::DeleteSymbolList(CString id) {
   const int index = tq::FindListById(lists_, id);
   if (index < 0)
     return 0;
-  // Only deleting the default list itself, as the last one, moves the index. A list deleted in front of
-  // it leaves the index, which then means the next list: terminals rely on that.
+  // Only deleting the default list itself, as the last one, moves the index. A list deleted in
+  // front of it leaves the index, which then means the next list: terminals rely on that.
   if (index == defaultIndex_ && index == lists_.GetUpperBound())
     --defaultIndex_;
   delete tq::ListAt(lists_, index);
@@ -135,8 +135,8 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
   int changed = 0;
   for (int i = 0; i < lists_.GetSize(); ++i) {
     CString ids = tq::ListAt(lists_, i)->GetIDs();
-    // Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
-    // inside that one too. Callers rename whole families of ids by their common start.
+    // Plain substrings of the whole string, not ids: an old id that is a part of a longer one
+    // changes inside that one too. Callers rename whole families of ids by their common start.
     for (int k = 0; k < pairs; ++k)
       ids.Replace((*oldIds)[k], (*newIds)[k]);
     changed |= tq::ListAt(lists_, i)->Update1(ids);

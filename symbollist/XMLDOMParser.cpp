@@ -75,8 +75,9 @@ void CXMLDOMParser::LoadSymbolList(const CString& path) {
   int defaultIndex = manager_.defaultIndex_;
   if (Load(path))
     outcome_ = ReadLists(lists, defaultIndex);
-  // Only now: while the ids are resolved the service may let the terminal save, or load again, and it must
-  // find the whole of the lists of before, not a part of these. A file that could not be read leaves none.
+  // Only now: while the ids are resolved the service may let the terminal save, or load again, and
+  // it must find the whole of the lists of before, not a part of these. A file that could not be
+  // read leaves none.
   CPtrArray before;
   before.Copy(manager_.lists_);
   manager_.lists_.Copy(lists);

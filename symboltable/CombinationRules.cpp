@@ -70,7 +70,8 @@ OptFutError CheckOneKind(const CombinationLeg& leg, const CombinationLeg& other)
   const bool sameStrike = ComparePrices(leg.strike, other.strike) == PriceOrder::Equal;
   if (leg.month != other.month)
     return sameStrike ? CheckTimeSpread(leg.month, other.month) : OptFutStrikesDiffer;
-  // No rule is broken by the same contract bought and sold; whether it makes sense is the exchange's.
+  // No rule is broken by the same contract bought and sold; whether it makes sense is the
+  // exchange's.
   return sameStrike ? OptFutNoError : CheckPriceSpread(leg.CallPut(), leg.strike, other.strike);
 }
 

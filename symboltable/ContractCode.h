@@ -1,6 +1,6 @@
-// The exchange's compact contract codes, taken apart by position. An option is ten characters: three
-// of the commodity, five digits of the strike, the month letter, the last digit of the year. A
-// futures contract is the commodity, the month letter and the digit of the year.
+// The exchange's compact contract codes, taken apart by position. An option is ten characters:
+// three of the commodity, five digits of the strike, the month letter, the last digit of the year.
+// A futures contract is the commodity, the month letter and the digit of the year.
 //
 // Nothing here checks: a code of any length or content has an answer, and what is missing is empty
 // or NUL.
@@ -14,7 +14,8 @@ inline constexpr std::size_t kOptionCodeLength = 10;
 inline constexpr std::size_t kCommodityLength = 3;
 inline constexpr std::size_t kStrikeLength = 5;
 inline constexpr std::size_t kMonthCodeLength = 2;
-// A code less its month code, and a code less its commodity: what a typed combination may leave out.
+// A code less its month code, and a code less its commodity: what a typed combination may leave
+// out.
 inline constexpr std::size_t kCommodityStrikeLength = kCommodityLength + kStrikeLength;
 inline constexpr std::size_t kStrikeMonthLength = kStrikeLength + kMonthCodeLength;
 static_assert(kCommodityStrikeLength + kMonthCodeLength == kOptionCodeLength);
@@ -55,7 +56,8 @@ int OptionMonth(char monthLetter);
 int FutureMonth(char monthLetter);
 
 // The year that the digit stands for, by the local calendar: this year when that ends in the digit,
-// else the next. Contracts run no longer, so a digit that is past, or none at all, is next year too.
+// else the next. Contracts run no longer, so a digit that is past, or none at all, is next year
+// too.
 int ExpiryYear(char yearDigit);
 
 // A strike without its leading zeros; of a strike of zeros one is kept.

@@ -39,7 +39,8 @@ private:
 // The name in a record, ended by its field when the service left the NUL out.
 std::string_view NameOf(const ExchInfo& exchange);
 
-// The name of the exchange with that id. 0, with `name` as it was, when the service fails or lists none.
+// The name of the exchange with that id. 0, with `name` as it was, when the service fails or lists
+// none.
 int ReadExchangeName(int exchId, CString& name);
 
 // Whether the user is entitled to an exchange. The service is asked each time.

@@ -1,9 +1,10 @@
 // From a key to the node that carries it: an open-addressing table.
 //
-// Entries stand in groups, each with one byte of the hash for every entry, so that a look-up hardly ever
-// looks at an entry that is not the right one. These bytes, the codes of the keys and what stands under
-// them lie in arrays of their own: the first stays in the processor's caches even for a whole market, and
-// of the others a look-up touches a cache line each, without waiting for one to know the other.
+// Entries stand in groups, each with one byte of the hash for every entry, so that a look-up hardly
+// ever looks at an entry that is not the right one. These bytes, the codes of the keys and what
+// stands under them lie in arrays of their own: the first stays in the processor's caches even for
+// a whole market, and of the others a look-up touches a cache line each, without waiting for one to
+// know the other.
 #pragma once
 
 #include <bit>
@@ -40,8 +41,8 @@ public:
       __builtin_prefetch(&groups_[GroupOf(hash)]);
   }
 
-  // The entry with that key; kNoSlot when there is none. Keys that are longer than their codes are told
-  // apart by isMatch(node).
+  // The entry with that key; kNoSlot when there is none. Keys that are longer than their codes are
+  // told apart by isMatch(node).
   template <typename IsMatch> Slot Find(const SymbolKey& key, IsMatch isMatch) const {
     if (key.text.size() <= kCodedBytes)
       return FindCode(key.code, key.hash);
@@ -75,8 +76,8 @@ private:
 
   struct alignas(16) Group {
     std::uint8_t tags[kSlotCount];
-    // Which hashes went past this group when it was full, by their PassedBit. Never taken back: what
-    // they look for may still stand behind.
+    // Which hashes went past this group when it was full, by their PassedBit. Never taken back:
+    // what they look for may still stand behind.
     std::uint32_t passed;
 
     // A bit for each slot with that tag.
@@ -117,8 +118,8 @@ private:
 
   template <typename HashOf> void Rebuild(HashOf hashOf) {
     const KeyIndex old = std::move(*this);
-    // Half as many again: an index that grows by ones is not made anew for each of them. Where removals
-    // have only worn it out it stays as large as it was.
+    // Half as many again: an index that grows by ones is not made anew for each of them. Where
+    // removals have only worn it out it stays as large as it was.
     Reset(old.size_ < old.capacity_ ? old.capacity_ : old.size_ + old.size_ / 2 + 1);
     for (std::size_t i = 0; i < old.groupCount_ * kSlotCount; ++i)
       if (old.groups_[i / kSlotCount].tags[i % kSlotCount] != kNoTag)

@@ -11,7 +11,8 @@ namespace tq {
 // 0 when there is no number. A number that an int cannot hold gives the nearest one that it can.
 int LeadingInt(std::string_view text);
 
-// Calls visit(position, number) for each piece of `text`, as ForEachPiece does; an empty one reads as 0.
+// Calls visit(position, number) for each piece of `text`, as ForEachPiece does; an empty one reads
+// as 0.
 template <typename Visit> void ForEachNumber(std::string_view text, Visit visit) {
   ForEachPiece(text,
                [&](int position, std::string_view piece) { visit(position, LeadingInt(piece)); });

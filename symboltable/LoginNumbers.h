@@ -9,8 +9,8 @@
 
 namespace tq {
 
-// Calls visit(number) for each of them, in their order. False, and nothing called, when the information
-// cannot be read.
+// Calls visit(number) for each of them, in their order. False, and nothing called, when the
+// information cannot be read.
 template <typename Visit> bool ReadLoginNumbers(LoginInfoFlag flag, Visit visit) {
   char text[TQSUserInfoSize] = {};
   if (!TQSGetUserInfo(flag, text, ""))

@@ -18,8 +18,8 @@ public:
   // Whether any symbol can move at all.
   bool Knows() const { return from_ != nullptr && from_->IsWhole() && to_ != nullptr; }
 
-  // Where in `token` the suffix starts that is to be the new exchange's; npos when the token stays. The
-  // string of the question keeps its room from one token to the next.
+  // Where in `token` the suffix starts that is to be the new exchange's; npos when the token stays.
+  // The string of the question keeps its room from one token to the next.
   std::size_t SuffixToMove(std::string_view token) {
     const std::size_t dot = token.rfind('.');
     if (dot == std::string_view::npos || dot == 0 || token.find(':', 1) != std::string_view::npos ||

@@ -33,8 +33,8 @@ int COptFutID::ChkBS(char side1, char side2) {
 
 int COptFutID::ChkCommIDFormat(const CString& code) {
   const std::string_view text = tq::ViewOf(code);
-  // A code of another length has no error of its own: the number that terminals would show for it does
-  // not exist, so none is to be stored here.
+  // A code of another length has no error of its own: the number that terminals would show for it
+  // does not exist, so none is to be stored here.
   return text.size() == tq::kOptionCodeLength && Report(tq::CheckOptionCode(text));
 }
 

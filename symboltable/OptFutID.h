@@ -1,21 +1,21 @@
-// COptFutID: combination orders of two legs on exchange-listed options and futures. It splits a typed
-// combination into its legs and sides, checks that two legs make a combination that the exchange
-// takes, and writes the description that a person reads.
+// COptFutID: combination orders of two legs on exchange-listed options and futures. It splits a
+// typed combination into its legs and sides, checks that two legs make a combination that the
+// exchange takes, and writes the description that a person reads.
 //
 // Conventions that hold for the whole class
 //  1. All calls come from the terminal's user-interface thread, as the service is asked.
 //  2. Text is in the process's ANSI code page. Codes are compared as they are: in upper case.
-//  3. An option code has ten characters: three of the commodity (A-Z, 0-9), five digits of the strike
-//     with leading zeros, the month letter (A to L January to December of a call, M to X of a put),
-//     the last digit of the expiry year. "TXO21000L6" is the December call at 21000. A futures code
-//     has the commodity, a month letter A to L and the digit of the year: "TXFL6".
+//  3. An option code has ten characters: three of the commodity (A-Z, 0-9), five digits of the
+//     strike with leading zeros, the month letter (A to L January to December of a call, M to X of
+//     a put), the last digit of the expiry year. "TXO21000L6" is the December call at 21000. A
+//     futures code has the commodity, a month letter A to L and the digit of the year: "TXFL6".
 //  4. The digit stands for this year of the local calendar when that ends in it, else for the next
 //     year, even for a digit that is past: no contract runs longer.
 //  5. A side is "B" (buy) or "S" (sell).
-//  6. Results are int: non-zero for success, 0 for failure. After a failure GetErrorCode tells why and
-//     all outputs are as they were. Outputs may be the objects that the inputs are. Nothing throws,
-//     and texts of any length and content are taken, with `check` 0 as well: what a code lacks is
-//     then missing in the answer.
+//  6. Results are int: non-zero for success, 0 for failure. After a failure GetErrorCode tells why
+//     and all outputs are as they were. Outputs may be the objects that the inputs are. Nothing
+//     throws, and texts of any length and content are taken, with `check` 0 as well: what a code
+//     lacks is then missing in the answer.
 #pragma once
 
 #include <cstdint>
@@ -56,8 +56,8 @@ public:
   // Error code 0.
   COptFutID();
 
-  // An OptFutError: that of the latest check that failed with one. Success does not reset it, and an
-  // option code that is not ten characters long fails without one.
+  // An OptFutError: that of the latest check that failed with one. Success does not reset it, and
+  // an option code that is not ten characters long fails without one.
   int GetErrorCode() const;
 
   // Splits a typed combination, blanks around it ignored, into two full codes.
@@ -66,15 +66,15 @@ public:
   //   "TXO21000L6:X6"     straddle: a call, then the put's month code
   //   "TXO21000X6:22000L6" strangle: a put, then the call's strike and month code
   //   "TXO21000L6-X6"     reversal or conversion: a call, then the put's month code
-  // The first "/" decides, without one the first ":", then the first "-"; one that opens the text does
-  // not count. `side` is the side of the second leg; the first has the same around ":", else the
-  // opposite ("B" for anything but "B").
+  // The first "/" decides, without one the first ":", then the first "-"; one that opens the text
+  // does not count. `side` is the side of the second leg; the first has the same around ":", else
+  // the opposite ("B" for anything but "B").
   //
   // With `check` non-zero the legs must make a combination as the exchange takes it (ChkSpread,
-  // ChkStraddle_Strangle, ChkReversals_Conversion). With 0 they are completed by their lengths alone: a
-  // first text whose last character but one is a digit (so that it has no month code) takes over the
-  // second's last two; a second of 7 characters takes over the first three of the first leg, any other
-  // the first eight.
+  // ChkStraddle_Strangle, ChkReversals_Conversion). With 0 they are completed by their lengths
+  // alone: a first text whose last character but one is a digit (so that it has no month code)
+  // takes over the second's last two; a second of 7 characters takes over the first three of the
+  // first leg, any other the first eight.
   int SeparateID(const CString& id, char side, CString& id1, char& side1, CString& id2, char& side2,
                  int check);
 
@@ -89,17 +89,17 @@ public:
 
   // The same in one form for all combinations, blanks around the ids ignored:
   //   "TXO S 202612TF TX1 21000 CALL - B 202612TF TX1 22000 CALL"
-  // Behind each month stands the exchange of the leg (field 113 of `tables`), then its short name as
-  // the service has it, strike and kind. Exchange and short name are left out for a leg that the
+  // Behind each month stands the exchange of the leg (field 113 of `tables`), then its short name
+  // as the service has it, strike and kind. Exchange and short name are left out for a leg that the
   // service does not know, when it has no answer, and when `tables`, which stays the caller's, is
   // null. With `check` 0 the words CALL and PUT are left out, the blanks around them are not.
   int MergeID2(CString& text, char& side, const CString& id1, char side1, const CString& id2,
                char side2, int check, CSymbolTableMgr* tables);
 
-  // Writes the description of a calendar spread of two futures codes: "TXF S 202612 - B 202701", the
-  // nearer month first (of equal ones `id1`), each with the text of its week behind it
-  // ("202612W2") when the service has one. `side` becomes the later leg's. The commodity is that
-  // of `id1`; what `id2` is of is not looked at. Fails with 1 unless both have 5 characters or more.
+  // Writes the description of a calendar spread of two futures codes: "TXF S 202612 - B 202701",
+  // the nearer month first (of equal ones `id1`), each with the text of its week behind it
+  // ("202612W2") when the service has one. `side` becomes the later leg's. The commodity is that of
+  // `id1`; what `id2` is of is not looked at. Fails with 1 unless both have 5 characters or more.
   int MergeFuturID(CString& text, char& side, const CString& id1, char side1, const CString& id2,
                    char side2);
 
@@ -118,13 +118,13 @@ protected:
   int ChkCommIDFormat(const CString& code);
   // Two full legs: the format of each, the sides, then ChkTwoCommID.
   int ChkCommID(const CString& id1, char side1, const CString& id2, char side2);
-  // Two full legs whose formats and sides are right. Strikes are those that the service lists, when it has
-  // both and both are plain decimal numbers ("52.5"), else the five digits of the codes.
+  // Two full legs whose formats and sides are right. Strikes are those that the service lists, when
+  // it has both and both are plain decimal numbers ("52.5"), else the five digits of the codes.
   //   a call and a put   one month (15); on one side the first strike equal or higher (13), on
   //                      opposite sides equal (11); with equal strikes the call first (17)
-  //   one kind           opposite sides (9); in one month with two strikes the first strike higher of
-  //                      calls (12), lower of puts (13); in two months one strike (11) and the first
-  //                      month earlier (14, 16)
+  //   one kind           opposite sides (9); in one month with two strikes the first strike higher
+  //                      of calls (12), lower of puts (13); in two months one strike (11) and the
+  //                      first month earlier (14, 16)
   // The same contract twice, on opposite sides, passes.
   int ChkTwoCommID(const CString& id1, char side1, const CString& id2, char side2);
   // The texts around the separator of a typed combination. Passed, `id1` and `id2` are the legs.
@@ -133,8 +133,9 @@ protected:
   // Months are not compared here.
   int ChkReversals_Conversion(const CString& first, const CString& second, CString& id1,
                               CString& id2);
-  // Whether two month letters are of one kind (GetCallPut). Unlike the others it stores no error: whether
-  // the kinds have to be the same or to differ is the caller's, and so is the code for it (103, 104).
+  // Whether two month letters are of one kind (GetCallPut). Unlike the others it stores no error:
+  // whether the kinds have to be the same or to differ is the caller's, and so is the code for it
+  // (103, 104).
   int ChkTheSameCP(char month1, char month2);
   // Two month codes are of one month, be they a call's or a put's; error 15.
   int ChkTheSameMonth(const CString& month1, const CString& month2);

@@ -7,8 +7,8 @@
 
 namespace {
 
-// A leg that shares `shared` characters with the first and goes on with the typed text. Bytes and not
-// characters are counted: what is no plain code is found out by its format.
+// A leg that shares `shared` characters with the first and goes on with the typed text. Bytes and
+// not characters are counted: what is no plain code is found out by its format.
 CString CompleteLeg(std::string_view first, std::size_t shared, std::string_view typed) {
   CString leg = tq::ToCString(first.substr(0, shared));
   leg.Append(typed.data(), static_cast<int>(typed.size()));
@@ -114,8 +114,8 @@ int COptFutID::ChkTwoCommID(const CString& id1, char side1, const CString& id2, 
   tq::CombinationLeg two = LegOf(id2);
   const CString listed1 = tq::WeekOfCode(id1).strike;
   const CString listed2 = tq::WeekOfCode(id2).strike;
-  // Both or none: a listed strike and five digits may be in different units. What is no price cannot be
-  // compared, the digits can.
+  // Both or none: a listed strike and five digits may be in different units. What is no price
+  // cannot be compared, the digits can.
   if (tq::IsPrice(tq::ViewOf(listed1)) && tq::IsPrice(tq::ViewOf(listed2))) {
     one.strike = tq::ViewOf(listed1);
     two.strike = tq::ViewOf(listed2);

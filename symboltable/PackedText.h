@@ -69,8 +69,8 @@ constexpr std::uint64_t RepeatByte(std::uint8_t byte) {
 }
 constexpr std::uint64_t kTopBits = RepeatByte(0x80);
 
-// The top bit of each byte of `word` that is `byte`. Exact: the shorter form that lets a borrow run into the
-// next byte would report neighbours, too.
+// The top bit of each byte of `word` that is `byte`. Exact: the shorter form that lets a borrow run
+// into the next byte would report neighbours, too.
 constexpr std::uint64_t BytesEqual(std::uint64_t word, std::uint8_t byte) {
   const std::uint64_t difference = word ^ RepeatByte(byte);
   return ~(((difference & ~kTopBits) + ~kTopBits) | difference | ~kTopBits);
@@ -81,8 +81,8 @@ constexpr std::uint64_t AsciiBytesEqual(std::uint64_t ascii, std::uint8_t byte) 
   return ~((ascii ^ RepeatByte(byte)) + ~kTopBits) & kTopBits;
 }
 
-// The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f sets the top bit of
-// a byte from 'a' on, adding 5 that of one behind 'z'.
+// The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f
+// sets the top bit of a byte from 'a' on, adding 5 that of one behind 'z'.
 constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
   return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & kTopBits;
 }
@@ -111,7 +111,8 @@ constexpr bool IsUpperAscii(PackedText head) {
          0;
 }
 
-// The upper and the lower half of a product, mixed: a hash of two words as long as nobody knows `left`.
+// The upper and the lower half of a product, mixed: a hash of two words as long as nobody knows
+// `left`.
 inline std::uint64_t MixProduct(std::uint64_t left, std::uint64_t right) {
   __extension__ using Wide = unsigned __int128;
   const Wide product = Wide{left} * right;

@@ -10,8 +10,8 @@ namespace {
 
 constexpr char kNoMark = ' ';
 
-// Bits of present_: the held numbers that the service gave, and what is not held because it can be told
-// from the id.
+// Bits of present_: the held numbers that the service gave, and what is not held because it can be
+// told from the id.
 enum : unsigned {
   KindBit = 1,
   BoardBit = 2,

@@ -12,7 +12,8 @@ namespace {
 
 constexpr char kNoPrice[] = "--"; // what a person reads where there is no price
 
-// The number without its decimals, the nearest int for one that an int cannot hold, 0 for no number.
+// The number without its decimals, the nearest int for one that an int cannot hold, 0 for no
+// number.
 int CutToInt(double number) {
   constexpr double lowest = std::numeric_limits<int>::min();
   constexpr double highest = std::numeric_limits<int>::max();

@@ -21,8 +21,8 @@ std::uint64_t RandomWord() {
   }
 }
 
-// What differs from one start to the next: where the system puts the library, its clock, and its source of
-// random numbers where it has one.
+// What differs from one start to the next: where the system puts the library, its clock, and its
+// source of random numbers where it has one.
 HashSeed MakeSeed() {
   const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
   std::uint64_t state =

@@ -1,4 +1,5 @@
-// The key under which a table holds a symbol: how it is cut out of an id, hashed and put in a chain.
+// The key under which a table holds a symbol: how it is cut out of an id, hashed and put in a
+// chain.
 #pragma once
 
 #include <bit>
@@ -23,7 +24,8 @@ struct SymbolKey {
 constexpr std::uint64_t kLongKey = 0xff;
 constexpr int kSizeShift = 56;
 
-// A key in two words: all of nearly every key. A longer one has its first eight bytes and its size there.
+// A key in two words: all of nearly every key. A longer one has its first eight bytes and its size
+// there.
 inline PackedText CodeOf(std::size_t size, PackedText head) {
   const bool isLong = size > kCodedBytes;
   return {head.low, isLong ? kLongKey << kSizeShift | static_cast<std::uint32_t>(size)
@@ -34,9 +36,9 @@ inline std::size_t SizeOf(PackedText code) {
   return size != kLongKey ? size : static_cast<std::uint32_t>(code.high);
 }
 
-// The hash of a key has two numbers in it that are other ones in every process. So nobody can choose ids whose
-// hashes are the same, with which each look-up would go through all of them. Nothing that is stored or seen
-// from outside depends on a hash.
+// The hash of a key has two numbers in it that are other ones in every process. So nobody can
+// choose ids whose hashes are the same, with which each look-up would go through all of them.
+// Nothing that is stored or seen from outside depends on a hash.
 struct HashSeed {
   std::uint64_t low;
   std::uint64_t high;
@@ -66,8 +68,8 @@ inline SymbolKey MakeKey(std::string_view text) {
   return MakeKey(text, PackHead(text));
 }
 
-// A full id in its parts: the suffix is the text after the last "." and empty without one, the symbol the
-// text before it, or all. A "." that is the second byte of a character does not count.
+// A full id in its parts: the suffix is the text after the last "." and empty without one, the
+// symbol the text before it, or all. A "." that is the second byte of a character does not count.
 struct IdParts {
   std::string_view symbol;
   std::string_view suffix;
@@ -108,8 +110,8 @@ inline bool HasSingleDot(std::string_view id, PackedText head) {
   return dots != 0 && (dots & (dots - 1)) == 0;
 }
 
-// The key of `id` in the table of an exchange: the symbol alone when the suffix is the exchange's name
-// in any letter case; else the whole id, so that ids of a foreign exchange stay apart.
+// The key of `id` in the table of an exchange: the symbol alone when the suffix is the exchange's
+// name in any letter case; else the whole id, so that ids of a foreign exchange stay apart.
 std::string_view KeyOf(std::string_view id, std::string_view exchName);
 
 // How a table spreads its symbols over its chains.

@@ -25,8 +25,9 @@ struct FoundSymbol {
 FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
                           BareSymbol rule);
 
-// Answers for a full id of some bytes of ASCII whose suffix is an exchange's name, as nearly all are that
-// are asked for, without a branch that differs from one to the next. False for any other id.
+// Answers for a full id of some bytes of ASCII whose suffix is an exchange's name, as nearly all
+// are that are asked for, without a branch that differs from one to the next. False for any other
+// id.
 inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSymbol& found) {
   if (id.text.size() > sizeof id.head || ((id.head.low | id.head.high) & kTopBits) != 0)
     return false;
@@ -44,8 +45,8 @@ inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSym
   return true;
 }
 
-// The symbol. `id` is not empty. Without `exchName` the id's suffix names the exchange, and failing that
-// the default exchanges are asked.
+// The symbol. `id` is not empty. Without `exchName` the id's suffix names the exchange, and failing
+// that the default exchanges are asked.
 inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id,
                               std::string_view exchName, BareSymbol rule) {
   FoundSymbol found;

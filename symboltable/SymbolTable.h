@@ -38,8 +38,9 @@ public:
   int Load();
   // Deletes all symbols.
   void Clear();
-  // Whether what the table lacks is not on the exchange: the latest loading succeeded and brought symbols,
-  // and some are left. Symbols that were added alone to an empty table do not make it whole.
+  // Whether what the table lacks is not on the exchange: the latest loading succeeded and brought
+  // symbols, and some are left. Symbols that were added alone to an empty table do not make it
+  // whole.
   bool IsWhole() const { return loaded_ && !index_.IsEmpty(); }
 
   // Adds the service's records of the symbols (codes joined by ","), also of those that are there
@@ -56,8 +57,8 @@ public:
 
   // The key of an id in this table.
   std::string_view KeyOf(std::string_view id) const { return tq::KeyOf(id, tq::ViewOf(exchName_)); }
-  // Where the symbol with this key stands, or kNoSymbol; good until a symbol is added or removed. Letter
-  // case matters: ids are held in upper case.
+  // Where the symbol with this key stands, or kNoSymbol; good until a symbol is added or removed.
+  // Letter case matters: ids are held in upper case.
   using Place = tq::KeyIndex::Slot;
   static constexpr Place kNoSymbol = tq::KeyIndex::kNoSlot;
   Place Find(const tq::SymbolKey& key) const {

@@ -20,8 +20,9 @@ int CSymbolTable::Load() {
   return 1;
 }
 
-// The ids of some hundred symbols are read before the rest of each: they are then allocated one behind the
-// other, and look-ups, which hand them out, find twice as many of them in the processor's caches.
+// The ids of some hundred symbols are read before the rest of each: they are then allocated one
+// behind the other, and look-ups, which hand them out, find twice as many of them in the
+// processor's caches.
 void CSymbolTable::InsertAll(std::span<const BaseAttr> records) {
   constexpr std::size_t batchSize = 128;
   std::array<CStaticKey, batchSize> keys;

@@ -84,16 +84,17 @@ public:
   // unless it fills the record, blanks on either side ignored. It stays the caller's.
 
   // Adds the service's records of these symbols to the exchange's table. A symbol that is there
-  // already is added again, and the first one goes on answering. An exchange without a table gets one and
-  // is loaded whole instead.
+  // already is added again, and the first one goes on answering. An exchange without a table gets
+  // one and is loaded whole instead.
   //
-  // The tables follow the service only through these operations: a symbol that it lists anew is unknown to
-  // every look-up until AddSymbols. CTQSymbolListMgr::UpdateExchSymbolChange does not do it; that tells lists
-  // alone. A terminal that hears of new symbols calls both.
+  // The tables follow the service only through these operations: a symbol that it lists anew is
+  // unknown to every look-up until AddSymbols. CTQSymbolListMgr::UpdateExchSymbolChange does not do
+  // it; that tells lists alone. A terminal that hears of new symbols calls both.
   //
-  // When the loading of a new table fails (result 0), the table is there, empty, and further calls add the
-  // symbols that they name to it, and no more. RebuildSymbolTable(exchName, exchId) fills it with the whole
-  // exchange; RebuildSymbolTable() does not, since it keeps the tables that there are.
+  // When the loading of a new table fails (result 0), the table is there, empty, and further calls
+  // add the symbols that they name to it, and no more. RebuildSymbolTable(exchName, exchId) fills
+  // it with the whole exchange; RebuildSymbolTable() does not, since it keeps the tables that there
+  // are.
   int AddSymbols(int exchId, const char* symbols, int count);
 
   // Takes over the service's new attributes of these symbols. Symbols that are not in the table are

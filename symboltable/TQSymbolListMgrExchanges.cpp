@@ -13,7 +13,8 @@
 
 namespace {
 
-// All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be read.
+// All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be
+// read.
 std::vector<tq::ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, bool& complete) {
   constexpr int kAllSections = -1;
   std::vector<tq::ServiceArray<SymbolInfo>> lists;
@@ -56,7 +57,8 @@ void CTQSymbolListMgr::ClearDefaultExchangeData() {
 
 int CTQSymbolListMgr::InitDefaultExchange() {
   ClearDefaultExchangeData();
-  // While the services are asked the terminal may call this again: what they say is kept apart until then.
+  // While the services are asked the terminal may call this again: what they say is kept apart
+  // until then.
   CUIntArray exchanges;
   LoadDefaultExchange(exchanges, useUserDefExch_, "");
   tq::ServiceArray<ExchInfo> list;

@@ -1,9 +1,9 @@
 // The 128 slots that own the tables, and how a table is found among them. A slot's number says
 // nothing: of several tables that would do, the one in the lowest slot answers.
 //
-// The services that an operation asks may call the library again before they answer, and take away the very
-// table that is to get the answer. So an operation that asks holds a TableSlots::Use: until the last one ends,
-// tables that are taken out live on, and so do the slots themselves.
+// The services that an operation asks may call the library again before they answer, and take away
+// the very table that is to get the answer. So an operation that asks holds a TableSlots::Use:
+// until the last one ends, tables that are taken out live on, and so do the slots themselves.
 #pragma once
 
 #include <array>

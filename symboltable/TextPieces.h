@@ -1,13 +1,13 @@
-// Texts of several pieces: the ids and numbers that the terminal and its services join by ",", with blanks
-// around them or not.
+// Texts of several pieces: the ids and numbers that the terminal and its services join by ",", with
+// blanks around them or not.
 #pragma once
 
 #include <string_view>
 
 namespace tq {
 
-// The six blanks of ASCII, none of which is ever the second byte of a character in the terminal's code
-// pages.
+// The six blanks of ASCII, none of which is ever the second byte of a character in the terminal's
+// code pages.
 constexpr bool IsBlank(char c) {
   return c == ' ' || (c >= '\t' && c <= '\r');
 }
@@ -24,9 +24,9 @@ constexpr std::string_view Trimmed(std::string_view text) {
   return TrimmedFront(text);
 }
 
-// Calls visit(position, piece) for each comma-separated piece of `text`, from 0. An empty text has no
-// piece; two commas in a row have an empty one between them, and a comma at the end has one behind it. A
-// comma is never the second byte of a character, so bytes may be searched.
+// Calls visit(position, piece) for each comma-separated piece of `text`, from 0. An empty text has
+// no piece; two commas in a row have an empty one between them, and a comma at the end has one
+// behind it. A comma is never the second byte of a character, so bytes may be searched.
 template <typename Visit> void ForEachPiece(std::string_view text, Visit visit) {
   if (text.empty())
     return;

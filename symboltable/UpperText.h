@@ -33,9 +33,9 @@ struct UpperText {
   std::uint64_t tail;
 };
 
-// Eight bytes of a string's block that begin at most eight in front of its text. There lie the length and the
-// room of the header, which nobody writes to while the string is shared; the count of its owners, which other
-// threads may be counting, lies in front of them.
+// Eight bytes of a string's block that begin at most eight in front of its text. There lie the
+// length and the room of the header, which nobody writes to while the string is shared; the count
+// of its owners, which other threads may be counting, lies in front of them.
 constexpr int kReadableBefore = sizeof(std::uint64_t);
 static_assert(offsetof(StringHeader, refs) + sizeof(StringHeader::refs) + kReadableBefore <=
               sizeof(StringHeader));
@@ -46,8 +46,8 @@ inline std::uint64_t WordAt(const CString& text, int position) {
   return word;
 }
 
-// The last eight bytes of a string that is not empty. In front of a short text its header is read, so that one
-// load serves every length.
+// The last eight bytes of a string that is not empty. In front of a short text its header is read,
+// so that one load serves every length.
 constexpr int TailPosition(int length) {
   return length - static_cast<int>(sizeof(std::uint64_t));
 }
@@ -55,15 +55,15 @@ inline std::uint64_t TailOf(const CString& text) {
   return WordAt(text, TailPosition(text.GetLength()));
 }
 
-// Where the word is read that goes in front of the tail. All of it is shifted out for texts of up to eight
-// bytes, which the tail holds: what is read there then does not matter.
+// Where the word is read that goes in front of the tail. All of it is shifted out for texts of up
+// to eight bytes, which the tail holds: what is read there then does not matter.
 constexpr int BeforePosition(int length) {
   constexpr int half = sizeof(std::uint64_t);
   return std::max(length, half) - 2 * half;
 }
 
-// PackHead of a string of one to sixteen bytes with that tail, without a branch on its length, which differs
-// from id to id.
+// PackHead of a string of one to sixteen bytes with that tail, without a branch on its length,
+// which differs from id to id.
 inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
   __extension__ using Wide = unsigned __int128;
   constexpr int half = sizeof tail;
@@ -76,9 +76,9 @@ inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
 // UpperCased for texts that are not short and in upper case.
 UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer);
 
-// `text` in upper case. The result lies in `text` itself when that is in upper case already, in `buffer`
-// when it fits there and is plain ASCII, and else in `text`, which is changed then. It is valid while both
-// live.
+// `text` in upper case. The result lies in `text` itself when that is in upper case already, in
+// `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
+// valid while both live.
 inline UpperText UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
   if (view.empty())

@@ -8,9 +8,9 @@
 //
 // The operations by name, as FailCall, Calls and CountCalls know them: the flat ones by their own
 // name ("VLGetExch"), members as "CStaticKey::Setup", "CStockAttr::GetID",
-// "CCheckFileName::IsValidName", "TQLog::storage". Some can neither fail nor are recorded:
-// VLFree and TQSFree (see OutstandingArrays), IsTraditionChinese, and the constructors and
-// destructors of tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
+// "CCheckFileName::IsValidName", "TQLog::storage". Some can neither fail nor are recorded: VLFree
+// and TQSFree (see OutstandingArrays), IsTraditionChinese, and the constructors and destructors of
+// tqStock and TQLog. Field reads of a key object (GetID, GetFieldString, GetFieldInt) and
 // TQLog::write can be made to fail, but are not recorded: there are dozens for each symbol, and a
 // written line stands in LogLines.
 #pragma once
@@ -63,8 +63,8 @@ struct Instrument {
 };
 
 // One group of the service's group tree. A group is a sub-group when it names a parent, which is a
-// group of the same type. Ids are ASCII. The service knows a group by type and id alone: of two with
-// the same, the first one's members count, and either has the sub-groups that name the id.
+// group of the same type. Ids are ASCII. The service knows a group by type and id alone: of two
+// with the same, the first one's members count, and either has the sub-groups that name the id.
 struct Group {
   int type = 1;       // 1 to 201
   std::string parent; // id of the group above; empty: a top-level group
@@ -86,8 +86,8 @@ struct TradingSystem {
   std::vector<TradingAccount> accounts;
 };
 
-// One row of an info table, as CStockKey::GetInfoArray answers it. Code and market are ASCII. Without a
-// name the row ends with its code, without a market with its name.
+// One row of an info table, as CStockKey::GetInfoArray answers it. Code and market are ASCII.
+// Without a name the row ends with its code, without a market with its name.
 struct Indicator {
   int type = 8; // an InfoType of tqStock
   std::string regionTw, regionCn;
@@ -118,36 +118,39 @@ TQSTANDIN_API void SetMarket(Market market);
 TQSTANDIN_API const Market& CurrentMarket();
 
 // Changes of a trading system while it is in use, without setting the market again: an account's
-// holdings after a fill, and a log-out or a new log-in. False when there is no such system or account.
+// holdings after a fill, and a log-out or a new log-in. False when there is no such system or
+// account.
 TQSTANDIN_API bool SetHoldings(std::string_view tsId, std::string_view accountId, int type,
                                std::string_view holdings);
 TQSTANDIN_API bool SetAvailable(std::string_view tsId, bool available);
 
 // Puts raw records in the place of what the market says, as a service gone wrong would: whatever
-// bytes, for this type and parent of VLGetSubGroup, and for this type and group of VLGetGroupSymbol;
-// `parent` and `group` are bytes, compared as they are. The array has the records that are given
-// (none: null), `count` is what the service claims. It may be less, and negative; a claim of more
-// has a reader run over the end of the array, which is for a test to answer for. Until Reset.
+// bytes, for this type and parent of VLGetSubGroup, and for this type and group of
+// VLGetGroupSymbol; `parent` and `group` are bytes, compared as they are. The array has the records
+// that are given (none: null), `count` is what the service claims. It may be less, and negative; a
+// claim of more has a reader run over the end of the array, which is for a test to answer for.
+// Until Reset.
 TQSTANDIN_API void AnswerGroups(int type, std::string_view parent, std::vector<GroupInfo> records,
                                 int count);
 TQSTANDIN_API void AnswerMembers(int type, std::string_view group, std::vector<SymbolInfo> records,
                                  int count);
-// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts are `claimed`, or
-// follow. A trading system that the market does not have is available. Holdings stay those of the
-// market.
+// The same for the records of TQSGetTSInfo and TQSGetTSAccount, by index; the counts are `claimed`,
+// or follow. A trading system that the market does not have is available. Holdings stay those of
+// the market.
 TQSTANDIN_API void AnswerTradingSystems(std::vector<TQS_TSINFO> records,
                                         std::optional<int> claimed = {});
 TQSTANDIN_API void AnswerAccounts(std::string_view tsId, std::vector<TQS_ACCOUNTINFO> records,
                                   std::optional<int> claimed = {});
 
-// The same for VLGetSymbolInfos2, by exchange: `result` 0 has the call fail with the array all the same.
+// The same for VLGetSymbolInfos2, by exchange: `result` 0 has the call fail with the array all the
+// same.
 TQSTANDIN_API void AnswerSymbols(int exchId, std::vector<SymbolInfo> records, int count,
                                  int result);
 // The same for VLGetExtendAttr, by the service's own id and kind, whatever bytes the texts are.
 TQSTANDIN_API void AnswerExtended(std::string_view id, int kind, std::vector<ExtAttr> records);
 
-// Puts rows in the place of an info table, as GetInfoArray answers it from now on: columns of any number,
-// none too, the same in both languages. Until Reset.
+// Puts rows in the place of an info table, as GetInfoArray answers it from now on: columns of any
+// number, none too, the same in both languages. Until Reset.
 TQSTANDIN_API void SetIndicators(int type, std::vector<std::vector<std::string>> rows);
 
 // Back to an empty market, no scripted failures, no recorded calls, log lines or messages, bad
@@ -165,9 +168,10 @@ TQSTANDIN_API void FailCall(std::string_view operation, int n);
 // Every call of the operation fails until Reset or FailCall(operation, 0).
 TQSTANDIN_API void FailAlways(std::string_view operation);
 
-// Runs `action` inside each call of the operation, after the call is recorded and before it answers, as a
-// terminal does that hears of something while it is asked. An action does not run inside of itself. An empty
-// function and Reset take it back. Operations that are not recorded run none.
+// Runs `action` inside each call of the operation, after the call is recorded and before it
+// answers, as a terminal does that hears of something while it is asked. An action does not run
+// inside of itself. An empty function and Reset take it back. Operations that are not recorded run
+// none.
 TQSTANDIN_API void OnCall(std::string_view operation, std::function<void()> action);
 
 struct Call {
@@ -182,9 +186,9 @@ TQSTANDIN_API void ClearCalls();
 // Recording costs time and memory: a benchmark turns it off.
 TQSTANDIN_API void RecordCalls(bool on);
 
-// Arrays and texts handed out and not yet given to VLFree or TQSFree, and releases of something that
-// is not one of them: never handed out, released before, or handed out by the other service. Such a
-// release is counted and otherwise ignored.
+// Arrays and texts handed out and not yet given to VLFree or TQSFree, and releases of something
+// that is not one of them: never handed out, released before, or handed out by the other service.
+// Such a release is counted and otherwise ignored.
 TQSTANDIN_API int OutstandingArrays();
 TQSTANDIN_API int BadReleases();
 
@@ -204,10 +208,11 @@ struct Message {
   std::string text; // bytes, for a box that shows a text
 };
 TQSTANDIN_API const std::vector<Message>& Messages();
-// The button that the next message boxes report; 1 (OK) at the start. Orders of AnswerMessagesInTurn are forgotten.
+// The button that the next message boxes report; 1 (OK) at the start. Orders of
+// AnswerMessagesInTurn are forgotten.
 TQSTANDIN_API void AnswerMessages(int button);
-// The buttons of the next message boxes, one after the other; those behind them report what AnswerMessages
-// said. Buttons that were not reported yet are forgotten.
+// The buttons of the next message boxes, one after the other; those behind them report what
+// AnswerMessages said. Buttons that were not reported yet are forgotten.
 TQSTANDIN_API void AnswerMessagesInTurn(std::vector<int> buttons);
 // How many of those are still waiting for their box.
 TQSTANDIN_API size_t WaitingAnswers();

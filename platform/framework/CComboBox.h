@@ -1,4 +1,5 @@
-// CComboBox: a box that drops down a list of entries, of which the user chooses one. Nothing can be typed.
+// CComboBox: a box that drops down a list of entries, of which the user chooses one. Nothing can be
+// typed.
 #pragma once
 
 #include "platform/framework/CWnd.h"
@@ -7,8 +8,8 @@ class TQFRAMEWORK_API CComboBox : public CWnd {
 public:
   using CWnd::CWnd;
 
-  // These return the entry's number, or -1. `index` -1 inserts at the end, as the count does. Texts may
-  // repeat, and are not sorted. The choice stays with its entry.
+  // These return the entry's number, or -1. `index` -1 inserts at the end, as the count does. Texts
+  // may repeat, and are not sorted. The choice stays with its entry.
   int AddString(const char* text);
   int InsertString(int index, const char* text);
   // Deleting the chosen entry leaves no choice.

@@ -1,8 +1,10 @@
-// CListCtrl: a table of text rows with titled columns. Several rows can be selected. Keys and the caret row are
-// those of list boxes of several selections (CListBox.h); a click beside the rows clears the selection.
+// CListCtrl: a table of text rows with titled columns. Several rows can be selected. Keys and the
+// caret row are those of list boxes of several selections (CListBox.h); a click beside the rows
+// clears the selection.
 //
-// A virtual one, which the template says (TQ_VIRTUAL), has no rows of its own: it is told how many there are,
-// and asks the dialog's OnCellText for what it shows. A million rows cost what a screenful does.
+// A virtual one, which the template says (TQ_VIRTUAL), has no rows of its own: it is told how many
+// there are, and asks the dialog's OnCellText for what it shows. A million rows cost what a
+// screenful does.
 #pragma once
 
 #include "platform/framework/CWnd.h"
@@ -23,23 +25,24 @@ public:
   void SetHoverTime(unsigned milliseconds);
   unsigned GetHoverTime() const;
 
-  // Adds a column at the right, `width` in dialog units; returns its number, or -1. Width 0 takes what
-  // the columns before leave of the table.
+  // Adds a column at the right, `width` in dialog units; returns its number, or -1. Width 0 takes
+  // what the columns before leave of the table.
   int AddColumn(const char* title, int width);
   int GetColumnCount() const;
   CString GetColumnTitle(int column) const;
 
-  // These return the row's number, or -1; -1 and the row count insert at the end. The text is that of
-  // column 0. The selection stays with the rows that have it. A table without columns has no rows.
+  // These return the row's number, or -1; -1 and the row count insert at the end. The text is that
+  // of column 0. The selection stays with the rows that have it. A table without columns has no
+  // rows.
   int AddRow(const char* text);
   int InsertRow(int row, const char* text);
   bool DeleteRow(int row);
   void DeleteAllRows();
 
-  // For virtual tables only, false for others. Row 0 is in sight then and the caret row, none is selected, and
-  // the cells are asked for again. False, and nothing changes, for a negative number or without columns. In
-  // virtual tables nothing else adds, deletes or changes rows, but DeleteAllRows is SetVirtualRows(0); there
-  // is no item data.
+  // For virtual tables only, false for others. Row 0 is in sight then and the caret row, none is
+  // selected, and the cells are asked for again. False, and nothing changes, for a negative number
+  // or without columns. In virtual tables nothing else adds, deletes or changes rows, but
+  // DeleteAllRows is SetVirtualRows(0); there is no item data.
   bool SetVirtualRows(int count);
 
   int GetRowCount() const;
@@ -51,8 +54,8 @@ public:
 
   // The first selected row or -1.
   int GetCurSel() const;
-  // Selects that row alone, makes it the caret row and scrolls to it; -1 clears the selection and moves
-  // nothing. SelectRow scrolls nothing, and the caret row stays where it is.
+  // Selects that row alone, makes it the caret row and scrolls to it; -1 clears the selection and
+  // moves nothing. SelectRow scrolls nothing, and the caret row stays where it is.
   bool SetCurSel(int row);
   bool SelectRow(int row, bool select = true);
   bool IsSelected(int row) const;

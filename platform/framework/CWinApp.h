@@ -17,8 +17,8 @@ public:
 namespace tq {
 
 // The one object of a library that carries its application: an object of static storage, which the
-// system makes and destroys when the library comes and goes. Other objects of static storage in the same
-// file come before it if they stand before it.
+// system makes and destroys when the library comes and goes. Other objects of static storage in the
+// same file come before it if they stand before it.
 template <class APP> class LibraryApp {
 public:
   LibraryApp() { usable_ = app_.InitInstance(); }

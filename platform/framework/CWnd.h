@@ -1,17 +1,20 @@
 // CWnd: a window, which is a dialog or a control in one.
 //
 // Conventions that hold for this class and all control classes
-//  1. An object is a handle and owns nothing: copying it costs nothing, destroying it leaves the window.
-//     A control's object is made where it is used, CListBox lists(*this, 781), while the dialog is up.
-//  2. An object without a window (no such control, or the dialog is closed) may be asked anything: it
-//     does nothing, and answers what an empty control would: 0, -1, false or an empty text. The class is
-//     to be that of the control.
+//  1. An object is a handle and owns nothing: copying it costs nothing, destroying it leaves the
+//     window. A control's object is made where it is used, CListBox lists(*this, 781), while the
+//     dialog is up.
+//  2. An object without a window (no such control, or the dialog is closed) may be asked anything:
+//     it does nothing, and answers what an empty control would: 0, -1, false or an empty text. The
+//     class is to be that of the control.
 //  3. Setters never notify: what the program changes makes no event.
-//  4. Rows, entries and columns are counted from 0. One out of range is no failure: it is not there, so
-//     nothing is changed, and the answer is -1, false or an empty text. -1 means "none" where said.
-//  5. Text is bytes in the process's ANSI code page; null counts as empty. What a control shows is not a
-//     key to anything: keep the data in the model, and let an entry's number or item data lead there.
-//     (On Windows a text goes through Unicode, where a few rare characters of code page 950 have a twin.)
+//  4. Rows, entries and columns are counted from 0. One out of range is no failure: it is not
+//     there, so nothing is changed, and the answer is -1, false or an empty text. -1 means "none"
+//     where said.
+//  5. Text is bytes in the process's ANSI code page; null counts as empty. What a control shows is
+//     not a key to anything: keep the data in the model, and let an entry's number or item data
+//     lead there. (On Windows a text goes through Unicode, where a few rare characters of code page
+//     950 have a twin.)
 //  6. All of it belongs to the thread on which the terminal's windows are. Nothing throws.
 #pragma once
 
@@ -35,35 +38,35 @@ public:
   // A control's id; 0 for other windows.
   int GetDlgCtrlID() const;
 
-  // A dialog's title, a label's, button's or edit's text. A combo box has its chosen entry's and cannot be
-  // set. An edit's caret goes to the start.
-  // An ampersand in the text of labels and buttons marks the next letter as the key; doubled it is one.
+  // A dialog's title, a label's, button's or edit's text. A combo box has its chosen entry's and
+  // cannot be set. An edit's caret goes to the start. An ampersand in the text of labels and
+  // buttons marks the next letter as the key; doubled it is one.
   void SetText(const char* text);
   CString GetText() const;
 
-  // A disabled or hidden control takes no click and no key. One that has the focus passes it on to the next
-  // control that can take it, in the order of the Tab key and as SetFocus does; when there is none, no
-  // control has it. A control of a disabled dialog is as enabled as before.
+  // A disabled or hidden control takes no click and no key. One that has the focus passes it on to
+  // the next control that can take it, in the order of the Tab key and as SetFocus does; when there
+  // is none, no control has it. A control of a disabled dialog is as enabled as before.
   void EnableWindow(bool enable = true);
   bool IsWindowEnabled() const;
   void Show(bool visible = true);
   // Whether this window is meant to be seen, whatever its dialog is.
   bool IsWindowVisible() const;
 
-  // False, and nothing changes, for a label and for a control that is disabled or hidden. All of an edit's
-  // text is selected then, so that what is typed next replaces it. In a dialog that lies behind another one
-  // the control has the focus when that one has ended.
+  // False, and nothing changes, for a label and for a control that is disabled or hidden. All of an
+  // edit's text is selected then, so that what is typed next replaces it. In a dialog that lies
+  // behind another one the control has the focus when that one has ended.
   bool SetFocus();
   bool HasFocus() const;
 
-  // With false nothing of this window is drawn until it is called with true. Calls do not nest; a hidden
-  // window stays hidden. See CRedrawLock.
+  // With false nothing of this window is drawn until it is called with true. Calls do not nest; a
+  // hidden window stays hidden. See CRedrawLock.
   void SetRedraw(bool draw);
 
-  // The dialog's OnMessage with these arguments: Send calls it now and answers its result, Post puts
-  // the message behind those that are waiting. `code` is kFirstMessage to kLastMessage. Posting to a
-  // window that is no running dialog of this layer, or with another code, returns false; Send 0.
-  // Messages that are still waiting when their dialog ends are lost.
+  // The dialog's OnMessage with these arguments: Send calls it now and answers its result, Post
+  // puts the message behind those that are waiting. `code` is kFirstMessage to kLastMessage.
+  // Posting to a window that is no running dialog of this layer, or with another code, returns
+  // false; Send 0. Messages that are still waiting when their dialog ends are lost.
   enum : unsigned {
     kFirstMessage = 0x410,
     kLastMessage = 0x7FFF

@@ -45,9 +45,10 @@ enum class Serve {
   Timers
 }; // only what was posted or done, or the timers that are due as well
 
-// Delivers what has waited longest, to whichever dialog of this layer. False when nothing is there to
-// deliver: with Messages at once; with Timers, without windows, when no timer is set either, while on
-// Windows it waits. The loop of every run; tests use it to have the consequences of an action arrive.
+// Delivers what has waited longest, to whichever dialog of this layer. False when nothing is there
+// to deliver: with Messages at once; with Timers, without windows, when no timer is set either,
+// while on Windows it waits. The loop of every run; tests use it to have the consequences of an
+// action arrive.
 TQFRAMEWORK_API bool ServeMessage(Serve what);
 
 } // namespace tq

@@ -1,4 +1,5 @@
-// What the keys do in a list, the same with every kind of windows; the rules stand in CListBox.h. Internal.
+// What the keys do in a list, the same with every kind of windows; the rules stand in CListBox.h.
+// Internal.
 #pragma once
 
 #include "platform/framework/WindowTypes.h"

@@ -1,7 +1,7 @@
-// The resources in force: whose dialog templates and strings are looked up. Each library has its own, and
-// a terminal's libraries call each other: so an operation that opens a dialog puts its library's own in
-// force and whatever was before back in force when it returns, on every path. A ResourceContext on its
-// stack does both.
+// The resources in force: whose dialog templates and strings are looked up. Each library has its
+// own, and a terminal's libraries call each other: so an operation that opens a dialog puts its
+// library's own in force and whatever was before back in force when it returns, on every path. A
+// ResourceContext on its stack does both.
 //
 // All of it belongs to the thread on which the terminal's windows are.
 #pragma once
@@ -19,8 +19,8 @@ struct Resources {
   // Elsewhere the library's templates. Not used on Windows.
   const TemplateRow* rows = nullptr;
   size_t rowCount = 0;
-  // The library's string table: UTF-8, static, null for an entry that it lacks. As tqSymbolString. May be
-  // null: no strings.
+  // The library's string table: UTF-8, static, null for an entry that it lacks. As tqSymbolString.
+  // May be null: no strings.
   const char* (*string)(unsigned id, int traditional) = nullptr;
   // A text from UTF-8 to the process's ANSI code page. Null: the bytes as they are.
   CString (*toAnsi)(const char* utf8) = nullptr;

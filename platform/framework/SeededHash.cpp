@@ -81,8 +81,8 @@ constexpr uint64_t EachByte(uint64_t byte) {
   return byte * 0x0101010101010101u;
 }
 
-// Lower-cases the ASCII letters among eight bytes. Second bytes of characters are taken for letters too:
-// texts that count as equal still come out equal.
+// Lower-cases the ASCII letters among eight bytes. Second bytes of characters are taken for letters
+// too: texts that count as equal still come out equal.
 uint64_t Folded(uint64_t word) {
   const uint64_t low = word & EachByte(0x7F);
   const uint64_t fromA = low + EachByte(0x80 - 'A');

@@ -1,8 +1,8 @@
 // Hash values of text that anybody may have written: ids of a file, of an import, of the user.
 //
-// The values depend on a secret of the process, so nobody can prepare thousands of ids that share one
-// value and turn a hash table into a list. They serve one run and are never stored. Any thread; nothing
-// allocates or fails.
+// The values depend on a secret of the process, so nobody can prepare thousands of ids that share
+// one value and turn a hash table into a list. They serve one run and are never stored. Any thread;
+// nothing allocates or fails.
 #pragma once
 
 #include <cstddef>

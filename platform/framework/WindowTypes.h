@@ -1,11 +1,11 @@
-// The words that the window layer speaks with: handles, events, keys, and how a row looks. No type and
-// no name of the operating system's headers is needed, and none is disturbed: the headers of this layer
-// compile before and after <windows.h>, and no method has the name of one of its macros (so it is
-// SetText and Post here, where the system's functions are SetWindowText and PostMessage).
+// The words that the window layer speaks with: handles, events, keys, and how a row looks. No type
+// and no name of the operating system's headers is needed, and none is disturbed: the headers of
+// this layer compile before and after <windows.h>, and no method has the name of one of its macros
+// (so it is SetText and Post here, where the system's functions are SetWindowText and PostMessage).
 #pragma once
 
-// On Windows this is the HWND itself. Elsewhere it is a number that only this layer understands; it is
-// never given out twice.
+// On Windows this is the HWND itself. Elsewhere it is a number that only this layer understands; it
+// is never given out twice.
 struct HWND__; // NOLINT(bugprone-reserved-identifier): the system names it so
 using WindowHandle = HWND__*;
 
@@ -13,14 +13,15 @@ using WindowHandle = HWND__*;
 // this layer that changes a control ever makes one.
 enum class ControlEvent {
   Clicked, // button: clicked, or its key pressed
-  // List box, combo box: the user chose. A click on a row tells so always, also where that row was chosen
-  // before; a key only when it chose something else.
+  // List box, combo box: the user chose. A click on a row tells so always, also where that row was
+  // chosen before; a key only when it chose something else.
   SelectionChanged,
   DoubleClicked, // list box: on a row, which is selected by then
   TextChanged,   // edit: after each character, paste or deletion
   FocusGained,   // edit: the user went there
-  // Edit: the user went to another control of the same dialog. The handler may take the focus back (SetFocus):
-  // then the click, or the letter with Alt, that took it has no effect, and nothing gains the focus.
+  // Edit: the user went to another control of the same dialog. The handler may take the focus back
+  // (SetFocus): then the click, or the letter with Alt, that took it has no effect, and nothing
+  // gains the focus.
   FocusLost,
 };
 
@@ -34,7 +35,8 @@ struct ListNotice {
   int row; // the row that was double-clicked, -1 beside the rows; -1 for SelectionChanged
 };
 
-// Keys that a dialog may want for itself before they take their usual way. A comes only with Control.
+// Keys that a dialog may want for itself before they take their usual way. A comes only with
+// Control.
 enum class Key {
   Enter,
   Escape,

@@ -1,6 +1,6 @@
-// Everything of tqFramework: the strings, arrays and maps that cross tqSymbol's interface, the code page
-// functions they are built on, and the windows that dialogs are made of. Each header opens with the
-// conventions that hold for it.
+// Everything of tqFramework: the strings, arrays and maps that cross tqSymbol's interface, the code
+// page functions they are built on, and the windows that dialogs are made of. Each header opens
+// with the conventions that hold for it.
 #pragma once
 
 #include "platform/CodePage.h"

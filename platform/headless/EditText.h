@@ -5,8 +5,8 @@
 
 namespace tq::headless {
 
-// One character (one or two bytes) in the place of what is selected; "\b" takes back the one before the
-// caret. True when the text is another one now.
+// One character (one or two bytes) in the place of what is selected; "\b" takes back the one before
+// the caret. True when the text is another one now.
 bool TypeCharacter(Control& edit, const CString& character);
 // The Delete key: what is selected, or the character behind the caret. True as above.
 bool DeleteForward(Control& edit);

@@ -20,8 +20,8 @@ size_t IndexOf(const Dialog& dialog, const Control* control) {
   return at;
 }
 
-// Of the controls behind `from` and around, or in front of it, the first that can take the focus; null
-// when there is none but itself.
+// Of the controls behind `from` and around, or in front of it, the first that can take the focus;
+// null when there is none but itself.
 Control* NextOf(const Dialog& dialog, const Control* from, bool backwards) {
   const size_t count = dialog.controls.size();
   if (count == 0)

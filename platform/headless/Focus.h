@@ -5,12 +5,13 @@
 
 namespace tq::headless {
 
-// The focus goes there, with the events of the edits that lose and gain it. False when a handler ended the
-// dialog or moved the focus on: then what moved it has no further effect.
+// The focus goes there, with the events of the edits that lose and gain it. False when a handler
+// ended the dialog or moved the focus on: then what moved it has no further effect.
 bool MoveFocus(Control& control);
 // Tab: the next control that can take it, or the one before.
 void FocusNext(Dialog& dialog, bool backwards);
-// When the control has the focus and cannot take it any more, the next one gets it, and nobody is told.
+// When the control has the focus and cannot take it any more, the next one gets it, and nobody is
+// told.
 void LeaveIfClosed(const Control& control);
 // All of an edit's text, as where the focus arrives by key or program.
 void SelectText(Control& control);

@@ -23,8 +23,8 @@ void StartTimer(Dialog& dialog, unsigned id, unsigned milliseconds);
 
 // Delivers the message that has waited longest. False when none waits.
 bool DeliverMessage();
-// Moves the clock to the next timer that is due, of all dialogs, and calls it. False when none is set, or
-// none comes until that time.
+// Moves the clock to the next timer that is due, of all dialogs, and calls it. False when none is
+// set, or none comes until that time.
 bool FireTimer(uint64_t until = UINT64_MAX);
 // So much time goes by, with all that arrives in it.
 void Rest(unsigned milliseconds);

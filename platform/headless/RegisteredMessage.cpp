@@ -9,7 +9,8 @@ namespace {
 constexpr unsigned kFirstNumber = 0xC000;
 constexpr int kNumbers = 0x4000;
 
-// Made by the first call, for libraries register their names before this file's own objects need be there.
+// Made by the first call, for libraries register their names before this file's own objects need be
+// there.
 CMap<CString, const char*, unsigned, unsigned>& Numbers() {
   static CMap<CString, const char*, unsigned, unsigned> numbers;
   return numbers;

@@ -1,10 +1,11 @@
-// What a user can do to windows in memory, with everything that follows from it: for tests that act as
-// the user, and for nothing else. The library does not call it.
+// What a user can do to windows in memory, with everything that follows from it: for tests that act
+// as the user, and for nothing else. The library does not call it.
 //
-// Each operation returns false, and nothing happens, when the user could not do it: the dialog is not up
-// or lies behind another, the control is disabled, hidden or of another kind, the row is not there, or another
-// control lies in front of where the mouse would have to be (in the middle of the control, of the row).
-// Handlers have returned when the operation does; messages that they posted are still waiting.
+// Each operation returns false, and nothing happens, when the user could not do it: the dialog is
+// not up or lies behind another, the control is disabled, hidden or of another kind, the row is not
+// there, or another control lies in front of where the mouse would have to be (in the middle of the
+// control, of the row). Handlers have returned when the operation does; messages that they posted
+// are still waiting.
 #pragma once
 
 #include <vector>
@@ -28,8 +29,8 @@ TQFRAMEWORK_API size_t WindowCount();
 
 // A click on a button or an edit. The focus goes there.
 TQFRAMEWORK_API bool Click(WindowHandle control);
-// A click on a row of a list box or list view, scrolled to when it is not in sight; -1 is beside the rows,
-// which is not there while they fill the list.
+// A click on a row of a list box or list view, scrolled to when it is not in sight; -1 is beside
+// the rows, which is not there while they fill the list.
 TQFRAMEWORK_API bool ClickRow(WindowHandle control, int row, Modifier modifier);
 TQFRAMEWORK_API bool DoubleClickRow(WindowHandle control, int row, Modifier modifier);
 // The mouse rests on a row of a list view for its hover time; timers go on meanwhile.
@@ -38,12 +39,12 @@ TQFRAMEWORK_API bool HoverRow(WindowHandle control, int row);
 TQFRAMEWORK_API bool IsRowInSight(WindowHandle control, int row);
 // Drops a combo box down and picks an entry.
 TQFRAMEWORK_API bool PickEntry(WindowHandle control, int index);
-// Types into the edit that has the focus, a character at a time, until the dialog has ended or the focus
-// is somewhere else; "\b" takes back.
+// Types into the edit that has the focus, a character at a time, until the dialog has ended or the
+// focus is somewhere else; "\b" takes back.
 TQFRAMEWORK_API bool TypeText(WindowHandle dialog, const char* text);
 TQFRAMEWORK_API bool PressKey(WindowHandle dialog, Key key, Modifier modifier);
-// A letter or digit; with Control only A. Without Control and Alt not where a list has the focus: lists in memory
-// know no letters.
+// A letter or digit; with Control only A. Without Control and Alt not where a list has the focus:
+// lists in memory know no letters.
 TQFRAMEWORK_API bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
 TQFRAMEWORK_API bool CloseByTitleBar(WindowHandle dialog);
 

@@ -64,7 +64,8 @@ Held HeldBy(Modifier modifier) {
   return {modifier == Modifier::Shift, modifier == Modifier::Control, modifier == Modifier::Alt};
 }
 
-// With Alt the dialog hears of the keys that move up and down, and Enter, Escape and Tab are the system's.
+// With Alt the dialog hears of the keys that move up and down, and Enter, Escape and Tab are the
+// system's.
 bool IsOffered(Key key, Held held) {
   return !held.alt || key == Key::Up || key == Key::Down;
 }

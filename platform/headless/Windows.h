@@ -76,7 +76,8 @@ struct Dialog : Node {
   Control* Find(int id) const;
 };
 
-// Makes the windows of a template of the resources in force; null when there is none. The dialog is hidden.
+// Makes the windows of a template of the resources in force; null when there is none. The dialog is
+// hidden.
 std::unique_ptr<Dialog> MakeDialog(unsigned templateId);
 
 // Every window that is there, by its handle. A handle is given once.

@@ -113,8 +113,8 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  // Never destroyed, for files may be asked for until the process ends, and without storage of its own, for
-  // the library may be unloaded long before that.
+  // Never destroyed, for files may be asked for until the process ends, and without storage of its
+  // own, for the library may be unloaded long before that.
   alignas(PosixFiles) static unsigned char room[sizeof(PosixFiles)];
   static PosixFiles* const files = new (room) PosixFiles;
   return *files;

@@ -33,8 +33,9 @@ std::string FollowLinks(std::string path) {
   return path;
 }
 
-// Errors that concern the way of replacing (rights on the directory, a file mounted on its own, a name
-// without room for the suffix, something under the temporary name that is no file), not the disk.
+// Errors that concern the way of replacing (rights on the directory, a file mounted on its own, a
+// name without room for the suffix, something under the temporary name that is no file), not the
+// disk.
 StepResult WhyNotReplaced() {
   switch (errno) {
   case EACCES:
@@ -134,7 +135,8 @@ bool PosixSaveSteps::IsTemporary(const struct stat& open) const {
 }
 
 // The lock keeps a second process from writing into a temporary file that is about to take the
-// target's place; it goes with the process that holds it. Failed when somebody else holds it throughout.
+// target's place; it goes with the process that holds it. Failed when somebody else holds it
+// throughout.
 StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
   for (int i = 0; i < kLockTries; ++i) {
     if (!temporaryFile_.Open(temporary_, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK,
@@ -145,8 +147,8 @@ StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
     if (!S_ISREG(locked.st_mode))
       return StepResult::Refused;
     if (locked.st_nlink > 1 && IsTemporary(locked)) {
-      // No save made this: it is a second name of another file, perhaps of the target itself. The name
-      // goes, the file stays.
+      // No save made this: it is a second name of another file, perhaps of the target itself. The
+      // name goes, the file stays.
       if (::unlink(temporary_.c_str()) != 0 && errno != ENOENT)
         return WhyNotReplaced();
       continue;

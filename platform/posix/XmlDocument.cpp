@@ -34,8 +34,8 @@ bool IsElement(const xmlNode* node, std::string_view name) {
   return node->type == XML_ELEMENT_NODE && node->ns == nullptr && TextOf(node->name) == name;
 }
 
-// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though the
-// same, would cost a copy.
+// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though
+// the same, would cost a copy.
 xmlDoc* Parse(std::string_view text) {
   return xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
                        kParserOptions);
@@ -63,7 +63,8 @@ bool TakeName(std::string_view& path, std::string_view& name) {
   return true;
 }
 
-// Calls take(node) for the elements at `path` under `siblings`, in document order, until it is false.
+// Calls take(node) for the elements at `path` under `siblings`, in document order, until it is
+// false.
 template <typename Take> bool Walk(xmlNode* siblings, std::string_view path, const Take& take) {
   std::string_view name;
   if (!TakeName(path, name))

@@ -50,9 +50,9 @@ static_assert(offsetof(TQS_ACCOUNTINFO, displayId) == 36);
 
 extern "C" {
 
-// Writes one piece of the login information into `buffer` (TQSUserInfoSize bytes). The third argument is "".
-// Fails when nobody is logged in or the flag is unknown; a user without the information is a
-// success with "".
+// Writes one piece of the login information into `buffer` (TQSUserInfoSize bytes). The third
+// argument is "". Fails when nobody is logged in or the flag is unknown; a user without the
+// information is a success with "".
 int TQSGetUserInfo(LoginInfoFlag flag, char* buffer, const char* reserved);
 
 // Tells the terminal that something changed: target "", -1, a code (4 symbols or names of lists, 40

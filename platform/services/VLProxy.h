@@ -77,13 +77,13 @@ int VLEX2ZUID2(const char* exchangeCode, SymbolInfo** list, int* count);
 
 // ---- Contracts ----------------------------------------------------------------------------------
 
-// The service's own id of a bare contract code, into `zuid` (VLServiceIdSize bytes, zeroed by the caller).
-// `exchId` is -1: whatever exchange lists the contract. Fails, and leaves `zuid` alone, for an
-// unknown code.
+// The service's own id of a bare contract code, into `zuid` (VLServiceIdSize bytes, zeroed by the
+// caller). `exchId` is -1: whatever exchange lists the contract. Fails, and leaves `zuid` alone,
+// for an unknown code.
 int VLGetZUID(int exchId, const char* code, char* zuid);
 
-// The extended attributes of one symbol, by the service's own id. `kind` is an ExtAttrKind. Fails for
-// an unknown id; a symbol without attributes of the kind is a success.
+// The extended attributes of one symbol, by the service's own id. `kind` is an ExtAttrKind. Fails
+// for an unknown id; a symbol without attributes of the kind is a success.
 int VLGetExtendAttr(const char* id, int kind, ExtAttr** list, int* count);
 
 // ---- Groups -------------------------------------------------------------------------------------

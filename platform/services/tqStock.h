@@ -58,15 +58,15 @@ public:
   CStockKey(const CStockKey&) = delete;
   CStockKey& operator=(const CStockKey&) = delete;
 
-  // The value of `key` ("V3") in the text of an ExtAttr record, which is a row of pairs: "V4=W;V5=2".
-  // Keys are compared as they are, blanks included, and of equal ones the first counts. A value has no
-  // ";". An empty value counts as none.
+  // The value of `key` ("V3") in the text of an ExtAttr record, which is a row of pairs:
+  // "V4=W;V5=2". Keys are compared as they are, blanks included, and of equal ones the first
+  // counts. A value has no ";". An empty value counts as none.
   static int ParseExtAttr(const char* text, const char* key, CString& value);
-  // The rows of an info table, in its order: each entry of `rows`, which is emptied first, points to a
-  // CStringArray of columns (see InfoColumn), texts in the terminal's interface language; a region or a
-  // category may be empty. The rows belong to this library and stay valid until the next call, whatever
-  // its type and result: a caller who goes on asking copies them. Succeeds without rows for a table that
-  // is empty or not known.
+  // The rows of an info table, in its order: each entry of `rows`, which is emptied first, points
+  // to a CStringArray of columns (see InfoColumn), texts in the terminal's interface language; a
+  // region or a category may be empty. The rows belong to this library and stay valid until the
+  // next call, whatever its type and result: a caller who goes on asking copies them. Succeeds
+  // without rows for a table that is empty or not known.
   static int GetInfoArray(InfoType type, CPtrArray& rows);
 };
 

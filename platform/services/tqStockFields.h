@@ -34,7 +34,8 @@ enum Field : int {
   FieldPriceScale = 3007,      // number: ten to the power of the decimal places, at most of 9
 };
 
-// The columns of those tables. A row has the first three; one that ends before a column does not have it.
+// The columns of those tables. A row has the first three; one that ends before a column does not
+// have it.
 enum InfoColumn : int {
   InfoRegion = 0,   // where the series is from: what a search can be narrowed down to
   InfoCategory = 1, // what it is about: the same

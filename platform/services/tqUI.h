@@ -6,18 +6,19 @@
 #include "platform/framework/CDialog.h"
 #include "platform/framework/CEdit.h"
 
-// The base of dialogs that must not be open twice. Those that are built with the same key are one family,
-// whatever their classes and templates: they work on the same data, of which each has a copy of its own, so
-// that the one that closes last would undo what the other did.
+// The base of dialogs that must not be open twice. Those that are built with the same key are one
+// family, whatever their classes and templates: they work on the same data, of which each has a
+// copy of its own, so that the one that closes last would undo what the other did.
 //
-// Of a family at most one dialog runs at a time in the process, and what is opened from within it: a
-// dialog may run when none of its family does, or when its parent is the innermost of its family that runs.
-// Any other is refused: DoModal brings that innermost one to the front and returns Failed at once, no
-// handler having been called. A dialog may be built and destroyed at any time; only runs count.
+// Of a family at most one dialog runs at a time in the process, and what is opened from within it:
+// a dialog may run when none of its family does, or when its parent is the innermost of its family
+// that runs. Any other is refused: DoModal brings that innermost one to the front and returns
+// Failed at once, no handler having been called. A dialog may be built and destroyed at any time;
+// only runs count.
 class CSingletonDlg : public CDialog {
 public:
-  // `key` is copied and compared byte by byte; null counts as empty. `parent` as with CDialog. `option`
-  // is the terminal's and is passed as 0.
+  // `key` is copied and compared byte by byte; null counts as empty. `parent` as with CDialog.
+  // `option` is the terminal's and is passed as 0.
   CSingletonDlg(const char* key, unsigned templateId, const CWnd* parent, int option);
   ~CSingletonDlg() override;
 
@@ -29,8 +30,8 @@ private:
   WindowHandle opener_; // of the parent, null for none
 };
 
-// A button with a picture of the terminal's. As all control objects it is made while its dialog is up,
-// and is a handle that owns nothing.
+// A button with a picture of the terminal's. As all control objects it is made while its dialog is
+// up, and is a handle that owns nothing.
 class CTQIconButton : public CButton {
 public:
   // Gives the icon button `id` of the dialog its picture. Without such a button nothing happens.
@@ -43,8 +44,8 @@ class CTQToolTip {
 public:
   explicit CTQToolTip(CDialog& dialog);
 
-  // Gives a control its tip, in the place of the one that it had; an empty or null text takes it away.
-  // Non-zero when the dialog is up and has the control.
+  // Gives a control its tip, in the place of the one that it had; an empty or null text takes it
+  // away. Non-zero when the dialog is up and has the control.
   int AddTool(int controlId, const char* text);
 
 private:
@@ -55,7 +56,8 @@ private:
 class CCharEdit : public CEdit {
 public:
   // Limits the edit `id` of the dialog to `bytes` bytes of the process's ANSI code page, of which a
-  // double-byte character takes two or is not taken; 0 is no limit. Without such an edit nothing happens.
+  // double-byte character takes two or is not taken; 0 is no limit. Without such an edit nothing
+  // happens.
   CCharEdit(const CWnd& dialog, int id, int bytes);
 
   // The text without blanks at its ends.

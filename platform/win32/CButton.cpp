@@ -24,8 +24,9 @@ constexpr uint16_t kPictures[kIcons][kSize] = {
      0x001C, 0x000E, 0x0006, 0},
 };
 
-// Black where the picture is, elsewhere what is behind. In colour, although one colour would do: Wine takes
-// the size of a picture from its colours, and puts one without them beside the middle of the button.
+// Black where the picture is, elsewhere what is behind. In colour, although one colour would do:
+// Wine takes the size of a picture from its colours, and puts one without them beside the middle of
+// the button.
 HICON MakeIcon(const uint16_t (&picture)[kSize]) {
   BYTE keep[kSize * 2];
   static constexpr BYTE black[kSize * kSize * 4] = {};

@@ -113,8 +113,8 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  // Never destroyed, for files may be asked for until the process ends, and without storage of its own, for
-  // the library may be unloaded long before that.
+  // Never destroyed, for files may be asked for until the process ends, and without storage of its
+  // own, for the library may be unloaded long before that.
   alignas(WindowsFiles) static unsigned char room[sizeof(WindowsFiles)];
   static WindowsFiles* const files = new (room) WindowsFiles;
   return *files;

@@ -12,8 +12,8 @@ constexpr DWORD kSharingPause = 10; // milliseconds; together the half second of
 constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-// Errors that concern the way of replacing (rights on the directory, somebody who holds the target or
-// has mapped it), not the disk.
+// Errors that concern the way of replacing (rights on the directory, somebody who holds the target
+// or has mapped it), not the disk.
 StepResult WhyNotReplaced() {
   switch (::GetLastError()) {
   case ERROR_ACCESS_DENIED:
@@ -34,8 +34,8 @@ bool IsTooLong(const std::wstring& path) {
   return path.size() >= MAX_PATH && !path.starts_with(L"\\\\?\\");
 }
 
-// Opens a file that another program may hold for a moment without sharing it, as a second saver or a
-// program that copies it does.
+// Opens a file that another program may hold for a moment without sharing it, as a second saver or
+// a program that copies it does.
 bool OpenPatiently(FileHandle& file, const std::wstring& path, DWORD disposition) {
   for (int i = 0; i < SharingTries; ++i) {
     if (file.Open(path, GENERIC_WRITE, kShareAll, disposition))
@@ -114,15 +114,15 @@ void WindowsSaveSteps::FollowLink() {
   target_ = real;
 }
 
-// The temporary file is open; `found` when it was there before, perhaps with what a killed save left in
-// it. Missing: it was none of ours and its name is free now.
+// The temporary file is open; `found` when it was there before, perhaps with what a killed save
+// left in it. Missing: it was none of ours and its name is free now.
 StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
   BY_HANDLE_FILE_INFORMATION info;
   if (::GetFileInformationByHandle(temporaryFile_.Get(), &info) == 0)
     return StepResult::Failed;
   if (info.nNumberOfLinks > 1 || (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-    // A link, or a second name of another file, perhaps of the target itself: the name goes, the file
-    // stays.
+    // A link, or a second name of another file, perhaps of the target itself: the name goes, the
+    // file stays.
     temporaryFile_.Close();
     return ::DeleteFileW(temporary_.c_str()) != 0 ? StepResult::Missing : StepResult::Refused;
   }
@@ -135,8 +135,8 @@ StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
 StepResult WindowsSaveSteps::OpenTemporary() {
   if (IsTooLong(temporary_))
     return StepResult::Refused;
-  // Shared for deletion alone, so that it can be renamed while it is open: from its creation until it
-  // bears the target's name no other save can write into it.
+  // Shared for deletion alone, so that it can be renamed while it is open: from its creation until
+  // it bears the target's name no other save can write into it.
   for (int i = 0; i < SharingTries; ++i) {
     if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, OPEN_ALWAYS,
                             FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes) |

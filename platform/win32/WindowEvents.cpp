@@ -54,8 +54,8 @@ void GiveCellText(Run& run, const NMHDR& header) {
   ::lstrcpynW(item.pszText, ToWide(text).c_str(), item.cchTextMax);
 }
 
-// What a list view tells of rows that were selected or are not any more; of a virtual one also of many rows at
-// once.
+// What a list view tells of rows that were selected or are not any more; of a virtual one also of
+// many rows at once.
 bool IsOtherSelection(const NMHDR& header) {
   UINT change = 0;
   if (header.code == LVN_ITEMCHANGED) {

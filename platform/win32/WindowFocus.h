@@ -1,12 +1,13 @@
-// The focus of a dialog: where it goes when a control cannot keep it, and how the user moves it. Internal.
+// The focus of a dialog: where it goes when a control cannot keep it, and how the user moves it.
+// Internal.
 #pragma once
 
 #include "platform/win32/WindowRun.h"
 
 namespace tq {
 
-// The dialog gives the control the focus, and nobody is told; when it lies behind another one, as soon as that
-// one has ended.
+// The dialog gives the control the focus, and nobody is told; when it lies behind another one, as
+// soon as that one has ended.
 void PutFocus(Run& run, HWND control);
 
 // Put around what disables or hides a control: when it has the focus the next one gets it, or none.
@@ -34,8 +35,8 @@ private:
   HWND before_ = nullptr;
 };
 
-// The user's click or letter moves the focus, and who loses and gains it is told. False when it did not stay
-// there, or the dialog has ended: then what moved it has no further effect.
+// The user's click or letter moves the focus, and who loses and gains it is told. False when it did
+// not stay there, or the dialog has ended: then what moved it has no further effect.
 bool MoveFocusByMouse(Run& run, HWND control);
 bool MoveFocusByKey(Run& run, HWND control);
 

@@ -5,7 +5,8 @@
 
 namespace tq {
 
-// Whether the message is a key that is dealt with: by the dialog, which hears of it first, or by this layer.
+// Whether the message is a key that is dealt with: by the dialog, which hears of it first, or by
+// this layer.
 bool IsKeyDone(Run& run, const MSG& message);
 
 } // namespace tq

@@ -13,8 +13,9 @@ int RowsInSightOf(HWND box); // whole ones
 int AnchorOf(HWND box);      // the row from which Shift selects
 void PutAnchor(HWND box, int row);
 
-// Keeps the caret row, the anchor, what is scrolled to and, in a box of one selection, what is selected, with their
-// rows. Made before a change, told of the row that came or went, and put back by Restore.
+// Keeps the caret row, the anchor, what is scrolled to and, in a box of one selection, what is
+// selected, with their rows. Made before a change, told of the row that came or went, and put back
+// by Restore.
 class KeepPlace {
 public:
   explicit KeepPlace(HWND box);

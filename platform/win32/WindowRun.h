@@ -47,8 +47,8 @@ private:
   static int depth_;
 };
 
-// While one of these lives notifications are heard again: a dialog that a silenced change led to has a user of
-// its own.
+// While one of these lives notifications are heard again: a dialog that a silenced change led to
+// has a user of its own.
 class Hearing {
 public:
   Hearing() : depth_(Silence::depth_) { Silence::depth_ = 0; }

@@ -1,9 +1,10 @@
 // Text between this layer and the controls, which are Unicode ones. Internal.
 //
-// Why Unicode and not the ANSI functions that the rest of the library's text would fit: an ANSI window
-// gets a double-byte character that is typed as two messages and may lose the second; the templates are in
-// the terminal's language, which need not be the one of the code page; and the common controls are Unicode
-// inside, so text goes through the system's tables in any case, here in one place.
+// Why Unicode and not the ANSI functions that the rest of the library's text would fit: an ANSI
+// window gets a double-byte character that is typed as two messages and may lose the second; the
+// templates are in the terminal's language, which need not be the one of the code page; and the
+// common controls are Unicode inside, so text goes through the system's tables in any case, here in
+// one place.
 #pragma once
 
 #include <string>

@@ -15,8 +15,8 @@ class CString;
 
 namespace tq {
 
-// Keeps COM initialised on this thread. A thread that is in an apartment already, of either kind, stays
-// in it. Made and destroyed on the same thread.
+// Keeps COM initialised on this thread. A thread that is in an apartment already, of either kind,
+// stays in it. Made and destroyed on the same thread.
 class ComScope {
 public:
   ComScope() : balance_(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}

@@ -1,5 +1,6 @@
-// The market's groups as the symbol-data service hands them out: records built once, when the market
-// is set, with those of one parent behind one another, so that a call is a look-up and a copy.
+// The market's groups as the symbol-data service hands them out: records built once, when the
+// market is set, with those of one parent behind one another, so that a call is a look-up and a
+// copy.
 #pragma once
 
 #include <cstddef>

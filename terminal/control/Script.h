@@ -1,5 +1,5 @@
-// What every operation of a service does first: let itself be recorded, run what a test wants to happen
-// inside of it, and ask whether it was told to fail.
+// What every operation of a service does first: let itself be recorded, run what a test wants to
+// happen inside of it, and ask whether it was told to fail.
 #pragma once
 
 #include <string>
@@ -19,7 +19,8 @@ TQSTANDIN_API bool CountAgainstOrders(std::string_view operation);
 extern TQSTANDIN_API bool actionsOrdered;
 TQSTANDIN_API void RunAction(std::string_view operation);
 
-// Whether this call has to fail. Reading an attribute asks too, so without orders it must cost nothing.
+// Whether this call has to fail. Reading an attribute asks too, so without orders it must cost
+// nothing.
 inline bool OrderedToFail(std::string_view operation) {
   return failuresOrdered && CountAgainstOrders(operation);
 }

@@ -5,8 +5,8 @@
 
 namespace demo {
 
-// Every group of every type but the cloud groups, with the number of its members. Says how often the
-// service was asked for members: when a group is opened, and not before.
+// Every group of every type but the cloud groups, with the number of its members. Says how often
+// the service was asked for members: when a group is opened, and not before.
 void ShowGroups(CTQSymbolListMgr& manager);
 
 } // namespace demo

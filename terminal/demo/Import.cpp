@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kUserLists = 1;
 
-// What the older product's lists hold. The second is empty: it is passed over, and its number with it.
+// What the older product's lists hold. The second is empty: it is passed over, and its number with
+// it.
 std::vector<std::string> Lists() {
   return {SomeSymbols(0, 3), "", SomeSymbols(3, 2)};
 }

@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kUserLists = 1;
 
-// How many lists the file of the directory has before the import adds to them; -1 when no manager can be
-// started on it.
+// How many lists the file of the directory has before the import adds to them; -1 when no manager
+// can be started on it.
 int CountLists(const std::string& directory) {
   CTQSymbolListMgr manager;
   return manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0

@@ -15,12 +15,13 @@ std::string PaddedLeft(std::string_view utf8, int cells);
 
 // The text, cut at a whole character and ended by ".." when it takes more than `cells`.
 std::string Fitted(std::string_view utf8, int cells);
-// The same for entries with a separator between them: cut behind one, unless the first entry is too wide.
+// The same for entries with a separator between them: cut behind one, unless the first entry is too
+// wide.
 std::string FittedList(std::string_view utf8, char separator, int cells);
 
-// The text over as many lines as it takes, none of them wider than `cells`: broken at blanks and behind
-// commas, or anywhere in a word that is wider by itself. Every line begins with `indent`, all but the
-// first with four blanks more.
+// The text over as many lines as it takes, none of them wider than `cells`: broken at blanks and
+// behind commas, or anywhere in a word that is wider by itself. Every line begins with `indent`,
+// all but the first with four blanks more.
 std::string Wrapped(std::string_view utf8, int cells, std::string_view indent);
 
 } // namespace demo

@@ -5,8 +5,8 @@
 
 namespace demo {
 
-// The sizes of the library's files in the directory, and what stands in those that are short. False, with
-// `error` in one line, when one cannot be read.
+// The sizes of the library's files in the directory, and what stands in those that are short.
+// False, with `error` in one line, when one cannot be read.
 bool ShowWritten(const std::string& directory, std::string& error);
 
 } // namespace demo

@@ -1,5 +1,5 @@
-// Opens one of the library's dialogs as a terminal would, on the stand-in services, and prints what was
-// chosen. Where there are no windows the dialog closes by itself.
+// Opens one of the library's dialogs as a terminal would, on the stand-in services, and prints what
+// was chosen. Where there are no windows the dialog closes by itself.
 #include <cstdio>
 #include <string>
 #include <string_view>

@@ -1,4 +1,5 @@
-// One group: its members, fetched when they are first asked for, its lines in the log, its sub-groups.
+// One group: its members, fetched when they are first asked for, its lines in the log, its
+// sub-groups.
 #include "groups/GroupList.h"
 
 #include "symbollist/Log.h"

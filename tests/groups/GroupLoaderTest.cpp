@@ -153,7 +153,8 @@ TEST_F(GroupLoaderTest, AHundredThousandGroupsThatNameThemselves) {
     ASSERT_EQ(level.SubCountAt(i), 1);
 }
 
-// A thousand groups of which each has all as sub-groups: a tree of a thousand to the power of its depth.
+// A thousand groups of which each has all as sub-groups: a tree of a thousand to the power of its
+// depth.
 TEST_F(GroupLoaderTest, GroupsThatAllNameOneAnotherEndAtTheMostGroups) {
   std::vector<GroupInfo> records;
   for (int i = 0; i < 1000; ++i)

@@ -1,5 +1,5 @@
-// Look-ups by id through the indexes against plain scans of the tree, at random: ids that occur often, in
-// either letter case, at both levels.
+// Look-ups by id through the indexes against plain scans of the tree, at random: ids that occur
+// often, in either letter case, at both levels.
 #include <optional>
 #include <random>
 

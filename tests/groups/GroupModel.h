@@ -1,4 +1,5 @@
-// What the manager's groups are to answer, said again in the plainest way: vectors, copies and scans.
+// What the manager's groups are to answer, said again in the plainest way: vectors, copies and
+// scans.
 #pragma once
 
 #include <map>

@@ -1,5 +1,5 @@
-// Random groups, step by step against the model: loading, adding and removing types, pushes, and every
-// question, by id and by handle.
+// Random groups, step by step against the model: loading, adding and removing types, pushes, and
+// every question, by id and by handle.
 #include <algorithm>
 #include <iterator>
 #include <memory>

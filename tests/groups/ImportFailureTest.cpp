@@ -152,8 +152,8 @@ TEST_F(ImportFailureTest, ManyListsAreSavedOnce) {
   EXPECT_EQ(manager.GetSymbolListCount(1), 50);
 }
 
-// The file of trading systems is for others: when it cannot be written, nothing is said and the lists are
-// there.
+// The file of trading systems is for others: when it cannot be written, nothing is said and the
+// lists are there.
 TEST_F(ImportFailureTest, ATradingFileThatCannotBeWrittenHoldsUpNothing) {
   standin::Market market = SmallMarket();
   market.tradingSystems = {{"T1", "one", "one", true, {{1, "a", "A", "2330.TW"}}}};

@@ -55,7 +55,7 @@ protected:
   std::size_t logged_ = 0;
 };
 
-// --- The map and its text ---------------------------------------------------------------------------
+// --- The map and its text ------------------------------------------------------------------------
 
 TEST_F(CloudLists, EmptyMapIsNothingBetweenTwoTags) {
   EXPECT_EQ(Cloud(), "<Cloud></Cloud>");
@@ -103,7 +103,7 @@ TEST_F(CloudLists, TheMapAsksTheServiceNothing) {
   EXPECT_TRUE(standin::Calls().empty());
 }
 
-// --- SetCloudeList ------------------------------------------------------------------------------------
+// --- SetCloudeList -------------------------------------------------------------------------------
 
 TEST_F(CloudLists, SettingAListMakesItAListOfKind8) {
   manager.SetCloudeList("A", "one", "2330.TW,2317.TW");
@@ -145,7 +145,7 @@ TEST_F(CloudLists, UserTextIsNoFormatOfTheLog) {
   EXPECT_TRUE(Logged("CTQSymbolListMgr::SetCloudeList ListName=%s%n%d, Symbols=2330.TW"));
 }
 
-// --- Lists of kind 8 ------------------------------------------------------------------------------------
+// --- Lists of kind 8 -----------------------------------------------------------------------------
 
 TEST_F(CloudLists, UpdatingAListThatIsThereAlwaysTells) {
   manager.UpdateCloudSymbolList("A", kCloudType, "one", "2330.TW", 0);
@@ -238,7 +238,7 @@ TEST_F(CloudLists, ClearingLeavesTheMap) {
   EXPECT_NE(Cloud(), "<Cloud></Cloud>");
 }
 
-// --- Cloud groups ---------------------------------------------------------------------------------------
+// --- Cloud groups --------------------------------------------------------------------------------
 
 TEST_F(CloudLists, GroupsFollowTheMapWhenTheyAreLoaded) {
   manager.UpdateCloudSymbolList("VORNG0102", "semis", "2330.TW,2454.TW");

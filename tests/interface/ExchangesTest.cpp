@@ -204,7 +204,8 @@ TEST_F(ExchangesTest, AnExchangeThatFailsAtTheStartIsLeftOut) {
   EXPECT_EQ(Order(), "1,3");
 }
 
-// Symptom: an array that came with a failure or a count that is not above 0 was written over, and leaked.
+// Symptom: an array that came with a failure or a count that is not above 0 was written over, and
+// leaked.
 TEST_F(ExchangesTest, ArraysThatComeWithAFailureOrWithoutACountAreReleased) {
   standin::SetMarket(LetterMarket(5, "1,2,3,4,5"));
   const std::vector<SymbolInfo> records(2);

@@ -21,8 +21,8 @@ protected:
   }
 };
 
-// Each call of a full load fails, one at a time: the group or type that it was for is empty, everything
-// else is there, nothing leaks, and the next load is whole.
+// Each call of a full load fails, one at a time: the group or type that it was for is empty,
+// everything else is there, nothing leaks, and the next load is whole.
 TEST_F(GroupsFailureTest, EveryCallOfAFullLoadFailingOnceIsSurvived) {
   ASSERT_EQ(manager.LoadGroupList(), 1);
   std::vector<std::string> calls;

@@ -1,5 +1,5 @@
-// The terminal handles messages while the symbol-data service works, and calls the library from there:
-// groups are loaded, removed, pushed and asked for from within each call of the service.
+// The terminal handles messages while the symbol-data service works, and calls the library from
+// there: groups are loaded, removed, pushed and asked for from within each call of the service.
 #include <functional>
 #include <memory>
 
@@ -83,8 +83,8 @@ protected:
     };
   }
 
-  // Runs `work` once for each call of the service operation that it makes and each of Calls(), which is
-  // done from within it.
+  // Runs `work` once for each call of the service operation that it makes and each of Calls(),
+  // which is done from within it.
   void ReenterAtEach(const std::string& operation, const std::function<void()>& work,
                      const std::function<void()>& check) {
     manager.LoadGroupList();

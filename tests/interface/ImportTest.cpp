@@ -57,8 +57,8 @@ TEST_F(ImportTest, TheSameListsExportedAgainAreImportedAgain) {
   EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
 }
 
-// The lists are on the disk before the file is renamed, so this is what a process leaves that is killed in
-// between.
+// The lists are on the disk before the file is renamed, so this is what a process leaves that is
+// killed in between.
 TEST_F(ImportTest, AStartThatEndedBeforeTheRenameIsMadeGoodByTheNext) {
   const std::string file = File("<L><IDs>2330.TW</IDs></L><L><IDs>2317.TW</IDs></L>");
   WriteImport(file);

@@ -1,5 +1,5 @@
-// Lists that are on the disk and not in memory are never lost: a save that would write over them keeps a
-// copy first.
+// Lists that are on the disk and not in memory are never lost: a save that would write over them
+// keeps a copy first.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -58,8 +58,8 @@ protected:
   }
 };
 
-// The symbol-data service was down at the start, the manager had no lists, and the list that the user added
-// took the place of all lists in the file.
+// The symbol-data service was down at the start, the manager had no lists, and the list that the
+// user added took the place of all lists in the file.
 TEST_F(KeptFilesTest, AStartThatFailsAtTheTablesDoesNotCostTheListsOfTheFile) {
   for (const char* operation : {"VLGetExch", "VLGetBaseAttrs2", "TQSGetUserInfo"}) {
     SCOPED_TRACE(operation);
@@ -80,7 +80,8 @@ TEST_F(KeptFilesTest, AStartThatFailsAtTheTablesDoesNotCostTheListsOfTheFile) {
   ExpectLine("SymbolList_Kept2.xml", "the lists in memory do not come from it");
 }
 
-// The same on a manager that had read the file before: its lists are gone from memory with the second Init.
+// The same on a manager that had read the file before: its lists are gone from memory with the
+// second Init.
 TEST_F(KeptFilesTest, AFailingStartOfALiveManagerDoesNotCostThemEither) {
   WriteWorking(TwoLists());
   ASSERT_EQ(StartWithTables(), 1);
@@ -192,8 +193,8 @@ TEST_F(KeptFilesTest, ADirectoryThatTheManagerGoesOverToIsReadFirst) {
   EXPECT_EQ(other.Read(kCopy), "damaged");
 }
 
-// Restoring a backup that is not there, or damaged, empties the manager; the working file's lists are then
-// nowhere but in the file.
+// Restoring a backup that is not there, or damaged, empties the manager; the working file's lists
+// are then nowhere but in the file.
 TEST_F(KeptFilesTest, ARestoreThatFailsDoesNotCostTheWorkingFile) {
   WriteWorking(TwoLists());
   StartWithoutTables();

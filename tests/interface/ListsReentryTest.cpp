@@ -1,5 +1,5 @@
-// The terminal handles messages while a service works, and calls the manager from there: each operation on
-// lists from within each service call of each other one.
+// The terminal handles messages while a service works, and calls the manager from there: each
+// operation on lists from within each service call of each other one.
 #include <functional>
 #include <string>
 #include <tuple>
@@ -149,7 +149,8 @@ protected:
   static const char* Service() { return std::get<0>(GetParam()); }
 };
 
-// Symptom: lists that had been deleted meanwhile were written to, records leaked, loads doubled the lists.
+// Symptom: lists that had been deleted meanwhile were written to, records leaked, loads doubled the
+// lists.
 TEST_P(ListsReentryTest, NothingFreedIsUsedAndRowsBelongToTheirStrings) {
   StartWith({"a/A/2330.TW"});
   for (const Operation& outer : kOperations) {

@@ -1,4 +1,5 @@
-// The terminal calls the manager again while the manager asks the services for exchanges and symbols.
+// The terminal calls the manager again while the manager asks the services for exchanges and
+// symbols.
 #include <functional>
 #include <string>
 #include <tuple>

@@ -1,5 +1,5 @@
-// Names and symbols that end in half a character, or hold bytes that are none, were saved as they were, and
-// the next load refused the whole file: every list was lost.
+// Names and symbols that end in half a character, or hold bytes that are none, were saved as they
+// were, and the next load refused the whole file: every list was lost.
 #include <string>
 
 #include "terminal/StandIn.h"
@@ -23,7 +23,7 @@ protected:
   static size_t LinesAboutBytes() {
     size_t lines = 0;
     for (const standin::LogLine& line : standin::LogLines())
-      lines += line.level == 64 && line.text.find("cannot hold") != std::string::npos ? 1 : 0;
+      lines += line.level == 64 && line.text.find("cannot hold") != std::string::npos ? 1u : 0u;
     return lines;
   }
 };
@@ -105,11 +105,12 @@ TEST_F(StorableListsTest, CloudLists) {
                "<Cloud><List ID='d' Name='D' Value='2330.TW' Flag='0'/>\n</Cloud>");
 }
 
-// Everything at once, byte by byte: whatever stands in a name or a symbol string, what was saved is read.
+// Everything at once, byte by byte: whatever stands in a name or a symbol string, what was saved is
+// read.
 TEST_F(StorableListsTest, EveryByteInNameAndSymbols) {
   for (int byte = 1; byte < 256; ++byte) {
     if (byte == '\'' || byte == '&' || byte == '<' || byte == '\n' || byte == '\r' || byte == '\t')
-      continue; // kept as they are: names are screened for the first three, the rest come back as blanks
+      continue; // kept: the first three are for names to be screened for, the rest come back as blanks
     SCOPED_TRACE(byte);
     const std::string text = "x" + std::string(1, static_cast<char>(byte));
     EXPECT_EQ(manager.AddSymbolList("b", 0, text.c_str(), ("2330.TW," + text).c_str(), 1, 1), 1);

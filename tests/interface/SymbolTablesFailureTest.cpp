@@ -1,4 +1,5 @@
-// Each service operation fails at each of its first calls: nothing may leak, crash or stay half done.
+// Each service operation fails at each of its first calls: nothing may leak, crash or stay half
+// done.
 #include <string_view>
 
 #include "tests/interface/SymbolTablesTest.h"

@@ -114,7 +114,8 @@ TEST_F(SymbolTablesReentry, AnExchangeThatTwoCallsAddHasOneTable) {
   tables.CleanALL();
 }
 
-// Symptom: the terminal started the library anew, which makes new tables, while the old ones were asking.
+// Symptom: the terminal started the library anew, which makes new tables, while the old ones were
+// asking.
 TEST_F(SymbolTablesReentry, TablesMayBeDeletedWhileTheyAsk) {
   for (const char* operation : {"VLGetExch", "VLGetBaseAttrs2", "TQSGetUserInfo"}) {
     auto own = std::make_unique<OpenTables>();

@@ -1,4 +1,5 @@
-// The symbol tables on the stand-in's small market, with the operations that derived classes may use.
+// The symbol tables on the stand-in's small market, with the operations that derived classes may
+// use.
 #pragma once
 
 #include <cstring>

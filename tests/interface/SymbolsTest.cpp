@@ -28,7 +28,8 @@ protected:
     manager.ReplaceSymbolListExchID(text, "TW", "TE");
     return text.GetString();
   }
-  // Loads the lists anew, saves them, and expects the ids of list a to stand in the file as they did.
+  // Loads the lists anew, saves them, and expects the ids of list a to stand in the file as they
+  // did.
   void ExpectKeptInTheFile(const char* ids) {
     ASSERT_EQ(manager.LoadSymbolList(), 1);
     EXPECT_EQ(Shape(), std::string("a/A/") + ids);
@@ -221,8 +222,9 @@ TEST_F(SymbolsTest, RenamingTouchesNothingElseOfTheString) {
             ",2330.tw,,6488.TE,H:,5483.TE,GONE.TW,");
 }
 
-// Symptom: "7777.TW" of a saved list became "7777.TE", another instrument, at the next load, and the next save
-// wrote it: every symbol of a table of TW that could not be loaded counted as gone over.
+// Symptom: "7777.TW" of a saved list became "7777.TE", another instrument, at the next load, and
+// the next save wrote it: every symbol of a table of TW that could not be loaded counted as gone
+// over.
 TEST_F(SymbolsTest, ATableThatFailedToLoadIsNoProofThatASymbolMoved) {
   StartWith({"a/A/7777.TW,2330.TW"});
   standin::FailCall("VLGetBaseAttrs2", 1);
@@ -230,7 +232,8 @@ TEST_F(SymbolsTest, ATableThatFailedToLoadIsNoProofThatASymbolMoved) {
   ExpectKeptInTheFile("7777.TW,2330.TW");
 }
 
-// Symptom: the same, once the terminal announced a new symbol of the exchange whose table had failed.
+// Symptom: the same, once the terminal announced a new symbol of the exchange whose table had
+// failed.
 TEST_F(SymbolsTest, NorIsOneThatHasOnlyWhatWasAddedAfterTheFailure) {
   StartWith({"a/A/7777.TW,6488.TW"});
   standin::FailCall("VLGetBaseAttrs2", 1);
@@ -242,7 +245,8 @@ TEST_F(SymbolsTest, NorIsOneThatHasOnlyWhatWasAddedAfterTheFailure) {
   EXPECT_EQ(Moved("7777.TW,6488.TW"), "7777.TW,6488.TE");
 }
 
-// Symptom: the same when the service lists the exchange without symbols, as before the market's day begins.
+// Symptom: the same when the service lists the exchange without symbols, as before the market's day
+// begins.
 TEST_F(SymbolsTest, NorIsATableThatCameEmpty) {
   Drop(kTw, false);
   StartWith({"a/A/7777.TW,6488.TW"});

@@ -1,5 +1,5 @@
-// Each service call of a login and of a change of holdings fails once: what is left is consistent, nothing
-// leaks, and the next call puts everything right.
+// Each service call of a login and of a change of holdings fails once: what is left is consistent,
+// nothing leaks, and the next call puts everything right.
 #include <set>
 
 #include "tests/interface/TradingTest.h"

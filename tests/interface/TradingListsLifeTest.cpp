@@ -105,7 +105,8 @@ TEST_F(TradingListsLifeTest, AStartWithoutTradingListsLeavesWhatIsThereAsItIs) {
   EXPECT_EQ(TradingFile(), file);
 }
 
-// Once they are wanted again the table is where it was left, so that the next change of holdings is shown.
+// Once they are wanted again the table is where it was left, so that the next change of holdings is
+// shown.
 TEST_F(TradingListsLifeTest, AThirdStartThatWantsTradingListsAgainHasThem) {
   Start();
   manager.UpdateTSLogin("T1");

@@ -1,5 +1,5 @@
-// The terminal handles messages while the trading-system proxy works or is told, and calls the library
-// from there: logins, changes of holdings, removed lists and starts from within each call.
+// The terminal handles messages while the trading-system proxy works or is told, and calls the
+// library from there: logins, changes of holdings, removed lists and starts from within each call.
 #include <functional>
 #include <memory>
 #include <set>
@@ -58,8 +58,8 @@ protected:
     }
   }
 
-  // Runs `work` once for each call of the operation that it makes and each of Calls(), which is done from
-  // within it. Whatever came of that, the next login puts the lists of T1 right.
+  // Runs `work` once for each call of the operation that it makes and each of Calls(), which is
+  // done from within it. Whatever came of that, the next login puts the lists of T1 right.
   void ReenterAtEach(const std::string& operation, const std::function<void()>& work) {
     Prepare();
     standin::ClearCalls();
@@ -113,7 +113,8 @@ TEST_F(TradingListsReentryTest, AListThatIsAddedTwiceIsThereOnce) {
   EXPECT_EQ(Symbols("x"), "2330.TW");
 }
 
-// Accounts of a login that came in between kept their lists though the one that went on has them not.
+// Accounts of a login that came in between kept their lists though the one that went on has them
+// not.
 TEST_F(TradingListsReentryTest, TheLoginThatEndsLastSaysWhichAccountsHaveLists) {
   Start();
   AtCall("TQSGetTSAccountCount", 1, [this] {

@@ -130,7 +130,8 @@ TEST(FileAccess, WhatAKilledSaveLeftIsOverwrittenAndGone) {
   EXPECT_EQ("SymbolList.xml", directory.List());
 }
 
-// A directory name may end in a double-byte character whose trail byte is a backslash, and hold others.
+// A directory name may end in a double-byte character whose trail byte is a backslash, and hold
+// others.
 TEST(FileAccess, DirectoryNamesMayEndInATrailByteBackslash) {
   const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string names[] = {big5 ? "\xB3\x5C\xA5\x5C\xBB\x5C" : "\x97\x5C",

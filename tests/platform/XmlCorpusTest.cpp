@@ -1,9 +1,9 @@
-// One corpus for both platforms: files that must be read, with what must be read out of them, and files
-// that must be refused.
+// One corpus for both platforms: files that must be read, with what must be read out of them, and
+// files that must be refused.
 //
 // good/<name>.xml has <name>.expected, or one for each interface language (<name>.tw.expected,
-// <name>.cn.expected) where the text depends on it; a file without one for a language is not meant for
-// it. An expectation shows the tree, bytes that are not printable ASCII as \xHH.
+// <name>.cn.expected) where the text depends on it; a file without one for a language is not meant
+// for it. An expectation shows the tree, bytes that are not printable ASCII as \xHH.
 #include "platform/TextTables.h"
 #include "platform/XmlDocument.h"
 #include "platform/framework/CString.h"
@@ -79,7 +79,8 @@ std::string Dump(const tq::XmlDocument& document) {
   return dump;
 }
 
-// Where the expectation for this process's language stands; empty when the file is not meant for it.
+// Where the expectation for this process's language stands; empty when the file is not meant for
+// it.
 fs::path ExpectationOf(fs::path file) {
   const char* language = tq::AnsiCodePage() == tq::kCodePageBig5 ? ".tw.expected" : ".cn.expected";
   const fs::path always = file.replace_extension(".expected");

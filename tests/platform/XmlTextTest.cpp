@@ -123,7 +123,8 @@ TEST(XmlText, WhatWouldMakeADomSlowIsRefusedAtOnce) {
   EXPECT_EQ(XmlVerdict::Ok, Prepare("<a>" + many(tq::kXmlPieceLimit - 1, comment) + "</a>"));
 }
 
-// The library asks for ASCII names alone; every other name reaches the DOM as one that all DOMs take.
+// The library asks for ASCII names alone; every other name reaches the DOM as one that all DOMs
+// take.
 TEST(XmlText, NamesThatTheDomsTreatDifferentlyTravelAsHexadecimal) {
   const std::string file = "<p:a xmlns:p='u' _._x='1' b='2'>\xE8\xA8\xB1</p:a>";
   tq::XmlText text;
@@ -141,8 +142,8 @@ TEST(XmlText, NamesThatTheDomsTreatDifferentlyTravelAsHexadecimal) {
   EXPECT_FALSE(document.Root().Attribute("p", value));
 }
 
-// Every pair of bytes that is built like a character of the code page comes out as it went in, assigned
-// or not; every other pair refuses the file.
+// Every pair of bytes that is built like a character of the code page comes out as it went in,
+// assigned or not; every other pair refuses the file.
 TEST(XmlText, EveryDoubleByteCharacterComesOutAsItsOwnBytes) {
   const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string start = OwnDeclaration() + "<a b='";

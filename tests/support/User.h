@@ -1,5 +1,5 @@
-// A test that acts as the user of a dialog, the same on Windows with real windows and elsewhere with
-// windows in memory.
+// A test that acts as the user of a dialog, the same on Windows with real windows and elsewhere
+// with windows in memory.
 //
 //   const int code = RunDialog(dialog, [](User& user) {
 //     user.Select(761, "美國");
@@ -7,10 +7,11 @@
 //     user.DoubleClick(781, 0);
 //   });
 //
-// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there, another control
-// lies in front of where the mouse would be, the dialog is closed or lies behind another one) returns false
-// and does nothing. The mouse is in the middle of the control or row, and scrolls there first. An action
-// returns when all that follows from it has happened, timers excepted: see WaitFor.
+// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there,
+// another control lies in front of where the mouse would be, the dialog is closed or lies behind
+// another one) returns false and does nothing. The mouse is in the middle of the control or row,
+// and scrolls there first. An action returns when all that follows from it has happened, timers
+// excepted: see WaitFor.
 #pragma once
 
 #include <functional>
@@ -23,9 +24,9 @@
 class User;
 using UserScript = std::function<void(User&)>;
 
-// The script of the next dialog that opens and has none yet: those of dialogs that open each other are
-// given in the order of opening. A script that ends while its dialog is up fails the test, and the dialog
-// is cancelled; so does a dialog without a script.
+// The script of the next dialog that opens and has none yet: those of dialogs that open each other
+// are given in the order of opening. A script that ends while its dialog is up fails the test, and
+// the dialog is cancelled; so does a dialog without a script.
 void WhenDialogOpens(UserScript script);
 // Scripts that no dialog has opened for; they are forgotten.
 size_t TakeUnusedScripts();
@@ -50,8 +51,8 @@ public:
   // In the place of the text of that edit.
   bool Fill(int id, const std::string& text);
   bool Press(Key key, Modifier modifier = Modifier::None);
-  // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With Control only A.
-  // Without Alt and Control not where a list has the focus.
+  // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With
+  // Control only A. Without Alt and Control not where a list has the focus.
   bool PressLetter(char letter, Modifier modifier = Modifier::Alt);
   bool CloseByTitleBar();
 
@@ -69,8 +70,8 @@ public:
   std::string Screen() const;
 
   bool IsUp() const { return dialog_.IsRunning() && !tq::DialogAccess::HasEnded(dialog_); }
-  // Has messages and timers arrive until `condition` holds. False when the dialog ends first, or nothing
-  // more can happen (on Windows: nothing does for ten seconds).
+  // Has messages and timers arrive until `condition` holds. False when the dialog ends first, or
+  // nothing more can happen (on Windows: nothing does for ten seconds).
   bool WaitFor(const std::function<bool()>& condition);
   // The script may end with the dialog up: something else will end it.
   void LeaveUp() { leaveUp_ = true; }

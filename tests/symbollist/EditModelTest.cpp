@@ -1,5 +1,5 @@
-// Random editing, step by step against the model: lists, default index, the file's bytes and what the
-// terminal is told.
+// Random editing, step by step against the model: lists, default index, the file's bytes and what
+// the terminal is told.
 #include <memory>
 #include <random>
 #include <string>
@@ -262,8 +262,8 @@ TEST_F(EditModelTest, AHundredThousandStepsAgreeWithTheModel) {
   EXPECT_GT(model_.notified, 1000);
 }
 
-// A service that fails may cost a row, a look-up or a notification, never an id: each step is done as a
-// whole or not at all.
+// A service that fails may cost a row, a look-up or a notification, never an id: each step is done
+// as a whole or not at all.
 TEST_F(EditModelTest, StepsWhoseServiceCallsFailAreDoneOrNot) {
   failing_ = true;
   int undone = 0;

@@ -52,8 +52,8 @@ void AddToMarket(const char* code, const char* exchange) {
 
 class IDListEntriesTest : public StandInTest {};
 
-// A bare ":" in front of a heading took the heading's row: queries showed ":", and edits of the row hit
-// the wrong token.
+// A bare ":" in front of a heading took the heading's row: queries showed ":", and edits of the row
+// hit the wrong token.
 TEST_F(IDListEntriesTest, ABareColonInFrontOfAHeadingHasNoRow) {
   CIDList list;
   list.Update1(":,Head:,2330.TW");
@@ -70,7 +70,8 @@ TEST_F(IDListEntriesTest, ABareColonInFrontOfAHeadingHasNoRow) {
   EXPECT_EQ(Rows(list), "2330.TW");
 }
 
-// Records without a usable id stopped the process at the next query, or let an edit hit another row.
+// Records without a usable id stopped the process at the next query, or let an edit hit another
+// row.
 TEST_F(IDListEntriesTest, RecordsWithoutAnIdGetNoRow) {
   const struct {
     std::vector<std::string> ids;
@@ -182,8 +183,8 @@ TEST_F(IDListEntriesTest, AnArgumentMayBeTheListsOwnText) {
   EXPECT_EQ(list.Update1(list.GetIDs()), 0);
 }
 
-// The service lets the terminal change the very list that is being resolved. The inner records leaked,
-// and the rows were those of another string.
+// The service lets the terminal change the very list that is being resolved. The inner records
+// leaked, and the rows were those of another string.
 class IDListReentryTest : public StandInTest {
 protected:
   void WhenAsked(std::function<void()> action) {
@@ -254,7 +255,8 @@ TEST_F(IDListReentryTest, TheOuterQuestionFailsAfterTheInnerOneWasAnswered) {
   ExpectConsistent();
 }
 
-// Each operation of a list that the terminal deletes from within the service returns, and touches nothing.
+// Each operation of a list that the terminal deletes from within the service returns, and touches
+// nothing.
 TEST_F(IDListReentryTest, TheListIsDeletedMeanwhile) {
   SymbolInfo record;
   CString text;

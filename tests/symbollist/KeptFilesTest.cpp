@@ -123,8 +123,8 @@ TEST_F(KeptFiles, BytesAreComparedOnlyWhenTheFileLooksChanged) {
   EXPECT_EQ("", Copy(0));
 }
 
-// Of two programs that save in one moment the other's bytes may have this one's size and time, but not its
-// identity: each save makes a file anew.
+// Of two programs that save in one moment the other's bytes may have this one's size and time, but
+// not its identity: each save makes a file anew.
 TEST_F(KeptFiles, AFileThatWasReplacedBySameSizeAndTimeIsTold) {
   files.sameTime = true;
   Save(kList);
@@ -150,7 +150,8 @@ TEST_F(KeptFiles, AfterAnyOutcomeButWholeNoOtherFileIsKnown) {
   }
 }
 
-// The service lets the terminal save in the middle of a load, when only some of the lists are in memory.
+// The service lets the terminal save in the middle of a load, when only some of the lists are in
+// memory.
 TEST_F(KeptFiles, WhileALoadRunsNoFileIsKnown) {
   Write(kList);
   Load();

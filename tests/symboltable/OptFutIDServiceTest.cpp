@@ -117,7 +117,8 @@ TEST_F(OptFutIDService, ARecordWithoutAWeekIsARecordAllTheSame) {
   EXPECT_EQ(Week("TX121000L6.TF"), "1 0  ");
 }
 
-// Symptom: a text that fills its field without an end was read on into the memory behind the record.
+// Symptom: a text that fills its field without an end was read on into the memory behind the
+// record.
 TEST_F(OptFutIDService, ATextWithoutAnEndEndsWithItsField) {
   List("TX121000L6", {});
   const auto filled = [](int kind, std::string text) {

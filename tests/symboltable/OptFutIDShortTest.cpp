@@ -1,5 +1,5 @@
-// COptFutID: every text of up to twelve characters over small alphabets has a defined answer. What is
-// read out of bounds, the sanitizers report.
+// COptFutID: every text of up to twelve characters over small alphabets has a defined answer. What
+// is read out of bounds, the sanitizers report.
 #include "tests/symboltable/CombinationTest.h"
 
 #include <set>

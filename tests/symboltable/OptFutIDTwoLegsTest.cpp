@@ -172,7 +172,8 @@ TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessTheServiceHasBothStrikes) {
   }
 }
 
-// Symptom: a strike of the service that is no plain number refused a combination whose codes are in order.
+// Symptom: a strike of the service that is no plain number refused a combination whose codes are in
+// order.
 TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessBothStrikesOfTheServiceAreNumbers) {
   List("ABO00002L6", {{ExtAttrWeekly, "V3=0.25"}});
   for (const char* strike : {"n/a", "1,000", "1e3", "0x1", "1 000", " "}) {

@@ -156,8 +156,8 @@ TEST(SymbolKey, CharacterBucketIsTheSumOfTwelveUnsignedBytes) {
   }
 }
 
-// Keys of 15 bytes that had one hash when it was the same in every process: the last step of that hash is
-// undone, and the sizes that do not come out right are left out.
+// Keys of 15 bytes that had one hash when it was the same in every process: the last step of that
+// hash is undone, and the sizes that do not come out right are left out.
 std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
   constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u;
   std::uint64_t inverse = multiplier;
@@ -179,7 +179,8 @@ std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
   return keys;
 }
 
-// Symptom: a table of 80,000 ids that were chosen for it took two seconds to load, since they had one hash.
+// Symptom: a table of 80,000 ids that were chosen for it took two seconds to load, since they had
+// one hash.
 TEST(SymbolKey, NobodyCanChooseKeysOfOneHash) {
   constexpr std::size_t count = 2000;
   std::set<std::uint32_t> hashes;

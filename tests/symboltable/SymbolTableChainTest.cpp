@@ -48,8 +48,8 @@ public:
 
 class ChainTest : public StandInTest, public testing::WithParamInterface<int> {
 protected:
-  // Few codes, so that duplicates and full chains are common; some longer than sixteen bytes, none with
-  // its exchange longer than the service takes.
+  // Few codes, so that duplicates and full chains are common; some longer than sixteen bytes, none
+  // with its exchange longer than the service takes.
   std::string RandomCode() {
     std::string code = std::to_string(Below(40));
     if (Below(2) == 0)

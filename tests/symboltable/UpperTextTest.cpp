@@ -37,8 +37,8 @@ TEST(UpperText, UpperCaseTextIsNotCopied) {
   }
 }
 
-// Symptom: the words of a short id were read together with the count of its owners, while another thread was
-// counting.
+// Symptom: the words of a short id were read together with the count of its owners, while another
+// thread was counting.
 TEST(UpperText, TheCountOfOwnersIsNotRead) {
   for (int length = 1; length <= 16; ++length) {
     EXPECT_GE(tq::TailPosition(length), -tq::kReadableBefore) << length;

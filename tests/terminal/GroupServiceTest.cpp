@@ -1,5 +1,5 @@
-// The stand-in VLProxy: groups. Numbers of packed records are compared inside EXPECT_TRUE: the other
-// macros would bind references to them, and they are not aligned.
+// The stand-in VLProxy: groups. Numbers of packed records are compared inside EXPECT_TRUE: the
+// other macros would bind references to them, and they are not aligned.
 #include <cstring>
 
 #include "platform/services/tqCommon.h"

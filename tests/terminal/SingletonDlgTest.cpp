@@ -1,5 +1,5 @@
-// tqUI's rule for dialogs of one key: which of them run, and what the others get. And the terminal's way of
-// running a dialog.
+// tqUI's rule for dialogs of one key: which of them run, and what the others get. And the
+// terminal's way of running a dialog.
 #include <functional>
 
 #include "dialogs/resources/DialogTable.h"

@@ -1,5 +1,6 @@
-// The stand-in TQSProxy: trading systems, accounts, holdings. Numbers of packed records are compared
-// inside EXPECT_TRUE: the other macros would bind references to them, and they are not aligned.
+// The stand-in TQSProxy: trading systems, accounts, holdings. Numbers of packed records are
+// compared inside EXPECT_TRUE: the other macros would bind references to them, and they are not
+// aligned.
 #include <cstring>
 
 #include "tests/terminal/TradingServiceTest.h"

@@ -1,4 +1,5 @@
-// Keys with Shift, Control and Alt, the letters of buttons and labels, and what the dialog hears first.
+// Keys with Shift, Control and Alt, the letters of buttons and labels, and what the dialog hears
+// first.
 #include "platform/framework/CEdit.h"
 #include "platform/framework/CListBox.h"
 #include "tests/window/WindowTest.h"

@@ -100,8 +100,8 @@ TEST_F(TimerTest, OutsideOfARunThereAreNoTimers) {
   EXPECT_FALSE(dialog.KillTimer(1));
 }
 
-// The first search of a search dialog: a timer shows the wait cursor and posts a message once, whose
-// handler does the work; the next tick stops the timer.
+// The first search of a search dialog: a timer shows the wait cursor and posts a message once,
+// whose handler does the work; the next tick stops the timer.
 TEST_F(TimerTest, ATimerThatPostsAMessageOnceAndStops) {
   TestDialog dialog;
   bool posted = false;

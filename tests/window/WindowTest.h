@@ -1,5 +1,5 @@
-// What the window tests share: a dialog that writes down what it hears, and the fixture that puts the
-// test program's templates in force.
+// What the window tests share: a dialog that writes down what it hears, and the fixture that puts
+// the test program's templates in force.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,7 +17,8 @@
 tq::Resources TestResources();
 
 // 許功蓋 in Traditional Chinese, whose trail bytes are all a backslash in code page 950; in Simplified
-// Chinese three characters whose trail bytes are a backslash and bars in 936. As bytes of the code page.
+// Chinese three characters whose trail bytes are a backslash and bars in 936. As bytes of the code
+// page.
 CString TrickyText();
 inline CString Ansi(const char* utf8) {
   return CString(standin::ToAnsi(utf8).c_str());
@@ -34,7 +35,8 @@ public:
       : CDialog(templateId, parent) {}
 
   Log log;
-  // Called after the line is written; null: nothing more. OnOK and OnCancel end the dialog without one.
+  // Called after the line is written; null: nothing more. OnOK and OnCancel end the dialog without
+  // one.
   std::function<void()> onInit, onOk, onCancel;
   std::function<void(int, ControlEvent)> onCommand;
   std::function<void(int, const ListNotice&)> onNotify;

@@ -200,7 +200,8 @@ TEST_F(WndTest, KeysOfADialogWithoutFocus) {
   EXPECT_EQ(dialog.log, (Log{"init", "key 0 1", "cancel"}));
 }
 
-// As an editor over a row does: Enter takes the text over, Escape gives it up, and the dialog stays.
+// As an editor over a row does: Enter takes the text over, Escape gives it up, and the dialog
+// stays.
 TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
   InDialog([](User& user, TestDialog& dialog) {
     dialog.onKey = [](int id, Key key, Held) {

@@ -1,5 +1,5 @@
-// The DLL's dialog resources, byte by byte as the system reads them, against the templates that they are
-// made from.
+// The DLL's dialog resources, byte by byte as the system reads them, against the templates that
+// they are made from.
 #include <windows.h>
 
 #include <commctrl.h>

@@ -286,8 +286,8 @@ TEST(PosixSave, ALinkThatLeadsInACircleIsNotMissing) {
   EXPECT_EQ(tq::FileState::Other, Files().StateOf(directory.File("null").c_str(), stamp));
 }
 
-// Directory names are bytes in any encoding, and a UTF-8 name can end in a byte that opens a double-byte
-// character.
+// Directory names are bytes in any encoding, and a UTF-8 name can end in a byte that opens a
+// double-byte character.
 TEST(PosixSave, DirectoryNamesMayBeInAnyEncoding) {
   for (const char* name :
        {"\xE8\xA8\xB1", "\xB3\x5C\xA5\x5C", "\xA5\x5C", "caf\xE9", "back\\slash", "a b"}) {

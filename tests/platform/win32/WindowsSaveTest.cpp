@@ -132,7 +132,8 @@ TEST(WindowsSave, ADirectoryUnderTheTemporaryNameIsPassedBy) {
   ::RemoveDirectoryA(directory.File("SymbolList.xml.tmp").c_str());
 }
 
-// The temporary name is longer than the system takes: saved in place, so that the file stays the same one.
+// The temporary name is longer than the system takes: saved in place, so that the file stays the
+// same one.
 TEST(WindowsSave, APathWithoutRoomForTheTemporaryNameIsSavedInPlace) {
   const TestDirectory directory("data");
   const std::size_t start = directory.File("").size();

@@ -1,5 +1,5 @@
-// The user's hands on real windows: the messages that the mouse and the keyboard would make are posted to
-// the controls, which do the rest.
+// The user's hands on real windows: the messages that the mouse and the keyboard would make are
+// posted to the controls, which do the rest.
 #include "tests/support/UserActions.h"
 
 #include <windows.h>
@@ -81,8 +81,8 @@ private:
   BYTE before_[kKeys] = {};
 };
 
-// In the order in which they lie, the front one first. Labels, and what is hidden or disabled, leave the mouse
-// to what lies behind.
+// In the order in which they lie, the front one first. Labels, and what is hidden or disabled,
+// leave the mouse to what lies behind.
 bool IsInFront(HWND control, LPARAM point) {
   POINT screen{static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))};
   ::ClientToScreen(control, &screen);

@@ -1,5 +1,5 @@
-// A process that ends with the library loaded. (On Windows libraries go after everything that a program could
-// look with.)
+// A process that ends with the library loaded. (On Windows libraries go after everything that a
+// program could look with.)
 #include <gtest/gtest.h>
 
 #include <cstdlib>

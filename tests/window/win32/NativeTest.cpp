@@ -60,7 +60,8 @@ TEST_F(NativeTest, ADialogWhoseOwnerIsDestroyedByASentMessageReturns) {
   EXPECT_EQ(dialog.log, Log{"init"});
 }
 
-// What the program changes makes no event, and the dialog that a handler opened meanwhile heard none either.
+// What the program changes makes no event, and the dialog that a handler opened meanwhile heard
+// none either.
 TEST_F(NativeTest, ADialogThatOpensWhileARowIsDrawnHearsItsUser) {
   InDialog([](User&, TestDialog& dialog) {
     TestDialog inner(101, &dialog);

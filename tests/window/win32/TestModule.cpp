@@ -15,9 +15,9 @@ void* ModuleWithoutDialogs() {
 
 namespace {
 
-// Handles are numbered, and a number is used again when its object is gone. So of more new objects than
-// there can be numbers to use again, the highest number tells how many objects there are. (Wine answers 0
-// to GetGuiResources.)
+// Handles are numbered, and a number is used again when its object is gone. So of more new objects
+// than there can be numbers to use again, the highest number tells how many objects there are.
+// (Wine answers 0 to GetGuiResources.)
 constexpr int kNewObjects = 200;
 
 size_t NumberOf(HANDLE handle) {
