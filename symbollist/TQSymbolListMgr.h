@@ -81,15 +81,16 @@ public:
 
   // Starts the library on a data directory; may be called again on a live manager, which then
   // begins anew.
-  //   dataDirectory         where the list file is, without trailing backslash. A missing directory
-  //                         is not created; in an existing one a missing list file is created, empty.
+  //   dataDirectory         where the list file is, without trailing backslash. A missing
+  //                         directory is not created; in an existing one a missing list file is
+  //                         created, empty.
   //   bCN                   handed to the symbol-data service with every symbol search
   //   initSymbolTables      non-zero: build the symbol tables from the symbol-data service
   //   loadSystemLists       non-zero: system lists are wanted
   //   systemListNames       their names in order, or null; copied
   //   useUserDefExch        non-zero: the default exchanges are the user's own
-  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start before
-  //                         stay, whatever this says; with 0 nothing changes them
+  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start
+  //                         before stay, whatever this says; with 0 nothing changes them
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and
   // there are no lists. A list file that cannot be read is no failure: the manager starts without
   // lists. Where the system does not tell whether there is a list file, none is created.

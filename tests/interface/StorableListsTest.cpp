@@ -110,7 +110,7 @@ TEST_F(StorableListsTest, CloudLists) {
 TEST_F(StorableListsTest, EveryByteInNameAndSymbols) {
   for (int byte = 1; byte < 256; ++byte) {
     if (byte == '\'' || byte == '&' || byte == '<' || byte == '\n' || byte == '\r' || byte == '\t')
-      continue; // kept: the first three are for names to be screened for, the rest come back as blanks
+      continue; // kept: the first three are screened for elsewhere, the rest become blanks
     SCOPED_TRACE(byte);
     const std::string text = "x" + std::string(1, static_cast<char>(byte));
     EXPECT_EQ(manager.AddSymbolList("b", 0, text.c_str(), ("2330.TW," + text).c_str(), 1, 1), 1);
