@@ -1,5 +1,7 @@
 #include "symbollist/ListArray.h"
 
+#include <algorithm>
+
 #include "platform/CodePage.h"
 
 namespace tq {
@@ -18,6 +20,12 @@ int FindListByName(const CPtrArray& lists, const char* name, int skip) {
       return i;
   }
   return -1;
+}
+
+bool IsAmong(const CPtrArray& lists, const CSymbolList* list, int position) {
+  if (position < lists.GetSize() && ListAt(lists, position) == list)
+    return true;
+  return std::find(lists.begin(), lists.end(), list) != lists.end();
 }
 
 bool SameNamesAndContents(const CPtrArray& left, const CPtrArray& right) {

@@ -2,6 +2,7 @@
 // writes its log line, then tells the terminal.
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 #include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
@@ -17,6 +18,21 @@ namespace {
 
 constexpr int kListExists = 1;
 constexpr int kListBearsName = 2;
+
+struct Renamed {
+  CSymbolList* list;
+  CString before;
+  CString now;
+};
+
+// Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
+// inside that one too. Callers rename whole families of ids by their common start.
+CString ReplacedIn(CString ids, const CStringArray& oldIds, const CStringArray& newIds) {
+  const int pairs = std::min(oldIds.GetSize(), newIds.GetSize());
+  for (int k = 0; k < pairs; ++k)
+    ids.Replace(oldIds[k], newIds[k]);
+  return ids;
+}
 
 } // namespace
 
@@ -131,15 +147,19 @@ int CTQSymbolListMgr::DeleteSymbolList(CString id) {
 int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
   if (oldIds == nullptr || newIds == nullptr)
     return 0;
-  const int pairs = std::min(oldIds->GetSize(), newIds->GetSize());
-  int changed = 0;
+  // All strings first: the lists that the terminal adds while one is resolved are not renamed, and
+  // none is renamed twice.
+  std::vector<Renamed> renamed;
   for (int i = 0; i < lists_.GetSize(); ++i) {
-    CString ids = tq::ListAt(lists_, i)->GetIDs();
-    // Plain substrings of the whole string, not ids: an old id that is a part of a longer one
-    // changes inside that one too. Callers rename whole families of ids by their common start.
-    for (int k = 0; k < pairs; ++k)
-      ids.Replace((*oldIds)[k], (*newIds)[k]);
-    changed |= tq::ListAt(lists_, i)->Update1(ids);
+    CSymbolList* list = tq::ListAt(lists_, i);
+    renamed.push_back({list, list->GetIDs(), ReplacedIn(list->GetIDs(), *oldIds, *newIds)});
+  }
+  int changed = 0;
+  for (size_t i = 0; i < renamed.size(); ++i) {
+    const Renamed& each = renamed[i];
+    if (each.now != each.before && tq::IsAmong(lists_, each.list, static_cast<int>(i)) &&
+        each.list->GetIDs() == each.before)
+      changed |= each.list->Update1(each.now);
   }
   if (changed == 0)
     return 0;

@@ -52,15 +52,20 @@ bool IsOneOf(const CStringArray& symbols, const CString& token) {
   return false;
 }
 
+bool HoldsOneOf(const CSymbolList& list, const CStringArray& symbols) {
+  const CStringArray& tokens = list.GetTokens();
+  return std::any_of(tokens.begin(), tokens.end(),
+                     [&](const CString& token) { return IsOneOf(symbols, token); });
+}
+
+// The lists as they are now: the terminal may change them while one asks the service.
 void ResolveLists(const CPtrArray& lists, const CStringArray& symbols) {
-  for (int i = 0; i < lists.GetSize(); ++i) {
-    CSymbolList* list = tq::ListAt(lists, i);
-    for (const CString& token : list->GetTokens()) {
-      if (IsOneOf(symbols, token)) {
-        list->Update3();
-        break;
-      }
-    }
+  CPtrArray now;
+  now.Copy(lists);
+  for (int i = 0; i < now.GetSize(); ++i) {
+    CSymbolList* list = tq::ListAt(now, i);
+    if (tq::IsAmong(lists, list, i) && HoldsOneOf(*list, symbols))
+      list->Update3();
   }
 }
 

@@ -37,12 +37,12 @@ bool IsTooLong(const std::wstring& path) {
 // Opens a file that another program may hold for a moment without sharing it, as a second saver or
 // a program that copies it does.
 bool OpenPatiently(FileHandle& file, const std::wstring& path, DWORD disposition) {
-  for (int i = 0; i < SharingTries; ++i) {
+  for (int i = 0; i < kSharingTries; ++i) {
     if (file.Open(path, GENERIC_WRITE, kShareAll, disposition))
       return true;
     if (::GetLastError() != ERROR_SHARING_VIOLATION)
       return false;
-    ::Sleep(SharingPause);
+    ::Sleep(kSharingPause);
   }
   return false;
 }
@@ -128,7 +128,8 @@ StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
   }
   if (!found)
     return StepResult::Ok;
-  ::SetFileAttributesW(temporary_.c_str(), FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes));
+  ::SetFileAttributesW(temporary_.c_str(),
+                       FILE_ATTRIBUTE_ARCHIVE | (attributes_ & kKeptAttributes));
   return ::SetEndOfFile(temporaryFile_.Get()) != 0 ? StepResult::Ok : StepResult::Failed;
 }
 
@@ -137,9 +138,9 @@ StepResult WindowsSaveSteps::OpenTemporary() {
     return StepResult::Refused;
   // Shared for deletion alone, so that it can be renamed while it is open: from its creation until
   // it bears the target's name no other save can write into it.
-  for (int i = 0; i < SharingTries; ++i) {
+  for (int i = 0; i < kSharingTries; ++i) {
     if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, OPEN_ALWAYS,
-                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & KeptAttributes) |
+                            FILE_ATTRIBUTE_ARCHIVE | (attributes_ & kKeptAttributes) |
                                 FILE_FLAG_OPEN_REPARSE_POINT)) {
       const StepResult result = EmptyTemporary(::GetLastError() == ERROR_ALREADY_EXISTS);
       if (result != StepResult::Missing)

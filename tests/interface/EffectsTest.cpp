@@ -43,6 +43,8 @@ protected:
     std::string lines;
     for (size_t i = logged_; i < standin::LogLines().size(); ++i) {
       const standin::LogLine& line = standin::LogLines()[i];
+      if (TellsOfMark(line.text))
+        continue;
       lines += (lines.empty() ? "" : ", ") + std::to_string(line.level) + " " +
                standin::FromAnsi(line.text);
     }
@@ -73,6 +75,12 @@ private:
   // A document that the library reads and would write in another form.
   static std::string Marked(const std::string& file) {
     return Document("<List ID='" + file + "' Name='N' Value='2330.TW'/>") + "\n";
+  }
+
+  // The marks were written by another program, as the library sees it, and a save keeps them first. The
+  // line that says so does not belong to the operation.
+  static bool TellsOfMark(const std::string& line) {
+    return line.starts_with("List file ") && line.find(" is kept as ") != std::string::npos;
   }
 
   size_t told_ = 0;

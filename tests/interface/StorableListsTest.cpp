@@ -38,7 +38,7 @@ TEST_F(StorableListsTest, AnAddedNameThatEndsInHalfACharacter) {
 TEST_F(StorableListsTest, NamesThatDifferInDroppedBytesOnlyAreOneName) {
   EXPECT_EQ(manager.AddSymbolList("b", 0, "kept\xA4", "2317.TW", 1, 0), 1);
   EXPECT_EQ(NameAt(1), "kept(1)");
-  EXPECT_STREQ(manager.AdjustFileName("Kept\x01"), "Kept(1)");
+  EXPECT_STREQ(manager.AdjustFileName("Kept\x01"), "Kept(2)");
 }
 
 TEST_F(StorableListsTest, NothingThatCanBeStoredIsNothing) {

@@ -159,7 +159,7 @@ TEST(WindowsSave, AFileThatSomebodyHoldsIsThereAllTheSame) {
   const Holder holder(directory.File(kName), 0);
   tq::FileStamp stamp;
   EXPECT_EQ(tq::FileState::File, Files().StateOf(directory.File(kName).c_str(), stamp));
-  EXPECT_EQ(Old.size(), stamp.size);
+  EXPECT_EQ(kOld.size(), stamp.size);
 }
 
 TEST(WindowsSave, AReaderWithoutSharingMakesReadingFail) {
