@@ -17,8 +17,8 @@ int FindListById(const CPtrArray& lists, const char* id);
 // -1.
 int FindListByName(const CPtrArray& lists, const char* name, int skip = -1);
 
-// Whether `list` is among the lists still; `position` is where it was. For walks on which the service is
-// asked, for the terminal may then add, delete or replace lists.
+// Whether `list` is among the lists still; `position` is where it was. For walks on which the
+// service is asked, for the terminal may then add, delete or replace lists.
 bool IsAmong(const CPtrArray& lists, const CSymbolList* list, int position);
 
 // Whether the two arrays hold, position by position, lists of the same name (letter case counts)

@@ -77,8 +77,8 @@ private:
     return Document("<List ID='" + file + "' Name='N' Value='2330.TW'/>") + "\n";
   }
 
-  // The marks were written by another program, as the library sees it, and a save keeps them first. The
-  // line that says so does not belong to the operation.
+  // The marks were written by another program, as the library sees it, and a save keeps them first.
+  // The line that says so does not belong to the operation.
   static bool TellsOfMark(const std::string& line) {
     return line.starts_with("List file ") && line.find(" is kept as ") != std::string::npos;
   }
