@@ -99,10 +99,14 @@ void ExpectThatSavingGoesOn(const TestDirectory& directory) {
 
 } // namespace
 
-constexpr ChildBody kBodies[] = {SaveAndEndAtStep, SaveForEver, KeepAndEndAtStep};
+constexpr ChildBody kBodies[] = {SaveAndEndAtStep, SaveForEver, SaveForEverWithoutFlushing,
+                                 KeepAndEndAtStep};
 
+// On Windows a child is another process, which knows a body by its number.
 int ChildBodyNumber(ChildBody body) {
-  return static_cast<int>(std::find(std::begin(kBodies), std::end(kBodies), body) - kBodies);
+  const auto* const found = std::find(std::begin(kBodies), std::end(kBodies), body);
+  EXPECT_NE(std::end(kBodies), found) << "a body that no child would know";
+  return static_cast<int>(found - kBodies);
 }
 
 ChildBody ChildBodyByNumber(int number) {
