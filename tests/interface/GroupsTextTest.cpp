@@ -329,6 +329,28 @@ TEST_F(GroupsTextTest, MembersAreAskedForOnceWithTypeIdAndFlag) {
   EXPECT_EQ(CallsOf("VLGetGroupSymbol"), "1,CHIP,1");
 }
 
+TEST_F(GroupsTextTest, FetchedMembersAreLogged) {
+  const size_t before = standin::LogLines().size();
+  MembersOf(Handle(2, "a2"));
+  ASSERT_EQ(standin::LogLines().size(), before + 1);
+  EXPECT_EQ(standin::LogLines().back().level, 64);
+  EXPECT_EQ(standin::LogLines().back().text,
+            "CGroupList::Update2 GroupName=" + standin::ToAnsi("金控") + ", Symbols=2881.TW");
+}
+
+TEST_F(GroupsTextTest, MembersThatFailedAreAskedForAgain) {
+  standin::FailCall("VLGetGroupSymbol", 1);
+  EXPECT_EQ(manager.GetGroupSymbolCount(1, "CHIP"), 0);
+  EXPECT_EQ(manager.GetGroupSymbolCount(1, "CHIP"), 2);
+  EXPECT_EQ(Fetched(), 2);
+}
+
+TEST_F(GroupsTextTest, AFailureForOneGroupLeavesTheOthersTheirSubGroups) {
+  standin::FailCall("VLGetSubGroup", 2);
+  manager.LoadGroupList(1);
+  EXPECT_EQ(Shape(1), "TSE OTC(WAFER) ETF");
+}
+
 // --- A symbol in a group ------------------------------------------------------------------------
 
 TEST_F(GroupsTextTest, OnlyTypes2And7And8AreSearched) {

@@ -81,6 +81,29 @@ TEST_F(ImportTextTest, AMalformedFileKeepsItsName) {
   EXPECT_EQ(Ids(), "eOrvel 1");
 }
 
+TEST_F(ImportTextTest, AListOfThatIdAndNameGetsTheSymbolsAndARenamedOneIsSkipped) {
+  Import("<L><IDs>2330.TW</IDs></L>", 1);
+  EXPECT_EQ(Import("<L><IDs>2317.TW</IDs></L>", 1), 1);
+  EXPECT_EQ(Ids(), "eOrvel 1");
+  EXPECT_EQ(Rows("eOrvel 1"), "2317.TW");
+  StartWith({"eOrvel 1/Mine/2454.TW"});
+  EXPECT_EQ(Import("<L><IDs>2330.TW</IDs></L><L><IDs>1101.TW</IDs></L>", 1), 1);
+  EXPECT_EQ(Ids(), "eOrvel 1|eOrvel 2");
+  EXPECT_EQ(Rows("eOrvel 1"), "2454.TW");
+}
+
+TEST_F(ImportTextTest, AStartImportsBehindTheSystemLists) {
+  directory.Write("OldOTVList.xml", "<HaldeUserList><L><IDs>2330.TW</IDs></L></HaldeUserList>");
+  CStringArray names;
+  names.Add("S1");
+  ASSERT_EQ(manager.Init(directory.Path().c_str(), 0, 1, 1, &names, 0, 1), 1);
+  const int count = manager.GetSymbolListCount(1);
+  ASSERT_GT(count, 1);
+  EXPECT_EQ(IdAt(count - 1), "eOrvel 1");
+  EXPECT_EQ(manager.GetSymbolListCount(6), 1);
+  EXPECT_EQ(manager.GetGroupIdx(201), 22);
+}
+
 TEST_F(ImportTextTest, ExtraTextsKeepTheirOrderAndStandOnce) {
   manager.AddExtraTQInfo("");
   manager.AddExtraTQInfo("b");

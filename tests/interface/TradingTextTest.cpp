@@ -1,5 +1,7 @@
 // Logins and changes of holdings step by step: what the proxy is asked, what the terminal is told,
 // the lists, the file to the byte.
+#include <cstring>
+
 #include "tests/interface/TradingTest.h"
 
 namespace {
@@ -266,6 +268,50 @@ TEST_F(TradingTextTest, AChangeToNothingEmptiesTheList) {
   manager.UpDataTSAccHodling("T2", "77", kStocks);
   EXPECT_EQ(Shape(), "ALLMYSTOCKLISTS/" + AllHoldings() + "/|177/77-*/");
   EXPECT_EQ(TradingFile(), File(System("T2", Broker("乙"), Account("77", "77-*", 1, ""))));
+}
+
+// --- A proxy that fails or answers strangely -----------------------------------------------------
+
+TEST_F(TradingTextTest, OfTwoRecordsOfOneSystemTheFirstCounts) {
+  TQS_TSINFO other = {};
+  std::strcpy(other.id, "T2");
+  TQS_TSINFO first = {};
+  std::strcpy(first.id, "T1");
+  std::strcpy(first.name, "first");
+  TQS_TSINFO second = first;
+  std::strcpy(second.name, "second");
+  standin::AnswerTradingSystems({other, first, second});
+  OneAccount({1, "A", "A-*", "2330.TW"});
+  Start();
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(TradingFile(), File(System("T1", "first", Account("A", "A-*", 1, "2330.TW"))));
+  EXPECT_EQ(standin::CountCalls("TQSGetTSInfo"), 2);
+}
+
+TEST_F(TradingTextTest, ASystemThatIsNotListedAnyMoreLosesItsAccountLists) {
+  Start();
+  manager.UpdateTSLogin("T1");
+  standin::AnswerTradingSystems({});
+  ForgetCalls();
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(manager.GetSymbolListCount(6), 1);
+  EXPECT_EQ(TradingFile().find("<Account"), std::string::npos);
+  EXPECT_EQ(standin::CountCalls("TQSGetTSAccountHolding"), 0);
+}
+
+TEST_F(TradingTextTest, AnUnknownSystemsLoginWritesTheFileToo) {
+  Start();
+  manager.UpdateTSLogin("T9");
+  EXPECT_EQ(TradingFile(), File(""));
+}
+
+TEST_F(TradingTextTest, AnAccountWhoseHoldingsFailHoldsNothing) {
+  Start();
+  standin::FailCall("TQSGetTSAccountHolding", 1);
+  manager.UpdateTSLogin("T1");
+  EXPECT_EQ(Symbols("19801"), "");
+  EXPECT_EQ(Symbols("19802"), "2317.TW,2454.TW");
+  EXPECT_EQ(TradingFile(), File(SystemT1("")));
 }
 
 // --- Lists of kind 6 ----------------------------------------------------------------------------
