@@ -189,6 +189,38 @@ TEST_F(GroupsTextPushesTest, ATopLevelIdIsNoSubGroup) {
   EXPECT_EQ(Shape(1), kLoaded);
 }
 
+TEST_F(GroupsTextPushesTest, CloudGroupsTakePushesToo) {
+  manager.AddGroup({Set(201, "NEW", "n", {{"S", "s"}})});
+  EXPECT_EQ(Shape(201), "VORNG01(VORNG0101 VORNG0102 VORNG0103) PICK NEW(S)");
+  manager.RemoveSubGroup({Set(201, "VORNG01", "", {{"VORNG0102", ""}})});
+  EXPECT_EQ(Shape(201), "VORNG01(VORNG0101 VORNG0103) PICK NEW(S)");
+}
+
+TEST_F(GroupsTextPushesTest, ASetWithoutPairsLeavesTheSubGroups) {
+  manager.AddSubGroup({Set(1, "TSE", "x")});
+  manager.UpdateSubGroup({Set(1, "TSE", "x")});
+  manager.RemoveSubGroup({Set(1, "TSE", "x")});
+  EXPECT_EQ(Shape(1), kLoaded);
+}
+
+TEST_F(GroupsTextPushesTest, ASetWithoutPairsBehindAReplacingOneLetsTheOthersBeAdded) {
+  manager.AddSubGroup(
+      {Set(1, "TSE", "", {{"CEM", "c"}}), Set(1, "OTC", "", {{"NEW", "n"}}), Set(1, "ETF", "")});
+  EXPECT_EQ(Shape(1), "TSE(CHIP CEM) OTC(WAFER NEW) ETF");
+  EXPECT_EQ(SubName("CEM"), "c");
+}
+
+TEST_F(GroupsTextPushesTest, TextsEndWithTheirFields) {
+  const std::string id(16, 'i');
+  const std::string name(60, 'n');
+  manager.AddGroup({Set(1, id.c_str(), name.c_str())});
+  EXPECT_EQ(NameOf(Handle(1, id.c_str())), std::string(48, 'n'));
+  manager.UpdateGroupName({Set(1, "ETF", name.c_str())});
+  EXPECT_EQ(NameOf(Handle(1, "ETF")), std::string(48, 'n'));
+  manager.UpdateSubGroupName({Set(1, "TSE", "", {{"CHIP", name.c_str()}})});
+  EXPECT_EQ(SubName("CHIP"), std::string(48, 'n'));
+}
+
 TEST_F(GroupsTextPushesTest, NothingPushedChangesNothing) {
   const std::vector<CGroupSet> none;
   manager.AddGroup(none);

@@ -135,6 +135,33 @@ TEST_F(GroupsTextTest, AnAddAfterARemovalCountsTheStaleIndicesUp) {
   EXPECT_EQ(Top(7), 0);
 }
 
+TEST_F(GroupsTextTest, TwoRemovalsMoveTheAnswersTwoPlaces) {
+  manager.RemoveGroupList(3);
+  EXPECT_NE(manager.RemoveGroupList(4), 0) << "the type itself, whatever its index says";
+  ExpectIndices({{4, -1}, {5, 4}, {7, 6}, {201, 22}});
+  EXPECT_EQ(Shape(5), "TXO(TXOC TXOP)");
+  EXPECT_EQ(Top(6), 0);
+  EXPECT_NE(manager.RemoveGroupList(7), 0);
+  EXPECT_EQ(Top(5), 0);
+  EXPECT_EQ(Shape(2), "CTW(AI a2)");
+}
+
+TEST_F(GroupsTextTest, AnAddAtTheEndOfAStaleMapGoesWhereItBelongs) {
+  manager.RemoveGroupList(101);
+  ExpectIndices({{21, 20}, {101, -1}, {201, 22}});
+  manager.AddNewGroup(150);
+  ExpectIndices({{150, 21}, {201, 23}});
+  EXPECT_EQ(Top(201), 0);
+}
+
+TEST_F(GroupsTextTest, AReloadBesideAStaleMapReachesItsOwnType) {
+  manager.RemoveGroupList(3);
+  AddToMarket({7, "", "MORE", "多", "多", {}});
+  EXPECT_EQ(manager.LoadGroupList(7), 1);
+  EXPECT_EQ(Shape(6), "TXO(TXOC TXOP) MORE");
+  ExpectIndices({{7, 6}});
+}
+
 TEST_F(GroupsTextTest, AFullLoadMendsTheIndices) {
   manager.RemoveGroupList(3);
   manager.AddNewGroup(150);

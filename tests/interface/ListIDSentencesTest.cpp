@@ -219,6 +219,15 @@ TEST_F(ListIDSentencesTest, AGroupIdOfTheServiceIsTakenOver) {
   EXPECT_EQ(All(), "3|X,Y||");
 }
 
+TEST_F(ListIDSentencesTest, AGroupIdKeepsNameContentAndOrigin) {
+  ReadForList("1,id;N,S");
+  id.SetOrgID("org");
+  id.ConvertFromGroupID("1,G,01");
+  EXPECT_EQ(All(), "2|G,01|N|S");
+  EXPECT_STREQ(id.GetOrgID(), "org");
+  EXPECT_STREQ(id.GetSubGroupID(), "01");
+}
+
 TEST_F(ListIDSentencesTest, OtherGroupIdsChangeNothing) {
   id.SetData(ListIDHoldings, "kept", 0);
   for (const char* text : {"2,X", "4,X", "0,X", "x,X", "201,X", "101,X", "1", "", ",1", "11,X"}) {

@@ -323,6 +323,21 @@ TEST_F(TradingTextTest, AnAddedListHasTheKnownSymbolsInOrder) {
   EXPECT_EQ(Notified(), "");
 }
 
+TEST_F(TradingTextTest, AnAddedListWhoseSymbolsAreAllUnknownIsEmptyAndThere) {
+  Start();
+  EXPECT_NE(manager.AddTSSymbolList("a", 6, "A", "NONE.TW,Title:", 0), 0);
+  EXPECT_EQ(Symbols("a"), "");
+}
+
+TEST_F(TradingTextTest, AnUpdateOfAMissingListAddsItUnderTheChecksOfItsKind) {
+  StartWithUserLists("<List ID='u' Name='Mine' Value='2330.TW'/>");
+  manager.UpdateTSSymbolList("u", 1, "Other", "2330.TW", 1);
+  EXPECT_EQ(Symbols("u"), "(no list)");
+  manager.UpdateTSSymbolList("v", 1, "Mine", "2330.TW", 1);
+  EXPECT_EQ(NameOf("v"), "Mine" + UpdateSuffix());
+  EXPECT_EQ(Notified(), "");
+}
+
 TEST_F(TradingTextTest, AnAddIsRefusedForNameSymbolsAndId) {
   Start();
   EXPECT_EQ(manager.AddTSSymbolList("a", 6, "", "2330.TW", 1), 0);
