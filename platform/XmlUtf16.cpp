@@ -18,7 +18,7 @@ public:
   char32_t Peek() const {
     const auto first = static_cast<unsigned char>(text_[at_]);
     const auto second = static_cast<unsigned char>(text_[at_ + 1]);
-    return little_ ? second << 8 | first : first << 8 | second;
+    return little_ ? second * 256U + first : first * 256U + second;
   }
   char32_t Take() {
     const char32_t unit = Peek();

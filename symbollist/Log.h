@@ -27,4 +27,9 @@ void LogLine(int level, const char* format, Arguments... arguments) {
     (*log)(level).write(format, arguments...);
 }
 
+// The same for a text that is no format.
+inline void LogLine(int level, const char* text) {
+  LogLine(level, "%s", text);
+}
+
 } // namespace tq
