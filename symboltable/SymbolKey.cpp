@@ -1,43 +1,14 @@
 #include "symboltable/SymbolKey.h"
 
-#include <chrono>
 #include <cstdlib>
-#include <random>
 
 #include "platform/CodePage.h"
 #include "symboltable/LeadingInt.h"
 #include "symboltable/UpperText.h"
 
 namespace tq {
-namespace {
 
-// 0 where the system has no source.
-std::uint64_t RandomWord() {
-  try {
-    std::random_device source;
-    return std::uint64_t{source()} << 32 | source();
-  } catch (const std::exception&) {
-    return 0;
-  }
-}
-
-// What differs from one start to the next: where the system puts the library, its clock, and its
-// source of random numbers where it has one.
-HashSeed MakeSeed() {
-  const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
-  std::uint64_t state =
-      MixWords(reinterpret_cast<std::uintptr_t>(&kHashSeed), static_cast<std::uint64_t>(time));
-  const auto next = [&state] {
-    state = MixWords(state, RandomWord());
-    return state | 1; // a zero would be a factor that forgets the other
-  };
-  const std::uint64_t low = next();
-  return {low, next()};
-}
-
-} // namespace
-
-const HashSeed kHashSeed = MakeSeed();
+const HashSeed kHashSeed = ProcessHashSeed();
 
 std::uint64_t MixRest(std::uint64_t state, std::string_view text) {
   for (std::size_t at = sizeof state; at < text.size(); at += sizeof state)

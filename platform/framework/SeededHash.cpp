@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <chrono>
-#include <cstdint>
 #include <cstring>
 #include <exception>
 #include <random>
@@ -10,32 +9,34 @@
 namespace tq {
 namespace {
 
-struct Seed {
-  uint64_t low;
-  uint64_t high;
-};
-
-Seed MakeSeed() {
+// 0 where the system has no source.
+uint64_t RandomWord() {
   try {
     std::random_device source;
-    const auto half = [&source] { return static_cast<uint64_t>(source()) << 32 | source(); };
-    const uint64_t low = half();
-    return {low, half()};
-  } catch (const std::exception&) { // no source of secrets: at least not the same for every process
-    const auto now = std::chrono::high_resolution_clock::now().time_since_epoch().count();
-    return {static_cast<uint64_t>(now), ~static_cast<uint64_t>(now)};
+    return static_cast<uint64_t>(source()) << 32 | source();
+  } catch (const std::exception&) {
+    return 0;
   }
 }
 
-const Seed& TheSeed() {
-  static const Seed seed = MakeSeed();
-  return seed;
+// What differs from one start to the next even without a source of random numbers: the clock, and
+// where the system puts the library.
+uint64_t StartWord() {
+  static const char place = 0;
+  const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
+  return std::rotl(static_cast<uint64_t>(time), 20) ^ reinterpret_cast<uintptr_t>(&place);
+}
+
+HashSeed MakeSeed() {
+  const uint64_t start = StartWord();
+  const uint64_t low = RandomWord() ^ start;
+  return {low | 1, (RandomWord() ^ std::rotl(start, 32)) | 1};
 }
 
 // SipHash with one round for each word and three at the end: made for hash tables under attack.
 class Sip {
 public:
-  explicit Sip(const Seed& seed)
+  explicit Sip(const HashSeed& seed)
       : a_(seed.low ^ 0x736F6D6570736575u), b_(seed.high ^ 0x646F72616E646F6Du),
         c_(seed.low ^ 0x6C7967656E657261u), d_(seed.high ^ 0x7465646279746573u) {}
 
@@ -91,7 +92,7 @@ uint64_t Folded(uint64_t word) {
 }
 
 template <uint64_t (*CHANGE)(uint64_t)> size_t Hash(std::string_view text) {
-  Sip sip(TheSeed());
+  Sip sip(ProcessHashSeed());
   size_t at = 0;
   for (; text.size() - at >= sizeof(uint64_t); at += sizeof(uint64_t)) {
     uint64_t word;
@@ -107,6 +108,11 @@ template <uint64_t (*CHANGE)(uint64_t)> size_t Hash(std::string_view text) {
 }
 
 } // namespace
+
+const HashSeed& ProcessHashSeed() {
+  static const HashSeed seed = MakeSeed();
+  return seed;
+}
 
 size_t SeededHash(const char* text, size_t length) {
   return Hash<AsIs>({text, length});

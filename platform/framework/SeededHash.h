@@ -6,11 +6,19 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "platform/framework/FrameworkApi.h"
 
 namespace tq {
+
+// The secret: two odd numbers, other ones in every process.
+struct HashSeed {
+  std::uint64_t low;
+  std::uint64_t high;
+};
+TQFRAMEWORK_API const HashSeed& ProcessHashSeed();
 
 TQFRAMEWORK_API size_t SeededHash(const char* text, size_t length);
 // The same for texts that differ in the case of ASCII letters only.
