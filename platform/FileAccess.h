@@ -41,7 +41,7 @@ enum class ReadResult {
   Ok,
   Missing,  // no such file, or no such directory
   TooLarge, // the file is longer than the caller's limit; nothing was read
-  Failed,   // it is there and cannot be read (rights, a directory, an error of the disk)
+  Failed,   // it is there and cannot be read (rights, a directory, an error of the disk, no memory)
 };
 
 enum class SaveResult {

@@ -1,6 +1,20 @@
 #include "platform/ReadSteps.h"
 
+#include <new>
+
 namespace tq {
+namespace {
+
+bool MakeRoom(std::string& bytes, std::size_t size) {
+  try {
+    bytes.resize(size);
+    return true;
+  } catch (const std::bad_alloc&) { // a file as large as this does not have to end the terminal
+    return false;
+  }
+}
+
+} // namespace
 
 ReadResult RunRead(ReadSteps& steps, std::size_t limit, std::string& bytes) {
   FileStamp before;
@@ -10,7 +24,8 @@ ReadResult RunRead(ReadSteps& steps, std::size_t limit, std::string& bytes) {
       return ReadResult::Failed;
     if (before.size > limit)
       return ReadResult::TooLarge;
-    bytes.resize(static_cast<std::size_t>(before.size));
+    if (!MakeRoom(bytes, static_cast<std::size_t>(before.size)))
+      break;
     const bool whole = steps.Read(bytes);
     FileStamp after;
     if (!steps.Stamp(after))

@@ -19,12 +19,15 @@
 //     whether or not a namespace is bound to it, and names beyond ASCII are read and never asked
 //     for: they are other names than the one behind the prefix. A default namespace (xmlns='...')
 //     puts elements into it.
-//  6. Nothing throws. A failure of the platform's DOM reads as "not there".
+//  6. Nothing throws. Memory that runs out while a document is loaded refuses the document; later
+//     it stops the process (tq::OutOfMemory), for what is there must not read as "not there", which
+//     is how any other failure of the platform's DOM reads.
 //  7. One thread at a time for a document and its elements.
 //     On Windows COM is initialised while a document lives, whichever apartment the thread is in.
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 class CString;
@@ -87,6 +90,10 @@ public:
   // dropped.
   bool Load(const char* data, std::size_t size);
 
+  // Whether the last Load failed for the system's sake: no memory, or no DOM to be had. Nothing is
+  // known of the bytes then.
+  bool SystemFailed() const { return systemFailed_; }
+
   // True when double-byte text came from a file in the process's own code page and so comes out as
   // the file's own bytes; else what the code page lacks has become "?".
   bool KeepsBytes() const { return carried_; }
@@ -101,8 +108,15 @@ public:
   std::vector<XmlElement> Select(const char* path) const;
 
 private:
+  enum class LoadResult { Ok, Refused, SystemFailed };
+  LoadResult TryLoad(const char* data, std::size_t size);
+  // The body's part: drops the document before and makes one of the text.
+  LoadResult Parse(std::string_view utf8);
+  void Clear();
+
   void* state_ = nullptr; // the body's own
   bool carried_ = false;
+  bool systemFailed_ = false;
 };
 
 } // namespace tq

@@ -1,5 +1,7 @@
 #include "symbollist/ListFile.h"
 
+#include <new>
+
 #include "platform/XmlText.h"
 #include "symbollist/FileDeclaration.h"
 #include "symbollist/SymbolList.h"
@@ -38,9 +40,16 @@ std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
   return text;
 }
 
-bool CanBeLoaded(const std::string& text, int lists) {
+bool MakeListFileText(const CPtrArray& lists, int defaultIndex, std::string& text) {
   constexpr int kFrameElements = 2;
-  return text.size() <= kXmlSizeLimit && lists <= kXmlPieceLimit - kFrameElements;
+  if (lists.GetSize() > kXmlPieceLimit - kFrameElements)
+    return false;
+  try {
+    text = ListFileText(lists, defaultIndex);
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+  return text.size() <= kXmlSizeLimit;
 }
 
 } // namespace tq

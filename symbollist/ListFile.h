@@ -16,8 +16,9 @@ inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 // the file of a manager that has no lists. Text is in the process's ANSI code page, unescaped.
 std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 
-// Whether a file of that text and that many lists is within the bounds that hold for loading one
-// (platform/XmlText.h): what is saved must be readable.
-bool CanBeLoaded(const std::string& text, int lists);
+// The same, where the lists may be many. False, with `text` not to be used, when it is not within
+// the bounds that hold for loading one (platform/XmlText.h), for what is saved must be readable, or
+// when there is no memory for it.
+bool MakeListFileText(const CPtrArray& lists, int defaultIndex, std::string& text);
 
 } // namespace tq

@@ -90,8 +90,8 @@ int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
   if (path.IsEmpty())
     return 0;
   const int index = defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_;
-  std::string text = tq::ListFileText(lists_, index);
-  const tq::SaveResult result = tq::CanBeLoaded(text, lists_.GetSize())
+  std::string text;
+  const tq::SaveResult result = tq::MakeListFileText(lists_, index, text)
                                     ? keptFiles_->Save(path, std::move(text))
                                     : tq::SaveResult::NotOpened;
   if (result != tq::SaveResult::NotOpened)

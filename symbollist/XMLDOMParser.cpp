@@ -57,6 +57,8 @@ bool CXMLDOMParser::Load(const CString& path) {
                       document_.Load(contents_.bytes.data(), contents_.bytes.size());
   if (loaded)
     outcome_ = tq::LoadOutcome::Whole;
+  else if (document_.SystemFailed())
+    outcome_ = tq::LoadOutcome::Unreadable;
   return loaded;
 }
 
@@ -102,8 +104,9 @@ tq::LoadOutcome CXMLDOMParser::ReadLists(CPtrArray& lists, int& defaultIndex) {
     manager_.ReplaceSymbolListExchID(list.get(), tq::kMovedFromExchange, tq::kMovedToExchange);
     lists.Add(list.release());
   }
-  const std::string text = tq::ListFileText(lists, std::max(defaultIndex, 0));
-  contents_.returns = tq::ComesBack(contents_.bytes, document_, text);
+  std::string text;
+  contents_.returns = tq::MakeListFileText(lists, std::max(defaultIndex, 0), text) &&
+                      tq::ComesBack(contents_.bytes, document_, text);
   return elements.empty() ? tq::LoadOutcome::Empty : tq::LoadOutcome::Whole;
 }
 

@@ -1,6 +1,7 @@
 // The manager's default exchanges, exchange order and buffer of all symbols.
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <span>
 #include <utility>
 #include <vector>
@@ -150,7 +151,10 @@ void CTQSymbolListMgr::SortAllSymbolByExch() {
   ClearAllSymbols();
   if (total == 0)
     return;
-  allSymbols_ = new SymbolInfo[total];
+  // Hundreds of bytes a symbol in one piece: where that is not to be had there is no buffer.
+  allSymbols_ = new (std::nothrow) SymbolInfo[total];
+  if (allSymbols_ == nullptr)
+    return;
   for (const auto& list : lists) {
     const std::span<const SymbolInfo> records = list.Records();
     if (!records.empty())
@@ -172,7 +176,10 @@ int CTQSymbolListMgr::CheckAllSymbolByExch() {
 int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) {
   if (out == nullptr || count == nullptr || CheckAllSymbolByExch() != 0)
     return 0;
-  *out = new SymbolInfo[static_cast<size_t>(allSymbolCount_)];
+  auto* const copy = new (std::nothrow) SymbolInfo[static_cast<size_t>(allSymbolCount_)];
+  if (copy == nullptr)
+    return 0;
+  *out = copy;
   std::memcpy(*out, allSymbols_, static_cast<size_t>(allSymbolCount_) * sizeof(SymbolInfo));
   *count = allSymbolCount_;
   return 1;

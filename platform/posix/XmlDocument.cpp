@@ -2,6 +2,7 @@
 
 #include "platform/XmlText.h"
 #include "platform/framework/CString.h"
+#include "platform/framework/Storage.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
@@ -34,12 +35,30 @@ bool IsElement(const xmlNode* node, std::string_view name) {
   return node->type == XML_ELEMENT_NODE && node->ns == nullptr && TextOf(node->name) == name;
 }
 
-// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though
-// the same, would cost a copy.
-xmlDoc* Parse(std::string_view text) {
-  return xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
-                       kParserOptions);
-}
+// Whether the parser has told of memory that it did not get, while one of these lives. It does not
+// always take that for an error of the document; and what it says last is often another error that
+// came of it.
+class MemoryWatch {
+public:
+  MemoryWatch() : handler_(xmlStructuredError), argument_(xmlStructuredErrorContext) {
+    xmlSetStructuredErrorFunc(this, Note);
+  }
+  ~MemoryWatch() { xmlSetStructuredErrorFunc(argument_, handler_); }
+  MemoryWatch(const MemoryWatch&) = delete;
+  MemoryWatch& operator=(const MemoryWatch&) = delete;
+
+  bool Lacked() const { return lacked_; }
+
+private:
+  static void Note(void* watch, xmlError* error) {
+    if (error->code == XML_ERR_NO_MEMORY)
+      static_cast<MemoryWatch*>(watch)->lacked_ = true;
+  }
+
+  const xmlStructuredErrorFunc handler_; // of this thread, and the terminal's
+  void* const argument_;
+  bool lacked_ = false;
+};
 
 // An attribute's value lies in one node, unless references stand in it.
 void AssignValue(const xmlAttr* attribute, bool carried, CString& value) {
@@ -49,6 +68,8 @@ void AssignValue(const xmlAttr* attribute, bool carried, CString& value) {
     return;
   }
   xmlChar* joined = xmlNodeListGetString(attribute->doc, part, 1);
+  if (joined == nullptr)
+    OutOfMemory();
   AssignXmlText(TextOf(joined), carried, value);
   xmlFree(joined);
 }
@@ -157,14 +178,20 @@ XmlDocument::~XmlDocument() {
   xmlFreeDoc(static_cast<xmlDoc*>(state_));
 }
 
-bool XmlDocument::Load(const char* data, std::size_t size) {
+// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though
+// the same, would cost a copy.
+XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
+  Clear();
+  const MemoryWatch watch;
+  state_ = xmlReadMemory(utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr,
+                         kParserOptions);
+  if (watch.Lacked())
+    return LoadResult::SystemFailed;
+  return state_ != nullptr ? LoadResult::Ok : LoadResult::Refused;
+}
+
+void XmlDocument::Clear() {
   xmlFreeDoc(static_cast<xmlDoc*>(std::exchange(state_, nullptr)));
-  XmlText text;
-  if (PrepareXml(data, size, text) != XmlVerdict::Ok)
-    return false;
-  state_ = Parse(text.utf8);
-  carried_ = text.carried;
-  return state_ != nullptr;
 }
 
 XmlElement XmlDocument::Root() const {

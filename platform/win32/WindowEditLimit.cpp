@@ -58,7 +58,7 @@ bool IsRefused(HWND edit, WPARAM character, int limit) {
 }
 
 LRESULT CALLBACK LimitProc(HWND edit, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                           DWORD_PTR limit) {
+                           DWORD_PTR limit) noexcept {
   const auto bytes = static_cast<int>(limit);
   if (message == WM_CHAR && IsRefused(edit, wParam, bytes)) {
     ::MessageBeep(MB_OK);

@@ -92,7 +92,7 @@ void NoteDestroyed(Run& run) {
 
 } // namespace
 
-INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   Run* const run = FindRun(window);
   if (run == nullptr)
     return FALSE;

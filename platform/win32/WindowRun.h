@@ -70,7 +70,7 @@ inline bool HasStyle(HWND window, LONG_PTR style) {
 inline constexpr UINT kModalMessage = WM_APP + 1;     // tells the modal handler
 inline constexpr UINT kSelectionMessage = WM_APP + 2; // wParam: the list view's id
 
-INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 // WM_COMMAND and WM_NOTIFY of a dialog.
 void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam);

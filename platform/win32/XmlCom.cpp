@@ -1,13 +1,23 @@
 #include "platform/win32/XmlCom.h"
 
+#include "platform/framework/Storage.h"
+
 namespace tq {
 
 ComText::ComText(std::string_view utf8) {
+  if (!TryAssign(utf8))
+    OutOfMemory();
+}
+
+bool ComText::TryAssign(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   const int length = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
+  ::SysFreeString(text_);
   text_ = ::SysAllocStringLen(nullptr, static_cast<UINT>(length));
-  if (text_ != nullptr)
-    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text_, length);
+  if (text_ == nullptr)
+    return false;
+  ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text_, length);
+  return true;
 }
 
 std::string ToUtf8(std::wstring_view text) {

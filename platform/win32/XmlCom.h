@@ -57,7 +57,8 @@ private:
   Interface* pointer_ = nullptr;
 };
 
-// An owned string of COM. A null one counts as empty.
+// An owned string of COM. A null one counts as empty. Without the memory for one the process is
+// stopped, but for TryAssign.
 class ComText {
 public:
   ComText() = default;
@@ -70,6 +71,8 @@ public:
     ::SysFreeString(std::exchange(text_, nullptr));
     return &text_;
   }
+  // False, with the string empty, when there is no memory for it.
+  bool TryAssign(std::string_view utf8);
   BSTR Get() const { return text_; }
   std::wstring_view View() const {
     return text_ != nullptr ? std::wstring_view(text_, ::SysStringLen(text_)) : std::wstring_view();

@@ -2,6 +2,7 @@
 
 #include "platform/XmlText.h"
 #include "platform/framework/CString.h"
+#include "platform/framework/Storage.h"
 #include "platform/win32/XmlCom.h"
 
 namespace tq {
@@ -57,19 +58,26 @@ bool Create(ComPtr<Dom>& document) {
          Configure(document.Get());
 }
 
+// Of a question to a document that is there. Without memory there is no answer to go on with.
+HRESULT Told(HRESULT result) {
+  if (result == E_OUTOFMEMORY)
+    OutOfMemory();
+  return result;
+}
+
 bool IsElement(Node* node) {
   DOMNodeType type = NODE_INVALID;
-  return SUCCEEDED(node->get_nodeType(&type)) && type == NODE_ELEMENT;
+  return SUCCEEDED(Told(node->get_nodeType(&type))) && type == NODE_ELEMENT;
 }
 
 bool HasNamespace(Node* node) {
   ComText space;
-  return node->get_namespaceURI(space.Receive()) == S_OK && !space.View().empty();
+  return Told(node->get_namespaceURI(space.Receive())) == S_OK && !space.View().empty();
 }
 
 bool IsNamed(Node* node, std::wstring_view name) {
   ComText base;
-  return SUCCEEDED(node->get_baseName(base.Receive())) && base.View() == name &&
+  return SUCCEEDED(Told(node->get_baseName(base.Receive()))) && base.View() == name &&
          !HasNamespace(node);
 }
 
@@ -85,8 +93,8 @@ void AssignText(const ComText& text, bool carried, CString& value) {
 std::string TextPiece(Node* node) {
   DOMNodeType type = NODE_INVALID;
   VARIANT value = {};
-  if (FAILED(node->get_nodeType(&type)) || (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
-      FAILED(node->get_nodeValue(&value)))
+  if (FAILED(Told(node->get_nodeType(&type))) || (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
+      FAILED(Told(node->get_nodeValue(&value))))
     return {};
   std::string piece;
   if (value.vt == VT_BSTR && value.bstrVal != nullptr)
@@ -97,18 +105,18 @@ std::string TextPiece(Node* node) {
 
 bool IsBlank(Node* node) {
   DOMNodeType type = NODE_INVALID;
-  return SUCCEEDED(node->get_nodeType(&type)) && type == NODE_TEXT && IsXmlBlank(TextPiece(node));
+  return SUCCEEDED(Told(node->get_nodeType(&type))) && type == NODE_TEXT && IsXmlBlank(TextPiece(node));
 }
 
 // Calls take(child) for each child node in document order.
 template <typename Take> void ForEachChild(Node* parent, const Take& take) {
   ComPtr<Node> child;
-  if (parent == nullptr || FAILED(parent->get_firstChild(child.Receive())))
+  if (parent == nullptr || FAILED(Told(parent->get_firstChild(child.Receive()))))
     return;
   while (child) {
     take(child.Get());
     ComPtr<Node> next;
-    if (FAILED(child->get_nextSibling(next.Receive())))
+    if (FAILED(Told(child->get_nextSibling(next.Receive()))))
       return;
     *child.Receive() = next.Detach();
   }
@@ -137,15 +145,15 @@ XmlElement::~XmlElement() {
 
 bool XmlElement::HasAttributes() const {
   ComPtr<IXMLDOMNamedNodeMap> map;
-  if (node_ == nullptr || NodeOf(node_)->get_attributes(map.Receive()) != S_OK || !map)
+  if (node_ == nullptr || Told(NodeOf(node_)->get_attributes(map.Receive())) != S_OK || !map)
     return false;
   LONG count = 0;
-  map->get_length(&count);
+  Told(map->get_length(&count));
   for (LONG i = 0; i < count; ++i) {
     ComPtr<Node> attribute;
     ComText name;
-    if (map->get_item(i, attribute.Receive()) == S_OK && attribute &&
-        attribute->get_nodeName(name.Receive()) == S_OK && !IsNamespaceDeclaration(name.View()))
+    if (Told(map->get_item(i, attribute.Receive())) == S_OK && attribute &&
+        Told(attribute->get_nodeName(name.Receive())) == S_OK && !IsNamespaceDeclaration(name.View()))
       return true;
   }
   return false;
@@ -156,12 +164,12 @@ bool XmlElement::Attribute(const char* name, CString& value) const {
   ComPtr<Node> attribute;
   const ComText wanted(name);
   if (node_ == nullptr || IsNamespaceDeclaration(wanted.View()) ||
-      NodeOf(node_)->get_attributes(map.Receive()) != S_OK || !map ||
-      map->getNamedItem(wanted.Get(), attribute.Receive()) != S_OK || !attribute ||
+      Told(NodeOf(node_)->get_attributes(map.Receive())) != S_OK || !map ||
+      Told(map->getNamedItem(wanted.Get(), attribute.Receive())) != S_OK || !attribute ||
       HasNamespace(attribute.Get()))
     return false;
   ComText text;
-  if (FAILED(attribute->get_text(text.Receive())))
+  if (FAILED(Told(attribute->get_text(text.Receive()))))
     return false;
   AssignText(text, carried_, value);
   return true;
@@ -169,7 +177,7 @@ bool XmlElement::Attribute(const char* name, CString& value) const {
 
 bool XmlElement::Name(CString& name) const {
   ComText base;
-  if (node_ == nullptr || FAILED(NodeOf(node_)->get_baseName(base.Receive())))
+  if (node_ == nullptr || FAILED(Told(NodeOf(node_)->get_baseName(base.Receive()))))
     return false;
   AssignXmlName(ToUtf8(base.View()), carried_, name);
   return true;
@@ -217,25 +225,27 @@ XmlDocument::~XmlDocument() {
   delete StateOf(state_);
 }
 
-bool XmlDocument::Load(const char* data, std::size_t size) {
-  State& state = *StateOf(state_);
-  state.document.Reset();
-  XmlText text;
-  if (PrepareXml(data, size, text) != XmlVerdict::Ok)
-    return false;
-  const ComText source(text.utf8);
+void XmlDocument::Clear() {
+  StateOf(state_)->document.Reset();
+}
+
+XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
+  Clear();
+  ComPtr<Dom>& document = StateOf(state_)->document;
+  ComText source;
   VARIANT_BOOL loaded = VARIANT_FALSE;
-  if (!Create(state.document) || state.document->loadXML(source.Get(), &loaded) != S_OK ||
-      loaded != VARIANT_TRUE)
-    state.document.Reset();
-  carried_ = text.carried;
-  return static_cast<bool>(state.document);
+  if (!source.TryAssign(utf8) || !Create(document))
+    return LoadResult::SystemFailed;
+  const HRESULT result = document->loadXML(source.Get(), &loaded);
+  if (result == S_OK && loaded == VARIANT_TRUE)
+    return LoadResult::Ok;
+  return result == E_OUTOFMEMORY ? LoadResult::SystemFailed : LoadResult::Refused;
 }
 
 XmlElement XmlDocument::Root() const {
   State& state = *StateOf(state_);
   ComPtr<IXMLDOMElement> root;
-  if (!state.document || state.document->get_documentElement(root.Receive()) != S_OK)
+  if (!state.document || Told(state.document->get_documentElement(root.Receive())) != S_OK)
     return {};
   return XmlElement(static_cast<Node*>(root.Detach()), carried_);
 }
@@ -244,7 +254,7 @@ XmlElement XmlDocument::SelectSingle(const char* path) const {
   State& state = *StateOf(state_);
   const ComText query(path);
   ComPtr<Node> node;
-  if (!state.document || state.document->selectSingleNode(query.Get(), node.Receive()) != S_OK)
+  if (!state.document || Told(state.document->selectSingleNode(query.Get(), node.Receive())) != S_OK)
     return {};
   return XmlElement(node.Detach(), carried_);
 }
@@ -254,10 +264,10 @@ std::vector<XmlElement> XmlDocument::Select(const char* path) const {
   std::vector<XmlElement> found;
   const ComText query(path);
   ComPtr<IXMLDOMNodeList> nodes;
-  if (!state.document || state.document->selectNodes(query.Get(), nodes.Receive()) != S_OK)
+  if (!state.document || Told(state.document->selectNodes(query.Get(), nodes.Receive())) != S_OK)
     return found;
   ComPtr<Node> node;
-  while (nodes->nextNode(node.Receive()) == S_OK && node)
+  while (Told(nodes->nextNode(node.Receive())) == S_OK && node)
     found.push_back(XmlElement(node.Detach(), carried_));
   return found;
 }
