@@ -6,8 +6,10 @@ ComText::ComText(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   const int length = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
   text_ = ::SysAllocStringLen(nullptr, static_cast<UINT>(length));
-  if (text_ != nullptr)
-    ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text_, length);
+  if (text_ == nullptr)
+    return;
+  NoteOpened(SystemObject::Text);
+  ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text_, length);
 }
 
 std::string ToUtf8(std::wstring_view text) {

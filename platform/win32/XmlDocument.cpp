@@ -51,9 +51,8 @@ bool Configure(Dom* document) {
 }
 
 bool Create(ComPtr<Dom>& document) {
-  void** receiver = reinterpret_cast<void**>(document.Receive());
   return SUCCEEDED(::CoCreateInstance(kFreeThreadedDocument30, nullptr, CLSCTX_INPROC_SERVER,
-                                      kDocumentWithProperties, receiver)) &&
+                                      kDocumentWithProperties, document.Receive())) &&
          Configure(document.Get());
 }
 
@@ -88,11 +87,10 @@ std::string TextPiece(Node* node) {
   if (FAILED(node->get_nodeType(&type)) || (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
       FAILED(node->get_nodeValue(&value)))
     return {};
-  std::string piece;
-  if (value.vt == VT_BSTR && value.bstrVal != nullptr)
-    piece = ToUtf8({value.bstrVal, ::SysStringLen(value.bstrVal)});
+  if (value.vt == VT_BSTR)
+    return ToUtf8(ComText::Own(value.bstrVal).View());
   ::VariantClear(&value);
-  return piece;
+  return {};
 }
 
 bool IsBlank(Node* node) {
@@ -110,7 +108,7 @@ template <typename Take> void ForEachChild(Node* parent, const Take& take) {
     ComPtr<Node> next;
     if (FAILED(child->get_nextSibling(next.Receive())))
       return;
-    *child.Receive() = next.Detach();
+    child.Reset(next.Detach());
   }
 }
 
@@ -118,7 +116,7 @@ template <typename Take> void ForEachChild(Node* parent, const Take& take) {
 
 XmlElement::XmlElement(const XmlElement& other) : node_(other.node_), carried_(other.carried_) {
   if (node_ != nullptr)
-    NodeOf(node_)->AddRef();
+    TakeReference(NodeOf(node_));
 }
 
 XmlElement::XmlElement(XmlElement&& other) noexcept
@@ -132,7 +130,7 @@ XmlElement& XmlElement::operator=(XmlElement other) noexcept {
 
 XmlElement::~XmlElement() {
   if (node_ != nullptr)
-    NodeOf(node_)->Release();
+    GiveBack(NodeOf(node_));
 }
 
 bool XmlElement::HasAttributes() const {
@@ -190,8 +188,7 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
   ForEachChild(NodeOf(node_), [&](Node* child) {
     if (!IsElement(child) || (name != nullptr && !IsNamed(child, wanted.View())))
       return;
-    child->AddRef();
-    children.push_back(XmlElement(child, carried_));
+    children.push_back(XmlElement(TakeReference(child), carried_));
   });
   return children;
 }
@@ -205,8 +202,7 @@ std::vector<XmlElement> XmlElement::ChildNodes() const {
       nodes.emplace_back();
       return;
     }
-    child->AddRef();
-    nodes.push_back(XmlElement(child, carried_));
+    nodes.push_back(XmlElement(TakeReference(child), carried_));
   });
   return nodes;
 }
