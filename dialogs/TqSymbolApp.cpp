@@ -4,9 +4,8 @@
 
 namespace {
 
-// The system loads the logging library before this one and keeps it until this one is gone, so the
-// logger can be destroyed here. On a system where libraries are not ordered so, the code that
-// closes the log stays mapped until the process has ended.
+// The logging library is held by this one: on Windows by its import, on POSIX by the names that it
+// was asked for. When this library alone goes, all threads run and the logger can be destroyed.
 const tq::LibraryApp<CTqSymbolApp> theApp;
 
 } // namespace

@@ -7,10 +7,6 @@
 namespace tq {
 namespace {
 
-// Far beyond what any proxy has: what a broken one claims to have above this is not asked for.
-constexpr int kMostSystems = 10'000;
-constexpr int kMostAccounts = 100'000;
-
 // The owner of a text that the proxy handed out.
 class ServiceText {
 public:

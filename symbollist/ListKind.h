@@ -7,7 +7,8 @@ namespace tq {
 inline constexpr int kUserLists = 1;
 inline constexpr int kTradingLists = 6;
 inline constexpr int kCloudLists = 8;
-// The group type that mirrors the cloud lists; checks take it for kCloudLists.
+// The group type that mirrors the cloud lists. No kind of list: CheckValidSymbolList alone takes it
+// for kCloudLists.
 inline constexpr int kCloudGroupType = 201;
 
 } // namespace tq

@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "platform/LibraryEnd.h"
 #include "platform/ModulePath.h"
 #include "platform/framework/CString.h"
 
@@ -10,6 +11,12 @@ namespace tq {
 namespace {
 
 TQLog* theLog = nullptr;
+
+// Made behind the logger, so it goes in front of everything that the log service had made by then,
+// in whatever order the two libraries were loaded.
+struct LogEnd {
+  ~LogEnd() { CloseLog(); }
+};
 
 } // namespace
 
@@ -27,10 +34,13 @@ void OpenLog() {
   directory.Format("%s\\%s", OwnModuleDirectory().c_str(), "Log");
   theLog->storage(directory, "tqSymbol", "TQ", true, false);
   LogLine(kLogGeneral, "CTQSymbolListMgr::Init Log init");
+  static const LogEnd end;
 }
 
 void CloseLog() {
-  delete std::exchange(theLog, nullptr);
+  TQLog* const log = std::exchange(theLog, nullptr);
+  if (!ProcessIsEnding())
+    delete log;
 }
 
 } // namespace tq

@@ -8,6 +8,8 @@
 namespace tq {
 
 constexpr int kSymbolRecordSize = 19;
+// Records of one announcement that are looked at.
+constexpr int kMaxSymbolChangeItems = 10;
 
 // `count` records at `records`, which stays the caller's. Null or a negative count are no records.
 class SymbolRecords {

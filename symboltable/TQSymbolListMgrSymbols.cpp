@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int kMaxSymbolChangeItems = 10;
 constexpr int kDefaultLot = 1000;
 
 bool IsText(const CString& text, const char* field, size_t size) {
@@ -142,11 +141,11 @@ int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables
 
 int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,
                                              ExchSymbolUpdateType type) {
-  if (count > kMaxSymbolChangeItems)
+  if (count > tq::kMaxSymbolChangeItems)
     tq::LogLine(tq::kLogGeneral,
                 "CTQSymbolListMgr::UpdateExchSymbolChange Count = %d, MaxSymbolChangeItems = %d",
-                count, kMaxSymbolChangeItems);
-  const tq::SymbolRecords records(symbols, std::min(count, kMaxSymbolChangeItems));
+                count, tq::kMaxSymbolChangeItems);
+  const tq::SymbolRecords records(symbols, std::min(count, tq::kMaxSymbolChangeItems));
   CStringArray changed;
   for (int i = 0; i < records.Count(); ++i) {
     const std::string_view symbol = records.At(i);

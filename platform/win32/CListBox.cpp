@@ -5,6 +5,7 @@
 #include "platform/win32/WindowListBox.h"
 #include "platform/win32/WindowText.h"
 #include "platform/win32/WindowTips.h"
+#include "platform/win32/WindowsObjects.h"
 
 using tq::IsMultiBox;
 using tq::KeepPlace;
@@ -26,14 +27,37 @@ int Insert(HWND box, int row, const char* text) {
   return at < 0 ? -1 : at;
 }
 
+// What a window is drawn with, its own font selected.
+class WindowContext {
+public:
+  explicit WindowContext(HWND window) : window_(window), context_(::GetDC(window)) {
+    if (context_ == nullptr)
+      return;
+    tq::NoteOpened(tq::SystemObject::DeviceContext);
+    before_ = ::SelectObject(context_,
+                             reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+  }
+  ~WindowContext() {
+    if (context_ == nullptr)
+      return;
+    ::SelectObject(context_, before_);
+    if (::ReleaseDC(window_, context_) != 0)
+      tq::NoteClosed(tq::SystemObject::DeviceContext);
+  }
+  WindowContext(const WindowContext&) = delete;
+  WindowContext& operator=(const WindowContext&) = delete;
+  HDC Get() const { return context_; }
+
+private:
+  const HWND window_;
+  const HDC context_;
+  HGDIOBJ before_ = nullptr;
+};
+
 bool FitsInRow(HWND box, const std::wstring& text) {
-  const HDC context = ::GetDC(box);
-  const auto font = reinterpret_cast<HGDIOBJ>(::SendMessageW(box, WM_GETFONT, 0, 0));
-  const HGDIOBJ before = ::SelectObject(context, font);
+  const WindowContext context(box);
   SIZE size{};
-  ::GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
-  ::SelectObject(context, before);
-  ::ReleaseDC(box, context);
+  ::GetTextExtentPoint32W(context.Get(), text.c_str(), static_cast<int>(text.size()), &size);
   RECT client{};
   ::GetClientRect(box, &client);
   return size.cx <= client.right;

@@ -6,6 +6,9 @@
 #include <cstddef>
 #include <limits>
 #include <string>
+#include <utility>
+
+#include "platform/win32/WindowsObjects.h"
 
 namespace tq {
 
@@ -23,12 +26,17 @@ public:
             DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
     Close();
     handle_ = ::CreateFileW(path.c_str(), access, share, nullptr, disposition, attributes, nullptr);
+    if (IsOpen())
+      NoteOpened(SystemObject::File); // leaves the system's last error as it is
     return IsOpen();
   }
   bool Close() {
-    const HANDLE handle = handle_;
-    handle_ = INVALID_HANDLE_VALUE;
-    return handle == INVALID_HANDLE_VALUE || ::CloseHandle(handle) != 0;
+    if (!IsOpen())
+      return true;
+    const bool closed = ::CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
+    if (closed)
+      NoteClosed(SystemObject::File);
+    return closed;
   }
   bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE Get() const { return handle_; }

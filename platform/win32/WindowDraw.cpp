@@ -3,6 +3,7 @@
 #include "platform/framework/DialogAccess.h"
 #include "platform/win32/WindowRun.h"
 #include "platform/win32/WindowText.h"
+#include "platform/win32/WindowsObjects.h"
 
 namespace tq {
 
@@ -19,6 +20,8 @@ HFONT BoldFontOf(Run& run, HWND box) {
       return plain;
     font.lfWeight = FW_BOLD;
     run.boldFont = ::CreateFontIndirectW(&font);
+    if (run.boldFont != nullptr)
+      NoteOpened(SystemObject::Font);
   }
   return run.boldFont;
 }

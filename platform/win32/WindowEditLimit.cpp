@@ -2,8 +2,12 @@
 
 #include <commctrl.h>
 
+#include <cwchar>
+#include <string_view>
+
 #include "platform/CodePage.h"
 #include "platform/win32/WindowText.h"
+#include "platform/win32/WindowsObjects.h"
 
 namespace tq {
 
@@ -29,18 +33,56 @@ int Room(HWND edit, int limit) {
   return limit - FromWide(text).GetLength();
 }
 
-CString ClipboardText(HWND edit) {
-  CString text;
-  if (!::OpenClipboard(edit))
-    return text;
-  const HANDLE data = ::GetClipboardData(CF_UNICODETEXT);
-  if (const auto* wide =
-          data == nullptr ? nullptr : static_cast<const wchar_t*>(::GlobalLock(data))) {
-    text = FromWide(wide, static_cast<size_t>(::lstrlenW(wide)));
-    ::GlobalUnlock(data);
+class OpenedClipboard {
+public:
+  explicit OpenedClipboard(HWND window) : open_(::OpenClipboard(window) != 0) {
+    if (open_)
+      NoteOpened(SystemObject::Clipboard);
   }
-  ::CloseClipboard();
-  return text;
+  ~OpenedClipboard() {
+    if (open_ && ::CloseClipboard() != 0)
+      NoteClosed(SystemObject::Clipboard);
+  }
+  OpenedClipboard(const OpenedClipboard&) = delete;
+  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+  HANDLE Text() const { return open_ ? ::GetClipboardData(CF_UNICODETEXT) : nullptr; }
+
+private:
+  const bool open_;
+};
+
+class LockedText {
+public:
+  explicit LockedText(HANDLE memory)
+      : memory_(memory),
+        text_(memory == nullptr ? nullptr : static_cast<const wchar_t*>(::GlobalLock(memory))) {
+    if (text_ != nullptr)
+      NoteOpened(SystemObject::Memory);
+  }
+  ~LockedText() {
+    if (text_ == nullptr)
+      return;
+    ::GlobalUnlock(memory_);
+    NoteClosed(SystemObject::Memory);
+  }
+  LockedText(const LockedText&) = delete;
+  LockedText& operator=(const LockedText&) = delete;
+  // Without the end that another program may have left out.
+  std::wstring_view Get() const {
+    if (text_ == nullptr)
+      return {};
+    return {text_, ::wcsnlen(text_, ::GlobalSize(memory_) / sizeof(wchar_t))};
+  }
+
+private:
+  const HANDLE memory_;
+  const wchar_t* const text_;
+};
+
+CString ClipboardText(HWND edit) {
+  const OpenedClipboard clipboard(edit);
+  const LockedText wide(clipboard.Text());
+  return FromWide(wide.Get().data(), wide.Get().size());
 }
 
 // As much of the clipboard's text as there is room for, by whole characters.

@@ -2,6 +2,7 @@
 #include "platform/framework/DialogAccess.h"
 #include "platform/framework/ResourceContext.h"
 #include "platform/win32/WindowFocus.h"
+#include "platform/win32/WindowsObjects.h"
 
 namespace tq {
 
@@ -44,10 +45,16 @@ private:
   BOOL before_;
 };
 
+void NoteGone(HWND window) {
+  if (window != nullptr && !::IsWindow(window))
+    NoteClosed(SystemObject::Window);
+}
+
 // The window on which a run is, gone with it.
 class RunWindow {
 public:
-  RunWindow(Run& run, HWND window) : run_(run) {
+  RunWindow(Run& run, HWND window) : run_(run), window_(window) {
+    NoteOpened(SystemObject::Window);
     run_.window = window;
     Runs().push_back(&run_);
   }
@@ -58,14 +65,17 @@ public:
     Runs().pop_back();
     if (window != nullptr)
       ::DestroyWindow(window);
-    if (run_.boldFont != nullptr)
-      ::DeleteObject(run_.boldFont);
+    NoteGone(window_);
+    NoteGone(run_.tipWindow);
+    if (run_.boldFont != nullptr && ::DeleteObject(run_.boldFont) != 0)
+      NoteClosed(SystemObject::Font);
   }
   RunWindow(const RunWindow&) = delete;
   RunWindow& operator=(const RunWindow&) = delete;
 
 private:
   Run& run_;
+  const HWND window_;
 };
 
 // Shows the window with the focus where OnInitDialog put it, or on the first control.

@@ -2,6 +2,7 @@
 
 #include "platform/framework/CListBox.h"
 #include "platform/win32/WindowText.h"
+#include "platform/win32/WindowsObjects.h"
 
 namespace tq {
 
@@ -25,6 +26,8 @@ HWND TipWindowOf(Run& run) {
     run.tipWindow = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                                       WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
                                       run.window, nullptr, nullptr, nullptr);
+    if (run.tipWindow != nullptr)
+      NoteOpened(SystemObject::Window);
   }
   return run.tipWindow;
 }

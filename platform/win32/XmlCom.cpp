@@ -12,10 +12,11 @@ ComText::ComText(std::string_view utf8) {
 bool ComText::TryAssign(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   const int length = ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);
-  ::SysFreeString(text_);
+  Free();
   text_ = ::SysAllocStringLen(nullptr, static_cast<UINT>(length));
   if (text_ == nullptr)
     return false;
+  NoteOpened(SystemObject::Text);
   ::MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, text_, length);
   return true;
 }

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/win32/WindowsObjects.h"
+
 class CString;
 
 namespace tq {
@@ -19,16 +21,50 @@ namespace tq {
 // stays in it. Made and destroyed on the same thread.
 class ComScope {
 public:
-  ComScope() : balance_(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
-  ~ComScope() {
+  ComScope() : balance_(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
     if (balance_)
-      ::CoUninitialize();
+      NoteOpened(SystemObject::Com);
+  }
+  ~ComScope() {
+    if (!balance_)
+      return;
+    ::CoUninitialize();
+    NoteClosed(SystemObject::Com);
   }
   ComScope(const ComScope&) = delete;
   ComScope& operator=(const ComScope&) = delete;
 
 private:
   const bool balance_; // false where the thread is in the other kind of apartment
+};
+
+// A reference to an interface, taken and given back.
+template <typename Interface> Interface* TakeReference(Interface* object) {
+  object->AddRef();
+  NoteOpened(SystemObject::Interface);
+  return object;
+}
+template <typename Interface> void GiveBack(Interface* object) {
+  object->Release();
+  NoteClosed(SystemObject::Interface);
+}
+
+// Where a call of COM stores what the caller owns from then on. Lives as long as the call.
+template <typename Pointer> class Receiver {
+public:
+  Receiver(Pointer& place, SystemObject kind) : place_(place), kind_(kind) {}
+  ~Receiver() {
+    if (place_ != nullptr)
+      NoteOpened(kind_);
+  }
+  Receiver(const Receiver&) = delete;
+  Receiver& operator=(const Receiver&) = delete;
+  operator Pointer*() const { return &place_; }
+  operator void**() const { return reinterpret_cast<void**>(&place_); }
+
+private:
+  Pointer& place_;
+  const SystemObject kind_;
 };
 
 // An owned, counted interface.
@@ -39,18 +75,17 @@ public:
   ComPtr& operator=(const ComPtr&) = delete;
   ~ComPtr() { Reset(); }
 
-  // Where a call of COM stores its result.
-  Interface** Receive() {
+  Receiver<Interface*> Receive() {
     Reset();
-    return &pointer_;
+    return {pointer_, SystemObject::Interface};
   }
   Interface* Get() const { return pointer_; }
   Interface* operator->() const { return pointer_; }
   explicit operator bool() const { return pointer_ != nullptr; }
   Interface* Detach() { return std::exchange(pointer_, nullptr); }
-  void Reset() {
-    if (pointer_ != nullptr)
-      std::exchange(pointer_, nullptr)->Release();
+  void Reset(Interface* owned = nullptr) {
+    if (Interface* const before = std::exchange(pointer_, owned))
+      GiveBack(before);
   }
 
 private:
@@ -63,13 +98,15 @@ class ComText {
 public:
   ComText() = default;
   explicit ComText(std::string_view utf8);
+  // A string that somebody else made and gives away.
+  static ComText Own(BSTR text) { return ComText(text); }
   ComText(const ComText&) = delete;
   ComText& operator=(const ComText&) = delete;
-  ~ComText() { ::SysFreeString(text_); }
+  ~ComText() { Free(); }
 
-  BSTR* Receive() {
-    ::SysFreeString(std::exchange(text_, nullptr));
-    return &text_;
+  Receiver<BSTR> Receive() {
+    Free();
+    return {text_, SystemObject::Text};
   }
   // False, with the string empty, when there is no memory for it.
   bool TryAssign(std::string_view utf8);
@@ -79,6 +116,17 @@ public:
   }
 
 private:
+  explicit ComText(BSTR text) : text_(text) {
+    if (text_ != nullptr)
+      NoteOpened(SystemObject::Text);
+  }
+  void Free() {
+    if (text_ == nullptr)
+      return;
+    ::SysFreeString(std::exchange(text_, nullptr));
+    NoteClosed(SystemObject::Text);
+  }
+
   BSTR text_ = nullptr;
 };
 

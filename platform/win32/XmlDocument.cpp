@@ -52,9 +52,8 @@ bool Configure(Dom* document) {
 }
 
 bool Create(ComPtr<Dom>& document) {
-  void** receiver = reinterpret_cast<void**>(document.Receive());
   return SUCCEEDED(::CoCreateInstance(kFreeThreadedDocument30, nullptr, CLSCTX_INPROC_SERVER,
-                                      kDocumentWithProperties, receiver)) &&
+                                      kDocumentWithProperties, document.Receive())) &&
          Configure(document.Get());
 }
 
@@ -96,11 +95,10 @@ std::string TextPiece(Node* node) {
   if (FAILED(Told(node->get_nodeType(&type))) || (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
       FAILED(Told(node->get_nodeValue(&value))))
     return {};
-  std::string piece;
-  if (value.vt == VT_BSTR && value.bstrVal != nullptr)
-    piece = ToUtf8({value.bstrVal, ::SysStringLen(value.bstrVal)});
+  if (value.vt == VT_BSTR)
+    return ToUtf8(ComText::Own(value.bstrVal).View());
   ::VariantClear(&value);
-  return piece;
+  return {};
 }
 
 bool IsBlank(Node* node) {
@@ -118,7 +116,7 @@ template <typename Take> void ForEachChild(Node* parent, const Take& take) {
     ComPtr<Node> next;
     if (FAILED(Told(child->get_nextSibling(next.Receive()))))
       return;
-    *child.Receive() = next.Detach();
+    child.Reset(next.Detach());
   }
 }
 
@@ -126,7 +124,7 @@ template <typename Take> void ForEachChild(Node* parent, const Take& take) {
 
 XmlElement::XmlElement(const XmlElement& other) : node_(other.node_), carried_(other.carried_) {
   if (node_ != nullptr)
-    NodeOf(node_)->AddRef();
+    TakeReference(NodeOf(node_));
 }
 
 XmlElement::XmlElement(XmlElement&& other) noexcept
@@ -140,7 +138,7 @@ XmlElement& XmlElement::operator=(XmlElement other) noexcept {
 
 XmlElement::~XmlElement() {
   if (node_ != nullptr)
-    NodeOf(node_)->Release();
+    GiveBack(NodeOf(node_));
 }
 
 bool XmlElement::HasAttributes() const {
@@ -198,8 +196,7 @@ std::vector<XmlElement> XmlElement::Children(const char* name) const {
   ForEachChild(NodeOf(node_), [&](Node* child) {
     if (!IsElement(child) || (name != nullptr && !IsNamed(child, wanted.View())))
       return;
-    child->AddRef();
-    children.push_back(XmlElement(child, carried_));
+    children.push_back(XmlElement(TakeReference(child), carried_));
   });
   return children;
 }
@@ -213,8 +210,7 @@ std::vector<XmlElement> XmlElement::ChildNodes() const {
       nodes.emplace_back();
       return;
     }
-    child->AddRef();
-    nodes.push_back(XmlElement(child, carried_));
+    nodes.push_back(XmlElement(TakeReference(child), carried_));
   });
   return nodes;
 }

@@ -6,6 +6,7 @@
 
 #include "terminal/StandIn.h"
 #include "tests/interface/EditTest.h"
+#include "tests/support/ListRows.h"
 
 namespace listtext {
 
@@ -24,17 +25,6 @@ inline std::string File(const std::string& index, const std::vector<std::string>
 inline std::string Element(const std::string& id, const std::string& name, const std::string& value,
                            const std::string& flag = "0") {
   return "<List ID='" + id + "' Name='" + name + "' Value='" + value + "' Flag='" + flag + "'/>";
-}
-
-inline std::string RowsOf(CIDList& list) {
-  std::string rows;
-  const int count = list.GetCount();
-  for (int i = 0; i < count; ++i) {
-    SymbolInfo record = {};
-    EXPECT_TRUE(list.GetAt(i, &record));
-    rows += (i > 0 ? " " : "") + std::string(record.id);
-  }
-  return rows;
 }
 
 inline std::string TokensOf(const CIDList& list) {

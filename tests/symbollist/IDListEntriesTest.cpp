@@ -5,20 +5,10 @@
 
 #include "symbollist/SymbolList.h"
 #include "terminal/StandIn.h"
+#include "tests/support/ListRows.h"
 #include "tests/support/StandInTest.h"
 
 namespace {
-
-std::string Rows(CIDList& list) {
-  std::string text;
-  for (int i = 0; i < list.GetCount(); ++i) {
-    SymbolInfo record;
-    if (!list.GetAt(i, &record))
-      return text + "<no record>";
-    text += (i > 0 ? " " : "") + std::string(record.id);
-  }
-  return text;
-}
 
 std::string Joined(CIDList& list) {
   CString rows;
@@ -57,7 +47,7 @@ class IDListEntriesTest : public StandInTest {};
 TEST_F(IDListEntriesTest, ABareColonInFrontOfAHeadingHasNoRow) {
   CIDList list;
   list.Update1(":,Head:,2330.TW");
-  EXPECT_EQ(Rows(list), ": 2330.TW");
+  EXPECT_EQ(RowsOf(list), ": 2330.TW");
   EXPECT_EQ(Joined(list), "Head:,2330.TW");
   CIDList replaced(list);
   EXPECT_EQ(replaced.ReplaceEntry(0, "Other:"), 1);
@@ -67,7 +57,7 @@ TEST_F(IDListEntriesTest, ABareColonInFrontOfAHeadingHasNoRow) {
   EXPECT_STREQ(swapped.GetIDs(), ":,2330.TW,Head:");
   EXPECT_EQ(list.RemoveEntry(0), 1);
   EXPECT_STREQ(list.GetIDs(), ":,2330.TW");
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
 }
 
 // Records without a usable id stopped the process at the next query, or let an edit hit another
@@ -113,7 +103,7 @@ TEST_F(IDListEntriesTest, ASymbolThatTheServiceWritesWithSmallLettersHasARow) {
     SCOPED_TRACE(written);
     CIDList list;
     list.Update1(CString("2330.TW,") + written + ",2317.TW");
-    EXPECT_EQ(Rows(list), "2330.TW PFDa.NYSE 2317.TW");
+    EXPECT_EQ(RowsOf(list), "2330.TW PFDa.NYSE 2317.TW");
     EXPECT_EQ(Joined(list), "2330.TW,PFDa.NYSE,2317.TW");
     EXPECT_EQ(list.InsertEntry(0, "PFDA.NYSE", true), 0);
     EXPECT_EQ(list.RemoveEntry(0), 1);
@@ -129,7 +119,7 @@ TEST_F(IDListEntriesTest, BlanksAroundIdsAreNotAskedForAndStayInTheString) {
   list.Update1("2330.TW, 2317.TW ,\t2454.tw");
   ASSERT_FALSE(standin::Calls().empty());
   EXPECT_EQ(standin::Calls().back().arguments, "2330.TW,2317.TW,2454.tw");
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW 2454.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW 2454.TW");
   EXPECT_STREQ(list.GetTokens()[1], "2317.TW");
   EXPECT_STREQ(list.GetIDs(), "2330.TW, 2317.TW ,\t2454.tw");
   EXPECT_EQ(list.InsertEntry(0, "2317.TW", true), 0);
@@ -140,7 +130,7 @@ TEST_F(IDListEntriesTest, ATextOfBlanksIsNoEntry) {
   CIDList list;
   list.Update1("2330.TW, ,2317.TW");
   EXPECT_EQ(list.GetTokens().GetSize(), 2);
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW");
   EXPECT_EQ(list.InsertEntry(0, "  ", true), 0);
   EXPECT_EQ(list.ReplaceEntry(0, "\t "), 0);
   EXPECT_STREQ(list.GetIDs(), "2330.TW, ,2317.TW");
@@ -170,7 +160,7 @@ TEST_F(IDListEntriesTest, UnknownIdsStayAsTheyAreWrittenThroughEveryEdit) {
   EXPECT_EQ(list.ReplaceEntry(2, "Tail:"), 1);
   EXPECT_STREQ(list.GetIDs(), "gone.tw,2317.TW,2454.TW, Lost.NYSE ,Tail:");
   EXPECT_EQ(list.InsertEntry(0, "GONE.tw", true), 0);
-  EXPECT_EQ(Rows(list), "2317.TW 2454.TW :");
+  EXPECT_EQ(RowsOf(list), "2317.TW 2454.TW :");
 }
 
 TEST_F(IDListEntriesTest, AnArgumentMayBeTheListsOwnText) {
@@ -193,10 +183,10 @@ protected:
   // What holds after any re-entry: rows and tokens belong to the string.
   void ExpectConsistent() {
     standin::OnCall("VLGetSymbolInfos", {});
-    const std::string rows = Rows(list);
+    const std::string rows = RowsOf(list);
     CIDList fresh;
     fresh.Update1(list.GetIDs());
-    EXPECT_EQ(rows, Rows(fresh));
+    EXPECT_EQ(rows, RowsOf(fresh));
     EXPECT_EQ(Joined(list), Joined(fresh));
     EXPECT_EQ(list.GetTokens().GetSize(), fresh.GetTokens().GetSize());
   }
@@ -207,14 +197,14 @@ TEST_F(IDListReentryTest, AnotherStringIsSetMeanwhile) {
   WhenAsked([this] { list.Update1("2454.TW"); });
   EXPECT_EQ(list.Update1("2330.TW,2317.TW"), 1);
   EXPECT_STREQ(list.GetIDs(), "2454.TW");
-  EXPECT_EQ(Rows(list), "2454.TW");
+  EXPECT_EQ(RowsOf(list), "2454.TW");
   ExpectConsistent();
 }
 
 TEST_F(IDListReentryTest, TheSameStringIsResolvedMeanwhile) {
   WhenAsked([this] { list.Update3(); });
   EXPECT_EQ(list.Update1("2330.TW,Head:"), 1);
-  EXPECT_EQ(Rows(list), "2330.TW :");
+  EXPECT_EQ(RowsOf(list), "2330.TW :");
   WhenAsked([this] { EXPECT_EQ(list.GetCount(), 2); });
   EXPECT_EQ(list.Update3(), 1);
   ExpectConsistent();
@@ -244,7 +234,7 @@ TEST_F(IDListReentryTest, RecordsAreAdoptedMeanwhile) {
   WhenAsked([this] { list.Update2(FromService({"2317.TW", "2330.TW"}), 2); });
   list.Update1("2330.TW");
   EXPECT_STREQ(list.GetIDs(), "2317.TW,2330.TW");
-  EXPECT_EQ(Rows(list), "2317.TW 2330.TW");
+  EXPECT_EQ(RowsOf(list), "2317.TW 2330.TW");
   ExpectConsistent();
 }
 
@@ -299,11 +289,11 @@ TEST_F(IDListReentryTest, ACopyIsMadeMeanwhile) {
   WhenAsked([&] {
     CIDList copy(list);
     standin::OnCall("VLGetSymbolInfos", {});
-    copied = Rows(copy);
+    copied = RowsOf(copy);
   });
   list.Update1("2330.TW");
   EXPECT_EQ(copied, "2330.TW");
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
 }
 
 } // namespace

@@ -5,21 +5,10 @@
 
 #include "symbollist/SymbolList.h"
 #include "terminal/StandIn.h"
+#include "tests/support/ListRows.h"
 #include "tests/support/StandInTest.h"
 
 namespace {
-
-// The list's rows as text: ids of the records joined by blanks.
-std::string Rows(CIDList& list) {
-  std::string text;
-  for (int i = 0; i < list.GetCount(); ++i) {
-    SymbolInfo record;
-    if (!list.GetAt(i, &record))
-      return text + "<no record>";
-    text += (i > 0 ? " " : "") + std::string(record.id);
-  }
-  return text;
-}
 
 class IDListTest : public StandInTest {};
 
@@ -39,7 +28,7 @@ TEST_F(IDListTest, SettingIdsResolvesThemAtOnce) {
   EXPECT_EQ(standin::CountCalls("VLGetSymbolInfos"), 1);
   EXPECT_EQ(list.IsModified(), 1);
   EXPECT_EQ(list.GetCount(), 2);
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW");
   EXPECT_EQ(standin::CountCalls("VLGetSymbolInfos"), 1);
 }
 
@@ -70,7 +59,7 @@ TEST_F(IDListTest, EmptyStringGivesNoRowsAndNoServiceCall) {
 TEST_F(IDListTest, TwoCommasInARowProduceNoEmptyEntry) {
   CIDList list;
   list.Update1("2330.TW,,2317.TW,");
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW");
   ASSERT_EQ(list.GetTokens().GetSize(), 2);
   EXPECT_STREQ(list.GetTokens()[1], "2317.TW");
   EXPECT_STREQ(list.GetIDs(), "2330.TW,,2317.TW,");
@@ -79,7 +68,7 @@ TEST_F(IDListTest, TwoCommasInARowProduceNoEmptyEntry) {
 TEST_F(IDListTest, UnknownIdStaysInTheStringWithoutARow) {
   CIDList list;
   list.Update1("2330.TW,NOSUCH.TW");
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
   EXPECT_STREQ(list.GetIDs(), "2330.TW,NOSUCH.TW");
   EXPECT_EQ(list.GetTokens().GetSize(), 2);
 }
@@ -87,7 +76,7 @@ TEST_F(IDListTest, UnknownIdStaysInTheStringWithoutARow) {
 TEST_F(IDListTest, UnknownIdsInFrontCostNoKnownIdItsRow) {
   CIDList list;
   list.Update1("NO1.TW,NO2.TW,2330.TW,NO3.TW,2317.TW");
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW");
 }
 
 TEST_F(IDListTest, OnlyUnknownIdsAreAskedForOnce) {
@@ -101,7 +90,7 @@ TEST_F(IDListTest, OnlyUnknownIdsAreAskedForOnce) {
 TEST_F(IDListTest, HeadingTakesARowThatCarriesOnlyTheMarker) {
   CIDList list;
   list.Update1("Chips:,2330.TW,Assembly:,2317.TW");
-  EXPECT_EQ(Rows(list), ": 2330.TW : 2317.TW");
+  EXPECT_EQ(RowsOf(list), ": 2330.TW : 2317.TW");
   SymbolInfo heading;
   ASSERT_TRUE(list.GetAt(2, &heading));
   SymbolInfo marker = {};
@@ -118,14 +107,14 @@ TEST_F(IDListTest, HeadingsAreNotAskedForAndAloneCauseNoCall) {
   EXPECT_EQ(standin::Calls().back().arguments.find("A:"), std::string::npos);
   standin::ClearCalls();
   list.Update1("A:,B:");
-  EXPECT_EQ(Rows(list), ": :");
+  EXPECT_EQ(RowsOf(list), ": :");
   EXPECT_EQ(standin::CountCalls("VLGetSymbolInfos"), 0);
 }
 
 TEST_F(IDListTest, ColonAsFirstCharacterIsAnIdLikeAnyOther) {
   CIDList list;
   list.Update1(":,:x,2330.TW");
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
 }
 
 TEST_F(IDListTest, SettingTheSameStringAgainChangesNothing) {
@@ -142,7 +131,7 @@ TEST_F(IDListTest, LetterCaseAndBlanksOfIdsDoNotMatter) {
   CIDList list;
   list.Update1("2330.tw,txo21000l6.tf");
   standin::ClearCalls();
-  EXPECT_EQ(Rows(list).substr(0, 7), "2330.TW");
+  EXPECT_EQ(RowsOf(list).substr(0, 7), "2330.TW");
   EXPECT_STREQ(list.GetTokens()[0], "2330.TW");
   EXPECT_STREQ(list.GetIDs(), "2330.tw,txo21000l6.tf");
 }
@@ -156,7 +145,7 @@ TEST_F(IDListTest, TokensBehindTheLastRowAreNormalisedToo) {
 TEST_F(IDListTest, RepeatedIdsKeepTheirRows) {
   CIDList list;
   list.Update1("2330.TW,2317.TW,2330.TW,2330.TW");
-  EXPECT_EQ(Rows(list), "2330.TW 2317.TW 2330.TW 2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW 2317.TW 2330.TW 2330.TW");
 }
 
 TEST_F(IDListTest, FailedLookupLeavesNoRowsAndIsTriedAgain) {
@@ -169,7 +158,7 @@ TEST_F(IDListTest, FailedLookupLeavesNoRowsAndIsTriedAgain) {
   standin::FailCall("VLGetSymbolInfos", 1);
   EXPECT_EQ(list.GetCount(), 0);
   EXPECT_STREQ(list.GetIDs(), "2330.TW,Head:");
-  EXPECT_EQ(Rows(list), "2330.TW :");
+  EXPECT_EQ(RowsOf(list), "2330.TW :");
 }
 
 TEST_F(IDListTest, OutOfRangeIndexesAndNullAreRefused) {
@@ -186,16 +175,16 @@ TEST_F(IDListTest, OutOfRangeIndexesAndNullAreRefused) {
 TEST_F(IDListTest, Update3AsksTheServiceAgain) {
   CIDList list;
   list.Update1("2330.TW,NEW1.TW");
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
   standin::Market market = standin::CurrentMarket();
   standin::Instrument added = market.instruments.front();
   added.exchId = market.exchanges.front().id;
   added.code = "NEW1";
   market.instruments.push_back(added);
   standin::SetMarket(market);
-  EXPECT_EQ(Rows(list), "2330.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW");
   EXPECT_EQ(list.Update3(), 1);
-  EXPECT_EQ(Rows(list), "2330.TW NEW1.TW");
+  EXPECT_EQ(RowsOf(list), "2330.TW NEW1.TW");
 }
 
 TEST_F(IDListTest, Update2TakesTheServicesArrayOverAndReleasesIt) {
@@ -206,7 +195,7 @@ TEST_F(IDListTest, Update2TakesTheServicesArrayOverAndReleasesIt) {
   EXPECT_EQ(list.Update2(records, count), 1);
   EXPECT_EQ(standin::OutstandingArrays(), 0);
   EXPECT_STREQ(list.GetIDs(), "2317.TW,2330.TW");
-  EXPECT_EQ(Rows(list), "2317.TW 2330.TW");
+  EXPECT_EQ(RowsOf(list), "2317.TW 2330.TW");
   EXPECT_EQ(list.GetTokens().GetSize(), 2);
   EXPECT_EQ(list.IsModified(), 0);
   EXPECT_EQ(list.Update2(nullptr, 0), 1);
@@ -222,7 +211,7 @@ TEST_F(IDListTest, AListMadeOfRecordsAsksAgainAfterAFailedLookUp) {
   list.Update2(records, count);
   standin::FailCall("VLGetSymbolInfos", 1);
   list.Update3();
-  EXPECT_EQ(Rows(list), "2317.TW 2330.TW");
+  EXPECT_EQ(RowsOf(list), "2317.TW 2330.TW");
 }
 
 TEST_F(IDListTest, CopyHasItsOwnRecordsAndAsksNothing) {
@@ -232,7 +221,7 @@ TEST_F(IDListTest, CopyHasItsOwnRecordsAndAsksNothing) {
   CIDList copy(list);
   list.Update1("2317.TW");
   standin::ClearCalls();
-  EXPECT_EQ(Rows(copy), "2330.TW :");
+  EXPECT_EQ(RowsOf(copy), "2330.TW :");
   EXPECT_STREQ(copy.GetIDs(), "2330.TW,Head:,NOSUCH.TW");
   EXPECT_EQ(copy.GetTokens().GetSize(), 3);
   EXPECT_EQ(copy.IsModified(), 1);

@@ -1,4 +1,4 @@
-// The module that uses the library, from the outside.
+// The module that uses the library, from the outside, and the log service beside it.
 #pragma once
 
 // Of the module: has a manager start on that directory, and destroys it.
@@ -9,3 +9,9 @@ using StartAndStop = int (*)(const char* directory);
 // that fails; and lets the module go, and with it the library.
 StartAndStop LoadModule();
 bool UnloadModule();
+
+// The test program's own hold on the log service, which it must have before it loads the module.
+bool LoadLogService();
+bool UnloadLogService();
+// Whether the log service is there, whoever holds it.
+bool LogServiceIsThere();

@@ -1,5 +1,7 @@
 #include "tests/window/WindowTest.h"
 
+#include "tests/support/HeldObjects.h"
+
 #include <iterator>
 
 #include "platform/services/tqCommon.h"
@@ -113,11 +115,12 @@ CString TestDialog::OnCellText(int id, int row, int column) {
   return onCellText ? onCellText(id, row, column) : CString();
 }
 
-WindowTest::WindowTest() : context_(TestResources()) {}
+WindowTest::WindowTest() : context_(TestResources()), held_(HeldObjects()) {}
 
 WindowTest::~WindowTest() {
   EXPECT_EQ(TakeUnusedScripts(), 0U);
   EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(HeldObjects(), held_) << "something of the operating system was left open";
 }
 
 void WindowTest::In(TestDialog& dialog, const UserScript& script) {

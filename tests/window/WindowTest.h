@@ -75,4 +75,5 @@ protected:
 
 private:
   tq::ResourceContext context_;
+  const long held_;
 };

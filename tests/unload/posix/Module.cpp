@@ -5,6 +5,7 @@
 namespace {
 
 void* module = nullptr;
+void* logService = nullptr;
 
 } // namespace
 
@@ -15,4 +16,19 @@ StartAndStop LoadModule() {
 
 bool UnloadModule() {
   return dlclose(module) == 0 && dlopen("libtqSymbol.so.1", RTLD_NOW | RTLD_NOLOAD) == nullptr;
+}
+
+// For all to see, as a terminal's services are.
+bool LoadLogService() {
+  logService = dlopen(TQ_LOG_SERVICE, RTLD_NOW | RTLD_GLOBAL);
+  return logService != nullptr;
+}
+
+bool UnloadLogService() {
+  return dlclose(logService) == 0;
+}
+
+bool LogServiceIsThere() {
+  void* const found = dlopen(TQ_LOG_SERVICE, RTLD_NOW | RTLD_NOLOAD);
+  return found != nullptr && dlclose(found) == 0;
 }

@@ -5,6 +5,7 @@
 namespace {
 
 HMODULE module = nullptr;
+HMODULE logService = nullptr;
 
 } // namespace
 
@@ -18,4 +19,17 @@ StartAndStop LoadModule() {
 
 bool UnloadModule() {
   return ::FreeLibrary(module) != 0 && ::GetModuleHandleA("tqSymbol.dll") == nullptr;
+}
+
+bool LoadLogService() {
+  logService = ::LoadLibraryA(TQ_LOG_SERVICE);
+  return logService != nullptr;
+}
+
+bool UnloadLogService() {
+  return ::FreeLibrary(logService) != 0;
+}
+
+bool LogServiceIsThere() {
+  return ::GetModuleHandleA(TQ_LOG_SERVICE) != nullptr;
 }

@@ -1,0 +1,9 @@
+#include "platform/LibraryEnd.h"
+
+namespace tq {
+
+bool ProcessIsEnding() {
+  return false;
+}
+
+} // namespace tq
