@@ -97,10 +97,8 @@ int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
 CSymbolList* CTQSymbolListMgr::CopyMoved(CSymbolList& source) {
   auto copy = std::make_unique<CSymbolList>(source);
   CString ids = source.GetIDs();
-  if (ReplaceSymbolListExchID(ids, tq::kMovedFromExchange, tq::kMovedToExchange) != 0) {
-    source.Update1(ids);
-    copy->Update1(ids);
-  }
+  if (ReplaceSymbolListExchID(ids, tq::kMovedFromExchange, tq::kMovedToExchange) != 0)
+    source.UpdateWithCopy(ids, *copy);
   return copy.release();
 }
 
