@@ -16,6 +16,9 @@ inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 // the file of a manager that has no lists. Text is in the process's ANSI code page, unescaped.
 std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 
+// The length of that text, or a little more: no list file of these lists is longer.
+size_t ListFileLength(const CPtrArray& lists);
+
 // Whether a file of that text and that many lists is within the bounds that hold for loading one
 // (platform/XmlText.h): what is saved must be readable.
 bool CanBeLoaded(const std::string& text, int lists);

@@ -196,7 +196,9 @@ public:
   // Replaces, in every list's symbol string, each occurrence of the k-th old text by the k-th new
   // one, for all k in turn: plain text, inside of longer ids too. When a list changed: saves, logs
   // "ReplaceID", tells the terminal with TQSCall("", -1, 40, ""), returns 1. Else 0. A null array
-  // does nothing; of arrays of different sizes the shorter counts.
+  // does nothing; of arrays of different sizes the shorter counts. When the lists would outgrow the
+  // list file (64 MiB as text), be it on the way from pair to pair, no list changes: 0 and a line
+  // in the log.
   int ReplaceID(CStringArray* oldIds, CStringArray* newIds);
   // `name`, or when a list has it, the name with "(1)", "(2)" ... "(100)" behind it; the number is
   // counted up in its place when the name has it already. After "(100)" the candidate is returned

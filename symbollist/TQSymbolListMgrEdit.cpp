@@ -4,6 +4,9 @@
 #include <memory>
 #include <vector>
 
+#include "platform/XmlText.h"
+#include "symbollist/BoundedReplace.h"
+#include "symbollist/ListFile.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"
 #include "symbollist/Log.h"
@@ -26,12 +29,34 @@ struct Renamed {
 };
 
 // Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
-// inside that one too. Callers rename whole families of ids by their common start.
-CString ReplacedIn(CString ids, const CStringArray& oldIds, const CStringArray& newIds) {
+// inside that one too. Callers rename whole families of ids by their common start. False when the
+// string would be longer than `limit` bytes on the way.
+bool ReplaceIn(CString& ids, const CStringArray& oldIds, const CStringArray& newIds, size_t limit) {
   const int pairs = std::min(oldIds.GetSize(), newIds.GetSize());
-  for (int k = 0; k < pairs; ++k)
-    ids.Replace(oldIds[k], newIds[k]);
-  return ids;
+  for (int k = 0; k < pairs; ++k) {
+    if (!tq::ReplaceWithin(ids, oldIds[k], newIds[k], limit))
+      return false;
+  }
+  return true;
+}
+
+// The strings of all lists before and after. False when the lists would be more than a list file
+// can hold, or than they are already: a few pairs that double the text would take all memory.
+bool RenameAll(const CPtrArray& lists, const CStringArray& oldIds, const CStringArray& newIds,
+               std::vector<Renamed>& renamed) {
+  size_t length = tq::ListFileLength(lists);
+  const size_t limit = std::max(tq::kXmlSizeLimit, length);
+  for (int i = 0; i < lists.GetSize(); ++i) {
+    CSymbolList* const list = tq::ListAt(lists, i);
+    const CString before = list->GetIDs();
+    const size_t others = length - static_cast<size_t>(before.GetLength());
+    CString now = before;
+    if (!ReplaceIn(now, oldIds, newIds, limit - others))
+      return false;
+    length = others + static_cast<size_t>(now.GetLength());
+    renamed.push_back({list, before, now});
+  }
+  return true;
 }
 
 } // namespace
@@ -147,9 +172,9 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
   // All strings first: the lists that the terminal adds while one is resolved are not renamed, and
   // none is renamed twice.
   std::vector<Renamed> renamed;
-  for (int i = 0; i < lists_->GetSize(); ++i) {
-    CSymbolList* list = tq::ListAt(*lists_, i);
-    renamed.push_back({list, list->GetIDs(), ReplacedIn(list->GetIDs(), *oldIds, *newIds)});
+  if (!RenameAll(*lists_, *oldIds, *newIds, renamed)) {
+    tq::LogLine(tq::kLogChange, "ReplaceID is refused: no list file can hold the lists after it");
+    return 0;
   }
   int changed = 0;
   for (size_t i = 0; i < renamed.size(); ++i) {
