@@ -5,11 +5,14 @@
 namespace bench {
 
 bool ParseOptions(int argc, char** argv, Options& options, std::string& error) {
-  constexpr const char* kUsage = "usage: tqBench [--quick] [--listings FILE] [--directory DIR]";
+  constexpr const char* kUsage =
+      "usage: tqBench [--quick] [--hostile] [--listings FILE] [--directory DIR]";
   for (int i = 1; i < argc; ++i) {
     const std::string_view name = argv[i];
     if (name == "--quick") {
       options.quick = true;
+    } else if (name == "--hostile") {
+      options.hostile = true;
     } else if ((name == "--listings" || name == "--directory") && i + 1 < argc) {
       (name == "--listings" ? options.listings : options.directory) = argv[++i];
     } else {

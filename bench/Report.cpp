@@ -64,6 +64,20 @@ void Report::Number(const std::string& what, double value, const std::string& un
   std::fflush(stdout);
 }
 
+void Report::GrowthSection(const std::string& title) {
+  std::printf("\n%s\n  %-*s %21s %21s %21s %7s\n", title.c_str(), kWhatWidth, "", "n, time",
+              "n, time", "n, time", "growth");
+}
+
+void Report::Growth(const std::string& what, const std::vector<std::size_t>& sizes,
+                    const std::vector<double>& each) {
+  std::printf("  %-*s", kWhatWidth, what.c_str());
+  for (std::size_t i = 0; i < sizes.size(); ++i)
+    std::printf(" %10zu %10s", sizes[i], TimeText(each[i]).c_str());
+  std::printf(" %7.2f\n", each.back() / each.front());
+  std::fflush(stdout);
+}
+
 void Report::Wrong(const std::string& what) {
   ++wrong_;
   std::printf("  %-*s WRONG ANSWER\n", kWhatWidth, what.c_str());

@@ -21,6 +21,12 @@ public:
              std::size_t operations = 1);
   // A plain number, at most `goal`.
   void Number(const std::string& what, double value, const std::string& unit, double goal);
+  // Opens a part of the table with rows of Growth.
+  void GrowthSection(const std::string& title);
+  // Seconds of each item at three sizes, and how many times those of the first size the last one
+  // has: 1 when time grows as the size does.
+  void Growth(const std::string& what, const std::vector<std::size_t>& sizes,
+              const std::vector<double>& each);
   // A wrong answer: its figures say nothing. The program ends with a failure.
   void Wrong(const std::string& what);
 

@@ -7,6 +7,7 @@
 
 #include "bench/Editing.h"
 #include "bench/Groups.h"
+#include "bench/Hostile.h"
 #include "bench/ListFiles.h"
 #include "bench/LookUp.h"
 #include "bench/Options.h"
@@ -70,11 +71,16 @@ int main(int argc, char** argv) {
     directory = std::filesystem::absolute(argv[0]).parent_path() / "bench-data";
   std::filesystem::create_directories(directory);
   bench::Report report;
+  if (options.hostile) {
+    bench::MeasureHostile(report, directory.string(), options.quick);
+    return report.Finish();
+  }
   if (options.listings.empty())
     std::printf("No --listings FILE: a real market's listing file is not measured.\n");
   else
     MeasureUniverse(report, std::move(listings), options.quick);
   MeasureGenerated(report, options, directory.string());
   bench::MeasureGroups(report, options.quick);
+  bench::MeasureHostile(report, directory.string(), options.quick);
   return report.Finish();
 }

@@ -1,6 +1,8 @@
 #include "groups/Holdings.h"
 
-#include <functional>
+#include <utility>
+
+#include "platform/framework/SeededHash.h"
 
 namespace tq {
 namespace {
@@ -65,10 +67,10 @@ CString MergedHoldings::Text() const {
 void MergedHoldings::AddId(std::string_view id) {
   if (count_ * 2 >= slots_.size())
     Grow();
-  const auto hash = static_cast<uint32_t>(std::hash<std::string_view>{}(id));
+  const auto hash = static_cast<uint32_t>(SeededHash(id));
   const size_t mask = slots_.size() - 1;
   size_t slot = hash & mask;
-  for (; slots_[slot].length != 0; slot = (slot + 1) & mask) {
+  for (++steps_; slots_[slot].length != 0; slot = (slot + 1) & mask, ++steps_) {
     if (IsAt(slots_[slot], hash, id))
       return;
   }
@@ -90,7 +92,7 @@ void MergedHoldings::Grow() {
     if (used.length == 0)
       continue;
     size_t slot = used.hash & mask;
-    while (slots_[slot].length != 0)
+    for (++steps_; slots_[slot].length != 0; ++steps_)
       slot = (slot + 1) & mask;
     slots_[slot] = used;
   }

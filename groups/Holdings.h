@@ -21,6 +21,9 @@ public:
   // `holdings` is tidy and not longer than any CString.
   void Add(const CString& holdings);
   CString Text() const;
+  // Entries that were looked at so far, to find ids and to make room: a few for each id, whatever
+  // the ids are.
+  size_t Steps() const { return steps_; }
 
 private:
   // An id of text_; a length of 0 is a free slot, for no id is empty.
@@ -36,6 +39,7 @@ private:
   std::string text_;
   std::vector<Slot> slots_; // a power of two, at most half of them in use
   size_t count_ = 0;
+  size_t steps_ = 0;
 };
 
 } // namespace tq

@@ -33,6 +33,18 @@ std::string MarkOf(const char* path) {
   return "\n<!-- imported in its place, written at " + std::to_string(stamp.modified) + " -->\n";
 }
 
+// ASCII text in the encoding of a document: a file in UTF-16, which a byte-order mark tells, must
+// stay one that can be read.
+std::string AsIn(const std::string& document, const std::string& ascii) {
+  const bool littleEndian = document.starts_with("\xFF\xFE");
+  if (!littleEndian && !document.starts_with("\xFE\xFF"))
+    return ascii;
+  std::string wide;
+  for (const char byte : ascii)
+    wide += littleEndian ? std::string{byte, '\0'} : std::string{'\0', byte};
+  return wide;
+}
+
 CString WithoutBadIds(const CString& symbols) {
   if (symbols.FindOneOf(kNotForAFile) < 0)
     return symbols;
@@ -85,14 +97,14 @@ bool IsImported(const char* path, const char* importedPath) {
   std::string bytes;
   std::string imported;
   return ReadFile(importedPath, imported) && ReadFile(path, bytes) &&
-         bytes + MarkOf(path) == imported;
+         bytes + AsIn(bytes, MarkOf(path)) == imported;
 }
 
 void SetAside(const char* path, const char* importedPath) {
   std::string copy;
   if (Files().RenameFile(path, importedPath) || !ReadFile(path, copy))
     return;
-  copy += MarkOf(path);
+  copy += AsIn(copy, MarkOf(path));
   Files().SaveWholeFile(importedPath, copy.data(), copy.size());
 }
 

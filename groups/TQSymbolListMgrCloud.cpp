@@ -1,14 +1,15 @@
 // Cloud lists: the lists of kind 8 and the cloud map.
 #include <memory>
+#include <utility>
 
 #include "groups/CloudMap.h"
 #include "groups/CloudeListUtil.h"
 #include "groups/GroupList.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/Log.h"
 #include "symbollist/NewListId.h"
 #include "symbollist/Notify.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 
@@ -49,12 +50,12 @@ void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, const CString& n
 
 void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, int /*type*/, const CString& name,
                                              const CString& symbols, int allowEmpty) {
-  const int index = tq::FindListById(cloudLists_, id);
-  if (index < 0) {
+  CSymbolList* const list = cloudLists_->Find(id);
+  if (list == nullptr) {
     AddCloudSymbolList(id, name, symbols, allowEmpty);
     return;
   }
-  tq::ListAt(cloudLists_, index)->Update1(symbols);
+  list->Update1(symbols);
   tq::Notify(tq::kNotifyCloudLists, "");
 }
 
@@ -67,15 +68,15 @@ int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
   const CString listId = id.IsEmpty() ? tq::NewListId() : id;
   if (listId.IsEmpty())
     return 0;
-  const int lists = cloudLists_.GetSize();
+  const unsigned changes = cloudLists_->Changes();
   auto list = std::make_unique<CSymbolList>();
   list->Update1(WithoutEmptyPieces(symbols));
   // The terminal may have added one itself while the symbols were resolved.
-  if (lists != cloudLists_.GetSize() && CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
+  if (changes != cloudLists_->Changes() && CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
     return 0;
   list->SetID(listId);
   list->SetName(name);
-  cloudLists_.Add(list.release());
+  cloudLists_->AddLast(std::move(list));
   return 1;
 }
 
@@ -91,8 +92,7 @@ int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) {
   }
   // Only now the old ones go: the caller may have handed over lists of the manager itself, and the
   // terminal may have changed them while symbols were resolved.
-  tq::DestroyLists(cloudLists_);
-  cloudLists_.Copy(copies);
+  cloudLists_->Replace(copies);
   return 1;
 }
 

@@ -3,11 +3,10 @@
 
 #include "groups/ImportFile.h"
 #include "platform/FileAccess.h"
-#include "symbollist/ListArray.h"
-#include "symbollist/ListIndex.h"
 #include "symbollist/ListName.h"
 #include "symbollist/Log.h"
 #include "symbollist/Notify.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 
 namespace {
@@ -59,11 +58,9 @@ int CTQSymbolListMgr::LoadOtherProductList() {
 // and each save writes all that came before. `taken` is how many were added or changed. Returns 0
 // when they could not be saved.
 int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists, int& taken) {
-  tq::ListIndex index(lists_);
-  taken =
-      static_cast<int>(std::count_if(lists.begin(), lists.end(), [&](const tq::ImportedList& list) {
-        return ImportList(list, index);
-      }));
+  taken = static_cast<int>(
+      std::count_if(lists.begin(), lists.end(),
+                    [this](const tq::ImportedList& list) { return ImportList(list); }));
   if (taken == 0)
     return 1;
   if (defaultIndex_ == -1)
@@ -71,23 +68,19 @@ int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists, in
   return SaveSymbolList();
 }
 
-bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& index) {
-  const int found = index.FindById(from.id);
-  if (found >= 0) {
-    // One that the user has renamed is the user's own; so are lists that the terminal moved or
-    // removed while the symbols of another were resolved.
-    CSymbolList* const list = found < lists_.GetSize() ? tq::ListAt(lists_, found) : nullptr;
-    if (list == nullptr || !list->IsSameID(from.id) || !list->IsSameName(from.name))
+bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from) {
+  if (CSymbolList* const list = lists_->Find(from.id)) {
+    // One that the user has renamed is the user's own.
+    if (!list->IsSameName(from.name))
       return false;
     list->Update1(from.symbols);
     return true;
   }
-  const auto taken = [&](const CString& name) { return index.HasName(name); };
+  const auto taken = [this](const CString& name) { return lists_->HasName(name); };
   const CString name = tq::FreeName(from.name, taken);
   if (taken(name))
     return false;
   PutNewList(from.id, name, from.symbols, 1);
-  index.Add(*tq::ListAt(lists_, lists_.GetUpperBound()), lists_.GetUpperBound());
   return true;
 }
 

@@ -8,7 +8,6 @@
 #include "groups/TradingService.h"
 #include "groups/TradingTable.h"
 #include "symbollist/LibraryString.h"
-#include "symbollist/ListIndex.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/Notify.h"
 #include "symbollist/TQSymbolListMgr.h"
@@ -81,12 +80,9 @@ void CTQSymbolListMgr::UpdateAllHoldings(const CString& tsId) {
                        system->MergedHoldings(), 1);
 }
 
-// There may be thousands of accounts, so new lists are checked against an index.
 void CTQSymbolListMgr::UpdateAccountLists(const CString& tsId) {
   std::vector<AccountList> lists;
   std::optional<unsigned> tableSeen;
-  std::optional<tq::ListIndex> index;
-  unsigned indexed = 0;
   for (size_t i = 0; TradingTable() != nullptr; ++i) {
     if (tableSeen != tradingTable_->Changes()) {
       lists = ListsOfAccounts(tradingTable_->Find(tsId));
@@ -94,14 +90,8 @@ void CTQSymbolListMgr::UpdateAccountLists(const CString& tsId) {
     }
     if (i >= lists.size())
       return;
-    if (!index || indexed != tradingListChanges_)
-      index.emplace(tradingLists_);
-    indexed = tradingListChanges_;
     const AccountList& list = lists[i];
-    if (index->FindById(list.id) >= 0)
-      UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
-    else if (AddTradingList(list.id, tq::kTradingLists, list.name, list.symbols, &*index) != 0)
-      ++indexed;
+    UpdateTSSymbolList(list.id, tq::kTradingLists, list.name, list.symbols, 1);
   }
 }
 

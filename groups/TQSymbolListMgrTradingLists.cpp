@@ -7,12 +7,12 @@
 #include "groups/TradingTable.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LibraryString.h"
-#include "symbollist/ListArray.h"
-#include "symbollist/ListIndex.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"
 #include "symbollist/NewListId.h"
+#include "symbollist/NoCaseText.h"
 #include "symbollist/Notify.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/ServiceArray.h"
 
@@ -21,20 +21,11 @@ namespace {
 // The terminal knows this reason: do not change.
 constexpr char kReasonTrading[] = "TSSymbolList";
 
-// A kind that has no lists: what CheckValidSymbolList says of an id alone.
-constexpr int kNoKind = 0;
-
 struct SystemList {
   CString id;
   CString name;
   CString symbols;
 };
-
-// Equal for ids that are equal ignoring letter case.
-std::string Folded(CString id) {
-  id.MakeLower();
-  return std::string(id.GetString(), static_cast<size_t>(id.GetLength()));
-}
 
 // Gives an empty list those of the symbols that the service knows, as one question: the service
 // leaves unknown ids out and answers in order, so its records are the list. When it fails it knows
@@ -55,23 +46,15 @@ void AddKnownSymbols(CSymbolList& list, const CString& symbols) {
 
 int CTQSymbolListMgr::AddTSSymbolList(const CString& id, int kind, const CString& name,
                                       const CString& symbols, int allowEmpty) {
-  if (TradingTable() == nullptr || (symbols.IsEmpty() && allowEmpty == 0))
+  if (TradingTable() == nullptr || name.IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
     return 0;
-  return AddTradingList(id, kind, name, symbols, nullptr);
-}
-
-// With the index of the lists of kind 6, which the new list is put into, or without.
-int CTQSymbolListMgr::AddTradingList(const CString& id, int kind, const CString& name,
-                                     const CString& symbols, tq::ListIndex* index) {
   const CString suffix = "-" + tq::LibraryString(tq::kStringUpdate);
   const auto taken = [&](const CString& wanted) {
-    return index != nullptr ? index->HasName(wanted) : CheckNameExist(wanted, 0, -1, kind) != 0;
+    return CheckNameExist(wanted, 0, -1, kind) != 0;
   };
   CString freeName;
   const auto allowed = [&] {
-    const bool idTaken = index != nullptr && index->FindById(id) >= 0;
-    if (name.IsEmpty() || idTaken ||
-        CheckValidSymbolList(id, index != nullptr ? kNoKind : kind) != 0)
+    if (CheckValidSymbolList(id, kind) != 0)
       return false;
     freeName = tq::SuffixedName(name, suffix, taken);
     return !taken(freeName);
@@ -81,21 +64,15 @@ int CTQSymbolListMgr::AddTradingList(const CString& id, int kind, const CString&
   const CString listId = id.IsEmpty() ? tq::NewListId() : id;
   if (listId.IsEmpty())
     return 0;
-  const unsigned changes = tradingListChanges_;
+  const unsigned changes = tradingLists_->Changes();
   auto list = std::make_unique<CSymbolList>();
   AddKnownSymbols(*list, symbols);
-  if (changes != tradingListChanges_) {
-    // The terminal worked on the lists while the service was asked.
-    index = nullptr;
-    if (TradingTable() == nullptr || !allowed())
-      return 0;
-  }
+  // The terminal may have worked on the lists while the service was asked.
+  if (changes != tradingLists_->Changes() && (TradingTable() == nullptr || !allowed()))
+    return 0;
   list->SetID(listId);
   list->SetName(freeName);
-  const int position = tradingLists_.Add(list.release());
-  ++tradingListChanges_;
-  if (index != nullptr)
-    index->Add(*tq::ListAt(tradingLists_, position), position);
+  tradingLists_->AddLast(std::move(list));
   return 1;
 }
 
@@ -114,12 +91,10 @@ int CTQSymbolListMgr::UpdateTSSymbolList(const CString& id, int kind, const CStr
 }
 
 int CTQSymbolListMgr::DeleteTSSymbolList(CString id) {
-  const int index = TradingTable() == nullptr ? -1 : tq::FindListById(tradingLists_, id);
-  if (index < 0)
+  CSymbolList* const list = TradingTable() == nullptr ? nullptr : tradingLists_->Find(id);
+  if (list == nullptr)
     return 0;
-  const std::unique_ptr<CSymbolList> list(tq::ListAt(tradingLists_, index));
-  tradingLists_.RemoveAt(index);
-  ++tradingListChanges_;
+  tradingLists_->Delete(list);
   return 1;
 }
 
@@ -128,30 +103,19 @@ void CTQSymbolListMgr::DeleteAccountLists(const CString& tsId) {
   const tq::CTS* const system = tradingTable_->Find(tsId);
   if (system == nullptr || system->accounts.empty())
     return;
-  std::unordered_map<std::string, int> wanted; // how many of each id, for ids need not differ
+  // How many of each id, for ids need not differ.
+  std::unordered_map<std::string, int, tq::NoCaseHash, tq::NoCaseEqual> wanted;
   for (const tq::CAccount& account : system->accounts)
-    ++wanted[Folded(account.ListId())];
-  int kept = 0;
-  for (int i = 0; i < tradingLists_.GetSize(); ++i) {
-    CSymbolList* const list = tq::ListAt(tradingLists_, i);
-    const auto found = wanted.find(Folded(list->GetID()));
-    if (found != wanted.end() && found->second-- > 0)
-      delete list;
-    else
-      tradingLists_[kept++] = list;
-  }
-  tradingLists_.SetSize(kept);
-  ++tradingListChanges_;
+    ++wanted[account.ListId().GetString()];
+  tradingLists_->DeleteIf([&wanted](const CSymbolList& list) {
+    const auto found = wanted.find(std::string_view(list.GetID()));
+    return found != wanted.end() && found->second-- > 0;
+  });
 }
 
 void CTQSymbolListMgr::ClearTSSymbolList() {
   if (TradingTable() != nullptr)
-    DestroyTradingLists();
-}
-
-void CTQSymbolListMgr::DestroyTradingLists() {
-  tq::DestroyLists(tradingLists_);
-  ++tradingListChanges_;
+    tradingLists_->Destroy();
 }
 
 void CTQSymbolListMgr::BuildTSListToSymbolList() {

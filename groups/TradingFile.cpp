@@ -1,27 +1,29 @@
 #include "groups/TradingFile.h"
 
 #include "symbollist/FileDeclaration.h"
+#include "symbollist/StorableText.h"
+#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {
 
 void AppendAccount(std::string& text, const CAccount& account) {
   text += "\t\t<Account ID = '";
-  text += FieldText(account.info.id);
+  AppendStorable(FieldText(account.info.id), text);
   text += "' DispID = '";
-  text += FieldText(account.info.displayId);
+  AppendStorable(FieldText(account.info.displayId), text);
   text += "' TqsAccType = '";
   text += std::to_string(static_cast<int>(account.info.type));
   text += "' SymbolList = '";
-  text.append(account.holdings.GetString(), static_cast<size_t>(account.holdings.GetLength()));
+  AppendStorable(ViewOf(account.holdings), text);
   text += "' />\n";
 }
 
 void AppendSystem(std::string& text, const CTS& system) {
   text += "\t<TS ID = '";
-  text += FieldText(system.info.id);
+  AppendStorable(FieldText(system.info.id), text);
   text += "' Name = '";
-  text += FieldText(system.info.name);
+  AppendStorable(FieldText(system.info.name), text);
   text += "' >\n";
   for (const CAccount& account : system.accounts)
     AppendAccount(text, account);

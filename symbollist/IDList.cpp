@@ -29,9 +29,15 @@ bool NamesASymbol(const SymbolInfo& record) {
 
 CIDList::CIDList() : watch_(nullptr), records_(nullptr), count_(0), modified_(0) {}
 
-CIDList::CIDList(const CIDList& other)
-    : watch_(nullptr), ids_(other.ids_), records_(nullptr), count_(other.count_),
-      modified_(other.modified_) {
+CIDList::CIDList(const CIDList& other) : CIDList() {
+  CopyContents(other);
+}
+
+void CIDList::CopyContents(const CIDList& other) {
+  DiscardRecords();
+  ids_ = other.ids_;
+  count_ = other.count_;
+  modified_ = other.modified_;
   tokens_.Copy(other.tokens_);
   rowTokens_.Copy(other.rowTokens_);
   if (other.records_ == nullptr)
@@ -92,6 +98,15 @@ int CIDList::Update1(const CString& ids) {
   ids_ = kept;
   Resolve();
   return 1;
+}
+
+void CIDList::UpdateWithCopy(const CString& ids, CIDList& copy) {
+  const tq::LifeWatch watch(watch_);
+  Update1(ids);
+  if (!watch.IsGone() && ids_ == ids)
+    copy.CopyContents(*this);
+  else
+    copy.Update1(ids);
 }
 
 const CString& CIDList::GetIDs() {

@@ -52,6 +52,9 @@ public:
   virtual int Update1(const CString& ids);
   // The id string. The reference is good until the list changes.
   virtual const CString& GetIDs();
+  // Update1 for this list and for `copy`, which was made of it, with one question to the service.
+  // When the terminal changes or deletes this list meanwhile, the copy asks for itself.
+  void UpdateWithCopy(const CString& ids, CIDList& copy);
 
   // 1 once Update1 has replaced the string; the list itself never clears it.
   int IsModified() const { return modified_; }
@@ -90,6 +93,7 @@ protected:
 private:
   enum class Rows { There, None, ListGone };
 
+  void CopyContents(const CIDList& other);
   Rows ResolveIfDue();
   Rows Resolve();
   Rows State() const { return records_ != nullptr ? Rows::There : Rows::None; }

@@ -14,14 +14,6 @@ int FindListById(const CPtrArray& lists, const char* id) {
   return -1;
 }
 
-int FindListByName(const CPtrArray& lists, const char* name, int skip) {
-  for (int i = 0; i < lists.GetSize(); ++i) {
-    if (i != skip && ListAt(lists, i)->IsSameName(name))
-      return i;
-  }
-  return -1;
-}
-
 bool IsAmong(const CPtrArray& lists, const CSymbolList* list, int position) {
   if (position < lists.GetSize() && ListAt(lists, position) == list)
     return true;

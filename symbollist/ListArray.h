@@ -13,10 +13,6 @@ inline CSymbolList* ListAt(const CPtrArray& lists, int index) {
 // Position of the first list with that identifier (ignoring letter case), or -1.
 int FindListById(const CPtrArray& lists, const char* id);
 
-// Position of the first list with that name (ignoring letter case) other than the one at `skip`, or
-// -1.
-int FindListByName(const CPtrArray& lists, const char* name, int skip = -1);
-
 // Whether `list` is among the lists still; `position` is where it was. For walks on which the
 // service is asked, for the terminal may then add, delete or replace lists.
 bool IsAmong(const CPtrArray& lists, const CSymbolList* list, int position);

@@ -15,7 +15,9 @@ CSymbolList& ListAt(const CPtrArray& lists, int index) {
   return *static_cast<CSymbolList*>(lists.GetAt(index));
 }
 
-size_t Length(const CPtrArray& lists) {
+} // namespace
+
+size_t ListFileLength(const CPtrArray& lists) {
   constexpr size_t kFrame = 160; // declaration, root, default index and tail
   size_t length = kFrame;
   for (int i = 0; i < lists.GetSize(); ++i)
@@ -23,11 +25,9 @@ size_t Length(const CPtrArray& lists) {
   return length;
 }
 
-} // namespace
-
 std::string ListFileText(const CPtrArray& lists, int defaultIndex) {
   std::string text;
-  text.reserve(Length(lists));
+  text.reserve(ListFileLength(lists));
   text += FileDeclaration();
   text += "<Result>\n<SymbolList DefaultIdx='";
   text += std::to_string(defaultIndex);

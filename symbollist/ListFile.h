@@ -21,4 +21,7 @@ std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 // when there is no memory for it.
 bool MakeListFileText(const CPtrArray& lists, int defaultIndex, std::string& text);
 
+// The length of that text, or a little more: no list file of these lists is longer.
+size_t ListFileLength(const CPtrArray& lists);
+
 } // namespace tq

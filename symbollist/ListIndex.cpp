@@ -1,35 +1,85 @@
 #include "symbollist/ListIndex.h"
 
-#include "symbollist/ListArray.h"
+#include <algorithm>
+
+#include "symbollist/SymbolList.h"
 
 namespace tq {
-namespace {
 
-std::string Folded(CString text) {
-  text.MakeLower();
-  return std::string(text.GetString(), static_cast<size_t>(text.GetLength()));
+bool ListIndex::IsBefore(const CSymbolList* left, const CSymbolList* right) {
+  return left->place_ < right->place_;
 }
 
-} // namespace
-
-ListIndex::ListIndex(const CPtrArray& lists) {
-  for (int i = 0; i < lists.GetSize(); ++i)
-    Add(*ListAt(lists, i), i);
+void ListIndex::Add(CSymbolList& list, long long place) {
+  list.index_ = this;
+  list.place_ = place;
+  EnterId(list);
+  EnterName(list);
 }
 
-int ListIndex::FindById(const CString& id) const {
-  const auto found = positions_.find(Folded(id));
-  return found == positions_.end() ? -1 : found->second;
+void ListIndex::Remove(CSymbolList& list) {
+  ForgetId(list);
+  ForgetName(list);
+  list.index_ = nullptr;
 }
 
-bool ListIndex::HasName(const CString& name) const {
-  return names_.count(Folded(name)) != 0;
+void ListIndex::Clear() {
+  for (const auto& [id, lists] : ids_) {
+    for (CSymbolList* list : lists)
+      list->index_ = nullptr;
+  }
+  ids_.clear();
+  names_.clear();
+  first_ = last_ = 0;
 }
 
-// Identifiers need not be unique in a file that somebody else wrote: the first one counts.
-void ListIndex::Add(const CSymbolList& list, int position) {
-  positions_.emplace(Folded(list.GetID()), position);
-  names_.insert(Folded(list.GetName()));
+std::size_t ListIndex::LargestBucket() const {
+  std::size_t largest = 0;
+  for (const Map* map : {&ids_, &names_}) {
+    for (std::size_t bucket = 0; bucket < map->bucket_count(); ++bucket)
+      largest = std::max(largest, map->bucket_size(bucket));
+  }
+  return largest;
+}
+
+CSymbolList* ListIndex::FindById(std::string_view id) const {
+  const Lists& lists = WithId(id);
+  return lists.empty() ? nullptr : lists.front();
+}
+
+const ListIndex::Lists& ListIndex::Under(const Map& map, std::string_view text) {
+  static const Lists none;
+  const auto found = map.find(text);
+  return found == map.end() ? none : found->second;
+}
+
+void ListIndex::Enter(Map& map, const char* text, CSymbolList& list) {
+  Lists& lists = map[text];
+  lists.insert(std::upper_bound(lists.begin(), lists.end(), &list, IsBefore), &list);
+}
+
+void ListIndex::Forget(Map& map, const char* text, const CSymbolList& list) {
+  const auto found = map.find(std::string_view(text));
+  Lists& lists = found->second;
+  lists.erase(std::lower_bound(lists.begin(), lists.end(), &list, IsBefore));
+  if (lists.empty())
+    map.erase(found);
+}
+
+void ListIndex::ForgetId(CSymbolList& list) {
+  Forget(ids_, list.info_.ID, list);
+}
+
+void ListIndex::EnterId(CSymbolList& list) {
+  Enter(ids_, list.info_.ID, list);
+}
+
+void ListIndex::ForgetName(CSymbolList& list) {
+  Forget(names_, list.info_.Name, list);
+}
+
+void ListIndex::EnterName(CSymbolList& list) {
+  Enter(names_, list.info_.Name, list);
 }
 
 } // namespace tq

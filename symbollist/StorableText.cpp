@@ -1,8 +1,6 @@
 #include "symbollist/StorableText.h"
 
 #include <algorithm>
-#include <string>
-#include <string_view>
 
 #include "platform/TextTables.h"
 #include "platform/XmlCharacters.h"
@@ -52,18 +50,25 @@ bool IsKeptWhole(const CString& id) {
   return id.GetLength() <= kIdLimit && IsStorable(id);
 }
 
-CString StorableText(const CString& text) {
-  const std::string_view all = ViewOf(text);
-  const size_t bad = FirstBadByte(all);
-  if (bad == all.size())
-    return text;
-  std::string kept(all.substr(0, bad));
+void AppendStorable(std::string_view text, std::string& document) {
+  const size_t bad = FirstBadByte(text);
+  document.append(text, 0, bad);
+  if (bad == text.size())
+    return;
   const unsigned codePage = AnsiCodePage();
-  for (const char* at = all.data() + bad; at != all.end();) {
-    const size_t length = StorableLength(codePage, at, all.end());
-    kept.append(at, length);
+  for (const char* at = text.data() + bad; at != text.end();) {
+    const size_t length = StorableLength(codePage, at, text.end());
+    document.append(at, length);
     at += std::max<size_t>(length, 1);
   }
+}
+
+CString StorableText(const CString& text) {
+  if (IsStorable(text))
+    return text;
+  const std::string_view all = ViewOf(text);
+  std::string kept;
+  AppendStorable(all, kept);
   LogLine(kLogChange, "%d bytes that the list file cannot hold are left out of \"%s\"",
           static_cast<int>(all.size() - kept.size()), kept.c_str());
   return {kept.data(), static_cast<int>(kept.size())};

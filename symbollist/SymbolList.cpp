@@ -4,6 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/XmlDocument.h"
+#include "symbollist/ListIndex.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/SystemListId.h"
 
@@ -13,15 +14,28 @@ CSymbolList::CSymbolList(const CSymbolList& other) : CIDList(other), info_(other
   UpdateFlag();
 }
 
-CSymbolList::~CSymbolList() = default;
+CSymbolList::~CSymbolList() {
+  if (index_ != nullptr)
+    index_->Remove(*this);
+}
 
 void CSymbolList::SetID(const char* id) {
-  tq::CopyCut(info_.ID, tq::StorableText(id));
+  const CString kept = tq::StorableText(id);
+  if (index_ != nullptr)
+    index_->ForgetId(*this);
+  tq::CopyCut(info_.ID, kept);
+  if (index_ != nullptr)
+    index_->EnterId(*this);
   UpdateFlag();
 }
 
 void CSymbolList::SetName(const char* name) {
-  tq::CopyCut(info_.Name, tq::StorableText(name));
+  const CString kept = tq::StorableText(name);
+  if (index_ != nullptr)
+    index_->ForgetName(*this);
+  tq::CopyCut(info_.Name, kept);
+  if (index_ != nullptr)
+    index_->EnterName(*this);
 }
 
 void CSymbolList::ToXml(CString& out) {

@@ -8,6 +8,7 @@
 #include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {
+class ListIndex;
 class XmlElement;
 
 // A list as one element of the list file, put behind what `document` holds:
@@ -63,8 +64,12 @@ public:
   size_t XmlLength();
 
 private:
+  friend class tq::ListIndex;
+
   void UpdateFlag();
 
   TQSymbolListInfo info_;
   int flag_;
+  tq::ListIndex* index_ = nullptr; // that finds this list, see symbollist/ListIndex.h
+  long long place_ = 0;            // in it
 };

@@ -9,10 +9,12 @@
 #include "symbollist/KeptFiles.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
+#include "symbollist/OwnedLists.h"
 #include "symboltable/SymbolTableMgr.h"
 
 CTQSymbolListMgr::CTQSymbolListMgr()
-    : symbolTables_(nullptr), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
+    : symbolTables_(nullptr), lists_(new tq::OwnedLists), tradingLists_(new tq::OwnedLists),
+      cloudLists_(new tq::OwnedLists), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
       systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
       exchangeRecords_(nullptr), groups_(nullptr), cloudMap_(new tq::CloudMap),
       keptFiles_(new tq::KeptFiles), tradingTable_(nullptr) {
@@ -21,9 +23,9 @@ CTQSymbolListMgr::CTQSymbolListMgr()
 }
 
 CTQSymbolListMgr::~CTQSymbolListMgr() {
-  ClearSymbolList();
-  DestroyTradingLists();
-  ClearCloudSymbolList();
+  delete lists_;
+  delete tradingLists_;
+  delete cloudLists_;
   delete groups_;
   delete cloudMap_;
   ClearAllSymbols();
@@ -92,5 +94,5 @@ void CTQSymbolListMgr::SetDefaultIndex(int index) {
 int CTQSymbolListMgr::GetDefaultListIdx(int& out) {
   out = defaultIndex_;
   // The upper bound is not tested: a default index beyond the last list is reported as it stands.
-  return defaultIndex_ >= 0 && !lists_.IsEmpty();
+  return defaultIndex_ >= 0 && !lists_->IsEmpty();
 }

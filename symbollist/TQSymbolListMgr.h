@@ -53,7 +53,7 @@ struct ImportedList;
 class CloudMap;
 class GroupStore;
 class KeptFiles;
-class ListIndex;
+class OwnedLists;
 class TradingTable;
 } // namespace tq
 
@@ -196,7 +196,9 @@ public:
   // Replaces, in every list's symbol string, each occurrence of the k-th old text by the k-th new
   // one, for all k in turn: plain text, inside of longer ids too. When a list changed: saves, logs
   // "ReplaceID", tells the terminal with TQSCall("", -1, 40, ""), returns 1. Else 0. A null array
-  // does nothing; of arrays of different sizes the shorter counts.
+  // does nothing; of arrays of different sizes the shorter counts. When the lists would outgrow the
+  // list file (64 MiB as text), be it on the way from pair to pair, no list changes: 0 and a line
+  // in the log.
   int ReplaceID(CStringArray* oldIds, CStringArray* newIds);
   // `name`, or when a list has it, the name with "(1)", "(2)" ... "(100)" behind it; the number is
   // counted up in its place when the name has it already. After "(100)" the candidate is returned
@@ -580,8 +582,8 @@ protected:
 private:
   friend class CXMLDOMParser;
 
-  CPtrArray* ListsOf(int kind);
-  CSymbolList* FindList(const char* id, int kind);
+  const tq::OwnedLists* ListsOf(int kind) const;
+  CSymbolList* FindList(const char* id, int kind) const;
   CSymbolList* FindUserList(const char* id);
   int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
   void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
@@ -591,21 +593,18 @@ private:
   CString FilePath(const char* name) const;
   void StartTradingLists();
   tq::TradingTable* TradingTable() const;
-  void DestroyTradingLists();
   void DeleteAccountLists(const CString& tsId);
   void UpdateAllHoldings(const CString& tsId);
   void UpdateAccountLists(const CString& tsId);
-  int AddTradingList(const CString& id, int kind, const CString& name, const CString& symbols,
-                     tq::ListIndex* index);
-  bool ImportList(const tq::ImportedList& from, tq::ListIndex& index);
+  bool ImportList(const tq::ImportedList& from);
   int ImportLists(const std::vector<tq::ImportedList>& lists, int& taken);
   int BuildSymbolTables();
   void ClearAllSymbols();
 
   CSymbolTableMgr* symbolTables_; // owned
-  CPtrArray lists_;               // owned CSymbolList*, in display order
-  CPtrArray tradingLists_;        // the same, kind 6
-  CPtrArray cloudLists_;          // the same, kind 8
+  tq::OwnedLists* lists_;         // owned, in display order
+  tq::OwnedLists* tradingLists_;  // the same, kind 6
+  tq::OwnedLists* cloudLists_;    // the same, kind 8
   int defaultIndex_;
   CString dataDirectory_;
   SymbolInfo* allSymbols_; // owned, grouped by exchange
@@ -620,10 +619,9 @@ private:
   ExchInfo* exchangeRecords_; // the service's array, released with VLFree
   CUIntArray userDefaultExchanges_;
   CUIntArray exchangeOrder_;
-  tq::GroupStore* groups_;          // owned
-  tq::CloudMap* cloudMap_;          // owned
-  tq::KeptFiles* keptFiles_;        // owned
-  tq::TradingTable* tradingTable_;  // owned; null until Init was first told to load trading lists
-  unsigned tradingListChanges_ = 0; // lists of kind 6 that were added or removed so far
+  tq::GroupStore* groups_;         // owned
+  tq::CloudMap* cloudMap_;         // owned
+  tq::KeptFiles* keptFiles_;       // owned
+  tq::TradingTable* tradingTable_; // owned; null until Init was first told to load trading lists
   std::vector<CString> extraInfo_;
 };

@@ -1,46 +1,38 @@
 // Checks of names, identifiers and working copies.
-#include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/ParameterText.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 
 int CTQSymbolListMgr::CheckNameExist(const CString& name, int skipOne, int skip, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  return lists != nullptr && tq::FindListByName(*lists, name, skipOne != 0 ? skip : -1) >= 0;
+  const tq::OwnedLists* lists = ListsOf(kind);
+  return lists != nullptr && lists->HasName(name, skipOne != 0 ? skip : -1);
 }
 
 int CTQSymbolListMgr::CheckIDandName(const CString& id, const CString& name, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  const int index = lists == nullptr ? -1 : tq::FindListById(*lists, id);
-  if (index < 0)
+  const CSymbolList* list = FindList(id, kind);
+  if (list == nullptr)
     return 0;
-  return tq::ListAt(*lists, index)->IsSameName(name) ? 3 : 1;
+  return list->IsSameName(name) ? 3 : 1;
 }
 
 int CTQSymbolListMgr::CheckSymbolListExist(const CString& id, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  return lists != nullptr && tq::FindListById(*lists, id) >= 0;
+  return FindList(id, kind) != nullptr;
 }
 
-// Identifiers need not be unique in a file that somebody else wrote, so one of several may be the
-// one with the name.
 int CTQSymbolListMgr::CheckListAndNameExist(const CString& id, const CString& name, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  for (int i = 0; lists != nullptr && i < lists->GetSize(); ++i) {
-    if (tq::ListAt(*lists, i)->IsSameID(id) && tq::ListAt(*lists, i)->GetName() == name)
-      return 1;
-  }
-  return 0;
+  const tq::OwnedLists* lists = ListsOf(kind);
+  return lists != nullptr && lists->HasIdAndName(id, name);
 }
 
 bool CTQSymbolListMgr::IsModifyList(CPtrArray* lists, int defaultIndex) {
   return lists == nullptr || defaultIndex != defaultIndex_ ||
-         !tq::SameNamesAndContents(*lists, lists_);
+         !tq::SameNamesAndContents(*lists, *lists_);
 }
 
 bool CTQSymbolListMgr::IsModifyCountList(CPtrArray* lists) {
-  return lists == nullptr || !tq::SameNamesAndContents(*lists, cloudLists_);
+  return lists == nullptr || !tq::SameNamesAndContents(*lists, *cloudLists_);
 }
 
 int CTQSymbolListMgr::CheckValidSymbolList(const CString& id, int kind) {

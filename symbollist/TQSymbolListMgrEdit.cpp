@@ -4,12 +4,15 @@
 #include <memory>
 #include <vector>
 
-#include "symbollist/ListArray.h"
+#include "platform/XmlText.h"
+#include "symbollist/BoundedReplace.h"
+#include "symbollist/ListFile.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"
 #include "symbollist/Log.h"
 #include "symbollist/NewListId.h"
 #include "symbollist/Notify.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/MovedSymbols.h"
@@ -26,12 +29,34 @@ struct Renamed {
 };
 
 // Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
-// inside that one too. Callers rename whole families of ids by their common start.
-CString ReplacedIn(CString ids, const CStringArray& oldIds, const CStringArray& newIds) {
+// inside that one too. Callers rename whole families of ids by their common start. False when the
+// string would be longer than `limit` bytes on the way.
+bool ReplaceIn(CString& ids, const CStringArray& oldIds, const CStringArray& newIds, size_t limit) {
   const int pairs = std::min(oldIds.GetSize(), newIds.GetSize());
-  for (int k = 0; k < pairs; ++k)
-    ids.Replace(oldIds[k], newIds[k]);
-  return ids;
+  for (int k = 0; k < pairs; ++k) {
+    if (!tq::ReplaceWithin(ids, oldIds[k], newIds[k], limit))
+      return false;
+  }
+  return true;
+}
+
+// The strings of all lists before and after. False when the lists would be more than a list file
+// can hold, or than they are already: a few pairs that double the text would take all memory.
+bool RenameAll(const CPtrArray& lists, const CStringArray& oldIds, const CStringArray& newIds,
+               std::vector<Renamed>& renamed) {
+  size_t length = tq::ListFileLength(lists);
+  const size_t limit = std::max(tq::kXmlSizeLimit, length);
+  for (int i = 0; i < lists.GetSize(); ++i) {
+    CSymbolList* const list = tq::ListAt(lists, i);
+    const CString before = list->GetIDs();
+    const size_t others = length - static_cast<size_t>(before.GetLength());
+    CString now = before;
+    if (!ReplaceIn(now, oldIds, newIds, limit - others))
+      return false;
+    length = others + static_cast<size_t>(now.GetLength());
+    renamed.push_back({list, before, now});
+  }
+  return true;
 }
 
 } // namespace
@@ -52,7 +77,7 @@ int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CSt
     // A list of another name is overwritten only when the caller says so; its name stays.
     if ((found & kListBearsName) == 0 && overwrite == 0)
       return 0;
-    tq::ListAt(lists_, tq::FindListById(lists_, id))->Update1(keptSymbols);
+    lists_->Find(id)->Update1(keptSymbols);
   }
   if (defaultIndex_ == -1)
     defaultIndex_ = 0;
@@ -97,18 +122,16 @@ int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
 CSymbolList* CTQSymbolListMgr::CopyMoved(CSymbolList& source) {
   auto copy = std::make_unique<CSymbolList>(source);
   CString ids = source.GetIDs();
-  if (ReplaceSymbolListExchID(ids, tq::kMovedFromExchange, tq::kMovedToExchange) != 0) {
-    source.Update1(ids);
-    copy->Update1(ids);
-  }
+  if (ReplaceSymbolListExchID(ids, tq::kMovedFromExchange, tq::kMovedToExchange) != 0)
+    source.UpdateWithCopy(ids, *copy);
   return copy.release();
 }
 
 void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
   if (append == 0)
-    lists_.InsertAt(0, list);
+    lists_->AddFirst(std::unique_ptr<CSymbolList>(list));
   else
-    lists_.Add(list);
+    lists_->AddLast(std::unique_ptr<CSymbolList>(list));
 }
 
 int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
@@ -121,25 +144,24 @@ int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
   }
   // Only now the old ones go: the caller may have handed over lists of the manager itself, and a
   // save by the terminal, while symbols were resolved, must not have found a part of the new ones.
-  tq::DestroyLists(lists_);
-  lists_.Copy(copies);
-  if (defaultIndex_ < 0 && !lists_.IsEmpty())
+  lists_->Replace(copies);
+  if (defaultIndex_ < 0 && !lists_->IsEmpty())
     defaultIndex_ = 0;
   else
-    defaultIndex_ = std::min(defaultIndex_, lists_.GetUpperBound());
+    defaultIndex_ = std::min(defaultIndex_, lists_->GetUpperBound());
   return 1;
 }
 
 int CTQSymbolListMgr::DeleteSymbolList(CString id) {
-  const int index = tq::FindListById(lists_, id);
-  if (index < 0)
+  CSymbolList* const list = lists_->Find(id);
+  if (list == nullptr)
     return 0;
   // Only deleting the default list itself, as the last one, moves the index. A list deleted in
   // front of it leaves the index, which then means the next list: terminals rely on that.
-  if (index == defaultIndex_ && index == lists_.GetUpperBound())
+  const int index = lists_->PositionOf(list);
+  if (index == defaultIndex_ && index == lists_->GetUpperBound())
     --defaultIndex_;
-  delete tq::ListAt(lists_, index);
-  lists_.RemoveAt(index);
+  lists_->Delete(list);
   SaveSymbolList();
   return 1;
 }
@@ -150,14 +172,14 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
   // All strings first: the lists that the terminal adds while one is resolved are not renamed, and
   // none is renamed twice.
   std::vector<Renamed> renamed;
-  for (int i = 0; i < lists_.GetSize(); ++i) {
-    CSymbolList* list = tq::ListAt(lists_, i);
-    renamed.push_back({list, list->GetIDs(), ReplacedIn(list->GetIDs(), *oldIds, *newIds)});
+  if (!RenameAll(*lists_, *oldIds, *newIds, renamed)) {
+    tq::LogLine(tq::kLogChange, "ReplaceID is refused: no list file can hold the lists after it");
+    return 0;
   }
   int changed = 0;
   for (size_t i = 0; i < renamed.size(); ++i) {
     const Renamed& each = renamed[i];
-    if (each.now != each.before && tq::IsAmong(lists_, each.list, static_cast<int>(i)) &&
+    if (each.now != each.before && tq::IsAmong(*lists_, each.list, static_cast<int>(i)) &&
         each.list->GetIDs() == each.before)
       changed |= each.list->Update1(each.now);
   }
@@ -170,7 +192,6 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
 }
 
 CString CTQSymbolListMgr::AdjustFileName(CString name) {
-  return tq::FreeName(tq::StorableText(name), [this](const CString& wanted) {
-    return tq::FindListByName(lists_, wanted) >= 0;
-  });
+  return tq::FreeName(tq::StorableText(name),
+                      [this](const CString& wanted) { return lists_->HasName(wanted); });
 }

@@ -1,13 +1,12 @@
 // Editing of the entries of one list. In memory only: the caller saves.
 #include "symbollist/IdString.h"
-#include "symbollist/ListArray.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/UpperText.h"
 
 CSymbolList* CTQSymbolListMgr::FindUserList(const char* id) {
-  const int index = tq::FindListById(lists_, id);
-  return index < 0 ? nullptr : tq::ListAt(lists_, index);
+  return lists_->Find(id);
 }
 
 int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) {

@@ -7,8 +7,8 @@
 #include "platform/services/tqCommon.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/LibraryString.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/ListFile.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symbollist/XMLDOMParser.h"
 
@@ -72,11 +72,11 @@ void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
 }
 
 void CTQSymbolListMgr::ClearSymbolList() {
-  tq::DestroyLists(lists_);
+  lists_->Destroy();
 }
 
 void CTQSymbolListMgr::ClearCloudSymbolList() {
-  tq::DestroyLists(cloudLists_);
+  cloudLists_->Destroy();
 }
 
 int CTQSymbolListMgr::CreateEmptySymbolListFile() {
@@ -89,9 +89,9 @@ int CTQSymbolListMgr::CreateEmptySymbolListFile() {
 int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
   if (path.IsEmpty())
     return 0;
-  const int index = defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_;
+  const int index = defaultIndex_ < 0 && !lists_->IsEmpty() ? 0 : defaultIndex_;
   std::string text;
-  const tq::SaveResult result = tq::MakeListFileText(lists_, index, text)
+  const tq::SaveResult result = tq::MakeListFileText(*lists_, index, text)
                                     ? keptFiles_->Save(path, std::move(text))
                                     : tq::SaveResult::NotOpened;
   if (result != tq::SaveResult::NotOpened)

@@ -1,30 +1,29 @@
 // Looking at the lists.
 #include "symbollist/IdString.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 
-CPtrArray* CTQSymbolListMgr::ListsOf(int kind) {
+const tq::OwnedLists* CTQSymbolListMgr::ListsOf(int kind) const {
   switch (kind) {
   case tq::kUserLists:
-    return &lists_;
+    return lists_;
   case tq::kTradingLists:
-    return &tradingLists_;
+    return tradingLists_;
   case tq::kCloudLists:
-    return &cloudLists_;
+    return cloudLists_;
   default:
     return nullptr;
   }
 }
 
-CSymbolList* CTQSymbolListMgr::FindList(const char* id, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  const int index = lists == nullptr ? -1 : tq::FindListById(*lists, id);
-  return index < 0 ? nullptr : tq::ListAt(*lists, index);
+CSymbolList* CTQSymbolListMgr::FindList(const char* id, int kind) const {
+  const tq::OwnedLists* lists = ListsOf(kind);
+  return lists == nullptr ? nullptr : lists->Find(id);
 }
 
 int CTQSymbolListMgr::GetSymbolListCount(int kind) {
-  const CPtrArray* lists = ListsOf(kind);
+  const tq::OwnedLists* lists = ListsOf(kind);
   return lists == nullptr ? 0 : lists->GetSize();
 }
 
@@ -33,7 +32,7 @@ int CTQSymbolListMgr::GetTQSymbolListCount(int kind) {
 }
 
 int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
+  const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr)
     return 0;
   for (int i = 0; i < lists->GetSize(); ++i)
@@ -49,7 +48,7 @@ int CTQSymbolListMgr::GetSymbolList(CString id, CSymbolList** out, int kind) {
 }
 
 int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
+  const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr || out == nullptr || index < 0 || index >= lists->GetSize())
     return 0;
   tq::ListAt(*lists, index)->GetListInfo(out);
@@ -58,7 +57,7 @@ int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int 
 
 int CTQSymbolListMgr::GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols,
                                         int kind) {
-  const CPtrArray* lists = ListsOf(kind);
+  const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr || index < 0 || index >= lists->GetSize())
     return 0;
   CSymbolList* list = tq::ListAt(*lists, index);
@@ -86,8 +85,8 @@ int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& sym
   int index = 0;
   if (kind != kDefaultList)
     list = FindList(id, kind);
-  else if (GetDefaultListIdx(index) != 0 && index < lists_.GetSize())
-    list = tq::ListAt(lists_, index);
+  else if (GetDefaultListIdx(index) != 0 && index < lists_->GetSize())
+    list = tq::ListAt(*lists_, index);
   if (tokens != nullptr)
     tokens->RemoveAll();
   if (list == nullptr) {

@@ -1,6 +1,5 @@
 // The six system lists.
 #include "symbollist/LibraryString.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/Notify.h"
 #include "symbollist/SystemListId.h"
@@ -32,9 +31,8 @@ int CTQSymbolListMgr::LoadSystemList(CStringArray* names) {
 }
 
 int CTQSymbolListMgr::IsSystemList(const char* id, int kind) {
-  const CPtrArray* lists = ListsOf(kind);
-  const int index = lists == nullptr ? -1 : tq::FindListById(*lists, id);
-  return index < 0 ? 0 : tq::ListAt(*lists, index)->GetFlag();
+  const CSymbolList* list = FindList(id, kind);
+  return list == nullptr ? 0 : list->GetFlag();
 }
 
 int CTQSymbolListMgr::IsSameSysSymbolListGUID(const CString& id) const {

@@ -9,9 +9,9 @@
 #include <utility>
 
 #include "platform/XmlText.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/Log.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symbollist/WriteBack.h"
 #include "symboltable/MovedSymbols.h"
@@ -80,11 +80,8 @@ void CXMLDOMParser::LoadSymbolList(const CString& path) {
   // Only now: while the ids are resolved the service may let the terminal save, or load again, and
   // it must find the whole of the lists of before, not a part of these. A file that could not be
   // read leaves none.
-  CPtrArray before;
-  before.Copy(manager_.lists_);
-  manager_.lists_.Copy(lists);
+  manager_.lists_->Replace(lists);
   manager_.SetDefaultIndex(defaultIndex);
-  tq::DestroyLists(before);
   manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
   if (outcome_ == tq::LoadOutcome::Empty)
     manager_.SaveSymbolList();

@@ -6,8 +6,8 @@
 
 #include "platform/CodePage.h"
 #include "platform/services/tqStock.h"
-#include "symbollist/ListArray.h"
 #include "symbollist/Log.h"
+#include "symbollist/OwnedLists.h"
 #include "symbollist/TQSymbolListMgr.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/MovedSymbols.h"
@@ -151,10 +151,10 @@ int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, sho
     const std::string_view symbol = records.At(i);
     changed.Add(CString(symbol.data(), static_cast<int>(symbol.size())).MakeUpper());
   }
-  ResolveLists(lists_, changed);
-  ResolveLists(tradingLists_, changed);
+  ResolveLists(*lists_, changed);
+  ResolveLists(*tradingLists_, changed);
   if (type == ExchSymbolsAdded)
-    ResolveLists(cloudLists_, changed);
+    ResolveLists(*cloudLists_, changed);
   return 1;
 }
 

@@ -89,7 +89,7 @@ private:
   static constexpr std::size_t kNameIndexSize = 256;
   using NameIndex = std::array<std::uint8_t, kNameIndexSize>;
   static std::size_t NameHash(PackedText head) {
-    return MixWords(head.high, head.low) >> 56; // below kNameIndexSize
+    return HashOf(head) >> 24; // below kNameIndexSize
   }
 
   struct NameHead {

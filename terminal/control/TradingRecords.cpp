@@ -1,6 +1,7 @@
 #include "terminal/control/TradingRecords.h"
 
 #include "platform/CodePage.h"
+#include "platform/framework/CString.h"
 #include "terminal/control/Encoding.h"
 #include "terminal/control/Reports.h"
 
@@ -27,9 +28,20 @@ TQS_ACCOUNTINFO MakeAccount(const TradingAccount& account, Language language) {
   return info;
 }
 
+std::string KeyOf(int type, std::string_view id) {
+  CString folded(id.data(), static_cast<int>(id.size()));
+  return std::to_string(type) + ' ' + folded.MakeLower().GetString();
+}
+
 } // namespace
 
 void TradingRecords::Build(const Market& market) {
+  positions_.clear();
+  for (const TradingSystem& system : market.tradingSystems) {
+    std::unordered_map<std::string, int>& positions = positions_.emplace_back();
+    for (std::size_t i = 0; i < system.accounts.size(); ++i)
+      positions.emplace(KeyOf(system.accounts[i].type, system.accounts[i].id), static_cast<int>(i));
+  }
   const auto build = [&market](Records& records, Language language) {
     records = Records();
     for (const TradingSystem& system : market.tradingSystems) {
@@ -55,6 +67,11 @@ const std::vector<TQS_ACCOUNTINFO>& TradingRecords::Accounts(std::size_t system)
   return Now().accounts[system];
 }
 
+int TradingRecords::AccountOf(std::size_t system, int type, std::string_view id) const {
+  const auto found = positions_[system].find(KeyOf(type, id));
+  return found == positions_[system].end() ? -1 : found->second;
+}
+
 const TradingSystem* FindSystem(std::string_view tsId) {
   for (const TradingSystem& system : CurrentMarket().tradingSystems)
     if (SameId(system.id, tsId))
@@ -66,10 +83,9 @@ const TradingAccount* FindAccount(std::string_view tsId, std::string_view accoun
   const TradingSystem* system = FindSystem(tsId);
   if (!system)
     return nullptr;
-  for (const TradingAccount& account : system->accounts)
-    if (account.type == type && SameId(account.id, accountId))
-      return &account;
-  return nullptr;
+  const auto place = static_cast<std::size_t>(system - CurrentMarket().tradingSystems.data());
+  const int account = CurrentTradingRecords().AccountOf(place, type, accountId);
+  return account < 0 ? nullptr : &system->accounts[static_cast<std::size_t>(account)];
 }
 
 } // namespace standin

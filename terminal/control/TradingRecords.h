@@ -2,7 +2,9 @@
 // set.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "terminal/StandIn.h"
@@ -16,6 +18,8 @@ public:
   // In the interface language, in the order of the market's systems and of their accounts.
   const std::vector<TQS_TSINFO>& Systems() const;
   const std::vector<TQS_ACCOUNTINFO>& Accounts(std::size_t system) const;
+  // The position of a system's first account of that type and id, ASCII letter case ignored; -1.
+  int AccountOf(std::size_t system, int type, std::string_view id) const;
 
 private:
   struct Records {
@@ -26,6 +30,7 @@ private:
 
   Records traditional_;
   Records simplified_;
+  std::vector<std::unordered_map<std::string, int>> positions_; // by type and folded id
 };
 
 // The current market's.

@@ -3,10 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstring>
+#include <set>
 #include <string>
 
 #include "platform/CodePage.h"
+#include "symboltable/SymbolKey.h"
 
 namespace {
 
@@ -88,6 +91,18 @@ TEST(GroupIdTest, TextsThatEndAreLeftByteForByte) {
   const GroupInfo before = info;
   tq::TerminateTexts(info);
   EXPECT_EQ(std::memcmp(&info, &before, sizeof(info)), 0);
+}
+
+// Ids that have one hash wherever it is made by two steps of MixWords without a secret.
+TEST(GroupIdTest, NobodyCanChooseIdsOfOneHash) {
+  constexpr std::size_t kIds = 80'000;
+  std::set<std::uint32_t> hashes;
+  for (std::uint64_t low = 0; low < kIds; ++low) {
+    const tq::FoldedId id = {low, tq::MixWords(0, low)};
+    ASSERT_EQ(tq::MixWords(tq::MixWords(0, id.low), id.high), 0u);
+    hashes.insert(tq::HashOf(id));
+  }
+  EXPECT_GT(hashes.size(), kIds - 20);
 }
 
 TEST(GroupIdTest, PushedTextsAreCutAtAWholeCharacter) {

@@ -1,9 +1,12 @@
 // Holdings as the proxy hands them out, and put together.
 #include "groups/Holdings.h"
 
+#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
+
+#include "tests/support/CraftedTexts.h"
 
 namespace {
 
@@ -79,6 +82,27 @@ TEST(Holdings, ManyIdsKeepTheirOrderWhileTheSetGrows) {
 
 TEST(Holdings, AnEmptyAccountBetweenChangesNothing) {
   EXPECT_EQ(Merge({"2330", "", "2317"}), "2330,2317");
+}
+
+// Holdings that were made so that each id is compared with all before it.
+TEST(Holdings, NobodyCanChooseIdsThatAreSlowToMerge) {
+  constexpr std::size_t kIds = 80'000;
+  const auto ids = CraftedTexts(
+      kIds, [](const std::string& text) { return text.find(',') == std::string::npos; });
+  std::string crafted;
+  std::string plain;
+  for (std::size_t i = 0; i < kIds; ++i) {
+    ASSERT_EQ(std::hash<std::string>()(ids[i]), std::hash<std::string>()(ids[0]));
+    crafted += (i > 0 ? "," : "") + ids[i];
+    plain += (i > 0 ? "," : "") + std::to_string(i) + ".TW";
+  }
+  tq::MergedHoldings merged;
+  merged.Add(crafted.c_str());
+  tq::MergedHoldings usual;
+  usual.Add(plain.c_str());
+  EXPECT_STREQ(merged.Text(), crafted.c_str());
+  EXPECT_LT(merged.Steps(), 2 * usual.Steps());
+  EXPECT_LT(usual.Steps(), 10 * kIds);
 }
 
 } // namespace

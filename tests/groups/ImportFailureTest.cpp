@@ -63,6 +63,24 @@ TEST_F(ImportFailureTest, AFileThatCannotBeRenamedIsImportedOnceAllTheSame) {
   EXPECT_EQ(Shape(), "");
 }
 
+// The comment behind a copy in UTF-16 was written in single bytes, and nobody could read the copy.
+TEST_F(ImportFailureTest, ACopyInUtf16CanBeReadAgain) {
+  const std::string ascii = "<HaldeUserList><L><IDs>2330.TW</IDs></L></HaldeUserList>";
+  for (const bool littleEndian : {true, false}) {
+    std::string wide = littleEndian ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char byte : ascii)
+      wide += littleEndian ? std::string{byte, '\0'} : std::string{'\0', byte};
+    directory.Write("OldOTVList.xml", wide);
+    files.renameFails = true;
+    StartWith({});
+    EXPECT_EQ(manager.LoadOtherProductList(), 0) << "imported once";
+    CString copy = directory.Joined("Added_OldOTVList.xml").c_str();
+    EXPECT_EQ(manager.DoLoadOtherProductList(copy, 0), 1);
+    EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW|PellarPlus 1/PellarPlus 1/2330.TW");
+    manager.ClearSymbolList();
+  }
+}
+
 TEST_F(ImportFailureTest, TheRenameIsTriedAgainAtTheNextStart) {
   WriteImport("2330.TW");
   files.renameFails = true;

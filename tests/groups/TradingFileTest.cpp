@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/XmlDocument.h"
 #include "platform/services/tqCommon.h"
 #include "terminal/StandIn.h"
 #include "tests/groups/TradingRecords.h"
@@ -78,6 +79,23 @@ TEST_F(TradingFileTest, NothingIsEscaped) {
   EXPECT_NE(text.find("\t<TS ID = 'T'&' Name = '<\xB3\x5C>' >\n"), std::string::npos);
   EXPECT_NE(text.find("ID = 'a\"' DispID = 'it's' TqsAccType = '1' SymbolList = 'A&B,C<D' />\n"),
             std::string::npos);
+}
+
+// Bytes that no reader of the declared encoding takes: half of a character, a control byte.
+TEST_F(TradingFileTest, WhateverTheFieldsHoldTheFileCanBeRead) {
+  tq::CTS system = System("T\xA4", "Bro\x01ker\xFF");
+  system.accounts.push_back(Account(1, "9\x02", "9-\xB3\x5C\xB3", "2330\x7F\x1B.TW,\xA4"));
+  const std::string text = tq::TradingFileText({system});
+  tq::XmlDocument document;
+  ASSERT_TRUE(document.Load(text.data(), text.size()));
+  CString value;
+  EXPECT_TRUE(document.SelectSingle("/TSList/TS").Attribute("Name", value));
+  EXPECT_STREQ(value, "Broker");
+  const tq::XmlElement account = document.SelectSingle("/TSList/TS/Account");
+  EXPECT_TRUE(account.Attribute("DispID", value));
+  EXPECT_STREQ(value, "9-\xB3\x5C");
+  EXPECT_TRUE(account.Attribute("SymbolList", value));
+  EXPECT_STREQ(value, "2330\x7F.TW,");
 }
 
 TEST_F(TradingFileTest, FieldsWithoutATerminatorEndWithTheField) {

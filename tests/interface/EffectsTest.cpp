@@ -219,6 +219,15 @@ TEST_F(Effects, OfReplacingIdsAreThoseOfAnAddWithALineOfTheirOwn) {
   EXPECT_EQ(Seen(), "SymbolList.xml | 64 ReplaceID | 40 ''");
 }
 
+TEST_F(Effects, OfReplacingIdsThatIsRefusedAreALine) {
+  CStringArray old;
+  CStringArray replaced;
+  old.Add("2330.TW");
+  replaced.Add(CString('x', 65 << 20));
+  EXPECT_EQ(manager.ReplaceID(&old, &replaced), 0);
+  EXPECT_EQ(Seen(), " | 64 ReplaceID is refused: no list file can hold the lists after it | ");
+}
+
 TEST_F(Effects, OfASystemListAreNone) {
   int nameChanged = 0;
   EXPECT_EQ(manager.UpdateSystemList("ZUSYSLIST1", "Other", "1101.TW", nameChanged), 1);

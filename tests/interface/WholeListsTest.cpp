@@ -310,6 +310,40 @@ TEST_F(ListTextEditTest, ReplacingNothingNeitherSavesNorTells) {
   ExpectNotNotified();
 }
 
+// Each pair doubles a text of two bytes: after 28 the list had 536 MB, after a few more the process
+// ended.
+TEST_F(ListTextEditTest, ReplacingThatNoFileCouldHoldIsRefused) {
+  StartWith({"b/B/2330.TW,aa", "a/A/aa"});
+  const std::string working = ReadWorking();
+  const size_t lines = standin::LogLines().size();
+  CStringArray from;
+  CStringArray to;
+  for (int i = 0; i < 28; ++i) {
+    from.Add("a");
+    to.Add("aa");
+  }
+  EXPECT_EQ(manager.ReplaceID(&from, &to), 0);
+  EXPECT_EQ(Shape(), "b/B/2330.TW,aa|a/A/aa");
+  EXPECT_EQ(ReadWorking(), working);
+  ASSERT_EQ(standin::LogLines().size(), lines + 1);
+  EXPECT_EQ(standin::LogLines().back().level, 64);
+  EXPECT_EQ(standin::LogLines().back().text,
+            "ReplaceID is refused: no list file can hold the lists after it");
+  ExpectNotNotified();
+}
+
+TEST_F(ListTextEditTest, ReplacingIsBoundedForAllListsTogether) {
+  StartWith({"a/A/aaaaaaaa", "b/B/aaaaaaaa", "c/C/aaaaaaaa"});
+  CStringArray from;
+  CStringArray to;
+  from.Add("aaaaaaaa"); // to 3 MiB
+  to.Add(CString('b', 3 << 20));
+  from.Add("b"); // 8 times that fits into the file, three times that does not
+  to.Add("cccccccc");
+  EXPECT_EQ(manager.ReplaceID(&from, &to), 0);
+  EXPECT_EQ(Shape(), "a/A/aaaaaaaa|b/B/aaaaaaaa|c/C/aaaaaaaa");
+}
+
 TEST_F(ListTextEditTest, OfTwoListsWithOneIdTheFirstCounts) {
   StartWith({"a/A/2330.TW", "a/B/1101.TW"});
   EXPECT_EQ(Add("a", "B", "2317.TW", 1, 0), 0);
