@@ -21,6 +21,13 @@ void Announce(int taken) {
   }
 }
 
+// Whether the lists of before are the first ones still. While symbols are resolved the terminal may
+// add, delete and replace lists.
+bool StartsWith(const CPtrArray& lists, const CPtrArray& before) {
+  return lists.GetSize() >= before.GetSize() &&
+         std::equal(before.begin(), before.end(), lists.begin());
+}
+
 } // namespace
 
 int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) {
@@ -72,6 +79,8 @@ int CTQSymbolListMgr::ImportLists(const std::vector<tq::ImportedList>& lists, in
 }
 
 bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& index) {
+  CPtrArray before;
+  before.Copy(lists_);
   const int found = index.FindById(from.id);
   if (found >= 0) {
     // One that the user has renamed is the user's own; so are lists that the terminal moved or
@@ -80,6 +89,8 @@ bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& i
     if (list == nullptr || !list->IsSameID(from.id) || !list->IsSameName(from.name))
       return false;
     list->Update1(from.symbols);
+    if (!StartsWith(lists_, before) || lists_.GetSize() != before.GetSize())
+      index = tq::ListIndex(lists_);
     return true;
   }
   const auto taken = [&](const CString& name) { return index.HasName(name); };
@@ -87,7 +98,12 @@ bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from, tq::ListIndex& i
   if (taken(name))
     return false;
   PutNewList(from.id, name, from.symbols, 1);
-  index.Add(*tq::ListAt(lists_, lists_.GetUpperBound()), lists_.GetUpperBound());
+  const int last = lists_.GetUpperBound();
+  if (last == before.GetSize() && StartsWith(lists_, before) &&
+      tq::ListAt(lists_, last)->IsSameID(from.id))
+    index.Add(*tq::ListAt(lists_, last), last);
+  else
+    index = tq::ListIndex(lists_);
   return true;
 }
 

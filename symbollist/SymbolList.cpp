@@ -4,6 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/XmlDocument.h"
+#include "symbollist/LifeWatch.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/SystemListId.h"
 
@@ -16,12 +17,19 @@ CSymbolList::CSymbolList(const CSymbolList& other) : CIDList(other), info_(other
 CSymbolList::~CSymbolList() = default;
 
 void CSymbolList::SetID(const char* id) {
-  tq::CopyCut(info_.ID, tq::StorableText(id));
+  const tq::LifeWatch watch(watch_);
+  const CString kept = tq::StorableText(id); // which may log, and the terminal delete the list
+  if (watch.IsGone())
+    return;
+  tq::CopyCut(info_.ID, kept);
   UpdateFlag();
 }
 
 void CSymbolList::SetName(const char* name) {
-  tq::CopyCut(info_.Name, tq::StorableText(name));
+  const tq::LifeWatch watch(watch_);
+  const CString kept = tq::StorableText(name);
+  if (!watch.IsGone())
+    tq::CopyCut(info_.Name, kept);
 }
 
 void CSymbolList::ToXml(CString& out) {

@@ -36,7 +36,15 @@ CTQSymbolListMgr::~CTQSymbolListMgr() {
 int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
                            int loadSystemLists, CStringArray* systemListNames, int useUserDefExch,
                            int loadTradingLists) {
-  dataDirectory_ = dataDirectory;
+  // The tables first: while they are built the terminal may save, and must find the lists of before
+  // with their directory.
+  const CString directory = dataDirectory;
+  tq::OpenLog();
+  delete symbolTables_;
+  symbolTables_ = new CSymbolTableMgr;
+  const bool built = initSymbolTables == 0 || BuildSymbolTables() != 0;
+
+  dataDirectory_ = directory;
   systemListsWanted_ = loadSystemLists;
   tradingListsWanted_ = loadTradingLists;
   useUserDefExch_ = useUserDefExch;
@@ -49,11 +57,7 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   keptFiles_->ForgetAll();
   StartTradingLists();
   ClearAllSymbols();
-  delete symbolTables_;
-  symbolTables_ = nullptr;
-  tq::OpenLog();
-  symbolTables_ = new CSymbolTableMgr;
-  if (initSymbolTables != 0 && BuildSymbolTables() == 0)
+  if (!built)
     return 0;
 
   const CString listFile = FilePath(tq::kListFileName);
