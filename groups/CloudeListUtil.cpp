@@ -66,6 +66,6 @@ void CCloudeListUtil::TakeOver(CGroupList& group, const tq::CloudMap& lists, con
   const tq::CloudList list = *found; // the terminal may set it anew while its symbols are resolved
   group.SetName(list.info.Name);
   group.Update1(list.symbols);
-  tq::LogLine(tq::kLogChange, "%s ListName=%s, Symbols=%s", who, list.info.Name,
-              group.GetIDs().GetString());
+  const CString ids = group.GetIDs(); // which may change while the line is written
+  tq::LogLine(tq::kLogChange, "%s ListName=%s, Symbols=%s", who, list.info.Name, ids.GetString());
 }

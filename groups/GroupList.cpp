@@ -29,19 +29,15 @@ const CString& CGroupList::GetIDs() {
   return CIDList::GetIDs();
 }
 
-// The lines show what the list holds now; asking through GetIDs would fetch members to write a
-// line.
 int CGroupList::Update3() {
   const int result = CIDList::Update3();
-  tq::LogLine(tq::kLogChange, "CGroupList::Update3 GroupName=%s, Symbols=%s", info_.szName,
-              CIDList::GetIDs().GetString());
+  LogContents("CGroupList::Update3 GroupName=%s, Symbols=%s");
   return result;
 }
 
 int CGroupList::Update2(SymbolInfo* records, int count) {
   const int result = CIDList::Update2(records, count);
-  tq::LogLine(tq::kLogChange, "CGroupList::Update2 GroupName=%s, Symbols=%s", info_.szName,
-              CIDList::GetIDs().GetString());
+  LogContents("CGroupList::Update2 GroupName=%s, Symbols=%s");
   return result;
 }
 
@@ -49,9 +45,16 @@ int CGroupList::Update2(SymbolInfo* records, int count) {
 // them.
 int CGroupList::Update1(const CString& ids) {
   const int result = CIDList::Update1(ids);
-  tq::LogLine(tq::kLogChange, "CGroupList::Update1 GroupName = %s, Symbols = %s", info_.szName,
-              CIDList::GetIDs().GetString());
+  LogContents("CGroupList::Update1 GroupName = %s, Symbols = %s");
   return result;
+}
+
+// What the list holds now; asking through GetIDs would fetch members to write a line. Of the texts
+// there are copies, since the terminal may change them while the line is written.
+void CGroupList::LogContents(const char* format) {
+  const CString name = info_.szName;
+  const CString ids = CIDList::GetIDs();
+  tq::LogLine(tq::kLogChange, format, name.GetString(), ids.GetString());
 }
 
 int CGroupList::LoadSymbols() {

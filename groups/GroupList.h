@@ -51,6 +51,8 @@ public:
   tq::GroupLevel& MakeSubs();
 
 private:
+  void LogContents(const char* format);
+
   GroupInfo info_;
   std::unique_ptr<tq::GroupLevel> subs_;
 };

@@ -80,18 +80,20 @@ int CIDList::Update2(SymbolInfo* records, int count) {
     std::memcpy(&records_[count_], &records[i], sizeof(SymbolInfo));
     ids.push_back(tq::IdOf(records_[count_++]));
   }
-  if (records != nullptr)
-    VLFree(records);
   StoreEntries(ids);
   tq::SplitIdString(ids_, tokens_);
   for (int row = 0; row < count_; ++row)
     rowTokens_.Add(static_cast<unsigned>(row));
+  // Last: from within the call the terminal may delete the list.
+  if (records != nullptr)
+    VLFree(records);
   return 1;
 }
 
 int CIDList::Update1(const CString& ids) {
-  const CString kept = tq::StorableText(ids);
-  if (kept == ids_)
+  const tq::LifeWatch watch(watch_);
+  const CString kept = tq::StorableText(ids); // which may log, and the terminal delete the list
+  if (watch.IsGone() || kept == ids_)
     return 0;
   modified_ = 1;
   DiscardRecords();
@@ -135,22 +137,27 @@ CIDList::Rows CIDList::Resolve() {
     count_ = 0;
     return Rows::None;
   }
-  tq::ServiceArray<SymbolInfo> answer;
-  if (tokens_.GetSize() > split.headings) {
-    const CString asked = ids_;
-    const CString lookup = split.plain ? asked : tq::LookupString(asked);
-    const tq::LifeWatch watch(watch_);
+  if (tokens_.GetSize() == split.headings)
+    TakeRows(nullptr, 0, split.headings);
+  else if (!Ask(split.headings, split.plain ? ids_ : tq::LookupString(ids_)))
+    return Rows::ListGone;
+  return State();
+}
+
+// False when the list is gone, which the terminal may delete whenever the service is called, also
+// to take its answer back.
+bool CIDList::Ask(int headings, const CString& lookup) {
+  const CString asked = ids_;
+  const tq::LifeWatch watch(watch_);
+  {
+    tq::ServiceArray<SymbolInfo> answer;
     const int answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count());
-    if (watch.IsGone())
-      return Rows::ListGone;
     // What the list has now, if the terminal changed it from within the call, was resolved then or
     // could not be; this answer is to another question.
-    if (answered == 0 || ids_ != asked)
-      return State();
+    if (!watch.IsGone() && answered != 0 && ids_ == asked)
+      TakeRows(answer.Records().data(), static_cast<int>(answer.Records().size()), headings);
   }
-  const std::span<const SymbolInfo> found = answer.Records();
-  TakeRows(found.data(), static_cast<int>(found.size()), split.headings);
-  return Rows::There;
+  return !watch.IsGone();
 }
 
 void CIDList::TakeRows(const SymbolInfo* found, int foundCount, int headings) {

@@ -96,6 +96,7 @@ private:
   void CopyContents(const CIDList& other);
   Rows ResolveIfDue();
   Rows Resolve();
+  bool Ask(int headings, const CString& lookup);
   Rows State() const { return records_ != nullptr ? Rows::There : Rows::None; }
   void TakeRows(const SymbolInfo* found, int foundCount, int headings);
   std::vector<std::string_view> Entries() const;

@@ -5,6 +5,7 @@
 
 #include "symbollist/IDList.h"
 #include "symbollist/IdString.h"
+#include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"
 #include "symbollist/StorableText.h"
 #include "symboltable/UpperText.h"
@@ -41,8 +42,9 @@ int CIDList::SwapEntries(int first, int second) {
 }
 
 int CIDList::ReplaceEntry(int row, const CString& text) {
-  const CString kept = tq::StorableText(text);
-  if (ResolveIfDue() != Rows::There || row < 0 || row >= count_ ||
+  const tq::LifeWatch watch(watch_);
+  const CString kept = tq::StorableText(text); // which may log, and the terminal delete the list
+  if (watch.IsGone() || ResolveIfDue() != Rows::There || row < 0 || row >= count_ ||
       !tq::IsOneToken(tq::ViewOf(kept)))
     return 0;
   std::vector<std::string_view> entries = Entries();
@@ -51,9 +53,10 @@ int CIDList::ReplaceEntry(int row, const CString& text) {
 }
 
 int CIDList::InsertEntry(int row, const CString& text, bool before) {
+  const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(text);
   // Without its rows a list that has ids cannot tell which place is meant.
-  const Rows rows = ResolveIfDue();
+  const Rows rows = watch.IsGone() ? Rows::ListGone : ResolveIfDue();
   if (rows == Rows::ListGone || (rows == Rows::None && !ids_.IsEmpty()))
     return 0;
   if (!tq::IsOneToken(tq::ViewOf(kept)) || (!tq::IsHeading(tq::ViewOf(kept)) && Holds(kept)))

@@ -48,6 +48,11 @@ const char* WhyUnknown(LoadOutcome outcome) {
   return "the lists in memory do not come from it";
 }
 
+void Say(const CString& line) {
+  if (!line.IsEmpty())
+    LogLine(kLogChange, "%s", line.GetString());
+}
+
 } // namespace
 
 ReadResult ReadContents(const CString& path, std::size_t limit, FileContents& contents) {
@@ -80,7 +85,7 @@ KeptFiles::File& KeptFiles::FileAt(const CString& path) {
   return files_.back();
 }
 
-void KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents contents) {
+bool KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents contents) {
   --loads_;
   if (outcome != LoadOutcome::Whole)
     ForgetAll();
@@ -88,20 +93,26 @@ void KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents c
   file.outcome = outcome;
   file.known = outcome == LoadOutcome::Whole || outcome == LoadOutcome::Empty;
   file.contents = file.known ? std::move(contents) : FileContents();
+  return std::exchange(file.savedInLoad, false);
 }
 
+// The line comes behind the save: the terminal may change and save the lists while it is written,
+// and the bytes given here, which are older, must not follow those.
 SaveResult KeptFiles::Save(const CString& path, std::string bytes) {
-  if (!MayWrite(path))
-    return SaveResult::NotOpened;
-  const SaveResult result = Files().SaveWholeFile(path, bytes.data(), bytes.size());
+  CString line;
+  SaveResult result = SaveResult::NotOpened;
+  if (MayWrite(path, line))
+    result = Files().SaveWholeFile(path, bytes.data(), bytes.size());
   if (result == SaveResult::Saved)
     NoteSaved(path, std::move(bytes));
+  Say(line);
   return result;
 }
 
 void KeptFiles::NoteSaved(const CString& path, std::string bytes) {
   File& file = FileAt(path);
   file.outcome = LoadOutcome::Whole;
+  file.savedInLoad = loads_ > 0;
   file.known = true;
   file.contents = {};
   Files().StateOf(path, file.contents.stamp);
@@ -112,6 +123,13 @@ void KeptFiles::NoteSaved(const CString& path, std::string bytes) {
 }
 
 bool KeptFiles::MayWrite(const CString& path) {
+  CString line;
+  const bool may = MayWrite(path, line);
+  Say(line);
+  return may;
+}
+
+bool KeptFiles::MayWrite(const CString& path, CString& line) {
   FileStamp stamp;
   const FileState state = Files().StateOf(path, stamp);
   if (state == FileState::Missing || state == FileState::Other)
@@ -124,8 +142,8 @@ bool KeptFiles::MayWrite(const CString& path) {
   if (result == ReadResult::Missing)
     return true;
   if (result != ReadResult::Ok) {
-    LogLine(kLogChange, "List file %s is not saved: what it holds cannot be read and kept",
-            path.GetString());
+    line.Format("List file %s is not saved: what it holds cannot be read and kept",
+                path.GetString());
     return false;
   }
   const bool same = Knows(file) && now.bytes == file.contents.bytes;
@@ -133,24 +151,24 @@ bool KeptFiles::MayWrite(const CString& path) {
     file.contents.stamp = now.stamp;
     return true;
   }
-  return HoldsNoList(now.bytes) || Keep(file, std::move(now));
+  return HoldsNoList(now.bytes) || Keep(file, std::move(now), line);
 }
 
 // `now` is what the file holds. Once it has been kept it is known.
-bool KeptFiles::Keep(File& file, FileContents now) {
+bool KeptFiles::Keep(File& file, FileContents now, CString& line) {
   const bool same = file.known && now.bytes == file.contents.bytes;
   const char* why = WhyUnknown(file.outcome);
   if (Knows(file))
     why = same ? "it holds what cannot be written back" : "another program has written it";
   const KeepResult result = KeepCopy(file.path, now.bytes, file.lastCopy);
   if (result == KeepResult::Failed) {
-    LogLine(kLogChange, "List file %s is not saved: what it holds cannot be kept beside it",
-            file.path.GetString());
+    line.Format("List file %s is not saved: what it holds cannot be kept beside it",
+                file.path.GetString());
     return false;
   }
   if (result == KeepResult::Kept)
-    LogLine(kLogChange, "List file %s is kept as %s: %s", file.path.GetString(),
-            KeptCopyPath(file.path, file.lastCopy).GetString(), why);
+    line.Format("List file %s is kept as %s: %s", file.path.GetString(),
+                KeptCopyPath(file.path, file.lastCopy).GetString(), why);
   file.known = true;
   file.contents = std::move(now);
   return true;

@@ -51,8 +51,9 @@ public:
   // known, for the symbol-data service may let the terminal save meanwhile.
   void BeginLoad() { ++loads_; }
   // It ended. After Whole that file is known, and the others stay as they are; after Empty that
-  // file alone is, after any other outcome none.
-  void EndLoad(const CString& path, LoadOutcome outcome, FileContents contents);
+  // file alone is, after any other outcome none. Returns whether the terminal saved into the file
+  // since the load began: what it holds then is not what was read.
+  bool EndLoad(const CString& path, LoadOutcome outcome, FileContents contents);
 
   // Saves `bytes`, the manager's lists, which makes the file known. Results as
   // FileAccess::SaveWholeFile; NotOpened also when MayWrite says no.
@@ -70,13 +71,17 @@ private:
     bool known = false;
     FileContents contents;
     LoadOutcome outcome = LoadOutcome::NotTried;
+    bool savedInLoad = false;
     int lastCopy = -1;
   };
 
   void NoteSaved(const CString& path, std::string bytes);
   bool Knows(const File& file) const { return file.known && loads_ == 0; }
   File& FileAt(const CString& path);
-  bool Keep(File& file, FileContents now);
+  // The same as MayWrite, with the line to be logged: by the caller, when all is done, since the
+  // terminal may save, load or start anew while it is written.
+  bool MayWrite(const CString& path, CString& line);
+  bool Keep(File& file, FileContents now, CString& line);
 
   std::vector<File> files_; // seldom more than two
   int loads_ = 0;           // that have begun and not ended

@@ -4,6 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/XmlDocument.h"
+#include "symbollist/LifeWatch.h"
 #include "symbollist/ListIndex.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/SystemListId.h"
@@ -20,7 +21,10 @@ CSymbolList::~CSymbolList() {
 }
 
 void CSymbolList::SetID(const char* id) {
-  const CString kept = tq::StorableText(id);
+  const tq::LifeWatch watch(watch_);
+  const CString kept = tq::StorableText(id); // which may log, and the terminal delete the list
+  if (watch.IsGone())
+    return;
   if (index_ != nullptr)
     index_->ForgetId(*this);
   tq::CopyCut(info_.ID, kept);
@@ -30,7 +34,10 @@ void CSymbolList::SetID(const char* id) {
 }
 
 void CSymbolList::SetName(const char* name) {
+  const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(name);
+  if (watch.IsGone())
+    return;
   if (index_ != nullptr)
     index_->ForgetName(*this);
   tq::CopyCut(info_.Name, kept);

@@ -38,11 +38,19 @@ CTQSymbolListMgr::~CTQSymbolListMgr() {
 int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
                            int loadSystemLists, CStringArray* systemListNames, int useUserDefExch,
                            int loadTradingLists) {
-  dataDirectory_ = dataDirectory;
   systemListsWanted_ = loadSystemLists;
   tradingListsWanted_ = loadTradingLists;
   useUserDefExch_ = useUserDefExch;
   bCN_ = bCN;
+  ClearAllSymbols();
+  // The tables before the directory: while they are built the terminal may save, and must find the
+  // lists of before with the directory that they are from.
+  const CString directory = dataDirectory;
+  tq::OpenLog();
+  delete symbolTables_;
+  symbolTables_ = new CSymbolTableMgr;
+  const bool built = initSymbolTables == 0 || BuildSymbolTables() != 0;
+  dataDirectory_ = directory;
 
   // Here and not only when the file is loaded: a start that fails at the tables must not leave the
   // lists of the directory before, for the next save would put them into this one. Nor may that
@@ -50,12 +58,7 @@ int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTab
   ClearSymbolList();
   keptFiles_->ForgetAll();
   StartTradingLists();
-  ClearAllSymbols();
-  delete symbolTables_;
-  symbolTables_ = nullptr;
-  tq::OpenLog();
-  symbolTables_ = new CSymbolTableMgr;
-  if (initSymbolTables != 0 && BuildSymbolTables() == 0)
+  if (!built)
     return 0;
 
   const CString listFile = FilePath(tq::kListFileName);

@@ -101,12 +101,21 @@ int CTQSymbolListMgr::AddNewList(const CString& id, const CString& name, const C
 
 void CTQSymbolListMgr::PutNewList(const CString& id, const CString& name, const CString& symbols,
                                   int append) {
-  auto* list = new CSymbolList;
+  const unsigned before = lists_->Changes();
+  auto list = std::make_unique<CSymbolList>();
   list->Update1(symbols);
   list->SetID(id);
   list->SetName(name);
-  ReplaceSymbolListExchID(list, tq::kMovedFromExchange, tq::kMovedToExchange);
-  PutSymbolList(list, append);
+  ReplaceSymbolListExchID(list.get(), tq::kMovedFromExchange, tq::kMovedToExchange);
+  // While the symbols were resolved the terminal may have added this very list, or one of its name.
+  if (lists_->Changes() != before) {
+    if (CSymbolList* const other = FindUserList(id)) {
+      other->Update1(symbols);
+      return;
+    }
+    list->SetName(AdjustFileName(name));
+  }
+  PutSymbolList(list.release(), append);
 }
 
 int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {

@@ -16,9 +16,10 @@ int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) {
 
 int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, int before,
                                        int heading) {
-  CSymbolList* list = FindUserList(id);
-  // Cleaned before the ":" is put behind it: a heading of nothing is no heading.
+  // Cleaned before the ":" is put behind it: a heading of nothing is no heading. And before the
+  // list is looked for: what is left out is logged, and the terminal may delete lists meanwhile.
   const CString kept = tq::StorableText(text);
+  CSymbolList* list = FindUserList(id);
   if (list == nullptr || !tq::IsOneToken(tq::ViewOf(kept)))
     return 0;
   return list->InsertEntry(position, heading != 0 ? kept + ":" : kept, before != 0);

@@ -94,8 +94,9 @@ int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
   const tq::SaveResult result = tq::MakeListFileText(*lists_, index, text)
                                     ? keptFiles_->Save(path, std::move(text))
                                     : tq::SaveResult::NotOpened;
-  if (result != tq::SaveResult::NotOpened)
-    defaultIndex_ = index;
+  // Looked at again, for a save may log, and the terminal work on the lists from there.
+  if (result != tq::SaveResult::NotOpened && defaultIndex_ < 0 && !lists_.IsEmpty())
+    defaultIndex_ = 0;
   return Report(result);
 }
 

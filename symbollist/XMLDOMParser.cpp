@@ -82,9 +82,12 @@ void CXMLDOMParser::LoadSymbolList(const CString& path) {
   // read leaves none.
   manager_.lists_->Replace(lists);
   manager_.SetDefaultIndex(defaultIndex);
-  manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
+  const bool saved = manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
   if (outcome_ == tq::LoadOutcome::Empty)
     manager_.SaveSymbolList();
+  // What was saved meanwhile were the lists of before, or none at a start. A copy of it is kept.
+  else if (saved && outcome_ == tq::LoadOutcome::Whole)
+    manager_.DoSaveSymbolList(path);
 }
 
 tq::LoadOutcome CXMLDOMParser::ReadLists(CPtrArray& lists, int& defaultIndex) {

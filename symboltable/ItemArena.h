@@ -14,8 +14,9 @@ namespace tq {
 class ItemArena {
 public:
   ItemArena() = default;
-  ItemArena(const ItemArena&) = delete;
-  ItemArena& operator=(const ItemArena&) = delete;
+  // With the items, which stay where they are. Only good for a new one after having been moved from.
+  ItemArena(ItemArena&&) = default;
+  ItemArena& operator=(ItemArena&&) = default;
 
   // Gives back all memory and makes one block of `count` places. No item may be left.
   void Reset(std::size_t count);

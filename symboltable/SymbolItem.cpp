@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <utility>
 
 #include "platform/services/tqStock.h"
 
@@ -50,12 +51,6 @@ unsigned BitOf(int field) {
 CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
                          tq::ItemTextReader& reader)
     : id_(place.id), number_(place.number), keyLength_(place.keyLength), exchId_(place.exchId) {
-  UpdateFrom(key, reader);
-}
-
-CSymbolItem::~CSymbolItem() = default;
-
-void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) {
   ReadNumbers(key);
   key.GetFieldString(FieldSymbolName, name_);
   mark_ = reader.ReadLetter(key, FieldMark);
@@ -63,6 +58,27 @@ void CSymbolItem::UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader) 
   texts_ = reader.Read(key, Symbol(), codeIsSymbol);
   if (codeIsSymbol)
     present_ |= static_cast<std::uint8_t>(CodeIsSymbolBit);
+}
+
+CSymbolItem::CSymbolItem(CSymbolItem&& read, std::uint32_t number) : CSymbolItem(std::move(read)) {
+  number_ = number;
+}
+
+CSymbolItem::~CSymbolItem() = default;
+
+void CSymbolItem::TakeAttributes(CSymbolItem&& read) {
+  name_ = std::move(read.name_);
+  texts_ = std::move(read.texts_);
+  exchId_ = read.exchId_;
+  kind_ = read.kind_;
+  board_ = read.board_;
+  legExchange_ = read.legExchange_;
+  expiryDate_ = read.expiryDate_;
+  tradeLot_ = read.tradeLot_;
+  priceScale_ = read.priceScale_;
+  decimals_ = read.decimals_;
+  present_ = read.present_;
+  mark_ = read.mark_;
 }
 
 void CSymbolItem::ReadNumbers(const CStaticKey& key) {

@@ -34,6 +34,8 @@ class CSymbolItem final {
 public:
   // Copies the attributes out of `key`, which was set up.
   CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place, tq::ItemTextReader& reader);
+  // An item of a table, out of one that is in none, with the table's number for it.
+  CSymbolItem(CSymbolItem&& read, std::uint32_t number);
   virtual ~CSymbolItem();
   CSymbolItem(const CSymbolItem&) = delete;
   CSymbolItem& operator=(const CSymbolItem&) = delete;
@@ -43,9 +45,11 @@ public:
   const CString& Id() const { return id_; } // in full
   const CString& Name() const { return name_; }
   std::uint32_t Number() const { return number_; }
+  int ExchId() const { return exchId_; }
 
-  // Takes over the attributes of `key`, which was set up for the same symbol. Id and place stay.
-  void UpdateFrom(const CStaticKey& key, tq::ItemTextReader& reader);
+  // Takes over the attributes of an item in no table, which was read for the same symbol. Id and
+  // place stay.
+  void TakeAttributes(CSymbolItem&& read);
 
   // The attribute with a field code of tqStock as a number; non-zero when the item or the service
   // has it. Otherwise `value` is -1, for field 186 1. A number that an int cannot hold is the
@@ -76,6 +80,7 @@ private:
   static constexpr int kAbsent = -1; // a number that nobody gave
 
   std::string_view Symbol() const { return tq::SplitId(tq::ViewOf(id_)).symbol; }
+  CSymbolItem(CSymbolItem&& read) = default;
   void ReadNumbers(const CStaticKey& key);
   int HeldNumber(int field) const;
   void GetHeldText(int index, CString& value) const;

@@ -1,6 +1,7 @@
 #include "symboltable/SymbolTable.h"
 
 #include <new>
+#include <utility>
 
 #include "platform/services/tqStock.h"
 #include "symboltable/UpperText.h"
@@ -50,12 +51,20 @@ void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
     Insert(key, id, reader);
 }
 
+// All attributes are read before a place is taken: while one is read the terminal may empty the
+// table, load it or change it.
 void CSymbolTable::Insert(const CStaticKey& attributes, const CString& id,
                           tq::ItemTextReader& reader) {
+  CSymbolItem read = Read(attributes, id, exchId_, reader);
   const std::uint32_t number = arena_.TakePlace();
-  const std::string_view key = KeyOf(tq::ViewOf(id));
-  const tq::ItemPlace place{id, static_cast<std::uint32_t>(key.size()), number, exchId_};
-  Append(new (arena_.PlaceAt(number)) CSymbolItem(attributes, place, reader));
+  Append(new (arena_.PlaceAt(number)) CSymbolItem(std::move(read), number));
+}
+
+CSymbolItem CSymbolTable::Read(const CStaticKey& attributes, const CString& id, int exchId,
+                               tq::ItemTextReader& reader) const {
+  constexpr std::uint32_t noNumber = 0;
+  const auto keyLength = static_cast<std::uint32_t>(KeyOf(tq::ViewOf(id)).size());
+  return CSymbolItem(attributes, {id, keyLength, noNumber, exchId}, reader);
 }
 
 // What the index keeps of an item.

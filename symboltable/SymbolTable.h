@@ -103,6 +103,9 @@ private:
   void InsertAll(std::span<const BaseAttr> records);
   void Insert(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader);
   int ReadId(const CStaticKey& key, CString& id) const;
+  CSymbolItem Read(const CStaticKey& key, const CString& id, int exchId,
+                   tq::ItemTextReader& reader) const;
+  void UpdateOne(const CStaticKey& key, const CString& id, tq::ItemTextReader& reader);
   static tq::KeyIndex::Entry EntryOf(const CSymbolItem& item);
   void Append(CSymbolItem* item);
   void Unchain(CSymbolItem* item);

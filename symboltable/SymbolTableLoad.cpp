@@ -1,6 +1,7 @@
 // How a table takes symbols over from the service.
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/services/tqStock.h"
 #include "symboltable/ServiceArray.h"
@@ -12,10 +13,14 @@ int CSymbolTable::Load() {
   tq::ServiceArray<BaseAttr> symbols;
   if (!VLGetBaseAttrs2(exchId_, allSections, symbols.List(), symbols.Count(), 0, 1))
     return 0;
-  const std::span<const BaseAttr> records = symbols.Records();
-  Clear(); // again: while it was asked the terminal may have loaded the table or added to it
-  Reserve(records.size());
-  InsertAll(records);
+  // Filled apart: while attributes are read the terminal may load this table, add to it or empty
+  // it. Of several loadings the one that ends last counts.
+  CSymbolTable fresh(exchName_, exchId_);
+  fresh.Reserve(symbols.Records().size());
+  fresh.InsertAll(symbols.Records());
+  std::swap(chains_, fresh.chains_);
+  std::swap(arena_, fresh.arena_);
+  std::swap(index_, fresh.index_);
   loaded_ = !index_.IsEmpty();
   return 1;
 }
@@ -58,14 +63,24 @@ int CSymbolTable::Update(const CString& symbols) {
   for (const BaseAttr& record : updated.Records()) {
     CStaticKey key;
     CString id;
-    if (record.code[0] == '\0' || record.usable == 0 || !key.Setup(&record) || !ReadId(key, id))
-      continue;
-    const Place place = Find(tq::MakeKey(KeyOf(tq::ViewOf(id))));
-    if (place == kNoSymbol)
-      continue;
-    CSymbolItem* const item = arena_.At(index_.At(place).node);
-    item->UpdateFrom(key, reader);
-    index_.At(place) = EntryOf(*item);
+    if (record.code[0] != '\0' && record.usable != 0 && key.Setup(&record) && ReadId(key, id))
+      UpdateOne(key, id, reader);
   }
   return 1;
+}
+
+void CSymbolTable::UpdateOne(const CStaticKey& attributes, const CString& id,
+                             tq::ItemTextReader& reader) {
+  const tq::SymbolKey key = tq::MakeKey(KeyOf(tq::ViewOf(id)));
+  const Place before = Find(key);
+  if (before == kNoSymbol)
+    return;
+  CSymbolItem read = Read(attributes, id, At(before)->ExchId(), reader);
+  // Looked for again: while attributes are read the terminal may have taken the symbol out.
+  const Place place = Find(key);
+  if (place == kNoSymbol)
+    return;
+  CSymbolItem* const item = arena_.At(index_.At(place).node);
+  item->TakeAttributes(std::move(read));
+  index_.At(place) = EntryOf(*item);
 }

@@ -51,9 +51,8 @@ int CTQSymbolListMgr::DoLoadUserDefaultExchange(CUIntArray& ids) {
 void CTQSymbolListMgr::ClearDefaultExchangeData() {
   defaultExchanges_.RemoveAll();
   defaultRecords_.RemoveAll();
-  if (exchangeRecords_ != nullptr)
-    VLFree(exchangeRecords_);
-  exchangeRecords_ = nullptr;
+  if (ExchInfo* const records = std::exchange(exchangeRecords_, nullptr))
+    VLFree(records);
 }
 
 int CTQSymbolListMgr::InitDefaultExchange() {
@@ -64,10 +63,10 @@ int CTQSymbolListMgr::InitDefaultExchange() {
   LoadDefaultExchange(exchanges, useUserDefExch_, "");
   tq::ServiceArray<ExchInfo> list;
   const int result = VLGetExch(list.List(), list.Count(), 1);
-  ClearDefaultExchangeData();
   defaultExchanges_.Copy(exchanges);
   const size_t count = result == 0 ? 0 : list.Records().size();
-  exchangeRecords_ = list.Release();
+  tq::ServiceArray<ExchInfo> before; // given back last, when all is in place
+  *before.List() = std::exchange(exchangeRecords_, list.Release());
   const std::span<ExchInfo> records(exchangeRecords_, count);
   defaultRecords_.SetSize(defaultExchanges_.GetSize());
   for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {

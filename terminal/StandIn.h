@@ -171,8 +171,12 @@ TQSTANDIN_API void FailAlways(std::string_view operation);
 // Runs `action` inside each call of the operation, after the call is recorded and before it
 // answers, as a terminal does that hears of something while it is asked. An action does not run
 // inside of itself. An empty function and Reset take it back. Operations that are not recorded run
-// none.
+// theirs too, constructors and destructors excepted.
 TQSTANDIN_API void OnCall(std::string_view operation, std::function<void()> action);
+// The same for every operation, before the action of the operation's own. It runs inside of itself
+// as well: how deep it goes is its own matter.
+using CallWatch = std::function<void(std::string_view operation)>;
+TQSTANDIN_API void OnEachCall(CallWatch watch);
 
 struct Call {
   std::string operation;

@@ -82,8 +82,9 @@ TQLog& TQLog::operator()(int level) {
 }
 
 int TQLog::write(const char* format, ...) {
+  const bool proceed = BeginQuietly("TQLog::write");
   Logger& logger = Self(impl_);
-  if (OrderedToFail("TQLog::write") || !format || !logger.file)
+  if (!proceed || !format || !logger.file)
     return 0;
   std::va_list arguments;
   va_start(arguments, format);

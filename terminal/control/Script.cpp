@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <utility>
 
@@ -22,6 +23,7 @@ struct Script {
   std::map<std::string, int, std::less<>> countdowns;
   std::set<std::string, std::less<>> always;
   std::map<std::string, Action, std::less<>> actions;
+  std::shared_ptr<const CallWatch> watch;
   std::vector<Call> calls;
   bool recording = true;
 };
@@ -43,7 +45,7 @@ bool CountDown(Script& script, std::string_view operation) {
 // To be called whenever an order came or went.
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
-  actionsOrdered = !TheScript().actions.empty();
+  actionsOrdered = !TheScript().actions.empty() || TheScript().watch != nullptr;
 }
 
 Action* FindAction(std::string_view operation) {
@@ -95,7 +97,15 @@ void OnCall(std::string_view operation, std::function<void()> action) {
   NoteOrders();
 }
 
+void OnEachCall(CallWatch watch) {
+  TheScript().watch = watch ? std::make_shared<const CallWatch>(std::move(watch)) : nullptr;
+  NoteOrders();
+}
+
 void RunAction(std::string_view operation) {
+  // Held, since it may take itself back.
+  if (const std::shared_ptr<const CallWatch> watch = TheScript().watch)
+    (*watch)(operation);
   Action* const action = FindAction(operation);
   if (action == nullptr || action->running)
     return;

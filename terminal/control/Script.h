@@ -15,7 +15,7 @@ TQSTANDIN_API void Record(std::string_view operation, std::string arguments);
 extern TQSTANDIN_API bool failuresOrdered;
 TQSTANDIN_API bool CountAgainstOrders(std::string_view operation);
 
-// Whether there are any actions of OnCall; the second runs that of an operation.
+// Whether there are any actions of OnCall and OnEachCall; the second runs those of an operation.
 extern TQSTANDIN_API bool actionsOrdered;
 TQSTANDIN_API void RunAction(std::string_view operation);
 
@@ -45,13 +45,18 @@ template <class... Arguments> std::string JoinArguments(Arguments... arguments) 
   return text;
 }
 
+// Opens a call that is not recorded: false when it has to fail.
+inline bool BeginQuietly(std::string_view operation) {
+  if (actionsOrdered)
+    RunAction(operation);
+  return !OrderedToFail(operation);
+}
+
 // Opens a service call: false when it has to fail. `arguments` are the inputs, in order.
 template <class... Arguments> bool Begin(std::string_view operation, Arguments... arguments) {
   if (Recording())
     Record(operation, JoinArguments(arguments...));
-  if (actionsOrdered)
-    RunAction(operation);
-  return !OrderedToFail(operation);
+  return BeginQuietly(operation);
 }
 
 } // namespace standin

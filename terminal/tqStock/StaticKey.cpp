@@ -126,7 +126,7 @@ CStockAttr::CStockAttr() {
 
 int CStockAttr::GetID(CString& id, int full) const {
   const KeyState& state = StateOf(state_);
-  if (OrderedToFail("CStockAttr::GetID") || !state.record) {
+  if (!BeginQuietly("CStockAttr::GetID") || !state.record) {
     id = "";
     return 0;
   }
@@ -164,7 +164,7 @@ int CStaticKey::SetUpTrade(int exchId, const char* code) {
 int CStaticKey::GetFieldString(int field, CString& value) const {
   const KeyState& state = StateOf(state_);
   bool read = false;
-  if (OrderedToFail("CStaticKey::GetFieldString"))
+  if (!BeginQuietly("CStaticKey::GetFieldString"))
     read = false;
   else if (field == FieldTradeCode && state.tradeCode[0] != '\0')
     read = ReadTradeField(field, state.tradeExchId, state.tradeCode, value);
@@ -177,7 +177,7 @@ int CStaticKey::GetFieldString(int field, CString& value) const {
 
 int CStaticKey::GetFieldInt(int field, int& value) const {
   const KeyState& state = StateOf(state_);
-  if (OrderedToFail("CStaticKey::GetFieldInt") || !state.record)
+  if (!BeginQuietly("CStaticKey::GetFieldInt") || !state.record)
     return 0;
   return NumberField(Head(*state.record), field, value) ? 1 : 0;
 }

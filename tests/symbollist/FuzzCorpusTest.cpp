@@ -12,6 +12,7 @@
 #include "fuzz/IdStringInput.h"
 #include "fuzz/IdentifiersInput.h"
 #include "fuzz/ListFileInput.h"
+#include "fuzz/SequenceInput.h"
 
 namespace {
 
@@ -59,6 +60,10 @@ TEST_F(FuzzCorpus, IdStringsAreSplitAndResolvedAsTheirTextSays) {
 
 TEST_F(FuzzCorpus, IdentifiersHaveAnAnswerAndAreReadBack) {
   Replay("Identifiers", fuzz::CheckIdentifiers);
+}
+
+TEST_F(FuzzCorpus, SequencesOfOperationsLeaveListsThatAreWholeAndComeBack) {
+  Replay("Sequence", fuzz::CheckSequence);
 }
 
 } // namespace
