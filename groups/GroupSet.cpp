@@ -1,10 +1,10 @@
 #include "groups/GroupSet.h"
 
-CGroupSet::CGroupSet() : type(-1) {}
+CGroupSet::CGroupSet() noexcept : type(-1) {}
 
-CGroupSet::CGroupSet(const CGroupSet&) = default;
+CGroupSet::CGroupSet(const CGroupSet&) noexcept = default;
 
-CGroupSet& CGroupSet::operator=(const CGroupSet& other) {
+CGroupSet& CGroupSet::operator=(const CGroupSet& other) noexcept {
   if (this == &other)
     return *this;
   type = other.type;
@@ -16,11 +16,11 @@ CGroupSet& CGroupSet::operator=(const CGroupSet& other) {
 
 CGroupSet::~CGroupSet() = default;
 
-bool CGroupSet::operator==(const CGroupSet& other) const {
+bool CGroupSet::operator==(const CGroupSet& other) const noexcept {
   return type == other.type && id == other.id && name == other.name && subGroups == other.subGroups;
 }
 
-void CGroupSet::Reset() {
+void CGroupSet::Reset() noexcept {
   type = -1;
   id.Empty();
   name.Empty();

@@ -12,15 +12,15 @@
 class TQSYMBOL_API CGroupSet {
 public:
   // Type -1, everything else empty.
-  CGroupSet();
-  CGroupSet(const CGroupSet& other);
-  CGroupSet& operator=(const CGroupSet& other);
+  CGroupSet() noexcept;
+  CGroupSet(const CGroupSet& other) noexcept;
+  CGroupSet& operator=(const CGroupSet& other) noexcept;
   ~CGroupSet();
 
   // Equal types, equal texts (letter case counts), equal pairs in the same order.
-  bool operator==(const CGroupSet& other) const;
+  bool operator==(const CGroupSet& other) const noexcept;
   // Back to the state of a new one.
-  void Reset();
+  void Reset() noexcept;
 
   // The order of the fields is part of the interface.
   int type;

@@ -34,7 +34,7 @@ CString WithoutEmptyPieces(const CString& symbols) {
 } // namespace
 
 void CTQSymbolListMgr::SetCloudeList(const CString& id, const CString& name,
-                                     const CString& symbols) {
+                                     const CString& symbols) noexcept {
   tq::LogLine(tq::kLogChange, "CTQSymbolListMgr::SetCloudeList ListName=%s, Symbols=%s",
               name.GetString(), symbols.GetString());
   const tq::CloudList& list = cloudMap_->Set(id, name, symbols);
@@ -42,14 +42,14 @@ void CTQSymbolListMgr::SetCloudeList(const CString& id, const CString& name,
 }
 
 void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, const CString& name,
-                                             const CString& symbols) {
+                                             const CString& symbols) noexcept {
   tq::LogLine(tq::kLogChange, "CTQSymbolListMgr::UpdateCloudSymbolList ListName=%s, Symbols=%s",
               name.GetString(), symbols.GetString());
   cloudMap_->Set(id, name, symbols);
 }
 
 void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, int /*type*/, const CString& name,
-                                             const CString& symbols, int allowEmpty) {
+                                             const CString& symbols, int allowEmpty) noexcept {
   CSymbolList* const list = cloudLists_->Find(id);
   if (list == nullptr) {
     AddCloudSymbolList(id, name, symbols, allowEmpty);
@@ -60,7 +60,7 @@ void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, int /*type*/, co
 }
 
 int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
-                                         const CString& symbols, int allowEmpty) {
+                                         const CString& symbols, int allowEmpty) noexcept {
   if (tq::StorableText(name).IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
     return 0;
   if (CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
@@ -80,7 +80,7 @@ int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
   return 1;
 }
 
-int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) {
+int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) noexcept {
   if (lists == nullptr)
     return 0;
   CPtrArray copies;
@@ -96,11 +96,11 @@ int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) {
   return 1;
 }
 
-CString CTQSymbolListMgr::GetCloudeList() {
+CString CTQSymbolListMgr::GetCloudeList() noexcept {
   return cloudMap_->Text();
 }
 
-void CTQSymbolListMgr::UpdateCloudGroup(void* handle) {
+void CTQSymbolListMgr::UpdateCloudGroup(void* handle) noexcept {
   auto* group = static_cast<CGroupList*>(handle);
   const auto alive = tq::KeepAlive(group);
   if (group == nullptr || group->GetSubCount() > 0)
@@ -109,7 +109,7 @@ void CTQSymbolListMgr::UpdateCloudGroup(void* handle) {
   CCloudeListUtil::TakeOver(*group, *cloudMap_, id, "CTQSymbolListMgr::UpdateCloudGroup");
 }
 
-void CTQSymbolListMgr::RefreshCloudeSymbol() {
+void CTQSymbolListMgr::RefreshCloudeSymbol() noexcept {
   LoadGroupList(tq::kCloudGroupType);
   tq::Notify(tq::kNotifySymbols, "ListNameChange");
 }

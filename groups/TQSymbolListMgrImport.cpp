@@ -22,7 +22,7 @@ void Announce(int taken) {
 
 } // namespace
 
-int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) {
+int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) noexcept {
   std::vector<tq::ImportedList> lists;
   if (path.IsEmpty() || !tq::ReadImportFile(path, product, lists))
     return 0;
@@ -32,7 +32,7 @@ int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) {
   return 1;
 }
 
-int CTQSymbolListMgr::LoadOtherProductList() {
+int CTQSymbolListMgr::LoadOtherProductList() noexcept {
   const CString path = FilePath(tq::kImportFileName);
   const CString imported = FilePath(tq::kImportedFileName);
   if (path.IsEmpty() || !tq::Files().FileExists(path))
@@ -84,12 +84,12 @@ bool CTQSymbolListMgr::ImportList(const tq::ImportedList& from) {
   return true;
 }
 
-void CTQSymbolListMgr::AddExtraTQInfo(const CString& info) {
+void CTQSymbolListMgr::AddExtraTQInfo(const CString& info) noexcept {
   if (!info.IsEmpty() && std::find(extraInfo_.begin(), extraInfo_.end(), info) == extraInfo_.end())
     extraInfo_.push_back(info);
 }
 
-void CTQSymbolListMgr::RemoveExtraTQInfo(const CString& info) {
+void CTQSymbolListMgr::RemoveExtraTQInfo(const CString& info) noexcept {
   const auto found = std::find(extraInfo_.begin(), extraInfo_.end(), info);
   if (found != extraInfo_.end())
     extraInfo_.erase(found);

@@ -49,7 +49,7 @@ tq::TradingTable* CTQSymbolListMgr::TradingTable() const {
   return tradingListsWanted_ != 0 ? tradingTable_ : nullptr;
 }
 
-int CTQSymbolListMgr::LoadTSList() {
+int CTQSymbolListMgr::LoadTSList() noexcept {
   if (TradingTable() == nullptr || CheckSymbolListExist(kAllHoldings, tq::kTradingLists) != 0)
     return 0;
   return AddTSSymbolList(kAllHoldings, tq::kUserLists, tq::LibraryString(tq::kStringAllHoldings),
@@ -58,7 +58,7 @@ int CTQSymbolListMgr::LoadTSList() {
 
 // Whenever the service is asked or the terminal is told, the terminal may log in, change holdings
 // or start anew: what is needed is looked up again behind each of these calls.
-void CTQSymbolListMgr::UpdateTSLogin(CString tsId) {
+void CTQSymbolListMgr::UpdateTSLogin(CString tsId) noexcept {
   if (TradingTable() == nullptr)
     return;
   DeleteAccountLists(tsId);
@@ -95,7 +95,8 @@ void CTQSymbolListMgr::UpdateAccountLists(const CString& tsId) {
   }
 }
 
-void CTQSymbolListMgr::UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type) {
+void CTQSymbolListMgr::UpDataTSAccHodling(CString tsId, CString accountId,
+                                          TqsAccType type) noexcept {
   if (TradingTable() == nullptr)
     return;
   if (!tsId.IsEmpty() && !accountId.IsEmpty())
@@ -111,7 +112,7 @@ void CTQSymbolListMgr::UpDataTSAccHodling(CString tsId, CString accountId, TqsAc
 }
 
 int CTQSymbolListMgr::GetTSAccHodling(const CString& tsId, const CString& accountId,
-                                      CString& symbols) {
+                                      CString& symbols) noexcept {
   const tq::CTS* system = TradingTable() == nullptr ? nullptr : tradingTable_->Find(tsId);
   if (system == nullptr)
     return 0;
@@ -125,7 +126,7 @@ int CTQSymbolListMgr::GetTSAccHodling(const CString& tsId, const CString& accoun
 }
 
 int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
-                                       const CString& accountId, CString& symbols) {
+                                       const CString& accountId, CString& symbols) noexcept {
   if (TradingTable() == nullptr || tsId.IsEmpty())
     return 0;
   const tq::CTS* system = tradingTable_->Find(tsId);
@@ -138,7 +139,8 @@ int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
   return 1;
 }
 
-int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type, CString& symbols) {
+int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
+                                       CString& symbols) noexcept {
   const tq::CTS* system =
       TradingTable() == nullptr || tsId.IsEmpty() ? nullptr : tradingTable_->Find(tsId);
   if (system == nullptr)

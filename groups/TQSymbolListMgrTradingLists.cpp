@@ -45,7 +45,7 @@ void AddKnownSymbols(CSymbolList& list, const CString& symbols) {
 } // namespace
 
 int CTQSymbolListMgr::AddTSSymbolList(const CString& id, int kind, const CString& name,
-                                      const CString& symbols, int allowEmpty) {
+                                      const CString& symbols, int allowEmpty) noexcept {
   if (TradingTable() == nullptr || name.IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
     return 0;
   const CString suffix = "-" + tq::LibraryString(tq::kStringUpdate);
@@ -77,7 +77,7 @@ int CTQSymbolListMgr::AddTSSymbolList(const CString& id, int kind, const CString
 }
 
 int CTQSymbolListMgr::UpdateTSSymbolList(const CString& id, int kind, const CString& name,
-                                         const CString& symbols, int allowEmpty) {
+                                         const CString& symbols, int allowEmpty) noexcept {
   if (TradingTable() == nullptr)
     return 0;
   CSymbolList* list = FindList(id, tq::kTradingLists);
@@ -90,7 +90,7 @@ int CTQSymbolListMgr::UpdateTSSymbolList(const CString& id, int kind, const CStr
   return 1;
 }
 
-int CTQSymbolListMgr::DeleteTSSymbolList(CString id) {
+int CTQSymbolListMgr::DeleteTSSymbolList(CString id) noexcept {
   CSymbolList* const list = TradingTable() == nullptr ? nullptr : tradingLists_->Find(id);
   if (list == nullptr)
     return 0;
@@ -113,12 +113,12 @@ void CTQSymbolListMgr::DeleteAccountLists(const CString& tsId) {
   });
 }
 
-void CTQSymbolListMgr::ClearTSSymbolList() {
+void CTQSymbolListMgr::ClearTSSymbolList() noexcept {
   if (TradingTable() != nullptr)
     tradingLists_->Destroy();
 }
 
-void CTQSymbolListMgr::BuildTSListToSymbolList() {
+void CTQSymbolListMgr::BuildTSListToSymbolList() noexcept {
   if (TradingTable() == nullptr)
     return;
   ClearTSSymbolList();

@@ -27,9 +27,9 @@ bool NamesASymbol(const SymbolInfo& record) {
 
 } // namespace
 
-CIDList::CIDList() : watch_(nullptr), records_(nullptr), count_(0), modified_(0) {}
+CIDList::CIDList() noexcept : watch_(nullptr), records_(nullptr), count_(0), modified_(0) {}
 
-CIDList::CIDList(const CIDList& other) : CIDList() {
+CIDList::CIDList(const CIDList& other) noexcept : CIDList() {
   CopyContents(other);
 }
 
@@ -102,7 +102,7 @@ int CIDList::Update1(const CString& ids) {
   return 1;
 }
 
-void CIDList::UpdateWithCopy(const CString& ids, CIDList& copy) {
+void CIDList::UpdateWithCopy(const CString& ids, CIDList& copy) noexcept {
   const tq::LifeWatch watch(watch_);
   Update1(ids);
   if (!watch.IsGone() && ids_ == ids)
@@ -115,7 +115,7 @@ const CString& CIDList::GetIDs() {
   return ids_;
 }
 
-void CIDList::DiscardRecords() {
+void CIDList::DiscardRecords() noexcept {
   delete[] std::exchange(records_, nullptr);
   count_ = 0;
   rowTokens_.RemoveAll();

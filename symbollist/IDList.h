@@ -28,9 +28,9 @@ class LifeWatch;
 // Terminals call lists through these virtual operations; their order is part of the interface.
 class TQSYMBOL_API CIDList {
 public:
-  CIDList();
+  CIDList() noexcept;
   // Copies string, tokens, flags and a fresh copy of the records; the service is not asked.
-  CIDList(const CIDList& other);
+  CIDList(const CIDList& other) noexcept;
   CIDList& operator=(const CIDList&) = delete;
   virtual ~CIDList();
 
@@ -54,38 +54,38 @@ public:
   virtual const CString& GetIDs();
   // Update1 for this list and for `copy`, which was made of it, with one question to the service.
   // When the terminal changes or deletes this list meanwhile, the copy asks for itself.
-  void UpdateWithCopy(const CString& ids, CIDList& copy);
+  void UpdateWithCopy(const CString& ids, CIDList& copy) noexcept;
 
   // 1 once Update1 has replaced the string; the list itself never clears it.
-  int IsModified() const { return modified_; }
+  int IsModified() const noexcept { return modified_; }
   // The string's tokens in order, headings and unknown ids included; ids trimmed and in upper case.
-  const CStringArray& GetTokens() const { return tokens_; }
+  const CStringArray& GetTokens() const noexcept { return tokens_; }
 
   // Entry edits, by row. All of them resolve first when that is due, return 0 and change nothing
   // for a row that is not there or a list that cannot be resolved, and 1 when done. The id string
   // is rebuilt: a row contributes its record's id, a heading its text; ids that the service does
   // not know have no row, but keep their places and stay as they are written.
-  int RemoveEntry(int row);
-  int SwapEntries(int first, int second); // 0 too when both are one
+  int RemoveEntry(int row) noexcept;
+  int SwapEntries(int first, int second) noexcept; // 0 too when both are one
   // These resolve the list again. `text` is one id, or a heading with its ":"; 0 for one that is
   // empty or nothing but blanks and for one that holds a ",". What the file cannot hold is left out
   // of it.
-  int ReplaceEntry(int row, const CString& text);
+  int ReplaceEntry(int row, const CString& text) noexcept;
   // Puts `text` in front of the row (`before`) or behind it; a row before the first is the start of
   // the list, one behind the last its end. An id that the list holds already is refused; headings
   // may repeat.
-  int InsertEntry(int row, const CString& text, bool before);
+  int InsertEntry(int row, const CString& text, bool before) noexcept;
 
   // The rows joined by ",": the records' ids, and the texts of headings. What the service does not
   // know is left out. Resolves first when that is due.
-  void JoinRows(CString& out);
+  void JoinRows(CString& out) noexcept;
 
   // Whether one of the tokens is `id`, blanks around it and letter case ignored.
-  bool Holds(const CString& id) const;
+  bool Holds(const CString& id) const noexcept;
 
 protected:
   // Drops the records, so that the next GetCount or GetAt asks the service anew.
-  void DiscardRecords();
+  void DiscardRecords() noexcept;
 
   // The innermost watch on this list's life, see symbollist/LifeWatch.h.
   tq::LifeWatch* watch_;

@@ -10,7 +10,7 @@
 #include "symbollist/StorableText.h"
 #include "symboltable/UpperText.h"
 
-int CIDList::RemoveEntry(int row) {
+int CIDList::RemoveEntry(int row) noexcept {
   if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)
     return 0;
   const auto token = rowTokens_[row];
@@ -27,7 +27,7 @@ int CIDList::RemoveEntry(int row) {
   return 1;
 }
 
-int CIDList::SwapEntries(int first, int second) {
+int CIDList::SwapEntries(int first, int second) noexcept {
   if (ResolveIfDue() != Rows::There || first == second || std::min(first, second) < 0 ||
       std::max(first, second) >= count_)
     return 0;
@@ -41,7 +41,7 @@ int CIDList::SwapEntries(int first, int second) {
   return 1;
 }
 
-int CIDList::ReplaceEntry(int row, const CString& text) {
+int CIDList::ReplaceEntry(int row, const CString& text) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(text); // which may log, and the terminal delete the list
   if (watch.IsGone() || ResolveIfDue() != Rows::There || row < 0 || row >= count_ ||
@@ -52,7 +52,7 @@ int CIDList::ReplaceEntry(int row, const CString& text) {
   return ChangeEntries(entries);
 }
 
-int CIDList::InsertEntry(int row, const CString& text, bool before) {
+int CIDList::InsertEntry(int row, const CString& text, bool before) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(text);
   // Without its rows a list that has ids cannot tell which place is meant.
@@ -71,7 +71,7 @@ int CIDList::InsertEntry(int row, const CString& text, bool before) {
   return ChangeEntries(entries);
 }
 
-void CIDList::JoinRows(CString& out) {
+void CIDList::JoinRows(CString& out) noexcept {
   if (ResolveIfDue() != Rows::There) {
     out.Empty();
     return;
@@ -88,7 +88,7 @@ void CIDList::JoinRows(CString& out) {
   out = rows;
 }
 
-bool CIDList::Holds(const CString& id) const {
+bool CIDList::Holds(const CString& id) const noexcept {
   CString wanted = id;
   tq::NormaliseId(wanted);
   return std::find(tokens_.begin(), tokens_.end(), wanted) != tokens_.end();

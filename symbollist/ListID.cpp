@@ -16,17 +16,17 @@ bool IsGroupType(ListIDType type) {
 
 } // namespace
 
-CListID::CListID() : type_(ListIDNone), orgType_(ListIDNone) {}
-CListID::CListID(const CListID& other) = default;
+CListID::CListID() noexcept : type_(ListIDNone), orgType_(ListIDNone) {}
+CListID::CListID(const CListID& other) noexcept = default;
 CListID::~CListID() = default;
 
-CListID& CListID::operator=(const CListID& other) {
+CListID& CListID::operator=(const CListID& other) noexcept {
   CListID copy(other);
   swap(copy);
   return *this;
 }
 
-void CListID::swap(CListID& other) {
+void CListID::swap(CListID& other) noexcept {
   std::swap(type_, other.type_);
   std::swap(id_, other.id_);
   std::swap(name_, other.name_);
@@ -59,42 +59,42 @@ void CListID::SetOrgType(ListIDType type) {
   orgType_ = type;
 }
 
-CString CListID::GetName() const {
+CString CListID::GetName() const noexcept {
   return name_;
 }
 
-CString CListID::GetSymbolList() const {
+CString CListID::GetSymbolList() const noexcept {
   return symbolList_;
 }
 
-void CListID::SetData(ListIDType type, const CString& id, int /*reserved*/) {
+void CListID::SetData(ListIDType type, const CString& id, int /*reserved*/) noexcept {
   type_ = type;
   id_ = id;
 }
 
-CString CListID::GetGroupID() const {
+CString CListID::GetGroupID() const noexcept {
   const int comma = id_.Find(',');
   return comma < 0 ? id_ : id_.Left(comma);
 }
 
-CString CListID::GetSubGroupID() const {
+CString CListID::GetSubGroupID() const noexcept {
   const int comma = id_.Find(',');
   return comma < 0 ? CString() : id_.Mid(comma + 1);
 }
 
-bool CListID::IsEqualGroup(const CListID& other) const {
+bool CListID::IsEqualGroup(const CListID& other) const noexcept {
   return IsGroupType(type_) && type_ == other.type_ && GetGroupID() == other.GetGroupID();
 }
 
-bool CListID::operator==(const CListID& other) const {
+bool CListID::operator==(const CListID& other) const noexcept {
   return type_ == other.type_ && id_ == other.id_;
 }
 
-bool CListID::operator!=(const CListID& other) const {
+bool CListID::operator!=(const CListID& other) const noexcept {
   return !(*this == other);
 }
 
-int CListID::SetNameAndList(const CString& name, const CString& list) {
+int CListID::SetNameAndList(const CString& name, const CString& list) noexcept {
   if (type_ != ListIDUserList)
     return 0;
   name_ = name;
@@ -102,7 +102,7 @@ int CListID::SetNameAndList(const CString& name, const CString& list) {
   return 1;
 }
 
-int CListID::SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) {
+int CListID::SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) noexcept {
   if (mgr == nullptr || type_ != ListIDUserList)
     return 0;
   CString current;
@@ -114,7 +114,7 @@ int CListID::SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) {
   return SetNameAndList(current, list);
 }
 
-int CListID::SetNameAndList(CTQSymbolListMgr* mgr) {
+int CListID::SetNameAndList(CTQSymbolListMgr* mgr) noexcept {
   return SetNameAndList(CString(), mgr);
 }
 

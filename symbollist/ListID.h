@@ -57,12 +57,12 @@ protected:
 class TQSYMBOL_API CListID : public CListIDUtil {
 public:
   // Type 0, all texts empty.
-  CListID();
-  CListID(const CListID& other);
-  CListID& operator=(const CListID& other);
+  CListID() noexcept;
+  CListID(const CListID& other) noexcept;
+  CListID& operator=(const CListID& other) noexcept;
   virtual ~CListID();
   // Exchanges all that two of them hold.
-  void swap(CListID& other);
+  void swap(CListID& other) noexcept;
 
   ListIDType GetType() const override;
   CString GetID() const override;
@@ -72,11 +72,11 @@ public:
   ListIDType GetOrgType() const override;
   void SetOrgType(ListIDType type) override;
   // Name and content; empty but for user lists. The content is symbol ids joined by ",".
-  CString GetName() const;
-  CString GetSymbolList() const;
+  CString GetName() const noexcept;
+  CString GetSymbolList() const noexcept;
 
   // Sets type and id, of which nothing is checked. Name and content stay. The number is not used.
-  void SetData(ListIDType type, const CString& id, int reserved);
+  void SetData(ListIDType type, const CString& id, int reserved) noexcept;
 
   // "<type>,<id>": "2,01". Type 0 is written as 1. Of type 4 the label for all symbols in the
   // interface language stands in place of the id.
@@ -100,25 +100,25 @@ public:
   // Takes over a group of the service, "<group type>,<id>" with one digit of type: 1 becomes type
   // 2, 3 type 3. Returns 1, or 0 with nothing changed for any other text. An empty id is taken over
   // too, and 0 returned, as it names no group.
-  int ConvertFromGroupID(const char* groupId);
+  int ConvertFromGroupID(const char* groupId) noexcept;
   // The id up to its first comma, and behind it: the group, and the sub-group or "".
-  CString GetGroupID() const;
-  CString GetSubGroupID() const;
+  CString GetGroupID() const noexcept;
+  CString GetSubGroupID() const noexcept;
   // Whether both are groups (types 2, 3, 7, 8), of one type and with the same group part, letter
   // case regarded. Other types are no groups, so never.
-  bool IsEqualGroup(const CListID& other) const;
+  bool IsEqualGroup(const CListID& other) const noexcept;
 
   // Type and id, letter case regarded; nothing else is compared.
-  bool operator==(const CListID& other) const;
-  bool operator!=(const CListID& other) const;
+  bool operator==(const CListID& other) const noexcept;
+  bool operator!=(const CListID& other) const noexcept;
 
   // Sets name and content of a user list. 0 for any other type, with nothing changed.
-  int SetNameAndList(const CString& name, const CString& list);
+  int SetNameAndList(const CString& name, const CString& list) noexcept;
   // The same with what the manager's user list of this id has. A name of the manager's goes before
   // `name`, which stands when the manager does not know the list; the content is then empty. 0,
   // with nothing changed, without a manager. The manager stays the caller's.
-  int SetNameAndList(const CString& name, CTQSymbolListMgr* mgr);
-  int SetNameAndList(CTQSymbolListMgr* mgr);
+  int SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) noexcept;
+  int SetNameAndList(CTQSymbolListMgr* mgr) noexcept;
 
 private:
   int IsValid();

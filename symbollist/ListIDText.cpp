@@ -110,7 +110,7 @@ void CListID::CutStringAndGetParamBefore(CString& text, char separator, CString&
   tq::CutBefore(text, separator, before);
 }
 
-int CListID::ConvertFromGroupID(const char* groupId) {
+int CListID::ConvertFromGroupID(const char* groupId) noexcept {
   const CString text = groupId;
   if (!HasMarkInPlace(text))
     return 0;

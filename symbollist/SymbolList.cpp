@@ -9,9 +9,10 @@
 #include "symbollist/StorableText.h"
 #include "symbollist/SystemListId.h"
 
-CSymbolList::CSymbolList() : info_(), flag_(0) {}
+CSymbolList::CSymbolList() noexcept : info_(), flag_(0) {}
 
-CSymbolList::CSymbolList(const CSymbolList& other) : CIDList(other), info_(other.info_), flag_(0) {
+CSymbolList::CSymbolList(const CSymbolList& other) noexcept
+    : CIDList(other), info_(other.info_), flag_(0) {
   UpdateFlag();
 }
 
@@ -20,7 +21,7 @@ CSymbolList::~CSymbolList() {
     index_->Remove(*this);
 }
 
-void CSymbolList::SetID(const char* id) {
+void CSymbolList::SetID(const char* id) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(id); // which may log, and the terminal delete the list
   if (watch.IsGone())
@@ -33,7 +34,7 @@ void CSymbolList::SetID(const char* id) {
   UpdateFlag();
 }
 
-void CSymbolList::SetName(const char* name) {
+void CSymbolList::SetName(const char* name) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(name);
   if (watch.IsGone())
@@ -45,14 +46,14 @@ void CSymbolList::SetName(const char* name) {
     index_->EnterName(*this);
 }
 
-void CSymbolList::ToXml(CString& out) {
+void CSymbolList::ToXml(CString& out) noexcept {
   std::string element;
   element.reserve(XmlLength());
   AppendXml(element);
   out.SetString(element.data(), static_cast<int>(element.size()));
 }
 
-void CSymbolList::AppendXml(std::string& document) {
+void CSymbolList::AppendXml(std::string& document) noexcept {
   tq::AppendListElement(info_, GetIDs(), document);
 }
 
@@ -67,7 +68,7 @@ void tq::AppendListElement(const TQSymbolListInfo& list, const CString& ids,
   document += IsSystemListId(list.ID) ? "' Flag='1'/>\n" : "' Flag='0'/>\n";
 }
 
-size_t CSymbolList::XmlLength() {
+size_t CSymbolList::XmlLength() noexcept {
   constexpr size_t kFixed = sizeof("<List ID='' Name='' Value='' Flag='0'/>\n");
   return kFixed + std::strlen(info_.ID) + std::strlen(info_.Name) +
          static_cast<size_t>(GetIDs().GetLength());
@@ -77,7 +78,7 @@ void CSymbolList::UpdateFlag() {
   flag_ = tq::IsSystemListIdNoCase(info_.ID) ? 1 : 0;
 }
 
-int CSymbolList::FillFromElement(const tq::XmlElement& element) {
+int CSymbolList::FillFromElement(const tq::XmlElement& element) noexcept {
   SetID("");
   SetName("");
   if (!element.HasAttributes())

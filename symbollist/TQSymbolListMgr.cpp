@@ -12,7 +12,7 @@
 #include "symbollist/OwnedLists.h"
 #include "symboltable/SymbolTableMgr.h"
 
-CTQSymbolListMgr::CTQSymbolListMgr()
+CTQSymbolListMgr::CTQSymbolListMgr() noexcept
     : symbolTables_(nullptr), lists_(new tq::OwnedLists), tradingLists_(new tq::OwnedLists),
       cloudLists_(new tq::OwnedLists), defaultIndex_(0), allSymbols_(nullptr), allSymbolCount_(0),
       systemListsWanted_(0), tradingListsWanted_(0), useUserDefExch_(0), bCN_(0),
@@ -37,7 +37,7 @@ CTQSymbolListMgr::~CTQSymbolListMgr() {
 
 int CTQSymbolListMgr::Init(const char* dataDirectory, int bCN, int initSymbolTables,
                            int loadSystemLists, CStringArray* systemListNames, int useUserDefExch,
-                           int loadTradingLists) {
+                           int loadTradingLists) noexcept {
   systemListsWanted_ = loadSystemLists;
   tradingListsWanted_ = loadTradingLists;
   useUserDefExch_ = useUserDefExch;
@@ -90,11 +90,11 @@ int CTQSymbolListMgr::BuildSymbolTables() {
          symbolTables_->InitAuthorizedExch() != 0;
 }
 
-void CTQSymbolListMgr::SetDefaultIndex(int index) {
+void CTQSymbolListMgr::SetDefaultIndex(int index) noexcept {
   defaultIndex_ = index;
 }
 
-int CTQSymbolListMgr::GetDefaultListIdx(int& out) {
+int CTQSymbolListMgr::GetDefaultListIdx(int& out) noexcept {
   out = defaultIndex_;
   // The upper bound is not tested: a default index beyond the last list is reported as it stands.
   return defaultIndex_ >= 0 && !lists_->IsEmpty();

@@ -62,7 +62,7 @@ bool RenameAll(const CPtrArray& lists, const CStringArray& oldIds, const CString
 } // namespace
 
 int CTQSymbolListMgr::AddSymbolList(const CString& id, int /*unused*/, const CString& name,
-                                    const CString& symbols, int append, int overwrite) {
+                                    const CString& symbols, int append, int overwrite) noexcept {
   // Name and symbols as they are going to be kept: what the file cannot hold does not make a name
   // another one, and is no symbol.
   const CString keptName = tq::StorableText(name);
@@ -118,7 +118,7 @@ void CTQSymbolListMgr::PutNewList(const CString& id, const CString& name, const 
   PutSymbolList(list.release(), append);
 }
 
-int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) {
+int CTQSymbolListMgr::AddTQSymbolList(CSymbolList* source, int append) noexcept {
   if (source == nullptr)
     return 0;
   PutSymbolList(CopyMoved(*source), append);
@@ -143,7 +143,7 @@ void CTQSymbolListMgr::PutSymbolList(CSymbolList* list, int append) {
     lists_->AddLast(std::unique_ptr<CSymbolList>(list));
 }
 
-int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
+int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) noexcept {
   if (lists == nullptr)
     return 0;
   CPtrArray copies;
@@ -161,7 +161,7 @@ int CTQSymbolListMgr::SetSymbolList(CPtrArray* lists) {
   return 1;
 }
 
-int CTQSymbolListMgr::DeleteSymbolList(CString id) {
+int CTQSymbolListMgr::DeleteSymbolList(CString id) noexcept {
   CSymbolList* const list = lists_->Find(id);
   if (list == nullptr)
     return 0;
@@ -175,7 +175,7 @@ int CTQSymbolListMgr::DeleteSymbolList(CString id) {
   return 1;
 }
 
-int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
+int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) noexcept {
   if (oldIds == nullptr || newIds == nullptr)
     return 0;
   // All strings first: the lists that the terminal adds while one is resolved are not renamed, and
@@ -200,7 +200,7 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) {
   return 1;
 }
 
-CString CTQSymbolListMgr::AdjustFileName(CString name) {
+CString CTQSymbolListMgr::AdjustFileName(CString name) noexcept {
   return tq::FreeName(tq::StorableText(name),
                       [this](const CString& wanted) { return lists_->HasName(wanted); });
 }

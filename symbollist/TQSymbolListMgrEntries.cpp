@@ -9,13 +9,13 @@ CSymbolList* CTQSymbolListMgr::FindUserList(const char* id) {
   return lists_->Find(id);
 }
 
-int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) {
+int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) noexcept {
   CSymbolList* list = FindUserList(id);
   return list == nullptr ? 0 : list->RemoveEntry(entry);
 }
 
 int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, int before,
-                                       int heading) {
+                                       int heading) noexcept {
   // Cleaned before the ":" is put behind it: a heading of nothing is no heading. And before the
   // list is looked for: what is left out is logged, and the terminal may delete lists meanwhile.
   const CString kept = tq::StorableText(text);
@@ -25,12 +25,12 @@ int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, i
   return list->InsertEntry(position, heading != 0 ? kept + ":" : kept, before != 0);
 }
 
-int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) {
+int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) noexcept {
   CSymbolList* list = FindUserList(id);
   return list == nullptr ? 0 : list->SwapEntries(first, second);
 }
 
-int CTQSymbolListMgr::ReplaceSymbolList(CString id, int entry, CString text) {
+int CTQSymbolListMgr::ReplaceSymbolList(CString id, int entry, CString text) noexcept {
   CSymbolList* list = FindUserList(id);
   return list == nullptr ? 0 : list->ReplaceEntry(entry, text);
 }

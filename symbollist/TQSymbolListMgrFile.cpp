@@ -32,27 +32,27 @@ CString CTQSymbolListMgr::FilePath(const char* name) const {
   return dataDirectory_.IsEmpty() ? CString() : dataDirectory_ + name;
 }
 
-int CTQSymbolListMgr::LoadSymbolList() {
+int CTQSymbolListMgr::LoadSymbolList() noexcept {
   return DoLoadSymbolList(FilePath(tq::kListFileName));
 }
 
-int CTQSymbolListMgr::SaveSymbolList() {
+int CTQSymbolListMgr::SaveSymbolList() noexcept {
   return DoSaveSymbolList(FilePath(tq::kListFileName));
 }
 
-int CTQSymbolListMgr::BackupSymbolList() {
+int CTQSymbolListMgr::BackupSymbolList() noexcept {
   return DoSaveSymbolList(FilePath(tq::kBackupFileName));
 }
 
-int CTQSymbolListMgr::RestorSymbolList() {
+int CTQSymbolListMgr::RestorSymbolList() noexcept {
   return DoLoadSymbolList(FilePath(tq::kBackupFileName));
 }
 
-CString CTQSymbolListMgr::GetBackSymbolListPath() {
+CString CTQSymbolListMgr::GetBackSymbolListPath() noexcept {
   return dataDirectory_ + tq::kBackupFileName;
 }
 
-int CTQSymbolListMgr::UpdateTQSymbolList() {
+int CTQSymbolListMgr::UpdateTQSymbolList() noexcept {
   if (LoadSymbolList() == 0)
     return 0;
   if (systemListsWanted_ != 0)
@@ -62,7 +62,7 @@ int CTQSymbolListMgr::UpdateTQSymbolList() {
   return 1;
 }
 
-void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
+void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) noexcept {
   dataDirectory_ = dataDirectory;
   if (tradingTable_ != nullptr)
     tradingTable_->SetPath(FilePath(tq::kTradingFileName));
@@ -71,22 +71,22 @@ void CTQSymbolListMgr::ReLoadList(const CString& dataDirectory) {
     LoadSystemList(&systemListNames_);
 }
 
-void CTQSymbolListMgr::ClearSymbolList() {
+void CTQSymbolListMgr::ClearSymbolList() noexcept {
   lists_->Destroy();
 }
 
-void CTQSymbolListMgr::ClearCloudSymbolList() {
+void CTQSymbolListMgr::ClearCloudSymbolList() noexcept {
   cloudLists_->Destroy();
 }
 
-int CTQSymbolListMgr::CreateEmptySymbolListFile() {
+int CTQSymbolListMgr::CreateEmptySymbolListFile() noexcept {
   const CString path = FilePath(tq::kListFileName);
   if (path.IsEmpty())
     return 0;
   return Report(keptFiles_->Save(path, tq::ListFileText(CPtrArray(), defaultIndex_)));
 }
 
-int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
+int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) noexcept {
   if (path.IsEmpty())
     return 0;
   const int index = defaultIndex_ < 0 && !lists_->IsEmpty() ? 0 : defaultIndex_;
@@ -95,12 +95,12 @@ int CTQSymbolListMgr::DoSaveSymbolList(const CString& path) {
                                     ? keptFiles_->Save(path, std::move(text))
                                     : tq::SaveResult::NotOpened;
   // Looked at again, for a save may log, and the terminal work on the lists from there.
-  if (result != tq::SaveResult::NotOpened && defaultIndex_ < 0 && !lists_.IsEmpty())
+  if (result != tq::SaveResult::NotOpened && defaultIndex_ < 0 && !lists_->IsEmpty())
     defaultIndex_ = 0;
   return Report(result);
 }
 
-int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) {
+int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) noexcept {
   if (path.IsEmpty()) {
     ClearSymbolList();
     keptFiles_->ForgetAll();

@@ -22,16 +22,16 @@ CSymbolList* CTQSymbolListMgr::FindList(const char* id, int kind) const {
   return lists == nullptr ? nullptr : lists->Find(id);
 }
 
-int CTQSymbolListMgr::GetSymbolListCount(int kind) {
+int CTQSymbolListMgr::GetSymbolListCount(int kind) noexcept {
   const tq::OwnedLists* lists = ListsOf(kind);
   return lists == nullptr ? 0 : lists->GetSize();
 }
 
-int CTQSymbolListMgr::GetTQSymbolListCount(int kind) {
+int CTQSymbolListMgr::GetTQSymbolListCount(int kind) noexcept {
   return GetSymbolListCount(kind);
 }
 
-int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) {
+int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) noexcept {
   const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr)
     return 0;
@@ -40,14 +40,14 @@ int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) {
   return 1;
 }
 
-int CTQSymbolListMgr::GetSymbolList(CString id, CSymbolList** out, int kind) {
+int CTQSymbolListMgr::GetSymbolList(CString id, CSymbolList** out, int kind) noexcept {
   if (out == nullptr)
     return 0;
   *out = FindList(id, kind);
   return *out != nullptr;
 }
 
-int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) {
+int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) noexcept {
   const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr || out == nullptr || index < 0 || index >= lists->GetSize())
     return 0;
@@ -56,7 +56,7 @@ int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int 
 }
 
 int CTQSymbolListMgr::GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols,
-                                        int kind) {
+                                        int kind) noexcept {
   const tq::OwnedLists* lists = ListsOf(kind);
   if (lists == nullptr || index < 0 || index >= lists->GetSize())
     return 0;
@@ -67,11 +67,11 @@ int CTQSymbolListMgr::GetSymbolListInfo(int index, CString& id, CString& name, C
   return 1;
 }
 
-int CTQSymbolListMgr::GetSymbolListName(const CString& id, CString& name, int kind) {
+int CTQSymbolListMgr::GetSymbolListName(const CString& id, CString& name, int kind) noexcept {
   return GetTQSymbolListName(id, name, kind);
 }
 
-int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kind) {
+int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kind) noexcept {
   // The id may be the text of `name` itself.
   const CSymbolList* list = FindList(id, kind);
   name = list == nullptr ? CString() : list->GetName();
@@ -79,7 +79,7 @@ int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kin
 }
 
 int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& symbols,
-                                       CStringArray* tokens) {
+                                       CStringArray* tokens) noexcept {
   constexpr int kDefaultList = 0;
   CSymbolList* list = nullptr;
   int index = 0;
@@ -99,7 +99,7 @@ int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& sym
   return 1;
 }
 
-int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind) {
+int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind) noexcept {
   // Before `out` is emptied, which may be the id's own object.
   CSymbolList* list = FindList(id, kind);
   out.Empty();
@@ -109,21 +109,23 @@ int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind)
   return 1;
 }
 
-int CTQSymbolListMgr::GetTQSymbolCount(const char* id, int kind) {
+int CTQSymbolListMgr::GetTQSymbolCount(const char* id, int kind) noexcept {
   CSymbolList* list = FindList(id, kind);
   return list == nullptr ? 0 : list->GetCount();
 }
 
-int CTQSymbolListMgr::GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out, int kind) {
+int CTQSymbolListMgr::GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out,
+                                      int kind) noexcept {
   CSymbolList* list = FindList(id, kind);
   return list != nullptr && list->GetAt(entry, out);
 }
 
-int CTQSymbolListMgr::GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count) {
+int CTQSymbolListMgr::GetSymbolInfos(int exchId, int subId, SymbolInfo** list,
+                                     int* count) noexcept {
   return VLGetSymbolInfos2(exchId, subId, list, count, 0);
 }
 
-int CTQSymbolListMgr::GetBaseAttrs(const char* symbols, BaseAttr** list, int* count) {
+int CTQSymbolListMgr::GetBaseAttrs(const char* symbols, BaseAttr** list, int* count) noexcept {
   constexpr int kAllAttributes = 1;
   return VLGetBaseAttrs(symbols, list, count, kAllAttributes);
 }

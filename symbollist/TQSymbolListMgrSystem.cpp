@@ -18,7 +18,7 @@ CString SystemListName(const CStringArray* names, int index) {
 
 } // namespace
 
-int CTQSymbolListMgr::LoadSystemList(CStringArray* names) {
+int CTQSymbolListMgr::LoadSystemList(CStringArray* names) noexcept {
   for (int i = 0; i < tq::kSystemListCount; ++i) {
     if (CheckSymbolListExist(tq::SystemListId(i), tq::kUserLists) != 0)
       continue;
@@ -30,17 +30,17 @@ int CTQSymbolListMgr::LoadSystemList(CStringArray* names) {
   return 1;
 }
 
-int CTQSymbolListMgr::IsSystemList(const char* id, int kind) {
+int CTQSymbolListMgr::IsSystemList(const char* id, int kind) noexcept {
   const CSymbolList* list = FindList(id, kind);
   return list == nullptr ? 0 : list->GetFlag();
 }
 
-int CTQSymbolListMgr::IsSameSysSymbolListGUID(const CString& id) const {
+int CTQSymbolListMgr::IsSameSysSymbolListGUID(const CString& id) const noexcept {
   return tq::IsSystemListId(id) ? 1 : 0;
 }
 
 int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
-                                       const CString& symbols, int& nameChanged) {
+                                       const CString& symbols, int& nameChanged) noexcept {
   CSymbolList* list = FindUserList(id);
   if (list == nullptr)
     return 0;
@@ -56,7 +56,7 @@ int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
   return 1;
 }
 
-int CTQSymbolListMgr::UpdateSystemList(int index, const CString& symbols, int mode) {
+int CTQSymbolListMgr::UpdateSystemList(int index, const CString& symbols, int mode) noexcept {
   if (index < 0 || index >= tq::kSystemListCount || index >= systemListNames_.GetSize())
     return 0;
   CSymbolList* list = FindUserList(tq::SystemListId(index));
@@ -66,7 +66,8 @@ int CTQSymbolListMgr::UpdateSystemList(int index, const CString& symbols, int mo
   return 1;
 }
 
-int CTQSymbolListMgr::UpdateSystemList(CMapStringToString* symbols, CMapStringToString* names) {
+int CTQSymbolListMgr::UpdateSystemList(CMapStringToString* symbols,
+                                       CMapStringToString* names) noexcept {
   if (symbols == nullptr)
     return 0;
   bool anyName = false;

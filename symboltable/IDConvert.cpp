@@ -3,11 +3,11 @@
 #include "symboltable/LeadingInt.h"
 #include "symboltable/UpperText.h"
 
-CIDConvert::CIDConvert(int idType, const char* id) : idType_(idType), id_(id) {
+CIDConvert::CIDConvert(int idType, const char* id) noexcept : idType_(idType), id_(id) {
   fullId_.Format("%d.%s", idType_, id_.GetString());
 }
 
-CIDConvert::CIDConvert(const char* fullId) : idType_(0), fullId_(fullId) {
+CIDConvert::CIDConvert(const char* fullId) noexcept : idType_(0), fullId_(fullId) {
   const int comma = fullId_.Find(',');
   if (comma < 0) {
     id_ = fullId_;
@@ -17,14 +17,14 @@ CIDConvert::CIDConvert(const char* fullId) : idType_(0), fullId_(fullId) {
   id_ = fullId_.Mid(comma + 1);
 }
 
-CString CIDConvert::GetFullID() const {
+CString CIDConvert::GetFullID() const noexcept {
   return fullId_;
 }
 
-CString CIDConvert::GetID() const {
+CString CIDConvert::GetID() const noexcept {
   return id_;
 }
 
-int CIDConvert::GetIDType() const {
+int CIDConvert::GetIDType() const noexcept {
   return idType_;
 }

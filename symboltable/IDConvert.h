@@ -18,12 +18,12 @@
 class TQSYMBOL_API CIDConvert {
 public:
   // The full id becomes the kind as a decimal number, "." and the id: 3 and "AB" give "3.AB".
-  CIDConvert(int idType, const char* id);
+  CIDConvert(int idType, const char* id) noexcept;
   // Keeps the text as the full id and splits it at its first ",": the number that stands at the
   // start of the text before it (leading blanks and a sign allowed, 0 when there is none, the
   // nearest value when it is too large) is the kind; all that follows the comma, further commas
   // included, is the id. Without a comma the kind is 0 and the id the whole text.
-  CIDConvert(const char* fullId);
+  CIDConvert(const char* fullId) noexcept;
 
   // There is no moving of its own: assigning from a temporary copies too, and the source keeps its
   // texts, as callers expect who go on reading from it.
@@ -32,9 +32,9 @@ public:
   ~CIDConvert() = default;
 
   // Copies, the caller's own.
-  CString GetFullID() const;
-  CString GetID() const;
-  int GetIDType() const;
+  CString GetFullID() const noexcept;
+  CString GetID() const noexcept;
+  int GetIDType() const noexcept;
 
 private:
   std::int32_t idType_;

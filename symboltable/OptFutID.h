@@ -54,11 +54,11 @@ enum OptFutError : int {
 class TQSYMBOL_API COptFutID {
 public:
   // Error code 0.
-  COptFutID();
+  COptFutID() noexcept;
 
   // An OptFutError: that of the latest check that failed with one. Success does not reset it, and
   // an option code that is not ten characters long fails without one.
-  int GetErrorCode() const;
+  int GetErrorCode() const noexcept;
 
   // Splits a typed combination, blanks around it ignored, into two full codes.
   //   "TXO22000/21000L6"  price spread: commodity and strike, then strike and month code
@@ -76,7 +76,7 @@ public:
   // takes over the second's last two; a second of 7 characters takes over the first three of the
   // first leg, any other the first eight.
   int SeparateID(const CString& id, char side, CString& id1, char& side1, CString& id2, char& side2,
-                 int check);
+                 int check) noexcept;
 
   // Writes the description of a combination of two option codes to `text` and side2 to `side`.
   //   "TXO 202612 S 21000 CALL - B 22000 CALL"   one month, two strikes
@@ -85,7 +85,7 @@ public:
   //   "TXO CALL S 202612 - B 202701"             two months; the strike is left out
   // Fails with 19 for different commodities and, with `check` non-zero, for what ChkCommID refuses.
   int MergeID(CString& text, char& side, const CString& id1, char side1, const CString& id2,
-              char side2, int check);
+              char side2, int check) noexcept;
 
   // The same in one form for all combinations, blanks around the ids ignored:
   //   "TXO S 202612TF TX1 21000 CALL - B 202612TF TX1 22000 CALL"
@@ -94,30 +94,30 @@ public:
   // service does not know, when it has no answer, and when `tables`, which stays the caller's, is
   // null. With `check` 0 the words CALL and PUT are left out, the blanks around them are not.
   int MergeID2(CString& text, char& side, const CString& id1, char side1, const CString& id2,
-               char side2, int check, CSymbolTableMgr* tables);
+               char side2, int check, CSymbolTableMgr* tables) noexcept;
 
   // Writes the description of a calendar spread of two futures codes: "TXF S 202612 - B 202701",
   // the nearer month first (of equal ones `id1`), each with the text of its week behind it
   // ("202612W2") when the service has one. `side` becomes the later leg's. The commodity is that of
   // `id1`; what `id2` is of is not looked at. Fails with 1 unless both have 5 characters or more.
   int MergeFuturID(CString& text, char& side, const CString& id1, char side1, const CString& id2,
-                   char side2);
+                   char side2) noexcept;
 
   // The week of a contract, by the service's own id (VLGetZUID): its number, 0 when there is none,
   // its text ("W2"), and in `extra` the strike as the service writes it. All three are emptied
   // first. Returns whether the service has a record of the contract.
-  int GetFutureWeek(const CString& id, int& week, CString& weekText, CString& extra);
+  int GetFutureWeek(const CString& id, int& week, CString& weekText, CString& extra) noexcept;
 
 protected:
   // Checks. Each returns 1 when passed and else stores its error.
 
   // Both sides are "B" or "S"; error 8.
-  int ChkBS(char side1, char side2);
+  int ChkBS(char side1, char side2) noexcept;
   // One option code, looked at from left to right; errors 3, 4, 5, 6. That strikes are digits is
   // not asked here: other text has no order and fails where strikes are compared.
-  int ChkCommIDFormat(const CString& code);
+  int ChkCommIDFormat(const CString& code) noexcept;
   // Two full legs: the format of each, the sides, then ChkTwoCommID.
-  int ChkCommID(const CString& id1, char side1, const CString& id2, char side2);
+  int ChkCommID(const CString& id1, char side1, const CString& id2, char side2) noexcept;
   // Two full legs whose formats and sides are right. Strikes are those that the service lists, when
   // it has both and both are plain decimal numbers ("52.5"), else the five digits of the codes.
   //   a call and a put   one month (15); on one side the first strike equal or higher (13), on
@@ -126,33 +126,34 @@ protected:
   //                      of calls (12), lower of puts (13); in two months one strike (11) and the
   //                      first month earlier (14, 16)
   // The same contract twice, on opposite sides, passes.
-  int ChkTwoCommID(const CString& id1, char side1, const CString& id2, char side2);
+  int ChkTwoCommID(const CString& id1, char side1, const CString& id2, char side2) noexcept;
   // The texts around the separator of a typed combination. Passed, `id1` and `id2` are the legs.
-  int ChkSpread(const CString& first, const CString& second, CString& id1, CString& id2);
-  int ChkStraddle_Strangle(const CString& first, const CString& second, CString& id1, CString& id2);
+  int ChkSpread(const CString& first, const CString& second, CString& id1, CString& id2) noexcept;
+  int ChkStraddle_Strangle(const CString& first, const CString& second, CString& id1,
+                           CString& id2) noexcept;
   // Months are not compared here.
   int ChkReversals_Conversion(const CString& first, const CString& second, CString& id1,
-                              CString& id2);
+                              CString& id2) noexcept;
   // Whether two month letters are of one kind (GetCallPut). Unlike the others it stores no error:
   // whether the kinds have to be the same or to differ is the caller's, and so is the code for it
   // (103, 104).
-  int ChkTheSameCP(char month1, char month2);
+  int ChkTheSameCP(char month1, char month2) noexcept;
   // Two month codes are of one month, be they a call's or a put's; error 15.
-  int ChkTheSameMonth(const CString& month1, const CString& month2);
+  int ChkTheSameMonth(const CString& month1, const CString& month2) noexcept;
 
   // Two month codes of one kind: 0 the same, 1 the first earlier, 2 the first later, -1 more than a
   // year apart. A year 9 is before a year 0.
-  int ChkMonth_Rule(const CString& month1, const CString& month2);
+  int ChkMonth_Rule(const CString& month1, const CString& month2) noexcept;
   // Two strikes as decimal numbers: 0 equal, 1 the first higher, 2 the first lower, -1 when one of
   // them is no number.
-  int ChkPrice_Rule(const CString& price1, const CString& price2);
+  int ChkPrice_Rule(const CString& price1, const CString& price2) noexcept;
 
   // "C" for a month letter of a call, "P" of a put, a blank for any other.
-  char GetCallPut(char month);
+  char GetCallPut(char month) noexcept;
 
   // The short name of an option, with a blank at its end, by the service's own id. 0, with `out`
   // empty, when the service has none.
-  int GetShortID(CString& out, const CString& id);
+  int GetShortID(CString& out, const CString& id) noexcept;
 
 private:
   // Stores an error; returns 1 when there is none to store, else 0.

@@ -37,7 +37,8 @@ int COptFutID::ChkTwoFormats(const CString& id1, const CString& id2) {
   return ChkCommIDFormat(id1) && ChkCommIDFormat(id2);
 }
 
-int COptFutID::ChkSpread(const CString& first, const CString& second, CString& id1, CString& id2) {
+int COptFutID::ChkSpread(const CString& first, const CString& second, CString& id1,
+                         CString& id2) noexcept {
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
   const bool price =
@@ -63,7 +64,7 @@ int COptFutID::ChkSpread(const CString& first, const CString& second, CString& i
 }
 
 int COptFutID::ChkStraddle_Strangle(const CString& first, const CString& second, CString& id1,
-                                    CString& id2) {
+                                    CString& id2) noexcept {
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
   const bool straddle = tail.size() == tq::kMonthCodeLength;
@@ -86,7 +87,7 @@ int COptFutID::ChkStraddle_Strangle(const CString& first, const CString& second,
 }
 
 int COptFutID::ChkReversals_Conversion(const CString& first, const CString& second, CString& id1,
-                                       CString& id2) {
+                                       CString& id2) noexcept {
   const std::string_view head = tq::ViewOf(first);
   const std::string_view tail = tq::ViewOf(second);
   if (head.size() != tq::kOptionCodeLength || tail.size() != tq::kMonthCodeLength)
@@ -105,11 +106,12 @@ int COptFutID::ChkReversals_Conversion(const CString& first, const CString& seco
   return 1;
 }
 
-int COptFutID::ChkCommID(const CString& id1, char side1, const CString& id2, char side2) {
+int COptFutID::ChkCommID(const CString& id1, char side1, const CString& id2, char side2) noexcept {
   return ChkTwoFormats(id1, id2) && ChkBS(side1, side2) && ChkTwoCommID(id1, side1, id2, side2);
 }
 
-int COptFutID::ChkTwoCommID(const CString& id1, char side1, const CString& id2, char side2) {
+int COptFutID::ChkTwoCommID(const CString& id1, char side1, const CString& id2,
+                            char side2) noexcept {
   tq::CombinationLeg one = LegOf(id1);
   tq::CombinationLeg two = LegOf(id2);
   const CString listed1 = tq::WeekOfCode(id1).strike;

@@ -26,7 +26,7 @@ bool IsFuturesCode(const CString& id) {
 } // namespace
 
 int COptFutID::MergeID(CString& text, char& side, const CString& id1, char side1,
-                       const CString& id2, char side2, int check) {
+                       const CString& id2, char side2, int check) noexcept {
   if (!HaveOneCommodity(id1, id2))
     return Report(OptFutCommoditiesDiffer);
   if (check && !ChkCommID(id1, side1, id2, side2))
@@ -37,7 +37,8 @@ int COptFutID::MergeID(CString& text, char& side, const CString& id1, char side1
 }
 
 int COptFutID::MergeID2(CString& text, char& side, const CString& id1, char side1,
-                        const CString& id2, char side2, int check, CSymbolTableMgr* tables) {
+                        const CString& id2, char side2, int check,
+                        CSymbolTableMgr* tables) noexcept {
   const CString code1 = Trimmed(id1);
   const CString code2 = Trimmed(id2);
   if (!HaveOneCommodity(code1, code2))
@@ -61,7 +62,7 @@ int COptFutID::MergeID2(CString& text, char& side, const CString& id1, char side
 }
 
 int COptFutID::MergeFuturID(CString& text, char& side, const CString& id1, char side1,
-                            const CString& id2, char side2) {
+                            const CString& id2, char side2) noexcept {
   if (!IsFuturesCode(id1) || !IsFuturesCode(id2))
     return Report(OptFutNotACombination);
   const tq::FutureLeg one(id1, side1, tq::WeekOfCode(id1).text);

@@ -44,7 +44,7 @@ void CompleteUnchecked(const Typed& typed, CString& leg1, CString& leg2) {
 } // namespace
 
 int COptFutID::SeparateID(const CString& id, char side, CString& id1, char& side1, CString& id2,
-                          char& side2, int check) {
+                          char& side2, int check) noexcept {
   const Typed typed = SplitTyped(id);
   if (typed.mark == '\0')
     return Report(OptFutNotACombination);

@@ -8,20 +8,20 @@
 #include "symboltable/ExchangeService.h"
 #include "symboltable/TableSlots.h"
 
-CSymbolTableMgr::CSymbolTableMgr() : slots_(std::make_unique<tq::TableSlots>()) {}
+CSymbolTableMgr::CSymbolTableMgr() noexcept : slots_(std::make_unique<tq::TableSlots>()) {}
 
 CSymbolTableMgr::~CSymbolTableMgr() {
   tq::TableSlots::Delete(std::move(slots_));
 }
 
-int CSymbolTableMgr::Init() {
+int CSymbolTableMgr::Init() noexcept {
   // Forgotten, not deleted: callers hand tables over by this, and delete them through CleanALL.
   slots_->Forget();
   slots_->SetDefaults({});
   return 1;
 }
 
-int CSymbolTableMgr::InitAllSymbolTable() {
+int CSymbolTableMgr::InitAllSymbolTable() noexcept {
   const tq::TableSlots::Use slots(*slots_);
   const tq::ExchangeList exchanges;
   int result = exchanges.Result();
@@ -37,7 +37,7 @@ int CSymbolTableMgr::InitAllSymbolTable() {
   return result;
 }
 
-int CSymbolTableMgr::InitAuthorizedExch() {
+int CSymbolTableMgr::InitAuthorizedExch() noexcept {
   const tq::TableSlots::Use slots(*slots_);
   int mask[tq::TableSlots::kCount] = {};
   if (!GetAuthMask(mask))
@@ -48,7 +48,7 @@ int CSymbolTableMgr::InitAuthorizedExch() {
   return 1;
 }
 
-int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) {
+int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) noexcept {
   std::vector<int> exchIds;
   exchIds.reserve(static_cast<std::size_t>(ids.GetSize()));
   for (int i = 0; i < ids.GetSize(); ++i)
@@ -57,10 +57,10 @@ int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) {
   return 1;
 }
 
-void CSymbolTableMgr::CleanALL() {
+void CSymbolTableMgr::CleanALL() noexcept {
   slots_->Clear();
 }
 
-CSymbolTable* CSymbolTableMgr::TableAt(int slot) const {
+CSymbolTable* CSymbolTableMgr::TableAt(int slot) const noexcept {
   return slots_->At(slot);
 }

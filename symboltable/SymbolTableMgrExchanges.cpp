@@ -8,24 +8,24 @@
 
 using tq::TableSlots;
 
-int CSymbolTableMgr::FindExchID(int exchId, CString& name) {
+int CSymbolTableMgr::FindExchID(int exchId, CString& name) noexcept {
   return tq::ReadExchangeName(exchId, name);
 }
 
-int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) {
+int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
   if (exchName.IsEmpty())
     return 0;
   const int slot = slots_->FindName(tq::ViewOf(exchName));
   return slot != TableSlots::kNone && slots_->At(slot)->IsAuthorized();
 }
 
-int CSymbolTableMgr::IsSupportUJKExch() {
+int CSymbolTableMgr::IsSupportUJKExch() noexcept {
   int mask[TableSlots::kCount] = {};
   return GetAuthMask(mask) &&
          std::ranges::all_of(tq::kFamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
 }
 
-CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
+CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
   const TableSlots::Use slots(*slots_);
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
@@ -50,7 +50,7 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) {
   return names;
 }
 
-std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) {
+std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) noexcept {
   const auto [symbol, suffix] = tq::SplitId(tq::ViewOf(id));
   CString upperSuffix = tq::ToCString(suffix);
   upperSuffix.MakeUpper();
@@ -59,7 +59,7 @@ std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& i
   return {tq::ToCString(symbol), tq::ToCString(suffix)};
 }
 
-CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {
+CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) noexcept {
   const std::pair<CString, CString> parts = GetSymbolAndExchID(id);
   if (parts.second.IsEmpty())
     return id;
@@ -69,7 +69,7 @@ CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) {
   return id;
 }
 
-int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) {
+int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) noexcept {
   const CSymbolTable* last = nullptr;
   int count = 0;
   for (const CSymbolTable* table : slots_->Defaults()) {
@@ -84,7 +84,7 @@ int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName
   return count;
 }
 
-int CSymbolTableMgr::IsGetDefaultExchange(const CString& symbol, CString& exchName) {
+int CSymbolTableMgr::IsGetDefaultExchange(const CString& symbol, CString& exchName) noexcept {
   for (const CSymbolTable* table : slots_->Defaults()) {
     if (table->FindId(tq::ViewOf(symbol)) == nullptr)
       continue;
@@ -94,23 +94,23 @@ int CSymbolTableMgr::IsGetDefaultExchange(const CString& symbol, CString& exchNa
   return 0;
 }
 
-int CSymbolTableMgr::GetExch(const CString& id, CString& exchName) {
+int CSymbolTableMgr::GetExch(const CString& id, CString& exchName) noexcept {
   exchName = GetSymbolAndExchID(id).second;
   return !exchName.IsEmpty();
 }
 
-int CSymbolTableMgr::FindSymbolTableIndex(const CString& exchName, int exchId) {
+int CSymbolTableMgr::FindSymbolTableIndex(const CString& exchName, int exchId) noexcept {
   return slots_->Find(tq::ViewOf(exchName), exchId);
 }
 
-int CSymbolTableMgr::MapToSymbolTableIndex(int exchId) {
+int CSymbolTableMgr::MapToSymbolTableIndex(int exchId) noexcept {
   return slots_->FindId(exchId);
 }
 
-int CSymbolTableMgr::GetAuthMask(int mask[128]) {
+int CSymbolTableMgr::GetAuthMask(int mask[128]) noexcept {
   return tq::ReadEntitlements(std::span<int, TableSlots::kCount>(mask, TableSlots::kCount));
 }
 
-int CSymbolTableMgr::IsAuthExch(int exchId) {
+int CSymbolTableMgr::IsAuthExch(int exchId) noexcept {
   return tq::IsEntitled(exchId);
 }

@@ -59,7 +59,7 @@ int GetLong(const tq::FoundSymbol& found, int field, long& value) {
 
 } // namespace
 
-int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) {
+int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) noexcept {
   if (name.IsEmpty())
     return 0;
   for (int slot = 0; slot < tq::TableSlots::kCount; ++slot) {
@@ -72,7 +72,7 @@ int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) {
 }
 
 int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchName,
-                                           CString& value) {
+                                           CString& value) noexcept {
   if (id.IsEmpty())
     return 0;
   tq::UpperBuffer idBuffer;
@@ -97,14 +97,17 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
   return 1;
 }
 
-int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName, int& value) {
+int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName,
+                                        int& value) noexcept {
   return GetNumber(FindForNumber(*slots_, id, exchName), field, value);
 }
 
-int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName, long& value) {
+int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName,
+                                          long& value) noexcept {
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }
 
-int CSymbolTableMgr::LookUpSymbolGetExAttr(int field, CString id, CString exchName, long& value) {
+int CSymbolTableMgr::LookUpSymbolGetExAttr(int field, CString id, CString exchName,
+                                           long& value) noexcept {
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }

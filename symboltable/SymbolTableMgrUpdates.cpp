@@ -9,7 +9,7 @@
 #include "symboltable/TableMaker.h"
 #include "symboltable/UpperText.h"
 
-int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) {
+int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noexcept {
   const tq::TableSlots::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == tq::TableSlots::kNone)
@@ -18,7 +18,7 @@ int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) {
   return records.Count() == 0 || slots->At(slot)->Add(records.Joined());
 }
 
-int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) {
+int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) noexcept {
   const tq::TableSlots::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == tq::TableSlots::kNone)
@@ -27,7 +27,7 @@ int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) {
   return records.Count() == 0 || slots->At(slot)->Update(records.Joined());
 }
 
-int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) {
+int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) noexcept {
   const int slot = MapToSymbolTableIndex(exchId);
   if (slot == tq::TableSlots::kNone)
     return 0;
@@ -37,7 +37,7 @@ int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) {
   return 1;
 }
 
-int CSymbolTableMgr::RebuildSymbolTable() {
+int CSymbolTableMgr::RebuildSymbolTable() noexcept {
   const tq::TableSlots::Use slots(*slots_);
   const tq::ExchangeList list;
   if (!list.Result())
@@ -73,7 +73,7 @@ int CSymbolTableMgr::RebuildSymbolTable() {
   return 1;
 }
 
-int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) {
+int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) noexcept {
   constexpr int allExchanges = -1;
   if (exchId == allExchanges)
     return RebuildSymbolTable();

@@ -33,29 +33,30 @@ std::vector<tq::ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchange
 
 } // namespace
 
-int CTQSymbolListMgr::LoadDefaultExchange(CUIntArray& ids, int useUser, const char* /*unused*/) {
+int CTQSymbolListMgr::LoadDefaultExchange(CUIntArray& ids, int useUser,
+                                          const char* /*unused*/) noexcept {
   if (useUser != 0 || DoLoadDefaultExchange(ids) == 0)
     DoLoadUserDefaultExchange(ids);
   return 1;
 }
 
-int CTQSymbolListMgr::DoLoadDefaultExchange(CUIntArray& ids) {
+int CTQSymbolListMgr::DoLoadDefaultExchange(CUIntArray& ids) noexcept {
   return tq::ReadDefaultExchangeIds(ids) ? 1 : 0;
 }
 
-int CTQSymbolListMgr::DoLoadUserDefaultExchange(CUIntArray& ids) {
+int CTQSymbolListMgr::DoLoadUserDefaultExchange(CUIntArray& ids) noexcept {
   ids.Copy(userDefaultExchanges_);
   return 1;
 }
 
-void CTQSymbolListMgr::ClearDefaultExchangeData() {
+void CTQSymbolListMgr::ClearDefaultExchangeData() noexcept {
   defaultExchanges_.RemoveAll();
   defaultRecords_.RemoveAll();
   if (ExchInfo* const records = std::exchange(exchangeRecords_, nullptr))
     VLFree(records);
 }
 
-int CTQSymbolListMgr::InitDefaultExchange() {
+int CTQSymbolListMgr::InitDefaultExchange() noexcept {
   ClearDefaultExchangeData();
   // While the services are asked the terminal may call this again: what they say is kept apart
   // until then.
@@ -78,26 +79,26 @@ int CTQSymbolListMgr::InitDefaultExchange() {
   return result != 0;
 }
 
-int CTQSymbolListMgr::GetDefaultExchange(int index) {
+int CTQSymbolListMgr::GetDefaultExchange(int index) noexcept {
   return static_cast<int>(defaultExchanges_.GetAt(index));
 }
 
-int CTQSymbolListMgr::GetDefaultExchangeCount() {
+int CTQSymbolListMgr::GetDefaultExchangeCount() noexcept {
   return defaultExchanges_.GetSize();
 }
 
-int CTQSymbolListMgr::IsDefaultExchange(int exchId) {
+int CTQSymbolListMgr::IsDefaultExchange(int exchId) noexcept {
   return tq::ContainsId(defaultExchanges_, static_cast<unsigned>(exchId));
 }
 
-int CTQSymbolListMgr::IsDefaultExchangeChange() {
+int CTQSymbolListMgr::IsDefaultExchangeChange() noexcept {
   CUIntArray now;
   if (!tq::ReadDefaultExchangeIds(now))
     return 0;
   return !std::equal(now.begin(), now.end(), defaultExchanges_.begin(), defaultExchanges_.end());
 }
 
-void CTQSymbolListMgr::ReLoadDefaultExch(int force) {
+void CTQSymbolListMgr::ReLoadDefaultExch(int force) noexcept {
   if (force == 0 && IsDefaultExchangeChange() == 0) {
     if (CheckAllSymbolByExch() != 0)
       SortAllSymbolByExch();
@@ -109,27 +110,27 @@ void CTQSymbolListMgr::ReLoadDefaultExch(int force) {
     symbolTables_->InitDefaultExchList(defaultExchanges_);
 }
 
-int CTQSymbolListMgr::UpdateDefaultExch(CUIntArray& ids) {
+int CTQSymbolListMgr::UpdateDefaultExch(CUIntArray& ids) noexcept {
   userDefaultExchanges_.Copy(ids);
   ReLoadDefaultExch(1);
   return 1;
 }
 
-int CTQSymbolListMgr::LoadDefExchOrder(CUIntArray& order) {
+int CTQSymbolListMgr::LoadDefExchOrder(CUIntArray& order) noexcept {
   exchangeOrder_.Copy(order);
   return !exchangeOrder_.IsEmpty();
 }
 
-void CTQSymbolListMgr::GetDefExchOrder(CUIntArray& order) {
+void CTQSymbolListMgr::GetDefExchOrder(CUIntArray& order) noexcept {
   order.Copy(exchangeOrder_);
 }
 
 // Whatever the order, it is accepted as it is.
-int CTQSymbolListMgr::CheckExchOrder(CUIntArray& /*order*/) {
+int CTQSymbolListMgr::CheckExchOrder(CUIntArray& /*order*/) noexcept {
   return 1;
 }
 
-void CTQSymbolListMgr::SortAllSymbolByExch() {
+void CTQSymbolListMgr::SortAllSymbolByExch() noexcept {
   CUIntArray exchanges;
   {
     const tq::ExchangeList list;
@@ -168,11 +169,11 @@ void CTQSymbolListMgr::ClearAllSymbols() {
   allSymbolCount_ = 0;
 }
 
-int CTQSymbolListMgr::CheckAllSymbolByExch() {
+int CTQSymbolListMgr::CheckAllSymbolByExch() noexcept {
   return allSymbols_ == nullptr || allSymbolCount_ == 0;
 }
 
-int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) {
+int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept {
   if (out == nullptr || count == nullptr || CheckAllSymbolByExch() != 0)
     return 0;
   auto* const copy = new (std::nothrow) SymbolInfo[static_cast<size_t>(allSymbolCount_)];
@@ -184,6 +185,6 @@ int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) {
   return 1;
 }
 
-void CTQSymbolListMgr::FreeSymbolInfos(SymbolInfo* infos) {
+void CTQSymbolListMgr::FreeSymbolInfos(SymbolInfo* infos) noexcept {
   delete[] infos;
 }

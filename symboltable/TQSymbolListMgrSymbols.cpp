@@ -77,7 +77,7 @@ std::pair<CString, CString> CTQSymbolListMgr::SplitId(const CString& id) const {
 }
 
 int CTQSymbolListMgr::GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount,
-                                    SymbolInfo* out) {
+                                    SymbolInfo* out) noexcept {
   const CString id(symbol);
   if (id.IsEmpty() || out == nullptr)
     return 0;
@@ -99,7 +99,7 @@ int CTQSymbolListMgr::GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int
   return 0;
 }
 
-int CTQSymbolListMgr::IsValidSymbol(const CString& text, SymbolInfo* info) {
+int CTQSymbolListMgr::IsValidSymbol(const CString& text, SymbolInfo* info) noexcept {
   constexpr int kAllExchanges = -1;
   tq::ServiceArray<SymbolInfo> found;
   if (info == nullptr ||
@@ -117,7 +117,8 @@ int CTQSymbolListMgr::IsValidSymbol(const CString& text, SymbolInfo* info) {
   return 0;
 }
 
-int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind) {
+int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables,
+                                      JT_DEAL kind) noexcept {
   int lot = kDefaultLot;
   if (tables == nullptr)
     return lot;
@@ -140,7 +141,7 @@ int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables
 }
 
 int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,
-                                             ExchSymbolUpdateType type) {
+                                             ExchSymbolUpdateType type) noexcept {
   if (count > tq::kMaxSymbolChangeItems)
     tq::LogLine(tq::kLogGeneral,
                 "CTQSymbolListMgr::UpdateExchSymbolChange Count = %d, MaxSymbolChangeItems = %d",
@@ -159,13 +160,13 @@ int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, sho
 }
 
 int CTQSymbolListMgr::ReplaceSymbolListExchID(CString& ids, const CString& oldExchange,
-                                              const CString& newExchange) {
+                                              const CString& newExchange) noexcept {
   return symbolTables_ != nullptr &&
          tq::MoveSymbols(*symbolTables_, ids, oldExchange, newExchange) != 0;
 }
 
 int CTQSymbolListMgr::ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
-                                              const CString& newExchange) {
+                                              const CString& newExchange) noexcept {
   if (list == nullptr)
     return 0;
   CString ids = list->GetIDs();

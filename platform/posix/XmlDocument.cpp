@@ -183,8 +183,8 @@ XmlDocument::~XmlDocument() {
 XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
   Clear();
   const MemoryWatch watch;
-  state_ = xmlReadMemory(utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr,
-                         kParserOptions);
+  state_ =
+      xmlReadMemory(utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr, kParserOptions);
   if (watch.Lacked())
     return LoadResult::SystemFailed;
   return state_ != nullptr ? LoadResult::Ok : LoadResult::Refused;

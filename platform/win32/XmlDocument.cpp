@@ -92,7 +92,8 @@ void AssignText(const ComText& text, bool carried, CString& value) {
 std::string TextPiece(Node* node) {
   DOMNodeType type = NODE_INVALID;
   VARIANT value = {};
-  if (FAILED(Told(node->get_nodeType(&type))) || (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
+  if (FAILED(Told(node->get_nodeType(&type))) ||
+      (type != NODE_TEXT && type != NODE_CDATA_SECTION) ||
       FAILED(Told(node->get_nodeValue(&value))))
     return {};
   if (value.vt == VT_BSTR)
@@ -103,7 +104,8 @@ std::string TextPiece(Node* node) {
 
 bool IsBlank(Node* node) {
   DOMNodeType type = NODE_INVALID;
-  return SUCCEEDED(Told(node->get_nodeType(&type))) && type == NODE_TEXT && IsXmlBlank(TextPiece(node));
+  return SUCCEEDED(Told(node->get_nodeType(&type))) && type == NODE_TEXT &&
+         IsXmlBlank(TextPiece(node));
 }
 
 // Calls take(child) for each child node in document order.
@@ -151,7 +153,8 @@ bool XmlElement::HasAttributes() const {
     ComPtr<Node> attribute;
     ComText name;
     if (Told(map->get_item(i, attribute.Receive())) == S_OK && attribute &&
-        Told(attribute->get_nodeName(name.Receive())) == S_OK && !IsNamespaceDeclaration(name.View()))
+        Told(attribute->get_nodeName(name.Receive())) == S_OK &&
+        !IsNamespaceDeclaration(name.View()))
       return true;
   }
   return false;
@@ -250,7 +253,8 @@ XmlElement XmlDocument::SelectSingle(const char* path) const {
   State& state = *StateOf(state_);
   const ComText query(path);
   ComPtr<Node> node;
-  if (!state.document || Told(state.document->selectSingleNode(query.Get(), node.Receive())) != S_OK)
+  if (!state.document ||
+      Told(state.document->selectSingleNode(query.Get(), node.Receive())) != S_OK)
     return {};
   return XmlElement(node.Detach(), carried_);
 }

@@ -115,7 +115,8 @@ TEST_F(MemoryTest, NothingIsLostWhicheverAllocationFails) {
 TEST_F(MemoryTest, AFileThatDoesNotFitIsKeptBeforeASave) {
   constexpr std::size_t kFileSize = 24 * kKilobyte * kKilobyte;
   const std::size_t end = lists_.rfind("</SymbolList>");
-  const std::string large = lists_.substr(0, end) + std::string(kFileSize, ' ') + lists_.substr(end);
+  const std::string large =
+      lists_.substr(0, end) + std::string(kFileSize, ' ') + lists_.substr(end);
   WriteWorking(large);
   const Ending ending = RunWithin(kFileSize / 2, [this] {
     manager.Init(directory.Path().c_str(), 0, 0, 0, nullptr, 0, 0);

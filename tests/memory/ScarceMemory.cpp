@@ -92,8 +92,8 @@ Ending RunWithout(long number, bool once, const Work& work) {
 }
 
 long CountAllocations(const Work& work) {
-  void* const shared = ::mmap(nullptr, sizeof(long), PROT_READ | PROT_WRITE,
-                              MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  void* const shared =
+      ::mmap(nullptr, sizeof(long), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
   if (shared == MAP_FAILED)
     std::abort();
   auto* const count = static_cast<long*>(shared);

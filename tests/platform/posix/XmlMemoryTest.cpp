@@ -76,7 +76,8 @@ private:
 };
 
 std::string Lists(int count) {
-  std::string text = "<?xml version='1.0' encoding='Big5'?>\n<Result>\n<SymbolList DefaultIdx='3'>\n";
+  std::string text =
+      "<?xml version='1.0' encoding='Big5'?>\n<Result>\n<SymbolList DefaultIdx='3'>\n";
   for (int i = 0; i < count; ++i)
     text += "\t<List ID='{" + std::to_string(i) + "}' Name='n&amp;" + std::to_string(i) +
             "' Value='" + std::string(static_cast<size_t>(40 * i), 'A') + ",2330.TW'/>\n";
