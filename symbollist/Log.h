@@ -17,8 +17,9 @@ TQLog* Log();
 // there is one, and writes its first line. When it cannot be allocated it stays absent.
 void OpenLog();
 
-// Destroys the logger, if there is one. Managers may outlive it: their lines are then dropped. Where
-// the process ends and other libraries may not be called (platform/LibraryEnd.h), it is only let go.
+// Destroys the logger, if there is one. Managers may outlive it: their lines are then dropped.
+// Where the process ends and other libraries may not be called (platform/LibraryEnd.h), it is only
+// let go.
 void CloseLog();
 
 // Writes one line when there is a logger. User text is an argument, never the format.

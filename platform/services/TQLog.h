@@ -8,9 +8,9 @@ class TQLog {
 public:
   TQLog();
   // Closes the file. On Windows it may be called while the system's loader is at work, when the
-  // terminal frees the library that made the logger: it must neither load or free a library nor wait
-  // for another thread. A logger that lives when the process ends is not destroyed there; the logging
-  // library then brings its lines to the file when it ends itself.
+  // terminal frees the library that made the logger: it must neither load or free a library nor
+  // wait for another thread. A logger that lives when the process ends is not destroyed there; the
+  // logging library then brings its lines to the file when it ends itself.
   ~TQLog();
   TQLog(const TQLog&) = delete;
   TQLog& operator=(const TQLog&) = delete;

@@ -1,7 +1,7 @@
 // What the library has opened of the system and not closed yet, counted where the owning classes of
 // this folder open and close it, so that tests can see that nothing stays behind. Windows itself
-// counts some kinds only, and not on every system that runs these programs. A count costs as much as
-// an addition.
+// counts some kinds only, and not on every system that runs these programs. A count costs as much
+// as an addition.
 #pragma once
 
 #include "platform/framework/FrameworkApi.h"

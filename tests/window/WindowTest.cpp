@@ -1,10 +1,9 @@
 #include "tests/window/WindowTest.h"
 
-#include "tests/support/HeldObjects.h"
-
 #include <iterator>
 
 #include "platform/services/tqCommon.h"
+#include "tests/support/HeldObjects.h"
 #include "tests/window/TestModule.h"
 
 namespace {
