@@ -1,10 +1,13 @@
 // Descriptions of two legs.
+#include <optional>
+
 #include "platform/services/tqStockFields.h"
 #include "symboltable/CombinationText.h"
 #include "symboltable/ContractCode.h"
 #include "symboltable/ContractService.h"
 #include "symboltable/OptFutID.h"
 #include "symboltable/SymbolTableMgr.h"
+#include "symboltable/TablesWatch.h"
 #include "symboltable/UpperText.h"
 
 namespace {
@@ -45,10 +48,13 @@ int COptFutID::MergeID2(CString& text, char& side, const CString& id1, char side
     return Report(OptFutCommoditiesDiffer);
   if (check && !ChkCommID(code1, side1, code2, side2))
     return 0;
-  const auto namesOf = [this, tables](const CString& code) {
+  std::optional<tq::TablesWatch> watch;
+  if (tables != nullptr)
+    watch.emplace(*tables);
+  const auto namesOf = [&](const CString& code) {
     tq::LegNames names;
-    const CString serviceId = tables ? tq::ServiceId(code) : CString();
-    if (serviceId.IsEmpty())
+    const CString serviceId = watch && !watch->AreGone() ? tq::ServiceId(code) : CString();
+    if (serviceId.IsEmpty() || watch->AreGone())
       return names;
     if (!tables->LookUpSymbolGetString(FieldLegExchange, serviceId, CString(), names.exchange))
       names.exchange.Empty();

@@ -29,6 +29,7 @@ class CUIntArray;
 namespace tq {
 class SymbolMover;
 class TableSlots;
+class TablesWatch;
 } // namespace tq
 
 class TQSYMBOL_API CSymbolTableMgr {
@@ -192,6 +193,7 @@ protected:
   CSymbolTable* TableAt(int slot) const noexcept;
 
 private:
+  friend class tq::TablesWatch;
   friend class tq::
       SymbolMover; // which has to know a table that says nothing from one that lacks a symbol
 

@@ -41,6 +41,8 @@ public:
   ~TableSlots();
   // Deletes the slots with all tables, as soon as no operation uses them.
   static void Delete(std::unique_ptr<TableSlots> slots);
+  // Whether Delete was called, and an operation uses them still.
+  bool IsOwnerless() const { return ownerless_; }
   TableSlots(const TableSlots&) = delete;
   TableSlots& operator=(const TableSlots&) = delete;
 

@@ -7,9 +7,11 @@
 #include <cstdlib>
 #include <map>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include "platform/services/tqCommon.h"
 #include "tests/operations/Crash.h"
 #include "tests/operations/Operations.h"
 #include "tests/operations/Subject.h"
@@ -121,17 +123,19 @@ void CallTwice(Subject& subject, const Cell& cell) {
   CallInner(subject, cell);
 }
 
-// Which calls of a service have the inner operations run within them: the first ones, then ever
-// fewer, for attributes are read dozens of times for each symbol.
+// Which calls of a service have the inner operations run within them: ever fewer, for attributes are
+// read dozens of times for each symbol.
 bool IsChosen(int call) {
-  return call <= 3 || (call & (call - 1)) == 0;
+  return call == 1 || call == 2 || call == 5 || call == 16 || call == 64;
 }
 
-// All pairs of operations would take hours with all services. Each pair is tried in one service of
-// the outer one and with one aim, in turn, unless the environment asks for all.
+// All pairs of operations with all services would take minutes. Each pair is tried in one service of
+// the outer one and with one aim, in turn and another one in each language, unless the environment
+// asks for all.
 bool IsTried(std::size_t outer, std::size_t inner, std::size_t place, std::size_t places) {
   static const bool kAll = std::getenv("TQ_WHOLE_MATRIX") != nullptr;
-  return kAll || (outer + inner) % places == place;
+  const std::size_t turn = outer + inner + (IsTraditionChinese() != 0 ? 0 : 1);
+  return kAll || turn % places == place;
 }
 
 class ReentryMatrix : public testing::TestWithParam<std::size_t> {
@@ -153,6 +157,17 @@ protected:
 
   enum class Order { OuterAlone, InnerAlone, OuterFirst, InnerFirst };
 
+  // After, kept where only one of the two operations matters.
+  static Probes Left(const Cell& cell, Order order) {
+    static std::map<std::tuple<Order, std::size_t, Aim>, Probes> kept;
+    if (order != Order::OuterAlone && order != Order::InnerAlone)
+      return After(cell, order);
+    const std::size_t alone = order == Order::OuterAlone ? cell.outer : cell.inner;
+    const auto found = kept.find({order, alone, cell.aim});
+    return found != kept.end() ? found->second
+                               : kept[{order, alone, cell.aim}] = After(cell, order);
+  }
+
   // What is left when nothing is nested. The inner one comes twice, as it may within.
   static Probes After(const Cell& cell, Order order) {
     Subject subject;
@@ -171,7 +186,7 @@ protected:
     for (const Order order :
          {Order::OuterAlone, Order::InnerAlone, Order::OuterFirst, Order::InnerFirst})
       if (lost.any())
-        lost &= After(cell, order);
+        lost &= Left(cell, order);
     for (std::size_t bit = 0; bit < lost.size(); ++bit)
       EXPECT_FALSE(lost[bit]) << "lost: " << NameOfProbe(bit);
   }
