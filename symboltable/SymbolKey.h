@@ -37,8 +37,8 @@ inline std::size_t SizeOf(PackedText code) {
   return size != kLongKey ? size : static_cast<std::uint32_t>(code.high);
 }
 
-// The secret of this process, of which the hash of a key is made, so that nobody can choose ids that
-// share a hash. Nothing that is stored or seen from outside depends on a hash.
+// The secret of this process, of which the hash of a key is made, so that nobody can choose ids
+// that share a hash. Nothing that is stored or seen from outside depends on a hash.
 extern const HashSeed kHashSeed;
 
 // What MakeKey adds to the hash of a code for the bytes that are not in it.

@@ -194,8 +194,8 @@ protected:
 
 private:
   friend class tq::TablesWatch;
-  friend class tq::
-      SymbolMover; // which has to know a table that says nothing from one that lacks a symbol
+  // It has to know a table that says nothing from one that lacks a symbol.
+  friend class tq::SymbolMover;
 
   std::unique_ptr<tq::TableSlots> slots_; // the tables and the default exchanges
 };
