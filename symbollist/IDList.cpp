@@ -69,6 +69,10 @@ int CIDList::Update3() {
 }
 
 int CIDList::Update2(SymbolInfo* records, int count) {
+  return TakeRecords(records, count);
+}
+
+int CIDList::TakeRecords(SymbolInfo* records, int count) noexcept {
   const int given = records == nullptr ? 0 : std::max(count, 0);
   DiscardRecords();
   records_ = NewRecords(given).release();
@@ -91,15 +95,22 @@ int CIDList::Update2(SymbolInfo* records, int count) {
 }
 
 int CIDList::Update1(const CString& ids) {
+  if (!Keep(ids))
+    return 0;
+  Resolve();
+  return 1;
+}
+
+// Whether the string is another one now.
+bool CIDList::Keep(const CString& ids) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(ids); // which may log, and the terminal delete the list
   if (watch.IsGone() || kept == ids_)
-    return 0;
+    return false;
   modified_ = 1;
   DiscardRecords();
   ids_ = kept;
-  Resolve();
-  return 1;
+  return true;
 }
 
 void CIDList::UpdateWithCopy(const CString& ids, CIDList& copy) noexcept {
@@ -131,7 +142,7 @@ CIDList::Rows CIDList::ResolveIfDue() {
 
 // Fills the rows from the string. There are none when the service failed, and the next question
 // asks it again.
-CIDList::Rows CIDList::Resolve() {
+CIDList::Rows CIDList::Resolve() noexcept {
   const tq::SplitIds split = tq::SplitIdString(ids_, tokens_);
   if (ids_.IsEmpty()) {
     count_ = 0;

@@ -95,7 +95,11 @@ private:
 
   void CopyContents(const CIDList& other);
   Rows ResolveIfDue();
-  Rows Resolve();
+  // Without exceptions, as all of the interface is: those of its operations that are virtual do not
+  // say so, for a terminal's own list need not.
+  Rows Resolve() noexcept;
+  int TakeRecords(SymbolInfo* records, int count) noexcept;
+  bool Keep(const CString& ids) noexcept;
   bool Ask(int headings, const CString& lookup);
   Rows State() const { return records_ != nullptr ? Rows::There : Rows::None; }
   void TakeRows(const SymbolInfo* found, int foundCount, int headings);

@@ -2,10 +2,10 @@
 // may hold: text that comes back when the file is read.
 //
 // The list file is written as it stands, so a half character or a control byte in one name would
-// make the next load refuse the whole file, and with it every list of the user. Such bytes are taken
-// out where text enters a list, in one place for all ways that lead there. An apostrophe, "&" and
-// "<" are not among them: they are characters, and names are screened for them where users enter
-// them.
+// make the next load refuse the whole file, and with it every list of the user. Such bytes are
+// taken out where text enters a list, in one place for all ways that lead there. An apostrophe, "&"
+// and "<" are not among them: they are characters, and names are screened for them where users
+// enter them.
 #pragma once
 
 #include <string>

@@ -5,8 +5,11 @@
 //  1. Every call comes from the terminal's user-interface thread and is done when it returns. There
 //     are no threads and no locks.
 //  2. Results are int, non-zero for success and 0 for failure or not found, unless an operation
-//     says otherwise. Nothing throws. A null text is taken as an empty one. An output may be the
-//     object that an input is; when two outputs are one object, it gets the text of the last one.
+//     says otherwise. Nothing throws: without memory for a block that a file or a service makes
+//     large an operation fails as its description says, without memory for anything else the
+//     process is stopped (docs/trust.md). A null text is taken as an empty one. An output may be
+//     the object that an input is; when two outputs are one object, it gets the text of the last
+//     one.
 //  3. Text is in the process's ANSI code page, Big5 (950) or GB2312 (936). Symbol ids in one string
 //     are joined by "," without blanks.
 //  4. Lists are addressed by a kind (1: the user's lists, 6: lists from trading accounts, 8: cloud
@@ -116,8 +119,8 @@ public:
   int LoadSymbolList() noexcept;
   // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0,
   // after message 48026 to the user, when the file could not be written, a copy of it could not be
-  // made, or the lists are too large to be loaded again (64 MiB as text); file and lists are then
-  // unchanged.
+  // made, or the lists are too large to be loaded again (64 MiB as text) or for the memory; file
+  // and lists are then unchanged.
   int SaveSymbolList() noexcept;
   // The same with the backup file.
   int BackupSymbolList() noexcept;
@@ -308,7 +311,7 @@ public:
   // exchange); the caller releases the array with VLFree.
   int GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count) noexcept;
   // A copy of the buffer of all symbols, which the caller releases with FreeSymbolInfos. 0, outputs
-  // untouched, when there is none.
+  // untouched, when there is none, or no memory for a copy.
   int GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept;
   // Releases what GetAllSymbolInfos handed out; null is allowed. A host with the C runtime that
   // this library uses may delete it with delete[] as well. In any other host that would corrupt the
