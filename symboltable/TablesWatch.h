@@ -1,5 +1,5 @@
-// Whether the symbol tables that a caller was given live still: the terminal may delete them while a
-// service is asked.
+// Whether the symbol tables that a caller was given live still: the terminal may delete them while
+// a service is asked.
 #pragma once
 
 #include "symboltable/SymbolTableMgr.h"

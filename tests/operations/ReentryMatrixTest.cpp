@@ -123,8 +123,8 @@ void CallTwice(Subject& subject, const Cell& cell) {
   CallInner(subject, cell);
 }
 
-// Which calls of a service have the inner operations run within them: ever fewer, for attributes are
-// read dozens of times for each symbol.
+// Which calls of a service have the inner operations run within them: ever fewer, for attributes
+// are read dozens of times for each symbol.
 bool IsChosen(int call) {
   return call == 1 || call == 2 || call == 5 || call == 16 || call == 64;
 }
