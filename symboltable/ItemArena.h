@@ -14,7 +14,7 @@ namespace tq {
 class ItemArena {
 public:
   ItemArena() = default;
-  // With the items, which stay where they are. One that was moved from is good for a new value only.
+  // With the items, which stay where they are. One that was moved from can only be assigned to.
   ItemArena(ItemArena&&) = default;
   ItemArena& operator=(ItemArena&&) = default;
 
