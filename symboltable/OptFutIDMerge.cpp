@@ -40,17 +40,21 @@ int COptFutID::MergeID(CString& text, char& side, const CString& id1, char side1
 }
 
 int COptFutID::MergeID2(CString& text, char& side, const CString& id1, char side1,
+<<<<<<< HEAD
                         const CString& id2, char side2, int check,
                         CSymbolTableMgr* tables) noexcept {
+=======
+                        const CString& id2, char side2, int check, CSymbolTableMgr* tables) {
+  std::optional<tq::TablesWatch> watch;
+  if (tables != nullptr)
+    watch.emplace(*tables);
+>>>>>>> work-a
   const CString code1 = Trimmed(id1);
   const CString code2 = Trimmed(id2);
   if (!HaveOneCommodity(code1, code2))
     return Report(OptFutCommoditiesDiffer);
   if (check && !ChkCommID(code1, side1, code2, side2))
     return 0;
-  std::optional<tq::TablesWatch> watch;
-  if (tables != nullptr)
-    watch.emplace(*tables);
   const auto namesOf = [&](const CString& code) {
     tq::LegNames names;
     const CString serviceId = watch && !watch->AreGone() ? tq::ServiceId(code) : CString();

@@ -131,7 +131,7 @@ bool IsChosen(int call) {
 
 // All pairs of operations with all services would take minutes. Each pair is tried in one service
 // of the outer one and with one aim, in turn and another one in each language, unless the
-// environment asks for all.
+// environment variable TQ_WHOLE_MATRIX asks for all.
 bool IsTried(std::size_t outer, std::size_t inner, std::size_t place, std::size_t places) {
   static const bool kAll = std::getenv("TQ_WHOLE_MATRIX") != nullptr;
   const std::size_t turn = outer + inner + (IsTraditionChinese() != 0 ? 0 : 1);
