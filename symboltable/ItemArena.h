@@ -14,11 +14,7 @@ namespace tq {
 class ItemArena {
 public:
   ItemArena() = default;
-<<<<<<< HEAD
-  // With the items, which stay where they are. One that was moved from may only be given another.
-=======
   // With the items, which stay where they are. One that was moved from can only be assigned to.
->>>>>>> work-a
   ItemArena(ItemArena&&) = default;
   ItemArena& operator=(ItemArena&&) = default;
 

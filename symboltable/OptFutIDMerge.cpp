@@ -40,15 +40,11 @@ int COptFutID::MergeID(CString& text, char& side, const CString& id1, char side1
 }
 
 int COptFutID::MergeID2(CString& text, char& side, const CString& id1, char side1,
-<<<<<<< HEAD
                         const CString& id2, char side2, int check,
                         CSymbolTableMgr* tables) noexcept {
-=======
-                        const CString& id2, char side2, int check, CSymbolTableMgr* tables) {
   std::optional<tq::TablesWatch> watch;
   if (tables != nullptr)
     watch.emplace(*tables);
->>>>>>> work-a
   const CString code1 = Trimmed(id1);
   const CString code2 = Trimmed(id2);
   if (!HaveOneCommodity(code1, code2))
