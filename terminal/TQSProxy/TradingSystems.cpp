@@ -101,6 +101,6 @@ int TQSGetTSAccountHolding(const char* tsId, const char* accountId, TqsAccType t
 }
 
 void TQSFree(void* text) {
-  BeginQuietly("TQSFree");
+  NoteCall("TQSFree");
   ReleaseText(text);
 }

@@ -23,7 +23,7 @@ const ListingRange* Section(int exchId, int subId) {
 } // namespace
 
 void VLFree(void* array) {
-  BeginQuietly("VLFree");
+  NoteCall("VLFree");
   ReleaseArray(array);
 }
 

@@ -45,10 +45,15 @@ template <class... Arguments> std::string JoinArguments(Arguments... arguments) 
   return text;
 }
 
-// Opens a call that is not recorded: false when it has to fail.
-inline bool BeginQuietly(std::string_view operation) {
+// Opens a call that is not recorded and cannot fail.
+inline void NoteCall(std::string_view operation) {
   if (actionsOrdered)
     RunAction(operation);
+}
+
+// Opens a call that is not recorded: false when it has to fail.
+inline bool BeginQuietly(std::string_view operation) {
+  NoteCall(operation);
   return !OrderedToFail(operation);
 }
 
