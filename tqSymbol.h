@@ -1,14 +1,14 @@
 // tqSymbol: watch lists and symbol resolution for a quote-and-order terminal. This header brings in
 // the whole interface; each class has a header of its own, with its conventions at the top.
 //
-//   CTQSymbolListMgr   symbollist/TQSymbolListMgr.h    the user's lists: the one object that a
+//   CTQSymbolListMgr   manager/TQSymbolListMgr.h    the user's lists: the one object that a
 //                                                      terminal creates
 //   CSymbolTableMgr    symboltable/SymbolTableMgr.h    the symbol tables behind it
 //   CSymbolList        symbollist/SymbolList.h         one list
 //   CGroupSet          groups/GroupSet.h               a group that the terminal pushes in
-//   CListID            symbollist/ListID.h             what a page shows, as text
-//   CIDConvert         symboltable/IDConvert.h         an id and its kind in one text
-//   COptFutID          symboltable/OptFutID.h          combination orders of options and futures
+//   CListID            symbolid/ListID.h             what a page shows, as text
+//   CIDConvert         symbolid/IDConvert.h         an id and its kind in one text
+//   COptFutID          symbolid/OptFutID.h          combination orders of options and futures
 //   SymbolInfo         platform/services/VLProxy.h     one symbol
 //   GroupInfo          groups/GroupInfo.h              one group
 //
@@ -18,10 +18,10 @@
 
 #include "groups/GroupInfo.h"
 #include "groups/GroupSet.h"
-#include "symbollist/ListID.h"
+#include "manager/TQSymbolListMgr.h"
+#include "symbolid/IDConvert.h"
+#include "symbolid/ListID.h"
+#include "symbolid/OptFutID.h"
 #include "symbollist/SymbolList.h"
 #include "symbollist/TQSymbolListInfo.h"
-#include "symbollist/TQSymbolListMgr.h"
-#include "symboltable/IDConvert.h"
-#include "symboltable/OptFutID.h"
 #include "symboltable/SymbolTableMgr.h"

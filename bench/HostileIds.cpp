@@ -6,7 +6,7 @@
 
 #include "bench/Figure.h"
 #include "bench/HostileParts.h"
-#include "symboltable/PackedText.h"
+#include "symbolid/PackedText.h"
 #include "tests/support/CraftedTexts.h"
 #include "tqSymbol.h"
 

@@ -1,7 +1,8 @@
-# tqSymbol itself, from the objects of its subsystems.
-set(TQ_SUBSYSTEMS $<TARGET_OBJECTS:tqPlatform> $<TARGET_OBJECTS:tqSymbolTable>
-  $<TARGET_OBJECTS:tqSymbolList> $<TARGET_OBJECTS:tqGroups>
-  $<TARGET_OBJECTS:tqDialogs>)
+# tqSymbol itself, from the objects of its rooms.
+set(TQ_SUBSYSTEMS $<TARGET_OBJECTS:tqPlatform>)
+foreach(room IN LISTS TQ_ROOM_TARGETS)
+  list(APPEND TQ_SUBSYSTEMS $<TARGET_OBJECTS:${room}>)
+endforeach()
 
 add_library(tqSymbol SHARED ${TQ_SUBSYSTEMS})
 set_target_properties(tqSymbol PROPERTIES PREFIX "${CMAKE_SHARED_LIBRARY_PREFIX}" LINKER_LANGUAGE CXX)
@@ -13,7 +14,8 @@ if(WIN32)
   target_sources(tqSymbol PRIVATE ${resources})
   set_source_files_properties(${resources} PROPERTIES COMPILE_OPTIONS "-c65001")
   # The resource compiler does not tell which files it includes.
-  file(GLOB texts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/dialogs/resources/*.inc)
+  file(GLOB texts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/dialogs/resources/*.inc
+    ${PROJECT_SOURCE_DIR}/platform/texts/*.inc)
   set(TQ_RESOURCE_TEXTS ${texts} ${PROJECT_SOURCE_DIR}/platform/framework/DialogResources.inc)
   set_source_files_properties(dialogs/resources/tqSymbol.rc PROPERTIES OBJECT_DEPENDS
     "${TQ_RESOURCE_TEXTS}")

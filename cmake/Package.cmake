@@ -47,12 +47,12 @@ set(TQ_SYMBOL_HEADERS
   platform/services/VLRecords.h
   platform/services/tqStockFields.h
   symbollist/IDList.h
-  symbollist/ListID.h
+  symbolid/ListID.h
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h
-  symbollist/TQSymbolListMgr.h
-  symboltable/IDConvert.h
-  symboltable/OptFutID.h
+  manager/TQSymbolListMgr.h
+  symbolid/IDConvert.h
+  symbolid/OptFutID.h
   symboltable/SymbolTableMgr.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)

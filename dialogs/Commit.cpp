@@ -1,9 +1,9 @@
 #include "dialogs/Commit.h"
 
+#include "manager/TQSymbolListMgr.h"
+#include "platform/Log.h"
+#include "platform/Notify.h"
 #include "symbollist/ListKind.h"
-#include "symbollist/Log.h"
-#include "symbollist/Notify.h"
-#include "symbollist/TQSymbolListMgr.h"
 
 namespace tq {
 namespace {

@@ -4,7 +4,7 @@
 #include "dialogs/NationalCommodityDlg.h"
 #include "dialogs/NationalOptionDlg.h"
 #include "dialogs/resources/DialogTable.h"
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 int CTQSymbolListMgr::m_bDoModal = 0;
 

@@ -1,6 +1,6 @@
 #include "dialogs/TqSymbolApp.h"
 
-#include "symbollist/Log.h"
+#include "platform/Log.h"
 
 namespace {
 

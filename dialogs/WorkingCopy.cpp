@@ -1,7 +1,7 @@
 #include "dialogs/WorkingCopy.h"
 
+#include "manager/TQSymbolListMgr.h"
 #include "symbollist/ListArray.h"
-#include "symbollist/TQSymbolListMgr.h"
 
 namespace tq {
 

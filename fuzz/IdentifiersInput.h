@@ -5,9 +5,9 @@
 #include <string>
 
 #include "fuzz/Input.h"
-#include "symbollist/ListID.h"
-#include "symboltable/IDConvert.h"
-#include "symboltable/OptFutID.h"
+#include "symbolid/IDConvert.h"
+#include "symbolid/ListID.h"
+#include "symbolid/OptFutID.h"
 
 namespace fuzz {
 

@@ -8,7 +8,7 @@
 
 #include "fuzz/Input.h"
 #include "fuzz/MemoryFiles.h"
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 namespace fuzz {
 

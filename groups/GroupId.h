@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/services/VLProxy.h"
-#include "symboltable/PackedText.h"
+#include "symbolid/PackedText.h"
 
 namespace tq {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "groups/GroupLevel.h"
-#include "symbollist/Log.h"
+#include "platform/Log.h"
 
 CGroupList::CGroupList(const GroupInfo& info) : CGroupList(info, nullptr) {}
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "symboltable/ServiceArray.h"
+#include "platform/ServiceArray.h"
 
 namespace tq {
 

@@ -5,13 +5,13 @@
 #include <memory>
 #include <utility>
 
+#include "platform/ServiceArray.h"
+#include "platform/TextPieces.h"
+#include "symbolid/UpperText.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"
 #include "symbollist/StorableText.h"
-#include "symboltable/ServiceArray.h"
-#include "symboltable/TextPieces.h"
-#include "symboltable/UpperText.h"
 
 namespace {
 

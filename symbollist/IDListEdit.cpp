@@ -3,12 +3,12 @@
 #include <cstring>
 #include <utility>
 
+#include "symbolid/UpperText.h"
 #include "symbollist/IDList.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"
 #include "symbollist/StorableText.h"
-#include "symboltable/UpperText.h"
 
 int CIDList::RemoveEntry(int row) noexcept {
   if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)

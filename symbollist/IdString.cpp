@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "symboltable/TextPieces.h"
-#include "symboltable/UpperText.h"
+#include "platform/TextPieces.h"
+#include "symbolid/UpperText.h"
 
 namespace tq {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Log.h"
 #include "platform/XmlDocument.h"
 #include "symbollist/KeptCopies.h"
-#include "symbollist/Log.h"
 
 namespace tq {
 namespace {

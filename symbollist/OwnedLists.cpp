@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "symboltable/UpperText.h"
+#include "symbolid/UpperText.h"
 
 namespace tq {
 

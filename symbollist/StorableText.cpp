@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/Log.h"
 #include "platform/TextTables.h"
 #include "platform/XmlCharacters.h"
+#include "symbolid/UpperText.h"
 #include "symbollist/IdString.h"
-#include "symbollist/Log.h"
 #include "symbollist/TQSymbolListInfo.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {

@@ -8,11 +8,11 @@
 #include <system_error>
 #include <utility>
 
+#include "manager/TQSymbolListMgr.h"
+#include "platform/Log.h"
 #include "platform/XmlText.h"
 #include "symbollist/ListFile.h"
-#include "symbollist/Log.h"
 #include "symbollist/OwnedLists.h"
-#include "symbollist/TQSymbolListMgr.h"
 #include "symbollist/WriteBack.h"
 #include "symboltable/MovedSymbols.h"
 

@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "platform/services/TQSObj.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/LoginNumbers.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {

@@ -5,8 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include "platform/ServiceArray.h"
 #include "platform/framework/CString.h"
-#include "symboltable/ServiceArray.h"
 
 namespace tq {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "platform/services/tqStock.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/SymbolKey.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 namespace {

@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "platform/LeadingInt.h"
 #include "platform/services/TQSProxy.h"
-#include "symboltable/LeadingInt.h"
 
 namespace tq {
 

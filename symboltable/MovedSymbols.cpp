@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "platform/TextPieces.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableSlots.h"
-#include "symboltable/TextPieces.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 

@@ -8,9 +8,9 @@
 #include <string_view>
 
 #include "platform/framework/CString.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/ItemTexts.h"
 #include "symboltable/SymbolKey.h"
-#include "symboltable/UpperText.h"
 
 class CStaticKey;
 class CSymbolItem;

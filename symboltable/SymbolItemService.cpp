@@ -4,8 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/LeadingInt.h"
 #include "platform/services/tqStock.h"
-#include "symboltable/LeadingInt.h"
 #include "symboltable/SymbolItem.h"
 
 namespace {

@@ -3,8 +3,8 @@
 #include <cstdlib>
 
 #include "platform/CodePage.h"
-#include "symboltable/LeadingInt.h"
-#include "symboltable/UpperText.h"
+#include "platform/LeadingInt.h"
+#include "symbolid/UpperText.h"
 
 namespace tq {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "platform/framework/SeededHash.h"
-#include "symboltable/PackedText.h"
+#include "symbolid/PackedText.h"
 
 namespace tq {
 

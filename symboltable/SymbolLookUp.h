@@ -3,8 +3,8 @@
 
 #include <string_view>
 
+#include "symbolid/UpperText.h"
 #include "symboltable/TableSlots.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "platform/CodePage.h"
-#include "symboltable/TextPieces.h"
+#include "platform/TextPieces.h"
 
 namespace tq {
 namespace {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/services/tqStock.h"
-#include "symboltable/UpperText.h"
+#include "symbolid/UpperText.h"
 
 CSymbolTable::CSymbolTable(const CString& exchName, int exchId)
     : exchName_(exchName), exchId_(exchId), chains_(tq::kBucketCount) {}

@@ -3,8 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/ServiceArray.h"
 #include "platform/services/tqStock.h"
-#include "symboltable/ServiceArray.h"
 #include "symboltable/SymbolTable.h"
 
 int CSymbolTable::Load() {

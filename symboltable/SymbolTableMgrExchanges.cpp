@@ -1,8 +1,8 @@
 // What the symbol tables know of exchanges.
 #include <algorithm>
 
+#include "platform/LeadingInt.h"
 #include "symboltable/ExchangeService.h"
-#include "symboltable/LeadingInt.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableSlots.h"
 

@@ -2,10 +2,10 @@
 #include <utility>
 
 #include "platform/services/tqStockFields.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/SymbolLookUp.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableSlots.h"
-#include "symboltable/UpperText.h"
 
 namespace {
 

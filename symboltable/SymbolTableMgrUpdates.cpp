@@ -3,11 +3,11 @@
 #include <set>
 #include <string_view>
 
+#include "symbolid/UpperText.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/SymbolRecords.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableMaker.h"
-#include "symboltable/UpperText.h"
 
 int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noexcept {
   const tq::TableSlots::Use slots(*slots_);

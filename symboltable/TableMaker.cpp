@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "symbolid/UpperText.h"
 #include "symboltable/ExchangeService.h"
-#include "symboltable/UpperText.h"
 
 namespace tq {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "symboltable/UpperText.h"
+#include "symbolid/UpperText.h"
 
 namespace tq {
 TableSlots::TableSlots() = default;

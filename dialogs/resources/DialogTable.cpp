@@ -2,10 +2,10 @@
 
 #include <iterator>
 
-#include "dialogs/resources/StringTable.h"
 #include "platform/ModulePath.h"
 #include "platform/XmlText.h"
 #include "platform/services/tqCommon.h"
+#include "platform/texts/StringTable.h"
 
 namespace tq {
 namespace {

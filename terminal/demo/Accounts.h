@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 namespace demo {
 

@@ -1,7 +1,7 @@
 // The service's groups as a terminal's tree view shows them.
 #pragma once
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 namespace demo {
 

@@ -1,7 +1,7 @@
 // Lists in one line each.
 #pragma once
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 namespace demo {
 

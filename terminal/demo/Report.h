@@ -1,7 +1,7 @@
 // What the demo shows of the library's state, as UTF-8 on standard output.
 #pragma once
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 #include "symboltable/SymbolTableMgr.h"
 
 namespace demo {

@@ -1,7 +1,7 @@
 // What the library does when it is unloaded. tests/unload does it with the library itself.
 #include "dialogs/TqSymbolApp.h"
 
-#include "symbollist/Log.h"
+#include "platform/Log.h"
 #include "tests/interface/ManagerTest.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // sub-groups.
 #include "groups/GroupList.h"
 
-#include "symbollist/Log.h"
+#include "platform/Log.h"
 #include "tests/groups/GroupRecords.h"
 
 namespace {

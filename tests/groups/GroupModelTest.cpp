@@ -5,7 +5,7 @@
 #include <memory>
 #include <random>
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 #include "tests/groups/GroupModel.h"
 #include "tests/groups/GroupRecords.h"
 

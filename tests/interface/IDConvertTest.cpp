@@ -1,5 +1,5 @@
 // CIDConvert: an id and its kind in one text.
-#include "symboltable/IDConvert.h"
+#include "symbolid/IDConvert.h"
 
 #include <string>
 #include <type_traits>

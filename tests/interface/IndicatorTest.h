@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "manager/TQSymbolListMgr.h"
 #include "platform/services/tqCommon.h"
-#include "symbollist/TQSymbolListMgr.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/User.h"
 

@@ -1,5 +1,5 @@
 // The text forms of CListID at their edges: what is cut where, what falls back, what is emptied.
-#include "symbollist/ListID.h"
+#include "symbolid/ListID.h"
 #include "tests/interface/EditTest.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // CListID: identities of symbol sources, as values and as groups.
-#include "symbollist/ListID.h"
+#include "symbolid/ListID.h"
 
 #include <memory>
 #include <string>

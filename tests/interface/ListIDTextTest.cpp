@@ -2,7 +2,7 @@
 #include <string>
 
 #include "platform/services/tqCommon.h"
-#include "symbollist/ListID.h"
+#include "symbolid/ListID.h"
 #include "tests/support/StandInTest.h"
 
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
+#include "manager/TQSymbolListMgr.h"
 #include "platform/services/tqCommon.h"
-#include "symbollist/TQSymbolListMgr.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"
 

@@ -1,5 +1,5 @@
 // The string table as a terminal without resources asks for it.
-#include "dialogs/resources/StringTable.h"
+#include "platform/texts/StringTable.h"
 
 #include <gtest/gtest.h>
 

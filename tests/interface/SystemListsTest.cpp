@@ -1,7 +1,7 @@
 // The six system lists.
 #include <string>
 
-#include "dialogs/resources/StringTable.h"
+#include "platform/texts/StringTable.h"
 #include "terminal/StandIn.h"
 #include "tests/interface/EditTest.h"
 

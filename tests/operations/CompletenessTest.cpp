@@ -76,7 +76,7 @@ void ExpectAllInTable(const std::string& name, const std::string& prefix,
 }
 
 TEST(OperationsTable, HasEveryExportedOperationOfTheManager) {
-  ExpectAllInTable("CTQSymbolListMgr", "", "symbollist/TQSymbolListMgr.h");
+  ExpectAllInTable("CTQSymbolListMgr", "", "manager/TQSymbolListMgr.h");
 }
 
 TEST(OperationsTable, HasEveryExportedOperationOfTheSymbolTables) {

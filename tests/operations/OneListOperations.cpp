@@ -1,8 +1,8 @@
 // What a terminal does with a list of the manager's that it was handed, and the other exported
 // classes as far as they ask the services or the manager. A list is fetched for each call, since
 // one from within may delete it.
-#include "symbollist/ListID.h"
-#include "symboltable/OptFutID.h"
+#include "symbolid/ListID.h"
+#include "symbolid/OptFutID.h"
 #include "tests/operations/Operations.h"
 
 namespace operations {

@@ -1,7 +1,7 @@
 // The first start of the process opens the log, once: what the matrix cannot try again and again.
 #include <gtest/gtest.h>
 
-#include "symbollist/Log.h"
+#include "platform/Log.h"
 #include "tests/operations/Operations.h"
 #include "tests/operations/Subject.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 namespace operations {
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 #include "terminal/StandIn.h"
 #include "tests/operations/MemoryDisk.h"
 

@@ -4,11 +4,11 @@
 #include <random>
 #include <string>
 
+#include "manager/TQSymbolListMgr.h"
 #include "platform/FileAccess.h"
 #include "platform/Guid.h"
 #include "platform/services/tqCommon.h"
 #include "symbollist/ListArray.h"
-#include "symbollist/TQSymbolListMgr.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/symbollist/EditModel.h"

@@ -7,9 +7,9 @@
 #include <sstream>
 #include <string>
 
+#include "accounts/TradingService.h"
 #include "groups/GroupId.h"
 #include "groups/GroupLoader.h"
-#include "groups/TradingService.h"
 #include "platform/ModulePath.h"
 #include "platform/ReadSteps.h"
 #include "platform/XmlText.h"

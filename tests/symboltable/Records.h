@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "platform/services/tqStock.h"
+#include "symbolid/UpperText.h"
 #include "symboltable/SymbolTable.h"
-#include "symboltable/UpperText.h"
 #include "terminal/BaseAttrLayout.h"
 
 struct TestRecord {

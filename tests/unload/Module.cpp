@@ -1,4 +1,4 @@
-#include "symbollist/TQSymbolListMgr.h"
+#include "manager/TQSymbolListMgr.h"
 
 #if defined(_WIN32)
 #define TQ_MODULE_API __declspec(dllexport)

@@ -1,8 +1,8 @@
 // Numbers are given in the order of asking, which shows what was there when the program started.
 #include <gtest/gtest.h>
 
+#include "manager/TQSymbolListMgr.h"
 #include "platform/framework/RegisteredMessage.h"
-#include "symbollist/TQSymbolListMgr.h"
 
 namespace {
 

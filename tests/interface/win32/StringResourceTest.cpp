@@ -1,14 +1,14 @@
 // The DLL's string resources, as the terminal's message box loads them.
 #include <gtest/gtest.h>
 
-#include "dialogs/resources/StringTable.h"
+#include "platform/texts/StringTable.h"
 #include "tests/interface/win32/Resource.h"
 
 namespace {
 
 constexpr unsigned kIds[] = {
 #define TQ_STRING(id, traditional, simplified) id,
-#include "dialogs/resources/Strings.inc"
+#include "platform/texts/Strings.inc"
 #undef TQ_STRING
 };
 

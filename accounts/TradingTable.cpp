@@ -1,0 +1,131 @@
+#include "accounts/TradingTable.h"
+
+#include <utility>
+
+#include "accounts/Holdings.h"
+#include "accounts/TradingFile.h"
+#include "accounts/TradingService.h"
+#include "platform/FileAccess.h"
+#include "symbolid/UpperText.h"
+
+namespace tq {
+namespace {
+
+CString ToText(std::string_view text) {
+  return CString(text.data(), static_cast<int>(text.size()));
+}
+
+} // namespace
+
+CString CAccount::Id() const {
+  return ToText(FieldText(info.id));
+}
+
+CString CAccount::DisplayId() const {
+  return ToText(FieldText(info.displayId));
+}
+
+CString CAccount::ListId() const {
+  CString id;
+  id.Format("%d%s", static_cast<int>(info.type), Id().GetString());
+  return id;
+}
+
+bool CAccount::HasId(const CString& id) const {
+  return FieldText(info.id) == ViewOf(id);
+}
+
+CString CTS::Id() const {
+  return ToText(FieldText(info.id));
+}
+
+CString CTS::Name() const {
+  return ToText(FieldText(info.name));
+}
+
+int CTS::IndexOf(const CString& id, TqsAccType type) const {
+  for (size_t i = 0; i < accounts.size(); ++i) {
+    if (accounts[i].Is(id, type))
+      return static_cast<int>(i);
+  }
+  return -1;
+}
+
+const CAccount* CTS::FindAccount(const CString& id, TqsAccType type) const {
+  const int index = IndexOf(id, type);
+  return index < 0 ? nullptr : &accounts[static_cast<size_t>(index)];
+}
+
+CString CTS::MergedHoldings() const {
+  tq::MergedHoldings merged;
+  for (const CAccount& account : accounts)
+    merged.Add(account.holdings);
+  return merged.Text();
+}
+
+const CTS* TradingTable::Find(const CString& tsId) const {
+  const int index = IndexOf(tsId);
+  return index < 0 ? nullptr : &systems_[static_cast<size_t>(index)];
+}
+
+int TradingTable::IndexOf(const CString& tsId) const {
+  for (size_t i = 0; i < systems_.size(); ++i) {
+    if (FieldText(systems_[i].info.id) == ViewOf(tsId))
+      return static_cast<int>(i);
+  }
+  return -1;
+}
+
+void TradingTable::Reload(const CString& tsId) {
+  CTS fresh;
+  const bool available = FetchTradingSystem(tsId, fresh);
+  Put(tsId, available, std::move(fresh));
+}
+
+void TradingTable::Put(const CString& tsId, bool available, CTS fresh) {
+  const int index = IndexOf(tsId);
+  if (index >= 0) {
+    CTS& entry = systems_[static_cast<size_t>(index)];
+    // An emptied entry keeps its id: without it the next login would not find its place again.
+    if (!available)
+      std::memcpy(fresh.info.id, entry.info.id, sizeof(fresh.info.id));
+    entry = std::move(fresh);
+  } else if (available) {
+    systems_.push_back(std::move(fresh));
+  }
+  Changed();
+}
+
+CAccount* TradingTable::FindAccount(const CString& tsId, const CString& accountId,
+                                    TqsAccType type) {
+  const int system = IndexOf(tsId);
+  if (system < 0)
+    return nullptr;
+  CTS& entry = systems_[static_cast<size_t>(system)];
+  const int account = entry.IndexOf(accountId, type);
+  return account < 0 ? nullptr : &entry.accounts[static_cast<size_t>(account)];
+}
+
+void TradingTable::RefetchHoldings(const CString& tsId, const CString& accountId, TqsAccType type) {
+  CString holdings;
+  if (FindAccount(tsId, accountId, type) == nullptr ||
+      !FetchHoldings(tsId, accountId, type, holdings))
+    return;
+  CAccount* const account = FindAccount(tsId, accountId, type); // a login may have replaced it
+  if (account == nullptr)
+    return;
+  account->holdings = holdings;
+  Changed();
+}
+
+// The file is for others to look at; the library never reads it. So one that cannot be written
+// holds up nothing, and the next change tries again.
+void TradingTable::Changed() {
+  ++changes_;
+  if (path_.IsEmpty())
+    return;
+  const std::string text = TradingFileText(systems_);
+  Files().SaveWholeFile(path_, text.data(), text.size());
+}
+
+} // namespace tq

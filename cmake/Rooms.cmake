@@ -1,0 +1,10 @@
+# The library's rooms above platform/, each its objects. docs/architecture.md says which may use which.
+set(TQ_ROOMS symbolid symboltable exchanges symbollist groups cloud accounts imports manager dialogs)
+set(TQ_ROOM_TARGETS)
+foreach(room IN LISTS TQ_ROOMS)
+  file(GLOB sources CONFIGURE_DEPENDS ${room}/*.cpp ${room}/resources/*.cpp)
+  add_library(tq-${room} OBJECT ${sources})
+  target_compile_definitions(tq-${room} PRIVATE TQSYMBOL_BUILD)
+  target_link_libraries(tq-${room} PRIVATE tqOptions tqFramework)
+  list(APPEND TQ_ROOM_TARGETS tq-${room})
+endforeach()

@@ -1,0 +1,635 @@
+// CTQSymbolListMgr: the user's watch lists. The terminal creates one, calls Init, and reads and
+// edits lists through it from then on.
+//
+// Conventions that hold for all of it
+//  1. Every call comes from the terminal's user-interface thread and is done when it returns. There
+//     are no threads and no locks.
+//  2. Results are int, non-zero for success and 0 for failure or not found, unless an operation
+//     says otherwise. Nothing throws: without memory for a block that a file or a service makes
+//     large an operation fails as its description says, without memory for anything else the
+//     process is stopped (docs/trust.md). A null text is taken as an empty one. An output may be
+//     the object that an input is; when two outputs are one object, it gets the text of the last
+//     one.
+//  3. Text is in the process's ANSI code page, Big5 (950) or GB2312 (936). Symbol ids in one string
+//     are joined by "," without blanks.
+//  4. Lists are addressed by a kind (1: the user's lists, 6: lists from trading accounts, 8: cloud
+//     lists; any other kind has none) and either by position from 0 or by identifier. Identifiers
+//     are compared ignoring letter case.
+//  5. The manager owns its lists and tables and frees them. What it hands out are copies, which
+//     belong to the caller, unless an operation says otherwise.
+//  6. The user's lists come from the list file, groups from the symbol-data service, cloud lists
+//     from the terminal, and lists from trading accounts from the trading-system proxy. A group is
+//     addressed by type and id or by a handle, which is good until its type is loaded anew, removed
+//     or cleared or the group itself is replaced or removed.
+//  7. Names and id strings are kept without bytes that the list file could not give back (halves of
+//     double-byte characters, control bytes); a line in the log tells of it. An apostrophe, "&" and
+//     "<" are kept, and a file that holds one cannot be loaded: the terminal screens names on
+//     entry.
+//  8. The working list file is "\SymbolList.xml" in the data directory, its backup
+//     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with
+//     an empty one no file is read or written. A save leaves the old file or the new one, never a
+//     part.
+//  9. Which operations save, write a line to the log and tell the terminal by TQSCall stands in one
+//     table, docs/notifications.md.
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include "groups/GroupSet.h"
+#include "platform/framework/CMapStringToString.h"
+#include "platform/framework/CPtrArray.h"
+#include "platform/framework/CString.h"
+#include "platform/framework/CStringArray.h"
+#include "platform/framework/CUIntArray.h"
+#include "platform/framework/WindowTypes.h"
+#include "platform/services/TQSProxy.h"
+#include "platform/services/VLProxy.h"
+#include "platform/services/tqStockFields.h"
+#include "symbollist/SymbolList.h"
+#include "symbollist/TQSymbolListInfo.h"
+#include "tqSymbolApi.h"
+
+class CSymbolTableMgr;
+namespace tq {
+struct ImportedList;
+class CloudMap;
+class GroupStore;
+class KeptFiles;
+class OwnedLists;
+class TradingTable;
+} // namespace tq
+
+// What is traded, as the terminal numbers it. Only the differences that the library makes are
+// named.
+enum JT_DEAL : int {
+  JT_DEAL_STOCK = 0,  // stocks, listed or over the counter
+  JT_DEAL_FUTURE = 1, // 1, 2, 3 and 6: futures and options
+  JT_DEAL_OPTION = 2,
+};
+
+// What happened to symbols of an exchange, as the symbol-data service numbers it.
+enum ExchSymbolUpdateType : int {
+  ExchSymbolsAdded = 0, // cloud lists are told as well
+};
+
+class TQSYMBOL_API CTQSymbolListMgr {
+public:
+  // No lists, default index 0; no file is touched.
+  CTQSymbolListMgr() noexcept;
+  // Frees everything; saves nothing.
+  ~CTQSymbolListMgr();
+  CTQSymbolListMgr(const CTQSymbolListMgr&) = delete;
+  CTQSymbolListMgr& operator=(const CTQSymbolListMgr&) = delete;
+
+  // Starts the library on a data directory; may be called again on a live manager, which then
+  // begins anew.
+  //   dataDirectory         where the list file is, without trailing backslash. A missing
+  //                         directory is not created; in an existing one a missing list file is
+  //                         created, empty.
+  //   bCN                   handed to the symbol-data service with every symbol search
+  //   initSymbolTables      non-zero: build the symbol tables from the symbol-data service
+  //   loadSystemLists       non-zero: system lists are wanted
+  //   systemListNames       their names in order, or null; copied
+  //   useUserDefExch        non-zero: the default exchanges are the user's own
+  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start
+  //                         before stay, whatever this says; with 0 nothing changes them
+  // Returns 0 when the tables were asked for and could not be built: then no file was touched and
+  // there are no lists. A list file that cannot be read is no failure: the manager starts without
+  // lists. Where the system does not tell whether there is a list file, none is created.
+  int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
+           CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
+
+  // The tables that Init built, or null before it. The manager's; gone with the next Init.
+  CSymbolTableMgr* GetSymbolTableMgr() const noexcept { return symbolTables_; }
+
+  // --- The list file -----------------------------------------------------------------------------
+  // A save writes over nothing that nobody has seen. When the file on the disk is not, as it is
+  // now, one that this manager has read whole or written itself (its load failed or ended early,
+  // Init failed at the tables, another program wrote it since), or when it holds what cannot be
+  // written back, its bytes are first copied beside it: "\SymbolList_Kept.xml", then
+  // "\SymbolList_Kept1.xml" to "\SymbolList_Kept9.xml", then in the place of the oldest copy; of
+  // the backup file as "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says
+  // why. A missing file, one without lists, and bytes that are kept already are not copied. A copy
+  // that cannot be made refuses the save.
+
+  // Reads the working file in the place of the lists in memory; a file that cannot be read leaves
+  // none. Always 1: judge a load by the lists that it made. Ids are resolved as they are read;
+  // calls from within the service meanwhile still find the lists of before, whole.
+  int LoadSymbolList() noexcept;
+  // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0,
+  // after message 48026 to the user, when the file could not be written, a copy of it could not be
+  // made, or the lists are too large to be loaded again (64 MiB as text) or for the memory; file
+  // and lists are then unchanged.
+  int SaveSymbolList() noexcept;
+  // The same with the backup file.
+  int BackupSymbolList() noexcept;
+  // Reads the backup file as LoadSymbolList reads the working file, which is not rewritten (unless
+  // the backup holds no list: then the working file is at once). A missing backup empties the
+  // manager.
+  int RestorSymbolList() noexcept;
+  // Data directory and name of the backup file.
+  CString GetBackSymbolListPath() noexcept;
+  // Writes the working file without any list, whatever is in memory. Results as SaveSymbolList.
+  int CreateEmptySymbolListFile() noexcept;
+  // Writes the lists and the default index to any file, with the results of SaveSymbolList. `path`
+  // is a directory joined with one backslash to a plain ASCII file name, as the working file's path
+  // is. An empty one does nothing and returns 0.
+  int DoSaveSymbolList(const CString& path) noexcept;
+  // Reads any list file in the place of the lists in memory, as LoadSymbolList does; always 1. With
+  // an empty path the lists are gone and nothing is read. A file without any list makes the working
+  // file be written anew at once, empty.
+  int DoLoadSymbolList(const CString& path) noexcept;
+  // What a terminal asks for after somebody else changed the file: LoadSymbolList, then, as Init
+  // was told, LoadSystemList with the names of Init, which adds the system lists that the file
+  // lacks, and LoadTSList, which adds the list of all holdings when it is missing. Nothing is
+  // saved. Returns 1.
+  int UpdateTQSymbolList() noexcept;
+  // Goes over to another data directory: LoadSymbolList there, then, if Init was told to load
+  // system lists, LoadSystemList with the names of Init, which adds those that the file lacks. The
+  // lists from trading accounts stay as they are, and their file is written in the new directory
+  // from the next change on.
+  void ReLoadList(const CString& dataDirectory) noexcept;
+
+  // --- The list shown first ----------------------------------------------------------------------
+  // Stores the index without any check; -1 means none.
+  void SetDefaultIndex(int index) noexcept;
+  // Writes the stored index to `out`, always. Returns 0 when it is negative or there are no lists,
+  // else
+  // 1. It may lie beyond the last list: the caller must check the upper bound.
+  int GetDefaultListIdx(int& out) noexcept;
+
+  // --- The lists in memory -----------------------------------------------------------------------
+  // Destroys the lists of one kind: the user's, those of trading accounts, the cloud lists. No file
+  // is touched and the default index stays.
+  void ClearSymbolList() noexcept;
+  void ClearTSSymbolList() noexcept;
+  void ClearCloudSymbolList() noexcept;
+
+  // --- Editing whole lists -----------------------------------------------------------------------
+  // Of the user's lists. A refusal returns 0 and changes nothing. Where an operation saves, a save
+  // that fails shows its message and the change stays in memory.
+
+  // Adds a list, or gives an existing one other symbols.
+  //   id         empty: a new list with a new GUID. Refused when it is longer than 36 bytes or
+  //              holds bytes that are no characters, for the list would bear another one
+  //   name       for a new list; made unique with AdjustFileName. Empty: refused
+  //   symbols    ids joined by ",". Empty: refused
+  //   append     non-zero: the last list, 0: the first
+  //   overwrite  non-zero: a list with that id under another name gets the symbols too, and keeps
+  //              its name; 0: refused
+  // Symbols that went over from exchange TW to TE are renamed as ReplaceSymbolListExchID says, in
+  // new lists. Then: default index -1 becomes 0, the file is saved, "Add SymbolList" goes to the
+  // log, and the terminal gets TQSCall("", -1, 40, ""). Returns 1.
+  int AddSymbolList(const CString& id, int unused, const CString& name, const CString& symbols,
+                    int append, int overwrite) noexcept;
+  // Puts a copy of `source` in as the first list (`append` 0) or the last, moved symbols renamed in
+  // both. Identifier and name are not checked, duplicates included, and nothing is saved. Returns 0
+  // when `source` is null.
+  int AddTQSymbolList(CSymbolList* source, int append) noexcept;
+  // Replaces all lists by copies of the CSymbolList pointers in `lists`, which stay the caller's;
+  // moved symbols are renamed in both. Brings the default index into the range of the new lists (-1
+  // for none). Nothing is saved. Returns 0 when `lists` is null.
+  int SetSymbolList(CPtrArray* lists) noexcept;
+  // Deletes the first list with that id and saves; no line in the log, and the terminal is not
+  // told. When it was the default list and the last one, the default index goes one down, to -1 for
+  // the only list. In every other case the number stays, so after deleting a list in front of the
+  // default list it means the next list. Returns 0 when there is no such list.
+  int DeleteSymbolList(CString id) noexcept;
+  // Replaces, in every list's symbol string, each occurrence of the k-th old text by the k-th new
+  // one, for all k in turn: plain text, inside of longer ids too. When a list changed: saves, logs
+  // "ReplaceID", tells the terminal with TQSCall("", -1, 40, ""), returns 1. Else 0. A null array
+  // does nothing; of arrays of different sizes the shorter counts. When the lists would outgrow the
+  // list file (64 MiB as text), be it on the way from pair to pair, no list changes: 0 and a line
+  // in the log.
+  int ReplaceID(CStringArray* oldIds, CStringArray* newIds) noexcept;
+  // `name`, or when a list has it, the name with "(1)", "(2)" ... "(100)" behind it; the number is
+  // counted up in its place when the name has it already. After "(100)" the candidate is returned
+  // though it is taken. Names are kept within 64 bytes.
+  CString AdjustFileName(CString name) noexcept;
+
+  // --- Editing the entries of one list -----------------------------------------------------------
+  // Entries are the rows of a user list, from 0: ids that the service knows, and headings. Nothing
+  // is saved and the terminal is not told. 0 for a list or an entry that is not there, else 1.
+
+  // Takes one entry out.
+  int DeleteSymbolList(CString id, int entry) noexcept;
+  // Puts `text` behind the entry at `position` (`before` 0) or in front of it; a position before
+  // the first entry is the start, one behind the last the end. `heading` non-zero: a heading, ":"
+  // is put behind the text. A symbol that the list holds already is refused, and so are a text that
+  // is empty or only blanks and one with a ",".
+  int InsertSymbolList(CString id, int position, CString text, int before, int heading) noexcept;
+  // Lets two entries change places; 0 when they are one.
+  int SwapSymbolList(CString id, int first, int second) noexcept;
+  // Puts `text` in the place of an entry: an id, or a heading with its ":".
+  int ReplaceSymbolList(CString id, int entry, CString text) noexcept;
+
+  // --- Checks ------------------------------------------------------------------------------------
+  // Identifiers and names are compared ignoring letter case, unless said.
+
+  // Whether a list of the kind bears the name, the one at `skip` left out when `skipOne` is
+  // non-zero.
+  int CheckNameExist(const CString& name, int skipOne, int skip, int kind) noexcept;
+  // Bit 0: a list of the kind has the id. Bit 1: the first one that has it bears the name.
+  int CheckIDandName(const CString& id, const CString& name, int kind) noexcept;
+  // 1 when a list of the kind has the id.
+  int CheckSymbolListExist(const CString& id, int kind) noexcept;
+  // 1 when a list of the kind has the id and exactly that name (letter case counts).
+  int CheckListAndNameExist(const CString& id, const CString& name, int kind) noexcept;
+  // Whether a dialog's working copy (CSymbolList pointers) or its default index differs from the
+  // user's lists: in their number, a name (letter case counts) or a symbol string. A null copy
+  // differs.
+  bool IsModifyList(CPtrArray* lists, int defaultIndex) noexcept;
+  // The same against the cloud lists, without an index.
+  bool IsModifyCountList(CPtrArray* lists) noexcept;
+  // Why a list with that id cannot be added to a kind (201 counts as 8): bit 0 a list has the id,
+  // bit 1 it is longer than 36 bytes, bit 2 it holds what the list file cannot carry: an
+  // apostrophe, "&", "<", bytes that are no characters. 0 when it can; the empty id can, a GUID
+  // takes its place.
+  int CheckValidSymbolList(const CString& id, int kind) noexcept;
+  // Takes the first field off a parameter string: `before` gets the text up to `separator`, `text`
+  // keeps what is behind it. Without a separator all of it is taken. An empty text changes nothing.
+  static void CutStringAndGetParamBefore(CString& text, char separator, CString& before) noexcept;
+
+  // --- System lists ------------------------------------------------------------------------------
+  // Six of the user's lists, known by their ids "ZUSYSLIST1" to "ZUSYSLIST6", are the terminal's.
+
+  // Adds those of the six that are missing, empty, at the end; named by entry i of `names` where
+  // there is one, else by the library's own names. Lists that are there keep name and symbols.
+  // Nothing is saved. Returns 1.
+  int LoadSystemList(CStringArray* names) noexcept;
+  // The system mark of the first list of the kind with that id: 1 or 0.
+  int IsSystemList(const char* id, int kind) noexcept;
+  // Gives the user list with that id these symbols and, unless empty, this name. `nameChanged`
+  // becomes 1 when the name is another one now, else 0. Without such a list returns 0 and sets
+  // nothing. Not saved.
+  int UpdateSystemList(const CString& id, const CString& name, const CString& symbols,
+                       int& nameChanged) noexcept;
+  // The same by the list's number, 0 to 5, which must have a name from Init. `mode` non-zero
+  // replaces its symbols; 0 fills the list only while it is empty. Returns 1 when the symbols were
+  // set. Not saved.
+  int UpdateSystemList(int index, const CString& symbols, int mode) noexcept;
+  // The first form for each (id, symbols) pair, with the names of the second map (null: none); then
+  // saves and tells the terminal with TQSCall("", -1, 4, "ListNameChange") when a name changed,
+  // else with an empty reason. Returns 0 and does nothing when the first map is null.
+  int UpdateSystemList(CMapStringToString* symbols, CMapStringToString* names) noexcept;
+
+  // --- Queries -----------------------------------------------------------------------------------
+  // A kind without lists has a count of 0 and no list. Outputs of a query that finds nothing stay
+  // as they were, unless said.
+
+  // Number of lists of a kind; both are one.
+  int GetSymbolListCount(int kind) noexcept;
+  int GetTQSymbolListCount(int kind) noexcept;
+  // Appends a new copy of every list of the kind to `out`, in order. The caller deletes them. 0 for
+  // another kind than 1, 6 and 8.
+  int GetSymbolList(CPtrArray& out, int kind) noexcept;
+  // Sets `*out` to the first list of the kind with that id, or null. Not a copy: the list stays the
+  // manager's, changing it changes what is saved next, and it is good until lists are loaded,
+  // cleared or removed.
+  int GetSymbolList(CString id, CSymbolList** out, int kind) noexcept;
+  // Identifier and name of the list at `index`.
+  int GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) noexcept;
+  // Identifier, name and symbol string of the list at `index`.
+  int GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols, int kind) noexcept;
+  // Name of the list with that id, emptied when there is none; both are one.
+  int GetSymbolListName(const CString& id, CString& name, int kind) noexcept;
+  int GetTQSymbolListName(const char* id, CString& name, int kind) noexcept;
+  // The symbol string of a list as it is stored, unknown ids and headings included, and its tokens
+  // (`tokens` may be null). Kind 0 is the user's default list, whatever the id. Outputs are emptied
+  // when there is none.
+  int GetSymbolListIDs(int kind, const CString& id, CString& symbols,
+                       CStringArray* tokens) noexcept;
+  // The rows of a list joined by ",": what the service knows, and the headings. `out` is emptied
+  // when there is no such list.
+  int GetSymoblIDList(const CString& id, CString& out, int kind) noexcept;
+  // Number of rows of a list; 0 when there is no such list.
+  int GetTQSymbolCount(const char* id, int kind) noexcept;
+  // The record of one row; the id of a heading's is ":".
+  int GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out, int kind) noexcept;
+  // All symbols of an exchange, as VLGetSymbolInfos2 hands them out (`subId` -1: the whole
+  // exchange); the caller releases the array with VLFree.
+  int GetSymbolInfos(int exchId, int subId, SymbolInfo** list, int* count) noexcept;
+  // A copy of the buffer of all symbols, which the caller releases with FreeSymbolInfos. 0, outputs
+  // untouched, when there is none, or no memory for a copy.
+  int GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept;
+  // Releases what GetAllSymbolInfos handed out; null is allowed. A host with the C runtime that
+  // this library uses may delete it with delete[] as well. In any other host that would corrupt the
+  // heap.
+  static void FreeSymbolInfos(SymbolInfo* infos) noexcept;
+  // The record of one symbol. With an exchange suffix it is looked up as it is; a bare code on the
+  // default exchanges in order, the first hit wins. The exchanges' names are taken from
+  // `exchanges`, or without any (null, or a count of 0) from what the service listed when the
+  // default exchanges were set up; a default exchange that is not there is passed over.
+  int GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount,
+                    SymbolInfo* out) noexcept;
+  // The attribute records of the symbols named (joined by ","), as VLGetBaseAttrs hands them out;
+  // the caller releases the array with VLFree.
+  int GetBaseAttrs(const char* symbols, BaseAttr** list, int* count) noexcept;
+  // Finds the symbol that a typed text means, with the service's search: the only result, or of
+  // several the first whose exchange code, id or bare code is the text (letter case ignored).
+  // Copies its record into `*info` and returns 1; 0, `*info` untouched, when there is none.
+  int IsValidSymbol(const CString& text, SymbolInfo* info) noexcept;
+
+  // --- Default exchanges and the order of exchanges ----------------------------------------------
+  // Default exchanges are the ids in order of preference on which bare codes are looked for: those
+  // of the login information, or with the user's own switched on (or the login information out of
+  // reach) those of UpdateDefaultExch. No default exchanges is legal: bare codes then never
+  // resolve.
+
+  // Reads them anew, with the exchange records that go with them. 0 when the service's exchange
+  // list could not be read.
+  int InitDefaultExchange() noexcept;
+  // Replaces `ids` by what InitDefaultExchange would read; `useUser` non-zero: the user's own. The
+  // text is not used. Always 1. The two below are its sources: the login information (0 when it
+  // cannot be read, `ids` then untouched), and the user's own.
+  int LoadDefaultExchange(CUIntArray& ids, int useUser, const char* unused) noexcept;
+  static int DoLoadDefaultExchange(CUIntArray& ids) noexcept;
+  int DoLoadUserDefaultExchange(CUIntArray& ids) noexcept;
+  void ClearDefaultExchangeData() noexcept;
+  // The id at `index`. An index out of range stops the program: see GetDefaultExchangeCount.
+  int GetDefaultExchange(int index) noexcept;
+  int GetDefaultExchangeCount() noexcept;
+  int IsDefaultExchange(int exchId) noexcept;
+  // Whether the login information now has other default exchanges than those in use, or another
+  // order.
+  int IsDefaultExchangeChange() noexcept;
+  // Takes changed default exchanges over: reads them, sorts all symbols anew, tells the symbol
+  // tables. `force` 0: only when IsDefaultExchangeChange says so; otherwise only a missing buffer
+  // of all symbols is built.
+  void ReLoadDefaultExch(int force) noexcept;
+  // Stores the user's own default exchanges and reloads. Returns 1.
+  int UpdateDefaultExch(CUIntArray& ids) noexcept;
+  // Whether the user's own are used. Takes effect with the next reload.
+  void SetUseUserDefExch(int use) noexcept { useUserDefExch_ = use; }
+  int IsUseUserDefExch() const noexcept { return useUserDefExch_; }
+  // Stores a copy of the order in which dialogs show exchanges; 1 when it is not empty.
+  // GetDefExchOrder copies it out. CheckExchOrder accepts any order, changes nothing and returns 1.
+  int LoadDefExchOrder(CUIntArray& order) noexcept;
+  void GetDefExchOrder(CUIntArray& order) noexcept;
+  static int CheckExchOrder(CUIntArray& order) noexcept;
+  // Builds the buffer of all symbols: the exchanges that are no default ones go towards the end, in
+  // the order that exchanges/DefaultExchangeIds.h describes. When the service fails a buffer that
+  // is there stays as it is.
+  void SortAllSymbolByExch() noexcept;
+  // 1 when there is no buffer of all symbols, or an empty one.
+  int CheckAllSymbolByExch() noexcept;
+
+  // Units in one board lot of a symbol (field 176): of stocks on exchange TW, or else TE, of
+  // futures and options on TF, of any other kind on the exchange that the id names or that it is
+  // found on. 1000 when it is not known or `tables` is null.
+  static int GetTradeLotSize(const CString& id, CSymbolTableMgr* tables, JT_DEAL kind) noexcept;
+  // Symbols of an exchange changed: `count` packed records of 19 bytes (see SymbolTableMgr.h), of
+  // which the first 10 count. Every user and trading list that holds one of them asks the service
+  // again, with ExchSymbolsAdded the cloud lists too. The exchange is not used. Returns 1. The
+  // symbol tables are told by AddSymbols, UpdateSymbols and RemoveSymbols of GetSymbolTableMgr(),
+  // not by this.
+  int UpdateExchSymbolChange(int count, const char* symbols, short exch,
+                             ExchSymbolUpdateType type) noexcept;
+  // Renames the symbols of an id string, or of a list, that went over from one exchange to another:
+  // those that the old exchange's table lacks and the new one's has, when the old one's was loaded
+  // with symbols and still has some. Returns 1 when something changed. Without symbol tables
+  // nothing does.
+  int ReplaceSymbolListExchID(CString& ids, const CString& oldExchange,
+                              const CString& newExchange) noexcept;
+  int ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
+                              const CString& newExchange) noexcept;
+
+  // --- Groups ------------------------------------------------------------------------------------
+  // Read-mostly lists that the symbol-data service publishes: a tree of two levels for each group
+  // type. Types 1 to 21, 101 and 201 (the cloud groups) are loaded by Init; 1 to 200 may be added
+  // and removed. Members of a group are fetched when they are first asked for. Ids are compared
+  // ignoring the case of ASCII letters, unless said. A type is loaded when it has an entry in the
+  // map of types. From within a call of the service the terminal may call any of it: a load ends as
+  // if that had been done before.
+
+  // Loads all types anew. Returns 1; a type that the service fails for is empty.
+  int LoadGroupList() noexcept;
+  // Loads one type, 1 to 201, anew or for the first time. 0 for any other.
+  int LoadGroupList(int type) noexcept;
+  // Adds a type, 1 to 200, whether or not it is there. 0 for any other.
+  int AddNewGroup(int type) noexcept;
+  // LoadGroupList(type) or, with `reload` false, AddNewGroup(type).
+  int AddGroupList(int type, bool reload) noexcept;
+  // Loads one type anew if it is 1 to 200, and all types for any other value, 201 included. Both
+  // are one; the text is not used.
+  int UpdateGroup(int type, const char* unused) noexcept;
+  int UpdateGroupType(int type) noexcept;
+  // Removes a type, 1 to 200, and frees its groups. 0 when there was none. Load all types anew
+  // behind it: until then each type that stands behind the removed one answers with the groups of
+  // the type next to it, and the last one as if it had none.
+  int RemoveGroupList(int type) noexcept;
+  void ClearGroupList() noexcept;
+  // Position of a type among the loaded ones, or -1.
+  int GetGroupIdx(int type) noexcept;
+  // Number of sub-groups of the handle's group; without a handle of the type's top-level groups. 0
+  // when the type is not loaded.
+  int GetGroupCount(int type, void* handle) noexcept;
+  // The same with an id in place of the handle; null: the top-level groups.
+  int GetGroupCounts(int type, const char* id) noexcept;
+  // The record of one of them.
+  int GetGroupInfo(int type, void* handle, int index, GroupInfo* out) noexcept;
+  int GetGroupInfos(int type, const char* id, int index, GroupInfo* out) noexcept;
+  // Sets `*handle` to the first group of the type with that id, or null: each top-level group, then
+  // its sub-groups. `afterComma` non-zero: only the text behind the id's first comma counts.
+  int GetGroupHandle(int type, const char* id, void** handle, int afterComma) noexcept;
+  // The group's member ids joined by ",". `ids` is emptied first.
+  int GetGroupListIDs(void* handle, CString& ids) noexcept;
+  // The group's name, empty without a group. The type is not used.
+  int GetGroupName(int type, void* handle, CString& name) noexcept;
+  // The name of the first sub-group of the type with exactly that id: letter case counts, and
+  // top-level groups are never found. `name` is emptied when there is none.
+  int GetGroupName(int type, const char* id, CString& name, int afterComma) noexcept;
+  // Number of members, and the record of one: of the first sub-group of the type with that id
+  // (top-level groups are never found), or of the handle's group.
+  int GetGroupSymbolCount(int type, const char* id) noexcept;
+  int GetGroupSymbolCount(void* handle) noexcept;
+  int GetGroupSymbolInfo(int type, const char* id, int index, SymbolInfo* out) noexcept;
+  int GetGroupSymbolInfo(void* handle, int index, SymbolInfo* out) noexcept;
+  // 1 when the text stands anywhere in the member ids of a group of type 2, 7 or 8, inside of a
+  // longer id too. The text behind the group id's first comma counts.
+  int FindSymoblInGroupList(int type, const CString& groupId, const CString& symbol) noexcept;
+
+  // Groups that the terminal pushes in, without asking the service. Each loaded type takes the sets
+  // of its type; a set's group is the first top-level one with its id. Returns 1 when something
+  // changed.
+
+  // Puts new groups in the place of those that have a set's id. Only when no set has one are all
+  // sets added, at the end.
+  int AddGroup(const std::vector<CGroupSet>& sets) noexcept;
+  // Puts new groups in the place of those that have a set's id; other sets are passed over.
+  int UpdateGroup(const std::vector<CGroupSet>& sets) noexcept;
+  int UpdateGroupName(const std::vector<CGroupSet>& sets) noexcept;
+  int RemoveGroup(const std::vector<CGroupSet>& sets) noexcept;
+  // The same with the sub-groups of the sets' groups. AddSubGroup first does what UpdateSubGroup
+  // does. Unless the last set whose group is there replaced something then, each set whose ids are
+  // all new to its group has its sub-groups added at the group's end.
+  int AddSubGroup(const std::vector<CGroupSet>& sets) noexcept;
+  int UpdateSubGroup(const std::vector<CGroupSet>& sets) noexcept;
+  int UpdateSubGroupName(const std::vector<CGroupSet>& sets) noexcept;
+  int RemoveSubGroup(const std::vector<CGroupSet>& sets) noexcept;
+
+  // --- Cloud lists -------------------------------------------------------------------------------
+  // The user's lists on the broker's server, which the terminal pushes in. The manager keeps them
+  // twice: as lists of kind 8, and in the cloud map, from which groups of type 201 take names and
+  // members when they are loaded. Symbols are ids joined by ",".
+
+  // Puts a list into the map and, with the same symbols, into the lists of kind 8. Of one that is
+  // there already the terminal is told as by UpdateCloudSymbolList below.
+  void SetCloudeList(const CString& id, const CString& name, const CString& symbols) noexcept;
+  // Puts a list into the map alone.
+  void UpdateCloudSymbolList(const CString& id, const CString& name,
+                             const CString& symbols) noexcept;
+  // Gives the list of kind 8 with that id these symbols and tells the terminal with
+  // TQSCall("", -1, 41, ""); adds one when there is none. The type is not used.
+  void UpdateCloudSymbolList(const CString& id, int type, const CString& name,
+                             const CString& symbols, int allowEmpty) noexcept;
+  // Adds a list of kind 8 (empty id: a new GUID). The symbols are not checked. 0, with nothing
+  // added, for an empty name, for empty symbols unless `allowEmpty`, and for an id that
+  // CheckValidSymbolList refuses.
+  int AddCloudSymbolList(const CString& id, const CString& name, const CString& symbols,
+                         int allowEmpty) noexcept;
+  // Replaces the lists of kind 8 by copies of the CSymbolList pointers in `lists`, which stay the
+  // caller's; moved symbols are renamed in both. The number is not used. 0 when `lists` is null.
+  int SetCloudSymbolList(CPtrArray* lists, int unused) noexcept;
+  // The map as text: <Cloud>, a List element for each list, </Cloud>.
+  CString GetCloudeList() noexcept;
+  // Gives a cloud group without sub-groups name and members of the list of its id in the map.
+  void UpdateCloudGroup(void* handle) noexcept;
+  // Loads the cloud groups anew and tells the terminal with TQSCall("", -1, 4, "ListNameChange").
+  void RefreshCloudeSymbol() noexcept;
+
+  // --- Lists from trading accounts ---------------------------------------------------------------
+  // What the user holds, as lists of kind 6: one for each account, one for each trading system, and
+  // "ALLMYSTOCKLISTS" for all accounts of the trading system that was updated last. The table
+  // behind them is written to "\TSList.xml" in the data directory after every change. All of it
+  // does nothing, and asks the service nothing, unless the last Init was told to load trading
+  // lists; that goes for removing and clearing lists too. Table and lists outlive another Init,
+  // which names the directory of the file anew. From within a call of the proxy, or of TQSCall, the
+  // terminal may call any of it.
+
+  // Adds "ALLMYSTOCKLISTS", empty, when it is missing. Returns 1 when it was added.
+  int LoadTSList() noexcept;
+  // A login is complete: reads the trading system anew, rebuilds its lists, tells the terminal with
+  // TQSCall("", -1, 4, "TSSymbolList"). One of the table that is not available any more, or not
+  // listed, loses its account lists, and all holdings become empty; an unknown one changes no list.
+  void UpdateTSLogin(CString tsId) noexcept;
+  // An account's holdings changed: the same for this account and "ALLMYSTOCKLISTS". What the
+  // service cannot tell stays as it was; an account that is not in the table has no list.
+  void UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type) noexcept;
+  // Replaces all lists of kind 6 by one for each trading system of the table.
+  void BuildTSListToSymbolList() noexcept;
+  // Adds a list with those of the symbols that the service knows (empty id: a new GUID). A name
+  // that a list of the kind has gets "-" and entry 48028 behind it, up to five times. 0, with
+  // nothing added, for an empty name, for empty symbols unless `allowEmpty`, for an id that
+  // CheckValidSymbolList refuses, and for a name that is taken all the same. The kind (1 or 6) is
+  // only what is checked.
+  int AddTSSymbolList(const CString& id, int kind, const CString& name, const CString& symbols,
+                      int allowEmpty) noexcept;
+  // Gives the list of kind 6 with that id these symbols, not the name, and tells the terminal with
+  // TQSCall("", -1, 40, "TSSymbolList"); adds one when there is none. Returns 1 when done.
+  int UpdateTSSymbolList(const CString& id, int kind, const CString& name, const CString& symbols,
+                         int allowEmpty) noexcept;
+  // Deletes the first list of kind 6 with that id.
+  int DeleteTSSymbolList(CString id) noexcept;
+  // Holdings joined by ",": of an account; of the first account of that id and type; of all
+  // accounts of a type, each symbol once (1, and empty, when there is none of the type). 0,
+  // `symbols` untouched, when the table has no such trading system or account.
+  int GetTSAccHodling(const CString& tsId, const CString& accountId, CString& symbols) noexcept;
+  int GetTSSymbolLists(const CString& tsId, TqsAccType type, const CString& accountId,
+                       CString& symbols) noexcept;
+  int GetTSSymbolLists(const CString& tsId, TqsAccType type, CString& symbols) noexcept;
+
+  // --- Lists of other products, extra information ------------------------------------------------
+  // Adds the lists of an older product's file (docs/import-file.md) behind the user's lists,
+  // numbered by their places in the file, and saves once. Each list is logged and told as by
+  // AddSymbolList. `product` 0 to 2 chooses ids and names. 0 when the file could not be read.
+  int DoLoadOtherProductList(CString& path, int product) noexcept;
+  // Imports "\OldOTVList.xml" of the data directory as product 1, once: the file is then renamed to
+  // "\Added_OldOTVList.xml". Another file that is put there later is imported too, whatever it
+  // holds. Returns 1 when it was imported.
+  int LoadOtherProductList() noexcept;
+  // Texts by which the terminal switches on what a broker's edition does differently in the
+  // dialogs; each is kept once. Empty ones are ignored.
+  void AddExtraTQInfo(const CString& info) noexcept;
+  void RemoveExtraTQInfo(const CString& info) noexcept;
+  const std::vector<CString>& GetExtraTQInfo() const noexcept { return extraInfo_; }
+
+  // --- Dialogs -----------------------------------------------------------------------------------
+  // Each runs one modal dialog on the parent (null: none) and returns its end code: 1 when the user
+  // has chosen, 2 when the dialog was cancelled, -1 when it could not be created. Outputs are
+  // written when the user has chosen, and otherwise stay as they were. The text `input` is a code
+  // or a name: its row is selected when the dialog opens, in its own region.
+
+  // The searches in the stock library's tables of economic indicators, international commodities
+  // (of the table `type`; `input2` and `input3` count when the inputs before them mean no row) and
+  // international futures. `name` becomes "Undefined" for a row that has none; `market` is the one
+  // that trades the future.
+  static int DoSearchFinIndi(WindowHandle parent, const CString& input, CString& name,
+                             CString& code) noexcept;
+  static int DoSearchCommIndi(WindowHandle parent, const CString& input, CString& name,
+                              CString& code, const CString& input2, const CString& input3,
+                              InfoType type) noexcept;
+  static int DoSearchOptionIndi(WindowHandle parent, const CString& input, CString& name,
+                                CString& code, CString& market) noexcept;
+  // 1 exactly while the list selection is open, else 0.
+  static int m_bDoModal;
+  // Ends the dialog that runs in that window with an end code of the caller's. Only while
+  // m_bDoModal is set: an editor must not be closed over its user's head. 0 when nothing was ended,
+  // else 1.
+  static int EndDomodal(WindowHandle dialog, int result) noexcept;
+
+  // --- Switches ----------------------------------------------------------------------------------
+  int GetbCN() const noexcept { return bCN_; }
+  void SetbCN(int bCN) noexcept { bCN_ = bCN; }
+
+protected:
+  // Whether the text is one of the six system ids, letter case as it stands.
+  int IsSameSysSymbolListGUID(const CString& id) const noexcept;
+
+private:
+  friend class CXMLDOMParser;
+
+  const tq::OwnedLists* ListsOf(int kind) const;
+  CSymbolList* FindList(const char* id, int kind) const;
+  CSymbolList* FindUserList(const char* id);
+  int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
+  void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
+  void PutSymbolList(CSymbolList* list, int append);
+  CSymbolList* CopyMoved(CSymbolList& source);
+  std::pair<CString, CString> SplitId(const CString& id) const;
+  CString FilePath(const char* name) const;
+  void StartTradingLists();
+  tq::TradingTable* TradingTable() const;
+  void DeleteAccountLists(const CString& tsId);
+  void UpdateAllHoldings(const CString& tsId);
+  void UpdateAccountLists(const CString& tsId);
+  bool ImportList(const tq::ImportedList& from);
+  int ImportLists(const std::vector<tq::ImportedList>& lists, int& taken);
+  int BuildSymbolTables();
+  void ClearAllSymbols();
+
+  CSymbolTableMgr* symbolTables_; // owned
+  tq::OwnedLists* lists_;         // owned, in display order
+  tq::OwnedLists* tradingLists_;  // the same, kind 6
+  tq::OwnedLists* cloudLists_;    // the same, kind 8
+  int defaultIndex_;
+  CString dataDirectory_;
+  SymbolInfo* allSymbols_; // owned, grouped by exchange
+  int allSymbolCount_;
+  int systemListsWanted_;
+  CStringArray systemListNames_;
+  int tradingListsWanted_;
+  int useUserDefExch_;
+  int bCN_;
+  CUIntArray defaultExchanges_;
+  CPtrArray defaultRecords_;  // for each of them its record in exchangeRecords_, or null
+  ExchInfo* exchangeRecords_; // the service's array, released with VLFree
+  CUIntArray userDefaultExchanges_;
+  CUIntArray exchangeOrder_;
+  tq::GroupStore* groups_;         // owned
+  tq::CloudMap* cloudMap_;         // owned
+  tq::KeptFiles* keptFiles_;       // owned
+  tq::TradingTable* tradingTable_; // owned; null until Init was first told to load trading lists
+  std::vector<CString> extraInfo_;
+};

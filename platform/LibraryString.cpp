@@ -1,0 +1,18 @@
+#include "platform/LibraryString.h"
+
+#include <string_view>
+
+#include "platform/XmlText.h"
+#include "platform/services/tqCommon.h"
+#include "platform/texts/StringTable.h"
+
+namespace tq {
+
+CString LibraryString(unsigned id) {
+  CString text;
+  if (const char* utf8 = tqSymbolString(id, IsTraditionChinese()))
+    AssignXmlText(std::string_view(utf8), false, text);
+  return text;
+}
+
+} // namespace tq
