@@ -588,8 +588,6 @@ protected:
   int IsSameSysSymbolListGUID(const CString& id) const noexcept;
 
 private:
-  friend class CXMLDOMParser;
-
   const tq::OwnedLists* ListsOf(int kind) const;
   CSymbolList* FindList(const char* id, int kind) const;
   CSymbolList* FindUserList(const char* id);

@@ -11,6 +11,7 @@
 #include "symbollist/ListFile.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/XMLDOMParser.h"
+#include "symboltable/MovedSymbols.h"
 
 namespace {
 
@@ -106,6 +107,25 @@ int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) noexcept {
     keptFiles_->ForgetAll();
     return 1;
   }
-  CXMLDOMParser(*this).LoadSymbolList(path);
+  keptFiles_->BeginLoad();
+  CPtrArray lists;
+  int defaultIndex = defaultIndex_;
+  CXMLDOMParser parser;
+  const auto finish = [this](CSymbolList& list) {
+    ReplaceSymbolListExchID(&list, tq::kMovedFromExchange, tq::kMovedToExchange);
+  };
+  parser.ReadLists(path, finish, lists, defaultIndex);
+  // Only now: while the ids are resolved the service may let the terminal save, or load again, and
+  // it must find the whole of the lists of before, not a part of these. A file that could not be
+  // read leaves none.
+  lists_->Replace(lists);
+  SetDefaultIndex(defaultIndex);
+  const tq::LoadOutcome outcome = parser.Outcome();
+  const bool saved = keptFiles_->EndLoad(path, outcome, parser.TakeContents());
+  if (outcome == tq::LoadOutcome::Empty)
+    SaveSymbolList(); // anew at once, to the working file whichever file it was
+  // What was saved meanwhile were the lists of before, or none at a start. A copy of it is kept.
+  else if (saved && outcome == tq::LoadOutcome::Whole)
+    DoSaveSymbolList(path);
   return 1;
 }

@@ -37,6 +37,9 @@ inline bool IsDecimalDigit(char letter) {
 inline std::string_view CommodityOf(std::string_view code) {
   return code.substr(0, kCommodityLength);
 }
+inline bool HaveOneCommodity(std::string_view code1, std::string_view code2) {
+  return CommodityOf(code1) == CommodityOf(code2);
+}
 inline std::string_view StrikeOf(std::string_view code) {
   return code.size() > kCommodityLength ? code.substr(kCommodityLength, kStrikeLength)
                                         : std::string_view();

@@ -3,11 +3,7 @@
 
 #include <utility>
 
-#include "manager/TQSymbolListMgr.h"
-
 namespace {
-
-constexpr int kUserLists = 1; // the manager's kind of list
 
 bool IsGroupType(ListIDType type) {
   return type == ListIDGroup || type == ListIDGroup3 || type == ListIDGroup101 ||
@@ -100,22 +96,6 @@ int CListID::SetNameAndList(const CString& name, const CString& list) noexcept {
   name_ = name;
   symbolList_ = list;
   return 1;
-}
-
-int CListID::SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) noexcept {
-  if (mgr == nullptr || type_ != ListIDUserList)
-    return 0;
-  CString current;
-  CString list;
-  if (!mgr->GetTQSymbolListName(id_, current, kUserLists))
-    current = name;
-  if (!mgr->GetSymoblIDList(id_, list, kUserLists))
-    list.Empty();
-  return SetNameAndList(current, list);
-}
-
-int CListID::SetNameAndList(CTQSymbolListMgr* mgr) noexcept {
-  return SetNameAndList(CString(), mgr);
 }
 
 int CListID::IsValid() {

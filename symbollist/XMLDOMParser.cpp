@@ -8,13 +8,11 @@
 #include <system_error>
 #include <utility>
 
-#include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/XmlText.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/WriteBack.h"
-#include "symboltable/MovedSymbols.h"
 
 namespace {
 
@@ -71,26 +69,14 @@ int CXMLDOMParser::GetDefaultIndex(const tq::XmlElement& symbolList) {
   return 0;
 }
 
-void CXMLDOMParser::LoadSymbolList(const CString& path) {
-  manager_.keptFiles_->BeginLoad();
-  CPtrArray lists;
-  int defaultIndex = manager_.defaultIndex_;
+void CXMLDOMParser::ReadLists(const CString& path, const Finish& finish, CPtrArray& lists,
+                              int& defaultIndex) {
   if (Load(path))
-    outcome_ = ReadLists(lists, defaultIndex);
-  // Only now: while the ids are resolved the service may let the terminal save, or load again, and
-  // it must find the whole of the lists of before, not a part of these. A file that could not be
-  // read leaves none.
-  manager_.lists_->Replace(lists);
-  manager_.SetDefaultIndex(defaultIndex);
-  const bool saved = manager_.keptFiles_->EndLoad(path, outcome_, std::move(contents_));
-  if (outcome_ == tq::LoadOutcome::Empty)
-    manager_.SaveSymbolList();
-  // What was saved meanwhile were the lists of before, or none at a start. A copy of it is kept.
-  else if (saved && outcome_ == tq::LoadOutcome::Whole)
-    manager_.DoSaveSymbolList(path);
+    outcome_ = ReadDocument(finish, lists, defaultIndex);
 }
 
-tq::LoadOutcome CXMLDOMParser::ReadLists(CPtrArray& lists, int& defaultIndex) {
+tq::LoadOutcome CXMLDOMParser::ReadDocument(const Finish& finish, CPtrArray& lists,
+                                            int& defaultIndex) {
   const tq::XmlElement symbolList = document_.SelectSingle("/Result/SymbolList");
   if (symbolList.IsNull())
     return tq::LoadOutcome::NoListFile;
@@ -101,7 +87,7 @@ tq::LoadOutcome CXMLDOMParser::ReadLists(CPtrArray& lists, int& defaultIndex) {
     auto list = std::make_unique<CSymbolList>();
     if (list->FillFromElement(element) == 0)
       return tq::LoadOutcome::EndedEarly;
-    manager_.ReplaceSymbolListExchID(list.get(), tq::kMovedFromExchange, tq::kMovedToExchange);
+    finish(*list);
     lists.Add(list.release());
   }
   std::string text;

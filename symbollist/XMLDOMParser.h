@@ -1,34 +1,38 @@
-// Reads a list file into the manager.
+// Reads a list file.
 #pragma once
+
+#include <functional>
+#include <utility>
 
 #include "platform/XmlDocument.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "symbollist/KeptFiles.h"
 
-class CTQSymbolListMgr;
+class CSymbolList;
 
 class CXMLDOMParser {
 public:
-  // The manager that LoadSymbolList fills; it must outlive the parser.
-  explicit CXMLDOMParser(CTQSymbolListMgr& manager) : manager_(manager) {}
+  // What is done with each list once its ids have been read, before the next one is.
+  using Finish = std::function<void(CSymbolList&)>;
 
   // Reads the file through the platform's DOM. True only for a well-formed document; a missing
   // file, one over the size limit or one that cannot be read is none. Outcome() tells which.
   bool Load(const CString& path);
-  // How the latest load ended.
+  // How the latest load, or reading of its lists, ended.
   tq::LoadOutcome Outcome() const { return outcome_; }
+  // The file's bytes, which are the caller's from then on.
+  tq::FileContents TakeContents() { return std::move(contents_); }
 
   // The attribute DefaultIdx of the SymbolList element, a 16-bit signed decimal number. 0, with a
   // line in the log, when it is missing or no such number.
   static int GetDefaultIndex(const tq::XmlElement& symbolList);
 
-  // Puts the file's lists, in document order, and its default index in the place of the manager's,
-  // all at once when they have been read. Without a document, or when it is no list file, the
-  // manager has no lists and keeps its index. The manager's knowledge of its files is told how that
-  // ended. A list file without any list is written anew at once, to the working file whichever file
-  // it was.
-  void LoadSymbolList(const CString& path);
+  // Loads the file and puts its lists, in document order, behind those of `lists`, which the caller
+  // owns, and its default index into `defaultIndex`. Without a document, or when it is no list file,
+  // both stay as they were; a bad list ends the reading, with the lists in front of it. Outcome()
+  // tells which.
+  void ReadLists(const CString& path, const Finish& finish, CPtrArray& lists, int& defaultIndex);
 
   // Status answers in their two forms: <Result Status='%d'>%s</Result> and
   // <Result Status='%d' Reason='%s'>%s</Result>. Nothing is escaped.
@@ -36,9 +40,8 @@ public:
   static CString FormatStatus(int status, const char* reason, const char* body);
 
 private:
-  tq::LoadOutcome ReadLists(CPtrArray& lists, int& defaultIndex);
+  tq::LoadOutcome ReadDocument(const Finish& finish, CPtrArray& lists, int& defaultIndex);
 
-  CTQSymbolListMgr& manager_;
   tq::XmlDocument document_;
   tq::FileContents contents_;
   tq::LoadOutcome outcome_ = tq::LoadOutcome::NotTried;
