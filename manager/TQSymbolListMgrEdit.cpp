@@ -192,7 +192,8 @@ int CTQSymbolListMgr::ReplaceID(CStringArray* oldIds, CStringArray* newIds) noex
         each.list->GetIDs() == each.before)
       changed |= each.list->Update1(each.now);
   }
-  if (changed == 0)
+  // Lists that the terminal took away meanwhile are not taken out of the file for it.
+  if (changed == 0 || lists_->IsEmpty())
     return 0;
   SaveSymbolList();
   tq::LogLine(tq::kLogChange, "ReplaceID");
