@@ -1,6 +1,7 @@
 // Descriptions of two legs.
 #include "symbolid/CombinationText.h"
 #include "symbolid/ContractCode.h"
+#include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
 #include "symbolid/UpperText.h"
 
