@@ -10,6 +10,6 @@ function(tq_add_language_tests program)
     add_test(NAME ${program}-${language} COMMAND ${command}
       WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     set_tests_properties(${program}-${language} PROPERTIES
-      ENVIRONMENT TQ_LANG=${language} TIMEOUT 300)
+      ENVIRONMENT TQ_LANG=${language} TIMEOUT 900)
   endforeach()
 endfunction()
