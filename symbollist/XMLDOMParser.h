@@ -29,9 +29,9 @@ public:
   static int GetDefaultIndex(const tq::XmlElement& symbolList);
 
   // Loads the file and puts its lists, in document order, behind those of `lists`, which the caller
-  // owns, and its default index into `defaultIndex`. Without a document, or when it is no list file,
-  // both stay as they were; a bad list ends the reading, with the lists in front of it. Outcome()
-  // tells which.
+  // owns, and its default index into `defaultIndex`. Without a document, or when it is no list
+  // file, both stay as they were; a bad list ends the reading, with the lists in front of it.
+  // Outcome() tells which.
   void ReadLists(const CString& path, const Finish& finish, CPtrArray& lists, int& defaultIndex);
 
   // Status answers in their two forms: <Result Status='%d'>%s</Result> and
