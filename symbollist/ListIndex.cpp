@@ -10,7 +10,7 @@ bool ListIndex::IsBefore(const CSymbolList* left, const CSymbolList* right) {
   return left->place_ < right->place_;
 }
 
-void ListIndex::Add(CSymbolList& list, long long place) {
+void ListIndex::Add(CSymbolList& list, long long place) noexcept {
   list.index_ = this;
   list.place_ = place;
   EnterId(list);
@@ -70,7 +70,7 @@ void ListIndex::ForgetId(CSymbolList& list) {
   Forget(ids_, list.info_.ID, list);
 }
 
-void ListIndex::EnterId(CSymbolList& list) {
+void ListIndex::EnterId(CSymbolList& list) noexcept {
   Enter(ids_, list.info_.ID, list);
 }
 
@@ -78,7 +78,7 @@ void ListIndex::ForgetName(CSymbolList& list) {
   Forget(names_, list.info_.Name, list);
 }
 
-void ListIndex::EnterName(CSymbolList& list) {
+void ListIndex::EnterName(CSymbolList& list) noexcept {
   Enter(names_, list.info_.Name, list);
 }
 

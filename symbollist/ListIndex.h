@@ -16,6 +16,9 @@ class CSymbolList;
 
 namespace tq {
 
+// Without memory for an entry the process is stopped at once, before a list that is in half of the
+// tables is destroyed.
+//
 // Identifiers and names are compared ignoring letter case. Whoever writes a file, an import or a
 // cloud list chooses them, those of one plain hash value too, and need not make them different: the
 // lists of one text stand in the order of the array.
@@ -29,8 +32,8 @@ public:
   ~ListIndex() { Clear(); }
 
   // A list that comes behind all others, or in front of them. It is in no index yet.
-  void AddLast(CSymbolList& list) { Add(list, ++last_); }
-  void AddFirst(CSymbolList& list) { Add(list, --first_); }
+  void AddLast(CSymbolList& list) noexcept { Add(list, ++last_); }
+  void AddFirst(CSymbolList& list) noexcept { Add(list, --first_); }
   void Remove(CSymbolList& list);
   // Lets all lists go, which live on.
   void Clear();
@@ -50,14 +53,14 @@ public:
 
   // For the list itself, in front of a change of its identifier or name and behind it.
   void ForgetId(CSymbolList& list);
-  void EnterId(CSymbolList& list);
+  void EnterId(CSymbolList& list) noexcept;
   void ForgetName(CSymbolList& list);
-  void EnterName(CSymbolList& list);
+  void EnterName(CSymbolList& list) noexcept;
 
 private:
   using Map = std::unordered_map<std::string, Lists, NoCaseHash, NoCaseEqual>;
 
-  void Add(CSymbolList& list, long long place);
+  void Add(CSymbolList& list, long long place) noexcept;
   static const Lists& Under(const Map& map, std::string_view text);
   static void Enter(Map& map, const char* text, CSymbolList& list);
   static void Forget(Map& map, const char* text, const CSymbolList& list);
