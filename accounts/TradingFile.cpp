@@ -1,7 +1,7 @@
 #include "accounts/TradingFile.h"
 
 #include "symbolid/UpperText.h"
-#include "symbollist/FileDeclaration.h"
+#include "symbollist/ListFile.h"
 #include "symbollist/StorableText.h"
 
 namespace tq {

@@ -1,18 +1,16 @@
-// Cloud lists: the lists of kind 8 and the cloud map.
+#include "cloud/CloudLists.h"
+
 #include <memory>
 #include <utility>
 
-#include "cloud/CloudMap.h"
 #include "cloud/CloudeListUtil.h"
 #include "groups/GroupList.h"
-#include "manager/TQSymbolListMgr.h"
+#include "platform/Guid.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "symbollist/ListKind.h"
-#include "symbollist/NewListId.h"
-#include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"
 
+namespace tq {
 namespace {
 
 // The pieces between the commas, without the empty ones.
@@ -33,83 +31,62 @@ CString WithoutEmptyPieces(const CString& symbols) {
 
 } // namespace
 
-void CTQSymbolListMgr::SetCloudeList(const CString& id, const CString& name,
-                                     const CString& symbols) noexcept {
-  tq::LogLine(tq::kLogChange, "CTQSymbolListMgr::SetCloudeList ListName=%s, Symbols=%s",
-              name.GetString(), symbols.GetString());
-  const tq::CloudList& list = cloudMap_->Set(id, name, symbols);
-  UpdateCloudSymbolList(list.info.ID, tq::kCloudGroupType, name, symbols, 1);
+void CloudLists::Set(const CString& id, const CString& name, const CString& symbols) {
+  LogLine(kLogChange, "CTQSymbolListMgr::SetCloudeList ListName=%s, Symbols=%s", name.GetString(),
+          symbols.GetString());
+  const CloudList& list = map_.Set(id, name, symbols);
+  Update(list.info.ID, name, symbols, true);
 }
 
-void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, const CString& name,
-                                             const CString& symbols) noexcept {
-  tq::LogLine(tq::kLogChange, "CTQSymbolListMgr::UpdateCloudSymbolList ListName=%s, Symbols=%s",
-              name.GetString(), symbols.GetString());
-  cloudMap_->Set(id, name, symbols);
+void CloudLists::SetInMap(const CString& id, const CString& name, const CString& symbols) {
+  LogLine(kLogChange, "CTQSymbolListMgr::UpdateCloudSymbolList ListName=%s, Symbols=%s",
+          name.GetString(), symbols.GetString());
+  map_.Set(id, name, symbols);
 }
 
-void CTQSymbolListMgr::UpdateCloudSymbolList(const CString& id, int /*type*/, const CString& name,
-                                             const CString& symbols, int allowEmpty) noexcept {
-  CSymbolList* const list = cloudLists_->Find(id);
+void CloudLists::Update(const CString& id, const CString& name, const CString& symbols,
+                        bool allowEmpty) {
+  CSymbolList* const list = lists_.Find(id);
   if (list == nullptr) {
-    AddCloudSymbolList(id, name, symbols, allowEmpty);
+    Add(id, name, symbols, allowEmpty);
     return;
   }
   list->Update1(symbols);
-  tq::Notify(tq::kNotifyCloudLists, "");
+  Notify(kNotifyCloudLists, "");
 }
 
-int CTQSymbolListMgr::AddCloudSymbolList(const CString& id, const CString& name,
-                                         const CString& symbols, int allowEmpty) noexcept {
-  if (tq::StorableText(name).IsEmpty() || (symbols.IsEmpty() && allowEmpty == 0))
+int CloudLists::Add(const CString& id, const CString& name, const CString& symbols,
+                    bool allowEmpty) {
+  if (StorableText(name).IsEmpty() || (symbols.IsEmpty() && !allowEmpty))
     return 0;
-  if (CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
+  if (lists_.ProblemsOfNewId(id) != 0)
     return 0;
-  const CString listId = id.IsEmpty() ? tq::NewListId() : id;
+  const CString listId = id.IsEmpty() ? NewGuidText() : id;
   if (listId.IsEmpty())
     return 0;
-  const unsigned changes = cloudLists_->Changes();
+  const unsigned changes = lists_.Changes();
   auto list = std::make_unique<CSymbolList>();
   list->Update1(WithoutEmptyPieces(symbols));
   // The terminal may have added one itself while the symbols were resolved.
-  if (changes != cloudLists_->Changes() && CheckValidSymbolList(id, tq::kCloudGroupType) != 0)
+  if (changes != lists_.Changes() && lists_.ProblemsOfNewId(id) != 0)
     return 0;
   list->SetID(listId);
   list->SetName(name);
-  cloudLists_->AddLast(std::move(list));
+  lists_.AddLast(std::move(list));
   return 1;
 }
 
-int CTQSymbolListMgr::SetCloudSymbolList(CPtrArray* lists, int /*unused*/) noexcept {
-  if (lists == nullptr)
-    return 0;
-  CPtrArray copies;
-  for (int i = 0; i < lists->GetSize(); ++i) {
-    CSymbolList* source = tq::ListAt(*lists, i);
-    if (source == nullptr)
-      continue;
-    copies.Add(CopyMoved(*source));
-  }
-  // Only now the old ones go: the caller may have handed over lists of the manager itself, and the
-  // terminal may have changed them while symbols were resolved.
-  cloudLists_->Replace(copies);
-  return 1;
-}
-
-CString CTQSymbolListMgr::GetCloudeList() noexcept {
-  return cloudMap_->Text();
-}
-
-void CTQSymbolListMgr::UpdateCloudGroup(void* handle) noexcept {
-  auto* group = static_cast<CGroupList*>(handle);
-  const auto alive = tq::KeepAlive(group);
+void CloudLists::UpdateGroup(void* handle) const {
+  auto* const group = static_cast<CGroupList*>(handle);
+  const auto alive = KeepAlive(group);
   if (group == nullptr || group->GetSubCount() > 0)
     return;
   const CString id = group->GetInfo().szID;
-  CCloudeListUtil::TakeOver(*group, *cloudMap_, id, "CTQSymbolListMgr::UpdateCloudGroup");
+  CCloudeListUtil::TakeOver(*group, map_, id, "CTQSymbolListMgr::UpdateCloudGroup");
 }
 
-void CTQSymbolListMgr::RefreshCloudeSymbol() noexcept {
-  LoadGroupList(tq::kCloudGroupType);
-  tq::Notify(tq::kNotifySymbols, "ListNameChange");
+void CloudLists::RefreshGroups(CGroupMgr& cloudGroups) const {
+  CCloudeListUtil::Refresh(cloudGroups, map_);
 }
+
+} // namespace tq

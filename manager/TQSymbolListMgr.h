@@ -33,7 +33,7 @@
 //     table, docs/notifications.md.
 #pragma once
 
-#include <utility>
+#include <memory>
 #include <vector>
 
 #include "groups/GroupSet.h"
@@ -52,13 +52,8 @@
 
 class CSymbolTableMgr;
 namespace tq {
-struct ImportedList;
-class CloudMap;
-class GroupStore;
-class KeptFiles;
-class OwnedLists;
-class TradingTable;
-} // namespace tq
+struct ManagerState;
+}
 
 // What is traded, as the terminal numbers it. Only the differences that the library makes are
 // named.
@@ -101,7 +96,7 @@ public:
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
 
   // The tables that Init built, or null before it. The manager's; gone with the next Init.
-  CSymbolTableMgr* GetSymbolTableMgr() const noexcept { return symbolTables_; }
+  CSymbolTableMgr* GetSymbolTableMgr() const noexcept;
 
   // --- The list file -----------------------------------------------------------------------------
   // A save writes over nothing that nobody has seen. When the file on the disk is not, as it is
@@ -155,8 +150,7 @@ public:
   // Stores the index without any check; -1 means none.
   void SetDefaultIndex(int index) noexcept;
   // Writes the stored index to `out`, always. Returns 0 when it is negative or there are no lists,
-  // else
-  // 1. It may lie beyond the last list: the caller must check the upper bound.
+  // else 1. It may lie beyond the last list: the caller must check the upper bound.
   int GetDefaultListIdx(int& out) noexcept;
 
   // --- The lists in memory -----------------------------------------------------------------------
@@ -361,15 +355,15 @@ public:
   // Stores the user's own default exchanges and reloads. Returns 1.
   int UpdateDefaultExch(CUIntArray& ids) noexcept;
   // Whether the user's own are used. Takes effect with the next reload.
-  void SetUseUserDefExch(int use) noexcept { useUserDefExch_ = use; }
-  int IsUseUserDefExch() const noexcept { return useUserDefExch_; }
+  void SetUseUserDefExch(int use) noexcept;
+  int IsUseUserDefExch() const noexcept;
   // Stores a copy of the order in which dialogs show exchanges; 1 when it is not empty.
   // GetDefExchOrder copies it out. CheckExchOrder accepts any order, changes nothing and returns 1.
   int LoadDefExchOrder(CUIntArray& order) noexcept;
   void GetDefExchOrder(CUIntArray& order) noexcept;
   static int CheckExchOrder(CUIntArray& order) noexcept;
   // Builds the buffer of all symbols: the exchanges that are no default ones go towards the end, in
-  // the order that exchanges/DefaultExchangeIds.h describes. When the service fails a buffer that
+  // the order that exchanges/DefaultExchanges.h describes. When the service fails a buffer that
   // is there stays as it is.
   void SortAllSymbolByExch() noexcept;
   // 1 when there is no buffer of all symbols, or an empty one.
@@ -553,7 +547,7 @@ public:
   // dialogs; each is kept once. Empty ones are ignored.
   void AddExtraTQInfo(const CString& info) noexcept;
   void RemoveExtraTQInfo(const CString& info) noexcept;
-  const std::vector<CString>& GetExtraTQInfo() const noexcept { return extraInfo_; }
+  const std::vector<CString>& GetExtraTQInfo() const noexcept;
 
   // --- Dialogs -----------------------------------------------------------------------------------
   // Each runs one modal dialog on the parent (null: none) and returns its end code: 1 when the user
@@ -580,54 +574,13 @@ public:
   static int EndDomodal(WindowHandle dialog, int result) noexcept;
 
   // --- Switches ----------------------------------------------------------------------------------
-  int GetbCN() const noexcept { return bCN_; }
-  void SetbCN(int bCN) noexcept { bCN_ = bCN; }
+  int GetbCN() const noexcept;
+  void SetbCN(int bCN) noexcept;
 
 protected:
   // Whether the text is one of the six system ids, letter case as it stands.
   int IsSameSysSymbolListGUID(const CString& id) const noexcept;
 
 private:
-  const tq::OwnedLists* ListsOf(int kind) const;
-  CSymbolList* FindList(const char* id, int kind) const;
-  CSymbolList* FindUserList(const char* id);
-  int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
-  void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
-  void PutSymbolList(CSymbolList* list, int append);
-  CSymbolList* CopyMoved(CSymbolList& source);
-  std::pair<CString, CString> SplitId(const CString& id) const;
-  CString FilePath(const char* name) const;
-  void StartTradingLists();
-  tq::TradingTable* TradingTable() const;
-  void DeleteAccountLists(const CString& tsId);
-  void UpdateAllHoldings(const CString& tsId);
-  void UpdateAccountLists(const CString& tsId);
-  bool ImportList(const tq::ImportedList& from);
-  int ImportLists(const std::vector<tq::ImportedList>& lists, int& taken);
-  int BuildSymbolTables();
-  void ClearAllSymbols();
-
-  CSymbolTableMgr* symbolTables_; // owned
-  tq::OwnedLists* lists_;         // owned, in display order
-  tq::OwnedLists* tradingLists_;  // the same, kind 6
-  tq::OwnedLists* cloudLists_;    // the same, kind 8
-  int defaultIndex_;
-  CString dataDirectory_;
-  SymbolInfo* allSymbols_; // owned, grouped by exchange
-  int allSymbolCount_;
-  int systemListsWanted_;
-  CStringArray systemListNames_;
-  int tradingListsWanted_;
-  int useUserDefExch_;
-  int bCN_;
-  CUIntArray defaultExchanges_;
-  CPtrArray defaultRecords_;  // for each of them its record in exchangeRecords_, or null
-  ExchInfo* exchangeRecords_; // the service's array, released with VLFree
-  CUIntArray userDefaultExchanges_;
-  CUIntArray exchangeOrder_;
-  tq::GroupStore* groups_;         // owned
-  tq::CloudMap* cloudMap_;         // owned
-  tq::KeptFiles* keptFiles_;       // owned
-  tq::TradingTable* tradingTable_; // owned; null until Init was first told to load trading lists
-  std::vector<CString> extraInfo_;
+  const std::unique_ptr<tq::ManagerState> state_;
 };

@@ -31,4 +31,12 @@ GuidSource SetGuidSource(GuidSource source) {
   return g_source.exchange(source != nullptr ? source : &SystemGuid, std::memory_order_acq_rel);
 }
 
+CString NewGuidText() {
+  Guid guid;
+  char text[kGuidTextLength + 1] = {};
+  if (NewGuid(guid))
+    FormatGuid(guid, text);
+  return CString(text);
+}
+
 } // namespace tq

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "platform/framework/CString.h"
+
 namespace tq {
 
 // The four fields of a GUID, as the operating system's own record has them.
@@ -25,6 +27,9 @@ bool NewGuid(Guid& guid);
 // and the others in upper case: the ids of stored lists have always looked like this. Do not change
 // it.
 void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]);
+
+// A new identifier in its text form; empty when the system has none to give.
+CString NewGuidText();
 
 // What NewGuid asks. A test puts its own source in place to get known ids, or a failure.
 using GuidSource = bool (*)(Guid& guid);

@@ -1,10 +1,10 @@
 // The six system lists.
-#include "manager/TQSymbolListMgr.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
-#include "symbollist/ListKind.h"
 #include "symbollist/SystemListId.h"
+#include "symbollist/UserLists.h"
 
+namespace tq {
 namespace {
 
 // The terminal knows this reason: do not change.
@@ -13,40 +13,36 @@ constexpr char kReasonNames[] = "ListNameChange";
 CString SystemListName(const CStringArray* names, int index) {
   if (names != nullptr && names->GetSize() > index)
     return (*names)[index];
-  return tq::LibraryString(tq::kStringFirstSystemList + static_cast<unsigned>(index));
+  return LibraryString(kStringFirstSystemList + static_cast<unsigned>(index));
 }
 
 } // namespace
 
-int CTQSymbolListMgr::LoadSystemList(CStringArray* names) noexcept {
-  for (int i = 0; i < tq::kSystemListCount; ++i) {
-    if (CheckSymbolListExist(tq::SystemListId(i), tq::kUserLists) != 0)
+void UserLists::StartSystemLists(const CStringArray* names) {
+  if (names != nullptr)
+    systemListNames_.Copy(*names);
+  AddSystemLists(&systemListNames_);
+}
+
+void UserLists::AddSystemLists(const CStringArray* names) {
+  for (int i = 0; i < kSystemListCount; ++i) {
+    if (Find(SystemListId(i)) != nullptr)
       continue;
-    auto* list = new CSymbolList;
-    list->SetID(tq::SystemListId(i));
+    auto list = std::make_unique<CSymbolList>();
+    list->SetID(SystemListId(i));
     list->SetName(SystemListName(names, i));
-    PutSymbolList(list, 1);
+    lists_.AddLast(std::move(list));
   }
-  return 1;
 }
 
-int CTQSymbolListMgr::IsSystemList(const char* id, int kind) noexcept {
-  const CSymbolList* list = FindList(id, kind);
-  return list == nullptr ? 0 : list->GetFlag();
-}
-
-int CTQSymbolListMgr::IsSameSysSymbolListGUID(const CString& id) const noexcept {
-  return tq::IsSystemListId(id) ? 1 : 0;
-}
-
-int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
-                                       const CString& symbols, int& nameChanged) noexcept {
-  CSymbolList* list = FindUserList(id);
+int UserLists::UpdateSystemList(const CString& id, const CString& name, const CString& symbols,
+                                int& nameChanged) {
+  CSymbolList* list = Find(id);
   if (list == nullptr)
     return 0;
   list->Update1(symbols);
   nameChanged = 0;
-  list = FindUserList(id); // which the terminal may have deleted while the service was asked
+  list = Find(id); // which the terminal may have deleted while the service was asked
   if (list == nullptr || name.IsEmpty())
     return 1;
   // Compared as it is kept: a name that is cut is not another name each time.
@@ -56,33 +52,32 @@ int CTQSymbolListMgr::UpdateSystemList(const CString& id, const CString& name,
   return 1;
 }
 
-int CTQSymbolListMgr::UpdateSystemList(int index, const CString& symbols, int mode) noexcept {
-  if (index < 0 || index >= tq::kSystemListCount || index >= systemListNames_.GetSize())
+int UserLists::UpdateSystemList(int index, const CString& symbols, bool replace) {
+  if (index < 0 || index >= kSystemListCount || index >= systemListNames_.GetSize())
     return 0;
-  CSymbolList* list = FindUserList(tq::SystemListId(index));
-  if (list == nullptr || (mode == 0 && !list->GetIDs().IsEmpty()))
+  CSymbolList* const list = Find(SystemListId(index));
+  if (list == nullptr || (!replace && !list->GetIDs().IsEmpty()))
     return 0;
   list->Update1(symbols);
   return 1;
 }
 
-int CTQSymbolListMgr::UpdateSystemList(CMapStringToString* symbols,
-                                       CMapStringToString* names) noexcept {
-  if (symbols == nullptr)
-    return 0;
+void UserLists::UpdateSystemLists(const CMapStringToString& symbols,
+                                  const CMapStringToString* names) {
   bool anyName = false;
-  for (POSITION at = symbols->GetStartPosition(); at != nullptr;) {
+  for (POSITION at = symbols.GetStartPosition(); at != nullptr;) {
     CString id;
     CString ids;
     CString name;
-    symbols->GetNextAssoc(at, id, ids);
+    symbols.GetNextAssoc(at, id, ids);
     if (names != nullptr)
       names->Lookup(id, name);
     int nameChanged = 0;
     UpdateSystemList(id, name, ids, nameChanged);
     anyName = anyName || nameChanged != 0;
   }
-  SaveSymbolList();
-  tq::Notify(tq::kNotifySymbols, anyName ? kReasonNames : "");
-  return 1;
+  Save();
+  Notify(kNotifySymbols, anyName ? kReasonNames : "");
 }
+
+} // namespace tq

@@ -1,0 +1,49 @@
+// Lists from trading accounts.
+#include "manager/ManagerState.h"
+#include "manager/TQSymbolListMgr.h"
+
+int CTQSymbolListMgr::LoadTSList() noexcept {
+  return state_->accountLists.AddAllHoldings();
+}
+
+void CTQSymbolListMgr::UpdateTSLogin(CString tsId) noexcept {
+  state_->accountLists.UpdateLogin(tsId);
+}
+
+void CTQSymbolListMgr::UpDataTSAccHodling(CString tsId, CString accountId,
+                                          TqsAccType type) noexcept {
+  state_->accountLists.UpdateHoldings(tsId, accountId, type);
+}
+
+void CTQSymbolListMgr::BuildTSListToSymbolList() noexcept {
+  state_->accountLists.BuildOfSystems();
+}
+
+int CTQSymbolListMgr::AddTSSymbolList(const CString& id, int kind, const CString& name,
+                                      const CString& symbols, int allowEmpty) noexcept {
+  return state_->accountLists.Add(id, kind, name, symbols, allowEmpty != 0);
+}
+
+int CTQSymbolListMgr::UpdateTSSymbolList(const CString& id, int kind, const CString& name,
+                                         const CString& symbols, int allowEmpty) noexcept {
+  return state_->accountLists.Update(id, kind, name, symbols, allowEmpty != 0);
+}
+
+int CTQSymbolListMgr::DeleteTSSymbolList(CString id) noexcept {
+  return state_->accountLists.Delete(id);
+}
+
+int CTQSymbolListMgr::GetTSAccHodling(const CString& tsId, const CString& accountId,
+                                      CString& symbols) noexcept {
+  return state_->accountLists.HoldingsOf(tsId, accountId, symbols);
+}
+
+int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
+                                       const CString& accountId, CString& symbols) noexcept {
+  return state_->accountLists.HoldingsOf(tsId, type, accountId, symbols);
+}
+
+int CTQSymbolListMgr::GetTSSymbolLists(const CString& tsId, TqsAccType type,
+                                       CString& symbols) noexcept {
+  return state_->accountLists.HoldingsOf(tsId, type, symbols);
+}
