@@ -13,7 +13,6 @@
 #include "symbollist/IdString.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"
-#include "symbollist/NoCaseText.h"
 
 namespace tq {
 namespace {

@@ -86,7 +86,7 @@ void TradingTable::Put(const CString& tsId, bool available, CTS fresh) {
   const int index = IndexOf(tsId);
   if (index >= 0) {
     CTS& entry = systems_[static_cast<size_t>(index)];
-    // An emptied entry keeps its id: without it the next login would not find its place again.
+    // An emptied entry keeps its id, so that the next login finds it again.
     if (!available)
       std::memcpy(fresh.info.id, entry.info.id, sizeof(fresh.info.id));
     entry = std::move(fresh);
@@ -118,8 +118,7 @@ void TradingTable::RefetchHoldings(const CString& tsId, const CString& accountId
   Changed();
 }
 
-// The file is for others to look at; the library never reads it. So one that cannot be written
-// holds up nothing, and the next change tries again.
+// The library never reads this file, so a failed write is ignored; the next change tries again.
 void TradingTable::Changed() {
   ++changes_;
   if (path_.IsEmpty())

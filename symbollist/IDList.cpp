@@ -15,7 +15,7 @@
 
 namespace {
 
-// A resolved list has an array even when it has no rows: that is how it knows not to ask again.
+// At least one element: a non-null array marks a list as resolved even when it has no rows.
 std::unique_ptr<SymbolInfo[]> NewRecords(int count) {
   return std::make_unique<SymbolInfo[]>(static_cast<size_t>(std::max(count, 1)));
 }
@@ -27,7 +27,7 @@ bool NamesASymbol(const SymbolInfo& record) {
 
 } // namespace
 
-CIDList::CIDList() noexcept : watch_(nullptr), records_(nullptr), count_(0), modified_(0) {}
+CIDList::CIDList() noexcept : watch_(nullptr), count_(0), modified_(0) {}
 
 CIDList::CIDList(const CIDList& other) noexcept : CIDList() {
   CopyContents(other);
@@ -42,13 +42,13 @@ void CIDList::CopyContents(const CIDList& other) {
   rowTokens_.Copy(other.rowTokens_);
   if (other.records_ == nullptr)
     return;
-  records_ = NewRecords(count_).release();
-  std::memcpy(records_, other.records_, static_cast<size_t>(count_) * sizeof(SymbolInfo));
+  records_ = NewRecords(count_);
+  std::memcpy(records_.get(), other.records_.get(),
+              static_cast<size_t>(count_) * sizeof(SymbolInfo));
 }
 
 CIDList::~CIDList() {
   tq::LifeWatch::Cut(watch_);
-  delete[] records_;
 }
 
 int CIDList::GetCount() {
@@ -58,7 +58,7 @@ int CIDList::GetCount() {
 bool CIDList::GetAt(int index, SymbolInfo* out) {
   if (ResolveIfDue() != Rows::There || out == nullptr || index < 0 || index >= count_)
     return false;
-  std::memcpy(out, &records_[index], sizeof(SymbolInfo));
+  std::memcpy(out, &RowAt(index), sizeof(SymbolInfo));
   return true;
 }
 
@@ -75,20 +75,20 @@ int CIDList::Update2(SymbolInfo* records, int count) {
 int CIDList::TakeRecords(SymbolInfo* records, int count) noexcept {
   const int given = records == nullptr ? 0 : std::max(count, 0);
   DiscardRecords();
-  records_ = NewRecords(given).release();
+  records_ = NewRecords(given);
   std::vector<std::string_view> ids;
   ids.reserve(static_cast<size_t>(given));
   for (int i = 0; i < given; ++i) {
     if (!NamesASymbol(records[i]))
       continue;
-    std::memcpy(&records_[count_], &records[i], sizeof(SymbolInfo));
-    ids.push_back(tq::IdOf(records_[count_++]));
+    std::memcpy(&RowAt(count_), &records[i], sizeof(SymbolInfo));
+    ids.push_back(tq::IdOf(RowAt(count_++)));
   }
   StoreEntries(ids);
   tq::SplitIdString(ids_, tokens_);
   for (int row = 0; row < count_; ++row)
     rowTokens_.Add(static_cast<unsigned>(row));
-  // Last: from within the call the terminal may delete the list.
+  // Last, since the terminal may delete the list during the call.
   if (records != nullptr)
     VLFree(records);
   return 1;
@@ -101,7 +101,7 @@ int CIDList::Update1(const CString& ids) {
   return 1;
 }
 
-// Whether the string is another one now.
+// Stores the string; true when it changed.
 bool CIDList::Keep(const CString& ids) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(ids); // which may log, and the terminal delete the list
@@ -127,21 +127,20 @@ const CString& CIDList::GetIDs() {
 }
 
 void CIDList::DiscardRecords() noexcept {
-  delete[] std::exchange(records_, nullptr);
+  records_.reset();
   count_ = 0;
   rowTokens_.RemoveAll();
 }
 
-// A list without a string has nothing to ask for; one whose look-up failed asks again, whether its
-// string came from a caller or from records.
+// A list whose last look-up failed asks again; one without ids has nothing to ask for.
 CIDList::Rows CIDList::ResolveIfDue() {
   if (records_ == nullptr && (modified_ != 0 || !ids_.IsEmpty()))
     return Resolve();
   return State();
 }
 
-// Fills the rows from the string. There are none when the service failed, and the next question
-// asks it again.
+// Fills the rows from the string. When the service fails there are none, and the next access asks
+// again.
 CIDList::Rows CIDList::Resolve() noexcept {
   const tq::SplitIds split = tq::SplitIdString(ids_, tokens_);
   if (ids_.IsEmpty()) {
@@ -155,16 +154,15 @@ CIDList::Rows CIDList::Resolve() noexcept {
   return State();
 }
 
-// False when the list is gone, which the terminal may delete whenever the service is called, also
-// to take its answer back.
+// False when the list is gone: the terminal may delete it during any call of the service, including
+// the release of its answer.
 bool CIDList::Ask(int headings, const CString& lookup) {
   const CString asked = ids_;
   const tq::LifeWatch watch(watch_);
   {
     tq::ServiceArray<SymbolInfo> answer;
     const int answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count());
-    // What the list has now, if the terminal changed it from within the call, was resolved then or
-    // could not be; this answer is to another question.
+    // If the terminal changed the list during the call, this answer is to an outdated question.
     if (!watch.IsGone() && answered != 0 && ids_ == asked)
       TakeRows(answer.Records().data(), static_cast<int>(answer.Records().size()), headings);
   }
@@ -189,8 +187,7 @@ void CIDList::TakeRows(const SymbolInfo* found, int foundCount, int headings) {
       continue;
     rowTokens_[count_++] = token;
   }
-  // A record that belongs to no token (the service answered with another id) gets no row: an empty
-  // row would be a symbol that the user never asked for.
+  // A record that matches no token gets no row: the user never asked for that symbol.
   rowTokens_.SetSize(count_);
-  records_ = records.release();
+  records_ = std::move(records);
 }

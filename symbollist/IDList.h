@@ -12,6 +12,7 @@
 // stands, and the call that asked returns as for a list without rows when there is none any more.
 #pragma once
 
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -101,6 +102,7 @@ private:
   int TakeRecords(SymbolInfo* records, int count) noexcept;
   bool Keep(const CString& ids) noexcept;
   bool Ask(int headings, const CString& lookup);
+  SymbolInfo& RowAt(int row) const { return records_[static_cast<std::size_t>(row)]; }
   Rows State() const { return records_ != nullptr ? Rows::There : Rows::None; }
   void TakeRows(const SymbolInfo* found, int foundCount, int headings);
   std::vector<std::string_view> Entries() const;
@@ -108,8 +110,8 @@ private:
   int ChangeEntries(const std::vector<std::string_view>& entries);
 
   CString ids_;
-  SymbolInfo* records_; // owned, null until resolved
-  int count_;           // rows in records_
+  std::unique_ptr<SymbolInfo[]> records_; // null until resolved
+  int count_;                             // rows in records_
   int modified_;
   CStringArray tokens_;
   CUIntArray rowTokens_; // for each row the index of its token, ascending

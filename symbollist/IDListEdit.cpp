@@ -19,8 +19,8 @@ int CIDList::RemoveEntry(int row) noexcept {
   StoreEntries(entries);
   tokens_.RemoveAt(static_cast<int>(token));
   const auto behind = static_cast<size_t>(count_ - row - 1);
-  std::memmove(&records_[row], &records_[row + 1], behind * sizeof(SymbolInfo));
-  std::memset(&records_[--count_], 0, sizeof(SymbolInfo));
+  std::memmove(&RowAt(row), records_.get() + row + 1, behind * sizeof(SymbolInfo));
+  std::memset(&RowAt(--count_), 0, sizeof(SymbolInfo));
   rowTokens_.RemoveAt(row);
   for (int i = row; i < count_; ++i)
     --rowTokens_[i];
@@ -37,7 +37,7 @@ int CIDList::SwapEntries(int first, int second) noexcept {
   std::swap(entries[firstToken], entries[secondToken]);
   StoreEntries(entries);
   std::swap(tokens_[static_cast<int>(firstToken)], tokens_[static_cast<int>(secondToken)]);
-  std::swap(records_[first], records_[second]);
+  std::swap(RowAt(first), RowAt(second));
   return 1;
 }
 
@@ -55,7 +55,7 @@ int CIDList::ReplaceEntry(int row, const CString& text) noexcept {
 int CIDList::InsertEntry(int row, const CString& text, bool before) noexcept {
   const tq::LifeWatch watch(watch_);
   const CString kept = tq::StorableText(text);
-  // Without its rows a list that has ids cannot tell which place is meant.
+  // Positions count rows: without them the place is unknown.
   const Rows rows = watch.IsGone() ? Rows::ListGone : ResolveIfDue();
   if (rows == Rows::ListGone || (rows == Rows::None && !ids_.IsEmpty()))
     return 0;
@@ -94,8 +94,8 @@ bool CIDList::Holds(const CString& id) const noexcept {
   return std::find(tokens_.begin(), tokens_.end(), wanted) != tokens_.end();
 }
 
-// What each token contributes when the string is rebuilt: its record's id, or where it has no
-// record (a heading, an id that the service does not know) the text as it is written.
+// For each token its text in the rebuilt string: the id of its record, or, for a heading or an
+// unknown id, the text unchanged.
 std::vector<std::string_view> CIDList::Entries() const {
   std::vector<std::string_view> entries;
   entries.reserve(static_cast<size_t>(tokens_.GetSize()));
@@ -105,7 +105,7 @@ std::vector<std::string_view> CIDList::Entries() const {
   for (int row = 0; row < count_; ++row) {
     std::string_view& entry = entries[rowTokens_[row]];
     if (!tq::IsHeading(entry))
-      entry = tq::IdOf(records_[row]);
+      entry = tq::IdOf(RowAt(row));
   }
   return entries;
 }

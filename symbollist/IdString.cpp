@@ -41,7 +41,7 @@ SplitIds SplitIdString(const CString& ids, CStringArray& tokens) {
   SplitIds result;
   const std::string_view text = ViewOf(ids);
   tokens.SetSize(CountPieces(text));
-  size_t plainLength = 0; // of the look-up string, were every piece an id without blanks
+  size_t plainLength = 0; // of the look-up string if `ids` is plain
   std::string_view piece;
   int index = 0;
   for (size_t at = 0; NextPiece(text, at, piece); ++index) {

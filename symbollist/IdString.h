@@ -1,8 +1,7 @@
-// The comma-joined id string of a list, taken apart.
+// Splits the comma-separated id string of a list into tokens.
 //
-// The string is split at every byte ",", whatever stands in front of it, as the list file's readers
-// do. A piece that is empty or nothing but blanks is no token. Blanks around an id do not belong to
-// it; those of a heading do, for its text is the user's.
+// Every "," byte separates. Empty and blank pieces are skipped. Blanks around an id are not part of
+// it; those of a heading are, since its text is the user's own.
 #pragma once
 
 #include <string_view>
@@ -12,16 +11,16 @@
 
 namespace tq {
 
-// What a heading row's record carries in its id field.
+// The id in the record of a heading row.
 inline constexpr char kHeadingMarker[] = ":";
 
-// Whether a token is a heading: ":" somewhere after its first character. A token that only begins
-// with ":" is an id like any other, one that no exchange has. ":" is never the second byte of a
-// double-byte character, so a plain byte search is exact.
+// Whether a token is a heading: it has a ":" after its first character. A token whose only ":" is
+// the first character counts as an id, though no exchange has such ids. ":" is never a trail byte,
+// so a byte search is exact.
 bool IsHeading(std::string_view token);
 
-// Takes the next piece of `ids` that is a token, as it is written, blanks included: sets `piece`
-// and moves `at`, which starts at 0, behind it. False at the end.
+// Sets `piece` to the next token of `ids`, unchanged with its blanks, and advances `at`, which
+// starts at 0. False at the end.
 bool NextPiece(std::string_view ids, size_t& at, std::string_view& piece);
 
 // Whether `text` can stand in an id string as one token: not empty, not only blanks, no ",".
@@ -29,15 +28,15 @@ bool IsOneToken(std::string_view text);
 
 struct SplitIds {
   int headings = 0;  // tokens that are headings
-  bool plain = true; // `ids` is already the look-up string: ids, single commas, nothing else
+  bool plain = true; // `ids` can be sent to the service as it is: ids and single commas only
 };
 
 // Splits `ids` into its tokens, one for each piece: ids normalised, headings as they are written.
 // `tokens` is replaced.
 SplitIds SplitIdString(const CString& ids, CStringArray& tokens);
 
-// The ids of the string, as they are written but without blanks around them, joined by ",": what
-// the symbol-data service is asked. Headings are left out.
+// The ids of the string, trimmed and joined by ",", without headings: the argument of the
+// symbol-data service's look-up.
 CString LookupString(const CString& ids);
 
 // An id as tokens have it: no blanks around it, ASCII letters in upper case. Nothing is copied when

@@ -1,16 +1,16 @@
-// Tells a member function whether its object was destroyed by what it called.
+// Tells a member function whether its object was destroyed during a call that it made.
 //
-// The symbol-data service may handle the terminal's messages while it is asked, and the terminal
-// may then delete the very list that asks. The object keeps a pointer to the innermost watch on it,
-// null at the start, and cuts them all in its destructor; a function that asked the service looks
-// at its watch before it touches the object again.
+// The symbol-data service may dispatch the terminal's messages, and the terminal may then delete
+// the very list that is calling. The object keeps a linked list of the watches on it, innermost
+// first, and detaches them in its destructor; after a call of the service a member function checks
+// its watch before it touches the object again.
 #pragma once
 
 namespace tq {
 
 class LifeWatch {
 public:
-  // `innermost` is the object's pointer.
+  // `innermost` is the object's head of the list, null at the start.
   explicit LifeWatch(LifeWatch*& innermost) : place_(&innermost), outer_(innermost) {
     innermost = this;
   }
@@ -23,15 +23,15 @@ public:
 
   bool IsGone() const { return place_ == nullptr; }
 
-  // For the object's destructor.
+  // Called by the object's destructor.
   static void Cut(LifeWatch* innermost) {
     for (LifeWatch* watch = innermost; watch != nullptr; watch = watch->outer_)
       watch->place_ = nullptr;
   }
 
 private:
-  LifeWatch** place_; // null once the object is gone
-  LifeWatch* outer_;  // of a call that is further out
+  LifeWatch** place_; // the object's head; null once the object is gone
+  LifeWatch* outer_;  // the watch of an enclosing call
 };
 
 } // namespace tq

@@ -16,8 +16,8 @@ using ListVector = std::vector<std::unique_ptr<CSymbolList>>;
 // a terminal may add or update ten thousand one after the other. Identifiers and names are compared
 // ignoring letter case, unless said.
 //
-// A list that asks the symbol-data service may let the terminal add, delete or replace lists: a
-// walk on which that happens goes by position or over a copy of the pointers, and asks Has.
+// Re-entrancy: a list that calls the symbol-data service may let the terminal add, delete or
+// replace lists. A loop that does so iterates over a copy of the pointers and checks each with Has.
 class OwnedLists {
 public:
   OwnedLists() = default;
@@ -57,8 +57,8 @@ public:
   void AddLast(std::unique_ptr<CSymbolList> list) noexcept;
   void AddFirst(std::unique_ptr<CSymbolList> list) noexcept;
   void Delete(CSymbolList* list);
-  // Deletes, in one pass, the lists that `wanted` says true of; it is asked once for each, in
-  // order.
+  // Deletes the lists for which `wanted` returns true, in one pass; it is called once for each list,
+  // in order.
   template <typename Wanted> void DeleteIf(Wanted wanted) {
     std::erase_if(lists_, [&wanted](const auto& list) { return wanted(*list); });
     ++changes_;
@@ -67,8 +67,8 @@ public:
   void Replace(ListVector lists) noexcept;
   void Destroy();
 
-  // Counts the lists that came and went: who asked the service meanwhile, which may let the
-  // terminal work, can tell whether what was checked before still holds.
+  // A version number, which changes when lists are added or removed: a caller that has called the
+  // service compares it to see whether its earlier checks still hold.
   unsigned Changes() const { return changes_; }
 
 private:

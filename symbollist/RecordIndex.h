@@ -1,4 +1,8 @@
 // Finds the record that the symbol-data service returned for an id.
+//
+// A hash table with open addressing instead of a standard container: lists with an unknown id
+// build one each time they are resolved, and a node for each record would cost more than the
+// look-ups.
 #pragma once
 
 #include <cstdint>
@@ -10,19 +14,19 @@
 
 namespace tq {
 
-// A record's id, which ends with its field at the latest.
+// A record's id; the field need not be terminated.
 std::string_view IdOf(const SymbolInfo& record);
 
 // Refers to the service's array, which must outlive it. The service answers in the order of the
-// request, so the next record is nearly always the one wanted; only when it is not (an unknown id,
-// a repeated one, another order, another letter case) is a hash index over all records built.
+// request, so nearly always the next record is the right one. The hash table is built lazily, at
+// the first id for which it is not (unknown, repeated, out of order, in another letter case).
 class RecordIndex {
 public:
   explicit RecordIndex(std::span<const SymbolInfo> records) : records_(records) {}
 
-  // The record whose id is `id`, or else one whose id differs from it in letter case only: lists
-  // may have an id in another case than the service, and some services tell "PFDa" from "PFDA". Of
-  // several alike the last. Null when there is none.
+  // The record with exactly this id, or else one whose id differs only in letter case: lists may
+  // spell an id differently from the service, and some services distinguish "PFDa" from "PFDA". The
+  // last one when there are several, null when there is none.
   const SymbolInfo* Find(std::string_view id);
 
 private:

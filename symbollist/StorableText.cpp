@@ -17,7 +17,7 @@ bool IsStorableAscii(char byte) {
   return (value >= 0x20 && value < 0x80) || byte == '\t' || byte == '\n' || byte == '\r';
 }
 
-// Bytes of the character at `at`; 0 for a byte that the file cannot hold.
+// The length of the character at `at`, or 0 if the file cannot hold it.
 size_t StorableLength(unsigned codePage, const char* at, const char* end) {
   if (static_cast<unsigned char>(*at) < 0x80)
     return IsStorableAscii(*at) ? 1 : 0;

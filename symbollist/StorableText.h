@@ -1,11 +1,10 @@
-// What a list may keep as its name, identifier or id string, and what any file of the library's
-// may hold: text that comes back when the file is read.
+// Text that can be stored in the library's files and read back: the names, identifiers and id
+// strings of lists.
 //
-// The list file is written as it stands, so a half character or a control byte in one name would
-// make the next load refuse the whole file, and with it every list of the user. Such bytes are
-// taken out where text enters a list, in one place for all ways that lead there. An apostrophe, "&"
-// and "<" are not among them: they are characters, and names are screened for them where users
-// enter them.
+// The list file is not escaped, so a half character or a control byte in one name would make the
+// next load refuse the whole file, and with it every list of the user. Such bytes are removed when
+// text enters a list, here and nowhere else. Apostrophe, "&" and "<" are not removed: names are
+// screened for them where users enter them.
 #pragma once
 
 #include <string>
@@ -20,16 +19,14 @@ namespace tq {
 bool IsStorable(const CString& text);
 
 // `text` without the bytes that the file cannot hold, with a line in the log when there were some.
-// Shared, not copied, when there were none.
+// Without such bytes the string is shared, not copied.
 CString StorableText(const CString& text);
 
-// The same put behind `document`, without a line in the log: for files that are written over and
-// over.
+// Appends the same to `document`, without a line in the log: for files that are rewritten often.
 void AppendStorable(std::string_view text, std::string& document);
 
-// Whether a list given this identifier would bear it unchanged: all of it can be stored, and it is
-// not longer than the 36 bytes that are kept. An identifier that came out as another one would make
-// two lists of one.
+// Whether a list would keep this identifier unchanged: it can be stored, and it is not longer than
+// 36 bytes. A changed identifier would make a second list of the same one at the next update.
 bool IsKeptWhole(const CString& id);
 
 } // namespace tq

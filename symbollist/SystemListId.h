@@ -8,13 +8,12 @@ inline constexpr int kSystemListCount = 6;
 // "ZUSYSLIST1" to "ZUSYSLIST6". Persisted in list files: do not change.
 const char* SystemListId(int index);
 
-// Whether `id` is one of the six, letter case as it stands: what is written to the file goes by
-// this.
+// Whether `id` is one of the six, case-sensitively. Decides the Flag that is written to the file.
 bool IsSystemListId(const char* id);
 
-// The same, ignoring letter case: what is read from the file goes by this. The two differ on
-// purpose, so that a list whose id has another letter case works as a system list and yet is
-// written back with Flag='0' as it always was.
+// The same, ignoring letter case. Decides what is a system list after loading. The two differ on
+// purpose: a list whose id has another letter case works as a system list and yet is written back
+// with Flag='0', as it always was.
 bool IsSystemListIdNoCase(const char* id);
 
 } // namespace tq

@@ -10,10 +10,10 @@
 #include "platform/Notify.h"
 #include "platform/XmlText.h"
 #include "symbolid/UpperText.h"
-#include "symbollist/BoundedReplace.h"
 #include "symbollist/IdString.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/ListName.h"
+#include "symbollist/ReplaceIds.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/UserLists.h"
 

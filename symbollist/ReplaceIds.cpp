@@ -1,4 +1,4 @@
-#include "symbollist/BoundedReplace.h"
+#include "symbollist/ReplaceIds.h"
 
 #include "platform/CodePage.h"
 
