@@ -2,14 +2,12 @@
 // nothing else of the library is visible from outside.
 #pragma once
 
-#if defined(_WIN32)
+#include "platform/Compiler.h"
+
 #if defined(TQSYMBOL_BUILD)
-#define TQSYMBOL_API __declspec(dllexport)
+#define TQSYMBOL_API TQ_EXPORT
 #elif defined(TQSYMBOL_STATIC)
 #define TQSYMBOL_API
 #else
-#define TQSYMBOL_API __declspec(dllimport)
-#endif
-#else
-#define TQSYMBOL_API __attribute__((visibility("default")))
+#define TQSYMBOL_API TQ_IMPORT
 #endif

@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdlib>
 
+#include "platform/Compiler.h"
+
 namespace {
 
 std::size_t allocations = 0;
@@ -18,29 +20,27 @@ void* __libc_calloc(std::size_t count, std::size_t size) noexcept;
 void* __libc_realloc(void* block, std::size_t size) noexcept;
 void* __libc_memalign(std::size_t alignment, std::size_t size) noexcept;
 
-#define TQ_BENCH_SEEN __attribute__((visibility("default")))
-
-TQ_BENCH_SEEN void* malloc(std::size_t size) noexcept {
+TQ_EXPORT void* malloc(std::size_t size) noexcept {
   ++allocations;
   return __libc_malloc(size);
 }
 
-TQ_BENCH_SEEN void* calloc(std::size_t count, std::size_t size) noexcept {
+TQ_EXPORT void* calloc(std::size_t count, std::size_t size) noexcept {
   ++allocations;
   return __libc_calloc(count, size);
 }
 
-TQ_BENCH_SEEN void* realloc(void* block, std::size_t size) noexcept {
+TQ_EXPORT void* realloc(void* block, std::size_t size) noexcept {
   ++allocations;
   return __libc_realloc(block, size);
 }
 
-TQ_BENCH_SEEN void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept {
+TQ_EXPORT void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept {
   ++allocations;
   return __libc_memalign(alignment, size);
 }
 
-TQ_BENCH_SEEN int posix_memalign(void** block, std::size_t alignment, std::size_t size) noexcept {
+TQ_EXPORT int posix_memalign(void** block, std::size_t alignment, std::size_t size) noexcept {
   ++allocations;
   void* const found = __libc_memalign(alignment, size);
   if (found == nullptr)

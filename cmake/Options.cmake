@@ -11,6 +11,15 @@ else()
   set(TQ_PLATFORM posix)
 endif()
 
+# What the system is called in the names of the lists in tests/exports.
+if(NOT WIN32)
+  set(TQ_SYSTEM linux)
+elseif(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(TQ_SYSTEM windows-32)
+else()
+  set(TQ_SYSTEM windows)
+endif()
+
 add_library(tqOptions INTERFACE)
 target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
   -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Werror

@@ -5,6 +5,7 @@ include(CMakePackageConfigHelpers)
 # Every header that a terminal may include, and what those include. Nothing else is installed.
 set(TQ_FRAMEWORK_HEADERS
   platform/CodePage.h
+  platform/Compiler.h
   platform/framework/ArrayStorage.h
   platform/framework/CArray.h
   platform/framework/CButton.h

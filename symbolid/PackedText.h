@@ -7,6 +7,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "platform/WideNumber.h"
+
 #if defined(__SSE2__)
 #include <emmintrin.h>
 #endif
@@ -114,9 +116,8 @@ constexpr bool IsUpperAscii(PackedText head) {
 // The upper and the lower half of a product, mixed: a hash of two words as long as nobody knows
 // `left`.
 inline std::uint64_t MixProduct(std::uint64_t left, std::uint64_t right) {
-  __extension__ using Wide = unsigned __int128;
-  const Wide product = Wide{left} * right;
-  return static_cast<std::uint64_t>(product >> 64) ^ static_cast<std::uint64_t>(product);
+  const WideNumber product = Multiply(left, right);
+  return product.high ^ product.low;
 }
 
 // One step of a hash, whose upper bits are the better ones.

@@ -65,12 +65,12 @@ constexpr int BeforePosition(int length) {
 // PackHead of a string of one to sixteen bytes with that tail, without a branch on its length,
 // which differs from id to id.
 inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
-  __extension__ using Wide = unsigned __int128;
   constexpr int half = sizeof tail;
   const int length = text.GetLength();
   const std::uint64_t before = WordAt(text, BeforePosition(length));
-  const Wide wide = (Wide{tail} << 64 | before) >> 8 * (2 * half - length);
-  return {static_cast<std::uint64_t>(wide), static_cast<std::uint64_t>(wide >> 64)};
+  const auto unused = static_cast<unsigned>(2 * half - length);
+  const WideNumber text16 = ShiftRight({before, tail}, 8 * unused);
+  return {text16.low, text16.high};
 }
 
 // UpperCased for texts that are not short and in upper case.

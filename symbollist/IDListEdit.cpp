@@ -15,7 +15,7 @@ int CIDList::RemoveEntry(int row) noexcept {
     return 0;
   const auto token = rowTokens_[row];
   std::vector<std::string_view> entries = Entries();
-  entries.erase(entries.begin() + token);
+  entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(token));
   StoreEntries(entries);
   tokens_.RemoveAt(static_cast<int>(token));
   const auto behind = static_cast<size_t>(count_ - row - 1);

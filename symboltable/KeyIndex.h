@@ -14,6 +14,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/Compiler.h"
 #include "platform/framework/CString.h"
 #include "symboltable/SymbolKey.h"
 
@@ -38,7 +39,7 @@ public:
   // Fetches what Find looks at first, for callers who go on with other work.
   void Prefetch(std::uint32_t hash) const {
     if (groupCount_ != 0)
-      __builtin_prefetch(&groups_[GroupOf(hash)]);
+      tq::Prefetch(&groups_[GroupOf(hash)]);
   }
 
   // The entry with that key; kNoSlot when there is none. Keys that are longer than their codes are
@@ -87,7 +88,9 @@ private:
   };
 
   // The upper bits of a hash choose the group, others the tag and the passed bit.
-  std::size_t GroupOf(std::uint32_t hash) const { return hash * groupCount_ >> 32; }
+  std::size_t GroupOf(std::uint32_t hash) const {
+    return static_cast<std::size_t>(std::uint64_t{hash} * groupCount_ >> 32);
+  }
   std::size_t Next(std::size_t at) const { return at + 1 == groupCount_ ? 0 : at + 1; }
   static Slot SlotOf(std::size_t group, std::size_t at) {
     return static_cast<Slot>(group * kSlotCount + at);

@@ -34,7 +34,7 @@ inline PackedText CodeOf(std::size_t size, PackedText head) {
 }
 inline std::size_t SizeOf(PackedText code) {
   const std::uint64_t size = code.high >> kSizeShift;
-  return size != kLongKey ? size : static_cast<std::uint32_t>(code.high);
+  return static_cast<std::size_t>(size != kLongKey ? size : static_cast<std::uint32_t>(code.high));
 }
 
 // The secret of this process, of which the hash of a key is made, so that nobody can choose ids

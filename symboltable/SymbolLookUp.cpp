@@ -1,5 +1,7 @@
 #include "symboltable/SymbolLookUp.h"
 
+#include "platform/Compiler.h"
+
 namespace tq {
 namespace {
 
@@ -23,8 +25,8 @@ FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_vie
 //
 // A default exchange names the table, and the name finds it: with two tables of one name it is the
 // lower slot's that answers, whichever of them holds the symbol.
-[[gnu::noinline]] FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperText& id,
-                                             BareSymbol rule) {
+TQ_NOINLINE FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperText& id,
+                                       BareSymbol rule) {
   const SymbolKey whole = MakeKey(id.text, id.head);
   const bool hasSuffix = SplitId(id.text, id.head).symbol.size() != id.text.size();
   FoundSymbol first;

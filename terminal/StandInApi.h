@@ -1,12 +1,10 @@
 // The export macro of the stand-in terminal's control library.
 #pragma once
 
-#if defined(_WIN32)
+#include "platform/Compiler.h"
+
 #if defined(TQSTANDIN_BUILD)
-#define TQSTANDIN_API __declspec(dllexport)
+#define TQSTANDIN_API TQ_EXPORT
 #else
-#define TQSTANDIN_API __declspec(dllimport)
-#endif
-#else
-#define TQSTANDIN_API __attribute__((visibility("default")))
+#define TQSTANDIN_API TQ_IMPORT
 #endif

@@ -23,19 +23,10 @@
 #include <cstdarg>
 #include <cstddef>
 
+#include "platform/Compiler.h"
 #include "platform/framework/FrameworkApi.h"
 #include "platform/framework/Storage.h"
 #include "platform/framework/StringData.h"
-
-// Lets the compiler hold the arguments of a printf-style member against its format (the object
-// counts as argument 1).
-#if defined(__MINGW32__)
-#define TQ_PRINTF_MEMBER __attribute__((format(gnu_printf, 2, 3)))
-#elif defined(__GNUC__)
-#define TQ_PRINTF_MEMBER __attribute__((format(printf, 2, 3)))
-#else
-#define TQ_PRINTF_MEMBER
-#endif
 
 class TQFRAMEWORK_API CString {
 public:

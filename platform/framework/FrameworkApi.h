@@ -2,12 +2,10 @@
 // interface.
 #pragma once
 
-#if defined(_WIN32)
+#include "platform/Compiler.h"
+
 #if defined(TQFRAMEWORK_BUILD)
-#define TQFRAMEWORK_API __declspec(dllexport)
+#define TQFRAMEWORK_API TQ_EXPORT
 #else
-#define TQFRAMEWORK_API __declspec(dllimport)
-#endif
-#else
-#define TQFRAMEWORK_API __attribute__((visibility("default")))
+#define TQFRAMEWORK_API TQ_IMPORT
 #endif

@@ -4,6 +4,8 @@
 // it.
 #pragma once
 
+#include "platform/Compiler.h"
+
 class TQLog {
 public:
   TQLog();
@@ -28,13 +30,7 @@ public:
 
   // One line, printf-style; the line feed is the logger's. User text is an argument, never the
   // format. Returns non-zero when the line was written.
-  int write(const char* format, ...)
-#if defined(__MINGW32__)
-      __attribute__((format(gnu_printf, 2, 3)))
-#elif defined(__GNUC__)
-      __attribute__((format(printf, 2, 3)))
-#endif
-      ;
+  int write(const char* format, ...) TQ_PRINTF_MEMBER;
 
 private:
   void* impl_; // the logging library's own

@@ -69,7 +69,8 @@ public:
     if (!file.Open(SystemPath(path), GENERIC_READ, kShareAll, OPEN_EXISTING))
       return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
     WindowsReadSteps steps(file.Get());
-    return RunRead(steps, std::min<std::uint64_t>(limit, kOneCall), bytes);
+    const std::uint64_t most = std::min<std::uint64_t>(limit, kOneCall);
+    return RunRead(steps, static_cast<std::size_t>(most), bytes);
   }
 
   SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {

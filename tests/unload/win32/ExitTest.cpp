@@ -4,13 +4,14 @@
 
 #include <cstdlib>
 
+#include "platform/Compiler.h"
 #include "terminal/StandIn.h"
 #include "tests/support/TempDir.h"
 #include "tests/unload/Module.h"
 
 // Of a library that comes with the program, so that it ends behind those that the program loads:
 // has the process end with 10 and the number of loggers alive by then.
-extern "C" __declspec(dllimport) void LookAtTheEnd();
+extern "C" TQ_IMPORT void LookAtTheEnd();
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "platform/Compiler.h"
 #include "terminal/StandIn.h"
 
 namespace {
@@ -9,7 +10,7 @@ bool looks = false;
 
 } // namespace
 
-extern "C" __declspec(dllexport) void LookAtTheEnd() {
+extern "C" TQ_EXPORT void LookAtTheEnd() {
   looks = true;
 }
 
