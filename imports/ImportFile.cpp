@@ -4,8 +4,8 @@
 
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
-#include "platform/XmlDocument.h"
-#include "platform/XmlText.h"
+#include "platform/xml/XmlDocument.h"
+#include "platform/xml/XmlText.h"
 #include "symbolid/UpperText.h"
 #include "symbollist/IdString.h"
 

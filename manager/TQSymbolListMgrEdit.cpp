@@ -7,7 +7,7 @@
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/BoundedReplace.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/ListKind.h"

@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "platform/XmlText.h"
 #include "platform/services/tqCommon.h"
 #include "platform/texts/StringTable.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 

@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/FileDeclaration.h"
 #include "symbollist/SymbolList.h"
 

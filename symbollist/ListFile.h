@@ -17,7 +17,7 @@ inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 std::string ListFileText(const CPtrArray& lists, int defaultIndex);
 
 // The same, where the lists may be many. False, with `text` not to be used, when it is not within
-// the bounds that hold for loading one (platform/XmlText.h), for what is saved must be readable, or
+// the bounds that hold for loading one (platform/xml/XmlText.h), for what is saved must be readable, or
 // when there is no memory for it.
 bool MakeListFileText(const CPtrArray& lists, int defaultIndex, std::string& text);
 

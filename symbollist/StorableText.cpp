@@ -4,7 +4,7 @@
 
 #include "platform/Log.h"
 #include "platform/TextTables.h"
-#include "platform/XmlCharacters.h"
+#include "platform/xml/XmlCharacters.h"
 #include "symbolid/UpperText.h"
 #include "symbollist/IdString.h"
 #include "symbollist/TQSymbolListInfo.h"

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "platform/XmlDocument.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 
 namespace tq {
 namespace {

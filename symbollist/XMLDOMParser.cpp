@@ -9,7 +9,7 @@
 #include <utility>
 
 #include "platform/Log.h"
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/WriteBack.h"

@@ -4,9 +4,9 @@
 #include <functional>
 #include <utility>
 
-#include "platform/XmlDocument.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 #include "symbollist/KeptFiles.h"
 
 class CSymbolList;

@@ -1,7 +1,7 @@
 #include "platform/TextTables.h"
 
-#include "platform/XmlCharacters.h"
 #include "platform/services/tqCommon.h"
+#include "platform/xml/XmlCharacters.h"
 
 #include <algorithm>
 #include <iconv.h>

@@ -12,7 +12,7 @@
 #include "groups/GroupLoader.h"
 #include "platform/ModulePath.h"
 #include "platform/ReadSteps.h"
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/KeptCopies.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/ListKind.h"

@@ -1,7 +1,7 @@
 // The start of an XML file: byte-order mark and XML declaration.
 #pragma once
 
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 

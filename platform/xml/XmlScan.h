@@ -2,7 +2,7 @@
 // and the bounds of XmlText.h.
 #pragma once
 
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 
@@ -17,7 +17,7 @@ enum class XmlCharset {
 // everything else of well-formedness to the DOM.
 //
 // `rewritten` receives the text for the DOM when it differs from `text`, and is empty otherwise:
-// names that the DOMs would treat differently are replaced (platform/XmlNames.h), and carried
+// names that the DOMs would treat differently are replaced (platform/xml/XmlNames.h), and carried
 // characters are put into UTF-8. Carried: a character reference into the private plane would come
 // out as a double-byte character that nobody wrote; it becomes "?", like any other character that
 // the code page lacks.

@@ -1,4 +1,4 @@
-#include "platform/XmlCharacters.h"
+#include "platform/xml/XmlCharacters.h"
 
 #include "platform/CodePage.h"
 #include "platform/TextTables.h"

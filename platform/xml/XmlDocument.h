@@ -6,7 +6,7 @@
 //     or anything after the root element refuses the whole document. There is no repair.
 //  2. Closed and bounded: a document type declaration is refused before the DOM sees the text, so
 //     there are no entities beyond the five predefined ones and character references. Nothing is
-//     fetched. Size, nesting, markup, attributes and names are bounded (platform/XmlText.h), so
+//     fetched. Size, nesting, markup, attributes and names are bounded (platform/xml/XmlText.h), so
 //     that a hostile file is refused at once.
 //  3. Text comes out in the process's ANSI code page. From a file in that code page every character
 //     comes out as the very bytes that stand in the file, user-defined characters included. From a

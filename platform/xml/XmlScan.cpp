@@ -1,9 +1,9 @@
-#include "platform/XmlScan.h"
+#include "platform/xml/XmlScan.h"
 
 #include "platform/TextTables.h"
-#include "platform/XmlByteClass.h"
-#include "platform/XmlCharacters.h"
-#include "platform/XmlNames.h"
+#include "platform/xml/XmlByteClass.h"
+#include "platform/xml/XmlCharacters.h"
+#include "platform/xml/XmlNames.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "platform/XmlNames.h"
+#include "platform/xml/XmlNames.h"
 
 #include <algorithm>
 #include <iterator>

@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 

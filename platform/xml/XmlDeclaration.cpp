@@ -1,4 +1,4 @@
-#include "platform/XmlDeclaration.h"
+#include "platform/xml/XmlDeclaration.h"
 
 #include "platform/CodePage.h"
 

@@ -1,6 +1,6 @@
-#include "platform/XmlUtf16.h"
+#include "platform/xml/XmlUtf16.h"
 
-#include "platform/XmlCharacters.h"
+#include "platform/xml/XmlCharacters.h"
 
 namespace tq {
 namespace {

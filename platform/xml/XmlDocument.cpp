@@ -1,8 +1,8 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <new>
 
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 

@@ -1,13 +1,13 @@
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
 #include "platform/TextTables.h"
-#include "platform/XmlCharacters.h"
-#include "platform/XmlDeclaration.h"
-#include "platform/XmlNames.h"
-#include "platform/XmlScan.h"
-#include "platform/XmlUtf16.h"
 #include "platform/framework/CString.h"
 #include "platform/services/tqCommon.h"
+#include "platform/xml/XmlCharacters.h"
+#include "platform/xml/XmlDeclaration.h"
+#include "platform/xml/XmlNames.h"
+#include "platform/xml/XmlScan.h"
+#include "platform/xml/XmlUtf16.h"
 
 #include <algorithm>
 #include <optional>
