@@ -1,6 +1,6 @@
 #include "accounts/TradingFile.h"
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symbollist/FileDeclaration.h"
 #include "symbollist/StorableText.h"
 

@@ -6,7 +6,7 @@
 #include "platform/LibraryString.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlText.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"
 
 namespace tq {

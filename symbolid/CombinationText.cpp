@@ -1,7 +1,7 @@
 #include "symbolid/CombinationText.h"
 
 #include "symbolid/ContractCode.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 namespace {

@@ -6,7 +6,7 @@
 #include "platform/ServiceArray.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 namespace {

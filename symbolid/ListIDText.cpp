@@ -5,7 +5,7 @@
 #include "platform/LibraryString.h"
 #include "symbolid/ListID.h"
 #include "symbolid/ParameterText.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "symbolid/CombinationRules.h"
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace {
 

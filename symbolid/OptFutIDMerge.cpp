@@ -3,7 +3,7 @@
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "platform/ServiceArray.h"
 #include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 

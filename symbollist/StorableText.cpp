@@ -5,7 +5,7 @@
 #include "platform/Log.h"
 #include "platform/TextTables.h"
 #include "platform/xml/XmlCharacters.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"
 #include "symbollist/TQSymbolListInfo.h"
 

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "platform/services/TQSObj.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/LoginNumbers.h"
 
 namespace tq {

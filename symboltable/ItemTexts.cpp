@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/SymbolKey.h"
 
 namespace tq {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableSlots.h"
 

@@ -6,7 +6,7 @@
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TablesWatch.h"
 

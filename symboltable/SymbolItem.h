@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "platform/framework/CString.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/ItemTexts.h"
 #include "symboltable/SymbolKey.h"
 

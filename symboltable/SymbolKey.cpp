@@ -4,7 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/LeadingInt.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 

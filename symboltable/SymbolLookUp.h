@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/TableSlots.h"
 
 namespace tq {
@@ -22,13 +22,13 @@ struct FoundSymbol {
 };
 
 // FindSymbol in all cases.
-FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
+FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperId& id, std::string_view exchName,
                           BareSymbol rule);
 
 // Answers for a full id of some bytes of ASCII whose suffix is an exchange's name, as nearly all
 // are that are asked for, without a branch that differs from one to the next. False for any other
 // id.
-inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSymbol& found) {
+inline bool FindByShortId(const TableSlots& slots, const UpperId& id, FoundSymbol& found) {
   if (id.text.size() > sizeof id.head || ((id.head.low | id.head.high) & kTopBits) != 0)
     return false;
   const std::size_t dot = LastDot(id.head);
@@ -47,8 +47,8 @@ inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSym
 
 // The symbol. `id` is not empty. Without `exchName` the id's suffix names the exchange, and failing
 // that the default exchanges are asked.
-inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id,
-                              std::string_view exchName, BareSymbol rule) {
+inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperId& id, std::string_view exchName,
+                              BareSymbol rule) {
   FoundSymbol found;
   if (exchName.empty() && FindByShortId(slots, id, found))
     return found;
@@ -56,9 +56,9 @@ inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id,
 }
 
 // Whether the full id of the symbol that FindSymbol found for `id` is certainly that very text.
-bool IsIdOf(const FoundSymbol& found, const UpperText& id);
+bool IsIdOf(const FoundSymbol& found, const UpperId& id);
 
 // The exchange that `id` names by its suffix; empty when it names none.
-std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id);
+std::string_view ExchangeIn(const TableSlots& slots, const UpperId& id);
 
 } // namespace tq

@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "platform/services/tqStockFields.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/SymbolLookUp.h"
 #include "symboltable/SymbolTableMgr.h"
 #include "symboltable/TableSlots.h"
@@ -11,7 +11,7 @@ namespace {
 
 // The exchange's name in upper case, given or derived; no symbol is looked at. What is held is
 // shared.
-int GetExchangeName(const tq::TableSlots& slots, const tq::UpperText& id, const CString& given,
+int GetExchangeName(const tq::TableSlots& slots, const tq::UpperId& id, const CString& given,
                     std::string_view upperGiven, CString& value) {
   const bool isGiven = !upperGiven.empty();
   const std::string_view name = isGiven ? upperGiven : tq::ExchangeIn(slots, id);
@@ -77,7 +77,7 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
     return 0;
   tq::UpperBuffer idBuffer;
   tq::UpperBuffer exchBuffer;
-  const tq::UpperText upperId = tq::UpperCased(id, idBuffer);
+  const tq::UpperId upperId = tq::UpperCased(id, idBuffer);
   const std::string_view upperExch = tq::UpperCased(exchName, exchBuffer).text;
   if (field == FieldExchangeName)
     return GetExchangeName(*slots_, upperId, exchName, upperExch, value);

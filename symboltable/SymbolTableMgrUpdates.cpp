@@ -3,7 +3,7 @@
 #include <set>
 #include <string_view>
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/SymbolRecords.h"
 #include "symboltable/SymbolTableMgr.h"

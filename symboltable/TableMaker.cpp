@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/ExchangeService.h"
 
 namespace tq {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 namespace tq {
 TableSlots::TableSlots() = default;

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 #include "symboltable/SymbolTable.h"
 #include "terminal/BaseAttrLayout.h"
 

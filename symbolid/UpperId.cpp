@@ -1,4 +1,4 @@
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -31,7 +31,7 @@ Letters Classify(std::string_view text) {
 
 } // namespace
 
-UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer) {
+UpperId UpperCasedCopy(CString& text, UpperBuffer& buffer) {
   std::string_view view = ViewOf(text);
   const Letters letters = Classify(view);
   if (letters == Letters::DoubleByte ||

@@ -1,4 +1,4 @@
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 using tq::UpperBuffer;
 
 // What the numbers of an upper-cased text say of its last bytes, eight at most.
-std::string TailOf(const tq::UpperText& upper) {
+std::string TailOf(const tq::UpperId& upper) {
   constexpr std::size_t size = sizeof upper.tail;
   char bytes[size];
   std::memcpy(bytes, &upper.tail, size);
@@ -20,7 +20,7 @@ std::string TailOf(const tq::UpperText& upper) {
 }
 
 std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
-  const tq::UpperText upper = tq::UpperCased(text, buffer);
+  const tq::UpperId upper = tq::UpperCased(text, buffer);
   const tq::PackedText head = tq::PackHead(upper.text);
   EXPECT_EQ(upper.head.low, head.low);
   EXPECT_EQ(upper.head.high, head.high);
@@ -28,7 +28,7 @@ std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
   return upper.text;
 }
 
-TEST(UpperText, UpperCaseTextIsNotCopied) {
+TEST(UpperId, UpperCaseTextIsNotCopied) {
   for (const char* each : {"", "2330.TW", "@[`{", "ABCDEFGHIJKLMNOPQRSTUVWXYZ.LONGER"}) {
     CString text(each);
     const CString before = text;
@@ -39,7 +39,7 @@ TEST(UpperText, UpperCaseTextIsNotCopied) {
 
 // Symptom: the words of a short id were read together with the count of its owners, while another
 // thread was counting.
-TEST(UpperText, TheCountOfOwnersIsNotRead) {
+TEST(UpperId, TheCountOfOwnersIsNotRead) {
   for (int length = 1; length <= 16; ++length) {
     EXPECT_GE(tq::TailPosition(length), -tq::kReadableBefore) << length;
     EXPECT_GE(tq::BeforePosition(length), -tq::kReadableBefore) << length;
@@ -47,12 +47,12 @@ TEST(UpperText, TheCountOfOwnersIsNotRead) {
   }
 }
 
-TEST(UpperText, HeadAndTailAreThoseOfTheTextAtEveryLength) {
+TEST(UpperId, HeadAndTailAreThoseOfTheTextAtEveryLength) {
   for (std::size_t length = 1; length <= 18; ++length) {
     const std::string bytes = std::string("ABCDEFGHIJKLMNOPQR").substr(0, length);
     CString text(bytes.c_str());
     UpperBuffer buffer;
-    const tq::UpperText upper = tq::UpperCased(text, buffer);
+    const tq::UpperId upper = tq::UpperCased(text, buffer);
     EXPECT_EQ(upper.head, tq::PackHead(bytes)) << length;
     std::string tail(8, '\0');
     std::memcpy(tail.data(), &upper.tail, 8);
@@ -61,7 +61,7 @@ TEST(UpperText, HeadAndTailAreThoseOfTheTextAtEveryLength) {
   }
 }
 
-TEST(UpperText, LowerLettersAreRaisedAtEveryPosition) {
+TEST(UpperId, LowerLettersAreRaisedAtEveryPosition) {
   for (std::size_t at = 0; at < 40; ++at) {
     std::string lower(40, '1');
     lower[at] = 'z';
@@ -75,7 +75,7 @@ TEST(UpperText, LowerLettersAreRaisedAtEveryPosition) {
 }
 
 // A short text's last bytes are read together with what lies in front of it in memory.
-TEST(UpperText, TheLastBytesAreThoseOfTheTextAtEveryLength) {
+TEST(UpperId, TheLastBytesAreThoseOfTheTextAtEveryLength) {
   const std::string digits = "123456789012345678901234567890";
   for (std::size_t length = 0; length <= digits.size(); ++length) {
     for (const char last : {'9', 'Z', 'z'}) {
@@ -93,20 +93,20 @@ TEST(UpperText, TheLastBytesAreThoseOfTheTextAtEveryLength) {
   }
 }
 
-TEST(UpperText, NeighboursOfTheLettersStay) {
+TEST(UpperId, NeighboursOfTheLettersStay) {
   CString text("@AZ[`az{");
   UpperBuffer buffer;
   EXPECT_EQ(UpperCased(text, buffer), "@AZ[`AZ{");
 }
 
-TEST(UpperText, TextLongerThanTheBufferIsRaisedInPlace) {
+TEST(UpperId, TextLongerThanTheBufferIsRaisedInPlace) {
   const std::string lower(1000, 'q');
   CString text(lower.c_str());
   UpperBuffer buffer;
   EXPECT_EQ(UpperCased(text, buffer), std::string(1000, 'Q'));
 }
 
-TEST(UpperText, SecondBytesThatLookLikeLettersStay) {
+TEST(UpperId, SecondBytesThatLookLikeLettersStay) {
   CString text("a\xa4\x61z");
   UpperBuffer buffer;
   EXPECT_EQ(UpperCased(text, buffer), "A\xa4\x61Z");
@@ -115,7 +115,7 @@ TEST(UpperText, SecondBytesThatLookLikeLettersStay) {
   EXPECT_STREQ(copy.GetString(), "A\xa4\x61Z");
 }
 
-TEST(UpperText, RaisingACopyLeavesTheOriginal) {
+TEST(UpperId, RaisingACopyLeavesTheOriginal) {
   const CString original("\xa4\x61z");
   CString copy = original;
   UpperBuffer buffer;
@@ -123,7 +123,7 @@ TEST(UpperText, RaisingACopyLeavesTheOriginal) {
   EXPECT_STREQ(original.GetString(), "\xa4\x61z");
 }
 
-TEST(UpperText, ComparesWithoutRegardToCaseByWholeCharacters) {
+TEST(UpperId, ComparesWithoutRegardToCaseByWholeCharacters) {
   EXPECT_TRUE(tq::EqualsNoCase("", ""));
   EXPECT_TRUE(tq::EqualsNoCase("tW", "Tw"));
   EXPECT_FALSE(tq::EqualsNoCase("TW", "TWO"));

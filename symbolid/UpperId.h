@@ -26,7 +26,7 @@ inline std::string_view ViewOf(const CString& text) {
 }
 
 // A text with its first and last bytes as numbers.
-struct UpperText {
+struct UpperId {
   std::string_view text;
   PackedText head;
   // The last eight bytes. A shorter text is in the upper ones, and the lower ones say nothing.
@@ -74,12 +74,12 @@ inline PackedText HeadOfShort(const CString& text, std::uint64_t tail) {
 }
 
 // UpperCased for texts that are not short and in upper case.
-UpperText UpperCasedCopy(CString& text, UpperBuffer& buffer);
+UpperId UpperCasedCopy(CString& text, UpperBuffer& buffer);
 
 // `text` in upper case. The result lies in `text` itself when that is in upper case already, in
 // `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
 // valid while both live.
-inline UpperText UpperCased(CString& text, UpperBuffer& buffer) {
+inline UpperId UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
   if (view.empty())
     return {view, {}, 0};
