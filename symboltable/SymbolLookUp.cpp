@@ -10,10 +10,10 @@ FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffi
   return {table, place, bySuffix};
 }
 
-FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_view exchName) {
+FoundSymbol FindOn(const ExchangeTables& slots, std::string_view id, std::string_view exchName) {
   constexpr int noId = -1;
   const int slot = slots.Find(exchName, noId);
-  if (slot == TableSlots::kNone)
+  if (slot == ExchangeTables::kNone)
     return {};
   const CSymbolTable* const table = slots.At(slot);
   return FindIn(table, MakeKey(table->KeyOf(id)), false);
@@ -23,7 +23,7 @@ FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_vie
 //
 // A default exchange names the table, and the name finds it: with two tables of one name it is the
 // lower slot's that answers, whichever of them holds the symbol.
-[[gnu::noinline]] FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperId& id,
+[[gnu::noinline]] FoundSymbol FindOnDefaults(const ExchangeTables& slots, const UpperId& id,
                                              BareSymbol rule) {
   const SymbolKey whole = MakeKey(id.text, id.head);
   const bool hasSuffix = SplitId(id.text, id.head).symbol.size() != id.text.size();
@@ -48,7 +48,7 @@ FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_vie
   return FindOn(slots, id.text, ViewOf(first.table->ExchName()));
 }
 
-int FindSuffix(const TableSlots& slots, const UpperId& id, std::string_view suffix) {
+int FindSuffix(const ExchangeTables& slots, const UpperId& id, std::string_view suffix) {
   return suffix.size() <= sizeof id.tail ? slots.FindNameInTail(id.tail, suffix.size())
                                          : slots.FindName(suffix);
 }
@@ -61,18 +61,18 @@ bool IsIdOf(const FoundSymbol& found, const UpperId& id) {
   return found.bySuffix && HasSingleDot(id.text, id.head);
 }
 
-std::string_view ExchangeIn(const TableSlots& slots, const UpperId& id) {
+std::string_view ExchangeIn(const ExchangeTables& slots, const UpperId& id) {
   const std::string_view suffix = SplitId(id.text, id.head).suffix;
   return !suffix.empty() && slots.HasUpperName(suffix) ? suffix : std::string_view();
 }
 
-FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperId& id, std::string_view exchName,
+FoundSymbol FindAnySymbol(const ExchangeTables& slots, const UpperId& id, std::string_view exchName,
                           BareSymbol rule) {
   if (!exchName.empty())
     return FindOn(slots, id.text, exchName);
   const auto [symbol, suffix] = SplitId(id.text, id.head);
   if (!suffix.empty()) {
-    if (const int slot = FindSuffix(slots, id, suffix); slot != TableSlots::kNone) {
+    if (const int slot = FindSuffix(slots, id, suffix); slot != ExchangeTables::kNone) {
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
       return FindIn(slots.At(slot), key, true);
     }

@@ -10,18 +10,18 @@
 #include "symboltable/TableMaker.h"
 
 int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noexcept {
-  const tq::TableSlots::Use slots(*slots_);
+  const tq::ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
-  if (slot == tq::TableSlots::kNone)
+  if (slot == tq::ExchangeTables::kNone)
     return tq::MakeTable(*slots, CString(), exchId);
   const tq::SymbolRecords records(symbols, count);
   return records.Count() == 0 || slots->At(slot)->Add(records.Joined());
 }
 
 int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) noexcept {
-  const tq::TableSlots::Use slots(*slots_);
+  const tq::ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
-  if (slot == tq::TableSlots::kNone)
+  if (slot == tq::ExchangeTables::kNone)
     return tq::MakeTable(*slots, CString(), exchId);
   const tq::SymbolRecords records(symbols, count);
   return records.Count() == 0 || slots->At(slot)->Update(records.Joined());
@@ -29,7 +29,7 @@ int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) n
 
 int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) noexcept {
   const int slot = MapToSymbolTableIndex(exchId);
-  if (slot == tq::TableSlots::kNone)
+  if (slot == tq::ExchangeTables::kNone)
     return 0;
   const tq::SymbolRecords records(symbols, count);
   for (int i = 0; i < records.Count(); ++i)
@@ -38,7 +38,7 @@ int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) n
 }
 
 int CSymbolTableMgr::RebuildSymbolTable() noexcept {
-  const tq::TableSlots::Use slots(*slots_);
+  const tq::ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList list;
   if (!list.Result())
     return 0;
@@ -46,7 +46,7 @@ int CSymbolTableMgr::RebuildSymbolTable() noexcept {
   std::set<std::string_view> unknown;
   for (const ExchInfo& exchange : exchanges)
     unknown.insert(tq::NameOf(exchange));
-  for (int slot = 0; slot < tq::TableSlots::kCount; ++slot)
+  for (int slot = 0; slot < tq::ExchangeTables::kCount; ++slot)
     if (const CSymbolTable* const table = slots->At(slot);
         table != nullptr && unknown.erase(tq::ViewOf(table->ExchName())) == 0)
       slots->Remove(slot);
@@ -61,11 +61,11 @@ int CSymbolTableMgr::RebuildSymbolTable() noexcept {
     const std::string_view name = tq::NameOf(exchange);
     // A table that was not made here the terminal made meanwhile.
     if (!unknown.contains(name) ||
-        (!made.contains(name) && slots->FindName(name) != tq::TableSlots::kNone))
+        (!made.contains(name) && slots->FindName(name) != tq::ExchangeTables::kNone))
       continue;
     int loaded = 0;
     const int slot = tq::MakeTable(*slots, position, tq::ToCString(name), exchange.id, loaded);
-    if (slot == tq::TableSlots::kNone)
+    if (slot == tq::ExchangeTables::kNone)
       return 0;
     made.insert(name);
     position = std::max(position, slot);
@@ -77,8 +77,8 @@ int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) noe
   constexpr int allExchanges = -1;
   if (exchId == allExchanges)
     return RebuildSymbolTable();
-  const tq::TableSlots::Use slots(*slots_);
+  const tq::ExchangeTables::Use slots(*slots_);
   const int slot = slots->Find(tq::ViewOf(exchName), exchId);
-  return slot == tq::TableSlots::kNone ? tq::MakeTable(*slots, exchName, exchId)
-                                       : slots->At(slot)->Load();
+  return slot == tq::ExchangeTables::kNone ? tq::MakeTable(*slots, exchName, exchId)
+                                           : slots->At(slot)->Load();
 }

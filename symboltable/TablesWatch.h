@@ -2,8 +2,8 @@
 // a service is asked.
 #pragma once
 
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TableSlots.h"
 
 namespace tq {
 
@@ -14,7 +14,7 @@ public:
   bool AreGone() const { return slots_->IsOwnerless(); }
 
 private:
-  TableSlots::Use slots_;
+  ExchangeTables::Use slots_;
 };
 
 } // namespace tq

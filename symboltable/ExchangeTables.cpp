@@ -1,21 +1,21 @@
-#include "symboltable/TableSlots.h"
+#include "symboltable/ExchangeTables.h"
 
 #include <utility>
 
 #include "symbolid/UpperId.h"
 
 namespace tq {
-TableSlots::TableSlots() = default;
-TableSlots::~TableSlots() = default;
+ExchangeTables::ExchangeTables() = default;
+ExchangeTables::~ExchangeTables() = default;
 
-int TableSlots::FirstFree(int from) const {
+int ExchangeTables::FirstFree(int from) const {
   for (int slot = from; slot < kCount; ++slot)
     if (At(slot) == nullptr)
       return slot;
   return kNone;
 }
 
-void TableSlots::Delete(std::unique_ptr<TableSlots> slots) {
+void ExchangeTables::Delete(std::unique_ptr<ExchangeTables> slots) {
   slots->Clear();
   if (slots->uses_ == 0)
     return;
@@ -23,7 +23,7 @@ void TableSlots::Delete(std::unique_ptr<TableSlots> slots) {
   static_cast<void>(slots.release());
 }
 
-void TableSlots::EndUse() {
+void ExchangeTables::EndUse() {
   if (--uses_ != 0)
     return;
   takenOut_.clear();
@@ -31,30 +31,30 @@ void TableSlots::EndUse() {
     delete this;
 }
 
-void TableSlots::TakeOut(std::size_t slot) {
+void ExchangeTables::TakeOut(std::size_t slot) {
   if (uses_ != 0 && tables_[slot] != nullptr)
     takenOut_.push_back(std::move(tables_[slot]));
   tables_[slot].reset();
 }
 
-void TableSlots::Put(int slot, std::unique_ptr<CSymbolTable> table) {
+void ExchangeTables::Put(int slot, std::unique_ptr<CSymbolTable> table) {
   const auto place = static_cast<std::size_t>(slot);
   TakeOut(place);
   tables_[place] = std::move(table);
   Reindex();
 }
 
-void TableSlots::Remove(int slot) {
+void ExchangeTables::Remove(int slot) {
   Put(slot, nullptr);
 }
 
-void TableSlots::Clear() {
+void ExchangeTables::Clear() {
   for (std::size_t slot = 0; slot < tables_.size(); ++slot)
     TakeOut(slot);
   Reindex();
 }
 
-void TableSlots::Forget() {
+void ExchangeTables::Forget() {
   for (auto& table : tables_)
     static_cast<void>(table.release());
   Reindex();
@@ -62,7 +62,7 @@ void TableSlots::Forget() {
 
 // Enters a slot under its name unless a lower slot, entered before, has that name already.
 template <typename IsName>
-void TableSlots::Enter(NameIndex& index, std::string_view name, int slot, IsName isName) {
+void ExchangeTables::Enter(NameIndex& index, std::string_view name, int slot, IsName isName) {
   std::size_t at = NameHash(PackHead(name));
   for (; index[at] != 0; at = (at + 1) % kNameIndexSize)
     if (isName(index[at] - 1))
@@ -70,7 +70,7 @@ void TableSlots::Enter(NameIndex& index, std::string_view name, int slot, IsName
   index[at] = static_cast<std::uint8_t>(slot + 1);
 }
 
-void TableSlots::Reindex() {
+void ExchangeTables::Reindex() {
   byName_.fill(0);
   byUpperName_.fill(0);
   for (int slot = 0; slot < kCount; ++slot) {
@@ -90,19 +90,19 @@ void TableSlots::Reindex() {
   FindDefaults();
 }
 
-void TableSlots::FindDefaults() {
+void ExchangeTables::FindDefaults() {
   defaults_.clear();
   for (const int exchId : defaultIds_)
     if (const int slot = FindId(exchId); slot != kNone)
       defaults_.push_back(At(slot));
 }
 
-void TableSlots::SetDefaults(std::vector<int> exchIds) {
+void ExchangeTables::SetDefaults(std::vector<int> exchIds) {
   defaultIds_ = std::move(exchIds);
   FindDefaults();
 }
 
-int TableSlots::FindName(std::string_view exchName) const {
+int ExchangeTables::FindName(std::string_view exchName) const {
   const PackedText head = PackHead(exchName);
   std::size_t at = NameHash(head);
   while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
@@ -110,14 +110,14 @@ int TableSlots::FindName(std::string_view exchName) const {
   return byName_[at] - 1;
 }
 
-int TableSlots::FindId(int exchId) const {
+int ExchangeTables::FindId(int exchId) const {
   for (int slot = 0; slot < kCount; ++slot)
     if (At(slot) != nullptr && At(slot)->ExchId() == exchId)
       return slot;
   return kNone;
 }
 
-bool TableSlots::HasUpperName(std::string_view upperName) const {
+bool ExchangeTables::HasUpperName(std::string_view upperName) const {
   std::size_t at = NameHash(PackHead(upperName));
   while (byUpperName_[at] != 0 && UpperNameAt(byUpperName_[at] - 1) != upperName)
     at = (at + 1) % kNameIndexSize;

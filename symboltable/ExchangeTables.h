@@ -2,7 +2,7 @@
 // nothing: of several tables that would do, the one in the lowest slot answers.
 //
 // The services that an operation asks may call the library again before they answer, and take away
-// the very table that is to get the answer. So an operation that asks holds a TableSlots::Use:
+// the very table that is to get the answer. So an operation that asks holds a ExchangeTables::Use:
 // until the last one ends, tables that are taken out live on, and so do the slots themselves.
 #pragma once
 
@@ -17,7 +17,7 @@
 
 namespace tq {
 
-class TableSlots {
+class ExchangeTables {
 public:
   static constexpr int kCount = 128;
   static constexpr int kNone = -1;
@@ -25,26 +25,26 @@ public:
   // Keeps the slots and what was in them while an operation asks the services.
   class Use {
   public:
-    explicit Use(TableSlots& slots) : slots_(slots) { ++slots.uses_; }
+    explicit Use(ExchangeTables& slots) : slots_(slots) { ++slots.uses_; }
     ~Use() { slots_.EndUse(); }
     Use(const Use&) = delete;
     Use& operator=(const Use&) = delete;
 
-    TableSlots* operator->() const { return &slots_; }
-    TableSlots& operator*() const { return slots_; }
+    ExchangeTables* operator->() const { return &slots_; }
+    ExchangeTables& operator*() const { return slots_; }
 
   private:
-    TableSlots& slots_;
+    ExchangeTables& slots_;
   };
 
-  TableSlots();
-  ~TableSlots();
+  ExchangeTables();
+  ~ExchangeTables();
   // Deletes the slots with all tables, as soon as no operation uses them.
-  static void Delete(std::unique_ptr<TableSlots> slots);
+  static void Delete(std::unique_ptr<ExchangeTables> slots);
   // Whether Delete was called, and an operation uses them still.
   bool IsOwnerless() const { return ownerless_; }
-  TableSlots(const TableSlots&) = delete;
-  TableSlots& operator=(const TableSlots&) = delete;
+  ExchangeTables(const ExchangeTables&) = delete;
+  ExchangeTables& operator=(const ExchangeTables&) = delete;
 
   CSymbolTable* At(int slot) const { return tables_[static_cast<std::size_t>(slot)].get(); }
   // The first slot at or after `from` that holds nothing; None when there is none.
