@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 
 namespace tq {
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "platform/Clock.h"
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "platform/ServiceArray.h"
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 #include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 #include "symbolid/UpperId.h"
 
 namespace tq {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 #include "symbolid/UpperId.h"
 #include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
