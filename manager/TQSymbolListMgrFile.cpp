@@ -5,7 +5,7 @@
 #include "accounts/TradingFile.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/LibraryString.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/services/tqCommon.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/ListFile.h"

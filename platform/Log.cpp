@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/LibraryEnd.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/framework/CString.h"
 
 namespace tq {

@@ -2,7 +2,7 @@
 
 #include <iterator>
 
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/services/tqCommon.h"
 #include "platform/texts/StringTable.h"
 #include "platform/xml/XmlText.h"

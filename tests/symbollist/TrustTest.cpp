@@ -10,7 +10,7 @@
 #include "accounts/TradingService.h"
 #include "groups/GroupId.h"
 #include "groups/GroupLoader.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/ReadSteps.h"
 #include "platform/xml/XmlText.h"
 #include "symbollist/KeptCopies.h"

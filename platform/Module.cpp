@@ -1,4 +1,4 @@
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 
 namespace tq {
 
