@@ -1,4 +1,4 @@
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 
 namespace tq {
 

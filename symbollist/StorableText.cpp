@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Encoding.h"
 #include "platform/Log.h"
-#include "platform/TextTables.h"
 #include "platform/xml/XmlCharacters.h"
 #include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"

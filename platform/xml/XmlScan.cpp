@@ -1,6 +1,6 @@
 #include "platform/xml/XmlScan.h"
 
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 #include "platform/xml/XmlByteClass.h"
 #include "platform/xml/XmlCharacters.h"
 #include "platform/xml/XmlNames.h"

@@ -1,6 +1,6 @@
 #include "platform/xml/XmlText.h"
 
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 #include "platform/framework/CString.h"
 #include "platform/services/tqCommon.h"
 #include "platform/xml/XmlCharacters.h"

@@ -1,7 +1,7 @@
 #include "platform/Module.h"
 
+#include "platform/Encoding.h"
 #include "platform/FileAccess.h"
-#include "platform/TextTables.h"
 
 #include <gtest/gtest.h>
 

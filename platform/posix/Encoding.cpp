@@ -1,4 +1,4 @@
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 
 #include "platform/services/tqCommon.h"
 #include "platform/xml/XmlCharacters.h"

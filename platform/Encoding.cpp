@@ -1,7 +1,7 @@
 #include "platform/xml/XmlCharacters.h"
 
 #include "platform/CodePage.h"
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 
 namespace tq {
 namespace {
