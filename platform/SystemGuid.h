@@ -1,7 +1,7 @@
 // The operating system's source of identifiers, behind Guid.h.
 #pragma once
 
-#include "platform/Guid.h"
+#include "platform/System.h"
 
 namespace tq {
 

@@ -1,6 +1,6 @@
 #include "symbollist/NewListId.h"
 
-#include "platform/Guid.h"
+#include "platform/System.h"
 
 namespace tq {
 

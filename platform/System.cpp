@@ -1,4 +1,4 @@
-#include "platform/Guid.h"
+#include "platform/System.h"
 
 #include "platform/SystemGuid.h"
 
