@@ -3,7 +3,6 @@
 #include <new>
 #include <utility>
 
-#include "platform/LibraryEnd.h"
 #include "platform/Module.h"
 #include "platform/framework/CString.h"
 

@@ -1,20 +1,27 @@
 #include "platform/System.h"
 
-#include "platform/SystemGuid.h"
-
 #include <atomic>
 #include <cstdio>
 
 namespace tq {
 namespace {
 
-std::atomic<GuidSource> g_source{&SystemGuid};
+std::atomic<ClockSource> g_clock{&SystemLocalYear};
+std::atomic<GuidSource> g_guids{&SystemGuid};
 
 } // namespace
 
+int CurrentLocalYear() {
+  return g_clock.load(std::memory_order_acquire)();
+}
+
+ClockSource SetClock(ClockSource source) {
+  return g_clock.exchange(source != nullptr ? source : &SystemLocalYear, std::memory_order_acq_rel);
+}
+
 bool NewGuid(Guid& guid) {
   guid = {};
-  if (g_source.load(std::memory_order_acquire)(guid))
+  if (g_guids.load(std::memory_order_acquire)(guid))
     return true;
   guid = {};
   return false;
@@ -28,7 +35,7 @@ void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]) {
 }
 
 GuidSource SetGuidSource(GuidSource source) {
-  return g_source.exchange(source != nullptr ? source : &SystemGuid, std::memory_order_acq_rel);
+  return g_guids.exchange(source != nullptr ? source : &SystemGuid, std::memory_order_acq_rel);
 }
 
 } // namespace tq

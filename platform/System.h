@@ -1,11 +1,25 @@
-// Globally unique identifiers: the ids of new lists.
+// What the library asks of the operating system besides files: the calendar and new identifiers. A
+// test puts sources of its own in their place.
 #pragma once
 
 #include <cstdint>
 
 namespace tq {
 
-// The four fields of a GUID, as the operating system's own record has them.
+// The year of the local calendar, such as 2026. Contract codes carry the last digit of a year only
+// and are read by it. Any thread.
+int CurrentLocalYear();
+
+// What CurrentLocalYear asks.
+using ClockSource = int (*)();
+
+// Replaces the source and returns the one before; null restores SystemLocalYear.
+ClockSource SetClock(ClockSource source);
+
+// The operating system's calendar.
+int SystemLocalYear();
+
+// The four fields of a GUID, laid out like the operating system's own record.
 struct Guid {
   std::uint32_t data1;
   std::uint16_t data2;
@@ -13,12 +27,11 @@ struct Guid {
   std::uint8_t data4[8];
 };
 
-// Characters of a GUID's text form, without the NUL.
+// Length of a GUID's text form, without the NUL.
 inline constexpr int kGuidTextLength = 36;
 
-// Fills `guid` with a new identifier from the operating system (CoCreateGuid on Windows, the
-// kernel's random source elsewhere, as a version 4 GUID). False, with `guid` zeroed, when the
-// system has none to give. Any thread.
+// Fills `guid` with a new identifier. False, with `guid` zeroed, when the system has none to give.
+// Any thread.
 bool NewGuid(Guid& guid);
 
 // Writes the text form, 8-4-4-4-12 hexadecimal digits, and a NUL. The third group is in lower case
@@ -26,10 +39,14 @@ bool NewGuid(Guid& guid);
 // it.
 void FormatGuid(const Guid& guid, char (&text)[kGuidTextLength + 1]);
 
-// What NewGuid asks. A test puts its own source in place to get known ids, or a failure.
+// What NewGuid asks. False when there is no identifier; `guid` may then hold anything.
 using GuidSource = bool (*)(Guid& guid);
 
-// Sets the source and returns the one before; null stands for the operating system's.
+// Replaces the source and returns the one before; null restores SystemGuid.
 GuidSource SetGuidSource(GuidSource source);
+
+// The operating system's identifiers: CoCreateGuid on Windows, elsewhere a version 4 GUID from the
+// kernel's random source.
+bool SystemGuid(Guid& guid);
 
 } // namespace tq

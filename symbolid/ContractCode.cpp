@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "platform/Clock.h"
+#include "platform/System.h"
 #include "platform/Text.h"
 
 namespace tq {

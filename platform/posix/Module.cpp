@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <dlfcn.h>
 #include <unistd.h>
+#include <utility>
 
 namespace tq {
 namespace {
@@ -29,9 +30,7 @@ std::string OwnModulePath() {
     path = ProgramPath();
   else if (path[0] != '/')
     path = ::realpath(path.c_str(), full) != nullptr ? std::string(full) : ProgramPath();
-  if (path.size() > kModulePathLimit)
-    path.resize(kModulePathLimit);
-  return path;
+  return CutModulePath(std::move(path));
 }
 
 void* OwnModule() {
@@ -45,6 +44,10 @@ std::string DirectoryOf(const std::string& path) {
   // A slash is no trail byte of any double-byte code page.
   const std::size_t separator = path.rfind('/');
   return separator == std::string::npos ? std::string() : path.substr(0, separator);
+}
+
+bool ProcessIsEnding() {
+  return false;
 }
 
 } // namespace tq

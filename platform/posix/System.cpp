@@ -1,9 +1,18 @@
-#include "platform/SystemGuid.h"
+#include "platform/System.h"
 
 #include <cerrno>
+#include <ctime>
 #include <sys/random.h>
 
 namespace tq {
+
+int SystemLocalYear() {
+  constexpr int yearZeroOfTm = 1900;
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  ::localtime_r(&now, &local);
+  return local.tm_year + yearZeroOfTm;
+}
 
 bool SystemGuid(Guid& guid) {
   static_assert(sizeof(Guid) == 16);

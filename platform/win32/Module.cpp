@@ -1,22 +1,32 @@
 #include "platform/Module.h"
 
-#include "platform/CodePage.h"
-
 #include <windows.h>
 
-namespace tq {
+#include "platform/CodePage.h"
+
 namespace {
 
 const char kInThisModule = 0;
 
+bool processIsEnding = false;
+
 } // namespace
+
+// Called before the library's static objects are destroyed. `ofProcess` is null when only the
+// library is unloaded.
+extern "C" BOOL WINAPI DllMain(HINSTANCE /*library*/, DWORD reason, LPVOID ofProcess) {
+  if (reason == DLL_PROCESS_DETACH)
+    processIsEnding = ofProcess != nullptr;
+  return TRUE;
+}
+
+namespace tq {
 
 std::string OwnModulePath() {
   char path[kModulePathLimit + 1];
   const DWORD length = ::GetModuleFileNameA(static_cast<HMODULE>(OwnModule()), path,
                                             static_cast<DWORD>(sizeof path));
-  // A path that was cut may end in half a character.
-  return std::string(path, CutLength(path, length, kModulePathLimit));
+  return CutModulePath(std::string(path, length)); // a full buffer may end in half a character
 }
 
 void* OwnModule() {
@@ -36,6 +46,10 @@ std::string DirectoryOf(const std::string& path) {
       separator = at;
   }
   return std::string(start, separator);
+}
+
+bool ProcessIsEnding() {
+  return processIsEnding;
 }
 
 } // namespace tq

@@ -1,4 +1,4 @@
-#include "platform/SystemGuid.h"
+#include "platform/System.h"
 
 #include <windows.h>
 
@@ -7,6 +7,12 @@
 #include <cstring>
 
 namespace tq {
+
+int SystemLocalYear() {
+  SYSTEMTIME local;
+  ::GetLocalTime(&local);
+  return local.wYear;
+}
 
 bool SystemGuid(Guid& guid) {
   static_assert(sizeof(Guid) == sizeof(GUID));

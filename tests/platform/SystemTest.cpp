@@ -2,10 +2,35 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <set>
 #include <string>
 
 namespace {
+
+int YearOfTheCLibrary() {
+  const std::time_t now = std::time(nullptr);
+  return std::localtime(&now)->tm_year + 1900;
+}
+
+int Year2029() {
+  return 2029;
+}
+
+TEST(Clock, TellsTheYearOfTheLocalCalendar) {
+  // The year may turn between the two questions.
+  const int before = YearOfTheCLibrary();
+  const int year = tq::CurrentLocalYear();
+  const int after = YearOfTheCLibrary();
+  EXPECT_TRUE(year == before || year == after) << year;
+}
+
+TEST(Clock, ASourceCountsUntilTheSystemsIsRestored) {
+  EXPECT_EQ(tq::SetClock(&Year2029), &tq::SystemLocalYear);
+  EXPECT_EQ(tq::CurrentLocalYear(), 2029);
+  EXPECT_EQ(tq::SetClock(nullptr), &Year2029);
+  EXPECT_EQ(tq::SetClock(nullptr), &tq::SystemLocalYear);
+}
 
 std::string Text(const tq::Guid& guid) {
   char text[tq::kGuidTextLength + 1];
