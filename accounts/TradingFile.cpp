@@ -1,6 +1,6 @@
 #include "accounts/TradingFile.h"
 
-#include "symbolid/UpperId.h"
+#include "platform/Text.h"
 #include "symbollist/FileDeclaration.h"
 #include "symbollist/StorableText.h"
 

@@ -1,6 +1,6 @@
 #include "exchanges/DefaultExchangeIds.h"
 
-#include "symboltable/LoginNumbers.h"
+#include "symboltable/ExchangeService.h"
 
 namespace tq {
 

@@ -1,6 +1,6 @@
 // Checks of names, identifiers and working copies.
 #include "manager/TQSymbolListMgr.h"
-#include "symbolid/ParameterText.h"
+#include "platform/Text.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"

@@ -1,6 +1,6 @@
 // Editing of the entries of one list. In memory only: the caller saves.
 #include "manager/TQSymbolListMgr.h"
-#include "symbolid/UpperId.h"
+#include "platform/Text.h"
 #include "symbollist/IdString.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/StorableText.h"

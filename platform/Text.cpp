@@ -1,4 +1,4 @@
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -19,8 +19,7 @@ int LeadingInt(std::string_view text) {
   const bool negative = at < text.size() && text[at] == '-';
   if (negative || (at < text.size() && text[at] == '+'))
     ++at;
-  // Never far beyond what an int holds, so the 64-bit sum cannot overflow however many digits
-  // follow.
+  // Capped beyond the range of int, so that no number of digits overflows 64 bits.
   constexpr std::int64_t tooLarge = std::int64_t{1} << 32;
   std::int64_t value = 0;
   for (; at < text.size() && IsDigit(text[at]); ++at)
@@ -28,6 +27,20 @@ int LeadingInt(std::string_view text) {
   constexpr std::int64_t lowest = std::numeric_limits<int>::min();
   constexpr std::int64_t highest = std::numeric_limits<int>::max();
   return static_cast<int>(std::clamp(negative ? -value : value, lowest, highest));
+}
+
+void CutBefore(CString& text, char separator, CString& before) {
+  if (text.IsEmpty())
+    return;
+  const int at = text.Find(separator);
+  if (at < 0) {
+    before = text;
+    text.Empty();
+    return;
+  }
+  const CString rest = text.Mid(at + 1);
+  before = text.Left(at);
+  text = rest;
 }
 
 } // namespace tq

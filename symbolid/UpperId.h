@@ -11,19 +11,13 @@
 #include <cstring>
 #include <string_view>
 
-#include "platform/CodePage.h"
-#include "platform/framework/CString.h"
+#include "platform/Text.h"
 #include "symbolid/PackedText.h"
 
 namespace tq {
 
 // Room for the upper-cased form of every id that a person or a service writes.
 using UpperBuffer = std::array<char, 64>;
-
-// The bytes of a string, for as long as it is not changed.
-inline std::string_view ViewOf(const CString& text) {
-  return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
 
 // A text with its first and last bytes as numbers.
 struct UpperId {
@@ -94,14 +88,5 @@ inline UpperId UpperCased(CString& text, UpperBuffer& buffer) {
 
 // Upper-cases in place.
 void MakeUpper(CString& text);
-
-// Whether the two are the same but for letter case.
-inline bool EqualsNoCase(std::string_view left, std::string_view right) {
-  return left == right || EqualNoCase(left.data(), left.size(), right.data(), right.size());
-}
-
-inline CString ToCString(std::string_view text) {
-  return CString(text.data(), static_cast<int>(text.size()));
-}
 
 } // namespace tq

@@ -7,7 +7,6 @@
 
 #include "platform/ServiceArray.h"
 #include "platform/Text.h"
-#include "symbolid/UpperId.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"

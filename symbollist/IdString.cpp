@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/Text.h"
-#include "symbolid/UpperId.h"
 
 namespace tq {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "symbolid/UpperId.h"
+#include "platform/Text.h"
 
 namespace tq {
 

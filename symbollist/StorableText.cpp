@@ -4,8 +4,7 @@
 
 #include "platform/Encoding.h"
 #include "platform/Log.h"
-#include "platform/xml/XmlCharacters.h"
-#include "symbolid/UpperId.h"
+#include "platform/Text.h"
 #include "symbollist/IdString.h"
 #include "symbollist/TQSymbolListInfo.h"
 

@@ -1,7 +1,7 @@
 // What the symbol tables know of exchanges.
 #include <algorithm>
 
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"

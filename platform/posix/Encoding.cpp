@@ -1,7 +1,6 @@
 #include "platform/Encoding.h"
 
 #include "platform/services/tqCommon.h"
-#include "platform/xml/XmlCharacters.h"
 
 #include <algorithm>
 #include <iconv.h>

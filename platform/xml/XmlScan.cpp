@@ -2,7 +2,6 @@
 
 #include "platform/Encoding.h"
 #include "platform/xml/XmlByteClass.h"
-#include "platform/xml/XmlCharacters.h"
 #include "platform/xml/XmlNames.h"
 
 #include <algorithm>

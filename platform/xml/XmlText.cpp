@@ -3,11 +3,9 @@
 #include "platform/Encoding.h"
 #include "platform/framework/CString.h"
 #include "platform/services/tqCommon.h"
-#include "platform/xml/XmlCharacters.h"
 #include "platform/xml/XmlDeclaration.h"
 #include "platform/xml/XmlNames.h"
 #include "platform/xml/XmlScan.h"
-#include "platform/xml/XmlUtf16.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -43,6 +43,14 @@ TEST(LeadingInt, SplitsAtEachComma) {
   EXPECT_EQ(Numbers("5"), (std::vector<int>{5}));
   EXPECT_EQ(Numbers("0,3,128,abc,7"), (std::vector<int>{0, 3, 128, 0, 7}));
   EXPECT_EQ(Numbers(",5,,6,"), (std::vector<int>{0, 5, 0, 6, 0}));
+}
+
+TEST(EqualsNoCase, ComparesByWholeCharacters) {
+  EXPECT_TRUE(tq::EqualsNoCase("", ""));
+  EXPECT_TRUE(tq::EqualsNoCase("tW", "Tw"));
+  EXPECT_FALSE(tq::EqualsNoCase("TW", "TWO"));
+  EXPECT_TRUE(tq::EqualsNoCase("\xa4\x61q", "\xa4\x61Q"));
+  EXPECT_FALSE(tq::EqualsNoCase("\xa4\x61", "\xa4\x41"));
 }
 
 } // namespace

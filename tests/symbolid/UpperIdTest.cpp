@@ -123,12 +123,4 @@ TEST(UpperId, RaisingACopyLeavesTheOriginal) {
   EXPECT_STREQ(original.GetString(), "\xa4\x61z");
 }
 
-TEST(UpperId, ComparesWithoutRegardToCaseByWholeCharacters) {
-  EXPECT_TRUE(tq::EqualsNoCase("", ""));
-  EXPECT_TRUE(tq::EqualsNoCase("tW", "Tw"));
-  EXPECT_FALSE(tq::EqualsNoCase("TW", "TWO"));
-  EXPECT_TRUE(tq::EqualsNoCase("\xa4\x61q", "\xa4\x61Q"));
-  EXPECT_FALSE(tq::EqualsNoCase("\xa4\x61", "\xa4\x41"));
-}
-
 } // namespace
