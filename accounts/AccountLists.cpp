@@ -6,10 +6,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/Guid.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
 #include "platform/ServiceArray.h"
+#include "platform/System.h"
 #include "symbollist/IdString.h"
 #include "symbollist/ListKind.h"
 #include "symbollist/ListName.h"

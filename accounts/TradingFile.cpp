@@ -1,6 +1,6 @@
 #include "accounts/TradingFile.h"
 
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/StorableText.h"
 

@@ -6,7 +6,7 @@
 #include "accounts/TradingFile.h"
 #include "accounts/TradingService.h"
 #include "platform/FileAccess.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "cloud/CloudeListUtil.h"
 #include "groups/GroupList.h"
-#include "platform/Guid.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
+#include "platform/System.h"
 #include "symbollist/StorableText.h"
 
 namespace tq {

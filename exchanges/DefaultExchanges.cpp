@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/ServiceArray.h"
-#include "symboltable/LoginNumbers.h"
+#include "symboltable/ExchangeService.h"
 
 namespace tq {
 namespace {

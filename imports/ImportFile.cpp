@@ -4,9 +4,9 @@
 
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
-#include "platform/XmlDocument.h"
-#include "platform/XmlText.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
+#include "platform/xml/XmlDocument.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/IdString.h"
 
 namespace tq {

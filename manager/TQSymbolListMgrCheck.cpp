@@ -1,7 +1,7 @@
 // Checks of names, identifiers and working copies.
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "symbolid/ParameterText.h"
+#include "platform/Text.h"
 #include "symbollist/ListKind.h"
 
 int CTQSymbolListMgr::CheckNameExist(const CString& name, int skipOne, int skip,

@@ -6,8 +6,7 @@
 #include <utility>
 
 #include "platform/ServiceArray.h"
-#include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/RecordIndex.h"

@@ -3,7 +3,7 @@
 #include <cstring>
 #include <utility>
 
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 #include "symbollist/IDList.h"
 #include "symbollist/IdString.h"
 #include "symbollist/LifeWatch.h"

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/Log.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "symbollist/KeptCopies.h"
 
 namespace tq {

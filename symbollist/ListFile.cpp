@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/Log.h"
-#include "platform/XmlText.h"
 #include "platform/services/tqCommon.h"
+#include "platform/xml/XmlText.h"
 
 namespace {
 

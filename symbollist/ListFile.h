@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/XmlDocument.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/OwnedLists.h"
 
@@ -26,7 +26,7 @@ const char* FileDeclaration();
 std::string ListFileText(const ListVector& lists, int defaultIndex);
 
 // The same, where the lists may be many. False, with `text` not to be used, when it is not within
-// the bounds that hold for loading one (platform/XmlText.h), for what is saved must be readable, or
+// the bounds that hold for loading one (platform/xml/XmlText.h), for what is saved must be readable, or
 // when there is no memory for it.
 bool MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text);
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 #include "symbollist/StorableText.h"
 
 namespace tq {

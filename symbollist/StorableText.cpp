@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/Encoding.h"
 #include "platform/Log.h"
-#include "platform/TextTables.h"
-#include "platform/XmlCharacters.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 #include "symbollist/IdString.h"
 #include "symbollist/TQSymbolListInfo.h"
 

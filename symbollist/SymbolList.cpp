@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "platform/CodePage.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "symbollist/LifeWatch.h"
 #include "symbollist/ListIndex.h"
 #include "symbollist/StorableText.h"

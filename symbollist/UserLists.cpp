@@ -6,7 +6,7 @@
 
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/services/tqCommon.h"
 #include "symbollist/ListFile.h"
 

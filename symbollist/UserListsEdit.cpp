@@ -5,11 +5,11 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Guid.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "platform/XmlText.h"
-#include "symbolid/UpperText.h"
+#include "platform/System.h"
+#include "platform/Text.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/IdString.h"
 #include "symbollist/ListFile.h"
 #include "symbollist/ListName.h"

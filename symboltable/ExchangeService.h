@@ -2,11 +2,14 @@
 #pragma once
 
 #include <array>
+#include <cstring>
 #include <span>
 #include <string_view>
 
 #include "platform/ServiceArray.h"
+#include "platform/Text.h"
 #include "platform/framework/CString.h"
+#include "platform/services/TQSProxy.h"
 
 namespace tq {
 
@@ -42,6 +45,17 @@ std::string_view NameOf(const ExchInfo& exchange);
 // The name of the exchange with that id. 0, with `name` as it was, when the service fails or lists
 // none.
 int ReadExchangeName(int exchId, CString& name);
+
+// Calls visit(number) for each of the comma-separated numbers that the login information holds
+// under `flag`, in order. False, with nothing called, when the information cannot be read.
+template <typename Visit> bool ReadLoginNumbers(LoginInfoFlag flag, Visit visit) {
+  char text[TQSUserInfoSize] = {};
+  if (!TQSGetUserInfo(flag, text, ""))
+    return false;
+  ForEachNumber(std::string_view(text, strnlen(text, sizeof text)),
+                [&](int, int number) { visit(number); });
+  return true;
+}
 
 // Whether the user is entitled to an exchange. The service is asked each time.
 bool IsEntitled(int exchId);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
 #include "symboltable/SymbolKey.h"
 
 namespace tq {

@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
+#include "symbolid/UpperId.h"
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TableSlots.h"
 
 namespace tq {
 
@@ -38,7 +38,7 @@ private:
   static const CSymbolTable* TableOf(const CSymbolTableMgr& tables, CString exchName) {
     exchName.MakeUpper();
     const int slot = tables.slots_->FindName(ViewOf(exchName));
-    return slot == TableSlots::kNone ? nullptr : tables.slots_->At(slot);
+    return slot == ExchangeTables::kNone ? nullptr : tables.slots_->At(slot);
   }
   static bool IsListed(const CSymbolTable& table, std::string_view symbol) {
     return table.Find(MakeKey(symbol)) != CSymbolTable::kNoSymbol;

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/Text.h"
 #include "platform/framework/CString.h"
-#include "symbolid/UpperText.h"
 #include "symboltable/ItemTexts.h"
 #include "symboltable/SymbolKey.h"
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
 #include "symboltable/SymbolItem.h"
 

@@ -12,10 +12,10 @@ FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffi
   return {table, place, bySuffix};
 }
 
-FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_view exchName) {
+FoundSymbol FindOn(const ExchangeTables& slots, std::string_view id, std::string_view exchName) {
   constexpr int noId = -1;
   const int slot = slots.Find(exchName, noId);
-  if (slot == TableSlots::kNone)
+  if (slot == ExchangeTables::kNone)
     return {};
   const CSymbolTable* const table = slots.At(slot);
   return FindIn(table, MakeKey(table->KeyOf(id)), false);
@@ -25,7 +25,7 @@ FoundSymbol FindOn(const TableSlots& slots, std::string_view id, std::string_vie
 //
 // A default exchange names the table, and the name finds it: with two tables of one name it is the
 // lower slot's that answers, whichever of them holds the symbol.
-TQ_NOINLINE FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperText& id,
+TQ_NOINLINE FoundSymbol FindOnDefaults(const ExchangeTables& slots, const UpperId& id,
                                        BareSymbol rule) {
   const SymbolKey whole = MakeKey(id.text, id.head);
   const bool hasSuffix = SplitId(id.text, id.head).symbol.size() != id.text.size();
@@ -50,31 +50,31 @@ TQ_NOINLINE FoundSymbol FindOnDefaults(const TableSlots& slots, const UpperText&
   return FindOn(slots, id.text, ViewOf(first.table->ExchName()));
 }
 
-int FindSuffix(const TableSlots& slots, const UpperText& id, std::string_view suffix) {
+int FindSuffix(const ExchangeTables& slots, const UpperId& id, std::string_view suffix) {
   return suffix.size() <= sizeof id.tail ? slots.FindNameInTail(id.tail, suffix.size())
                                          : slots.FindName(suffix);
 }
 
 } // namespace
 
-bool IsIdOf(const FoundSymbol& found, const UpperText& id) {
+bool IsIdOf(const FoundSymbol& found, const UpperId& id) {
   // Held ids have a "." and are in upper case. So one whose key has none is that key, "." and the
   // exchange's name, and by that name it was found.
   return found.bySuffix && HasSingleDot(id.text, id.head);
 }
 
-std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id) {
+std::string_view ExchangeIn(const ExchangeTables& slots, const UpperId& id) {
   const std::string_view suffix = SplitId(id.text, id.head).suffix;
   return !suffix.empty() && slots.HasUpperName(suffix) ? suffix : std::string_view();
 }
 
-FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
+FoundSymbol FindAnySymbol(const ExchangeTables& slots, const UpperId& id, std::string_view exchName,
                           BareSymbol rule) {
   if (!exchName.empty())
     return FindOn(slots, id.text, exchName);
   const auto [symbol, suffix] = SplitId(id.text, id.head);
   if (!suffix.empty()) {
-    if (const int slot = FindSuffix(slots, id, suffix); slot != TableSlots::kNone) {
+    if (const int slot = FindSuffix(slots, id, suffix); slot != ExchangeTables::kNone) {
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
       return FindIn(slots.At(slot), key, true);
     }

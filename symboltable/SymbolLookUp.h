@@ -3,8 +3,8 @@
 
 #include <string_view>
 
-#include "symbolid/UpperText.h"
-#include "symboltable/TableSlots.h"
+#include "symbolid/UpperId.h"
+#include "symboltable/ExchangeTables.h"
 
 namespace tq {
 
@@ -22,13 +22,13 @@ struct FoundSymbol {
 };
 
 // FindSymbol in all cases.
-FoundSymbol FindAnySymbol(const TableSlots& slots, const UpperText& id, std::string_view exchName,
+FoundSymbol FindAnySymbol(const ExchangeTables& slots, const UpperId& id, std::string_view exchName,
                           BareSymbol rule);
 
 // Answers for a full id of some bytes of ASCII whose suffix is an exchange's name, as nearly all
 // are that are asked for, without a branch that differs from one to the next. False for any other
 // id.
-inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSymbol& found) {
+inline bool FindByShortId(const ExchangeTables& slots, const UpperId& id, FoundSymbol& found) {
   if (id.text.size() > sizeof id.head || ((id.head.low | id.head.high) & kTopBits) != 0)
     return false;
   const std::size_t dot = LastDot(id.head);
@@ -36,7 +36,7 @@ inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSym
   if (dot > kCodedBytes || suffix - 1 >= sizeof id.tail)
     return false;
   const int slot = slots.FindNameInTail(id.tail, suffix);
-  if (slot == TableSlots::kNone)
+  if (slot == ExchangeTables::kNone)
     return false;
   const CSymbolTable* const table = slots.At(slot);
   const CSymbolTable::Place place = table->FindCode(CodeOf(dot, CutHead(id.head, dot)));
@@ -47,7 +47,7 @@ inline bool FindByShortId(const TableSlots& slots, const UpperText& id, FoundSym
 
 // The symbol. `id` is not empty. Without `exchName` the id's suffix names the exchange, and failing
 // that the default exchanges are asked.
-inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id,
+inline FoundSymbol FindSymbol(const ExchangeTables& slots, const UpperId& id,
                               std::string_view exchName, BareSymbol rule) {
   FoundSymbol found;
   if (exchName.empty() && FindByShortId(slots, id, found))
@@ -56,9 +56,9 @@ inline FoundSymbol FindSymbol(const TableSlots& slots, const UpperText& id,
 }
 
 // Whether the full id of the symbol that FindSymbol found for `id` is certainly that very text.
-bool IsIdOf(const FoundSymbol& found, const UpperText& id);
+bool IsIdOf(const FoundSymbol& found, const UpperId& id);
 
 // The exchange that `id` names by its suffix; empty when it names none.
-std::string_view ExchangeIn(const TableSlots& slots, const UpperText& id);
+std::string_view ExchangeIn(const ExchangeTables& slots, const UpperId& id);
 
 } // namespace tq

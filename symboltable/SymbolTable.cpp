@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 CSymbolTable::CSymbolTable(const CString& exchName, int exchId)
     : exchName_(exchName), exchId_(exchId), chains_(tq::kBucketCount) {}
@@ -115,7 +115,7 @@ void CSymbolTable::Remove(std::string_view id) {
   CString copy = tq::ToCString(asked);
   tq::UpperBuffer buffer;
   // Held keys are in upper case, so the one that equals the asked key but for letter case is this.
-  const tq::UpperText upper = tq::UpperCased(copy, buffer);
+  const tq::UpperId upper = tq::UpperCased(copy, buffer);
   const tq::SymbolKey key = tq::MakeKey(upper.text, upper.head);
   if (&ChainOf(asked) != &ChainOf(key.text))
     return;

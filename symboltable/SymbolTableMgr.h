@@ -28,7 +28,7 @@ class CUIntArray;
 
 namespace tq {
 class SymbolMover;
-class TableSlots;
+class ExchangeTables;
 class TablesWatch;
 } // namespace tq
 
@@ -197,5 +197,5 @@ private:
   // It has to know a table that says nothing from one that lacks a symbol.
   friend class tq::SymbolMover;
 
-  std::unique_ptr<tq::TableSlots> slots_; // the tables and the default exchanges
+  std::unique_ptr<tq::ExchangeTables> slots_; // the tables and the default exchanges
 };

@@ -1,8 +1,8 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
-#include "platform/XmlText.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/Storage.h"
+#include "platform/xml/XmlText.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>

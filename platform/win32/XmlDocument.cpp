@@ -1,9 +1,9 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
-#include "platform/XmlText.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/Storage.h"
 #include "platform/win32/XmlCom.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 namespace {

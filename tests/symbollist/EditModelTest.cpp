@@ -6,7 +6,7 @@
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/FileAccess.h"
-#include "platform/Guid.h"
+#include "platform/System.h"
 #include "platform/services/tqCommon.h"
 #include "symbollist/ListArray.h"
 #include "terminal/StandIn.h"

@@ -2,7 +2,7 @@
 #include <string>
 
 #include "platform/FileAccess.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "terminal/StandIn.h"
 #include "tests/interface/ManagerTest.h"
 
