@@ -1,5 +1,5 @@
 // What is stored, saved, logged and told when a dialog's working copy is committed.
-#include "dialogs/Commit.h"
+#include "dialogs/EditCommits.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "dialogs/Commit.h"
+#include "dialogs/EditCommits.h"
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
