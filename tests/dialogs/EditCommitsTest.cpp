@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/FileAccess.h"
 #include "tests/interface/EditTest.h"
@@ -35,9 +37,9 @@ private:
   tq::FileAccess* before_;
 };
 
-class Commit : public EditTest {
+class EditCommits : public EditTest {
 protected:
-  Commit() { standin::SetMarket(GroupMarket()); }
+  EditCommits() { standin::SetMarket(GroupMarket()); }
 
   void Start() {
     StartWith({"A/one/2330.TW", "B/two/2317.TW", "C/three/1101.TW,2454.TW"});
@@ -73,13 +75,7 @@ protected:
     copy.At(index).SetName(name);
   }
   static void Remove(tq::WorkingCopy& copy, int index) {
-    delete &copy.At(index);
-    copy.Lists().RemoveAt(index);
-  }
-  static void Swap(tq::WorkingCopy& copy, int first, int second) {
-    void* const kept = copy.Lists().GetAt(first);
-    copy.Lists().SetAt(first, copy.Lists().GetAt(second));
-    copy.Lists().SetAt(second, kept);
+    copy.All().erase(copy.All().begin() + index);
   }
   std::string CloudShape() {
     std::string shape;
@@ -105,14 +101,14 @@ const std::string kOne = "saves 1; told 40:";
 
 // --- The list editor -----------------------------------------------------------------------------
 
-TEST_F(Commit, AnUntouchedCopyDoesNothing) {
+TEST_F(EditCommits, AnUntouchedCopyDoesNothing) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   tq::CommitLists(manager, copy, 3);
   EXPECT_EQ(Happened(), "saves 0");
 }
 
-TEST_F(Commit, OtherSymbolsAreAChangeWithoutAReason) {
+TEST_F(EditCommits, OtherSymbolsAreAChangeWithoutAReason) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.At(1).Update1("2454.TW");
@@ -120,10 +116,10 @@ TEST_F(Commit, OtherSymbolsAreAChangeWithoutAReason) {
   EXPECT_EQ(Happened(), kOne + "; log DoSymbolListUI" + kChanged);
   EXPECT_EQ(Shape(), "A/one/2330.TW|B/two/2454.TW|C/three/1101.TW,2454.TW");
   EXPECT_NE(ReadWorking().find("Value='2454.TW'"), std::string::npos);
-  EXPECT_EQ(copy.Lists().GetSize(), 0);
+  EXPECT_EQ(copy.Count(), 0);
 }
 
-TEST_F(Commit, AnotherNameIsANameChange) {
+TEST_F(EditCommits, AnotherNameIsANameChange) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   Rename(copy, 0, "ONE");
@@ -132,7 +128,7 @@ TEST_F(Commit, AnotherNameIsANameChange) {
             kOne + "ListNameChange; log DoSymbolListUI" + kChanged + "(bListNameChange)");
 }
 
-TEST_F(Commit, AnotherNumberOfListsIsACountChange) {
+TEST_F(EditCommits, AnotherNumberOfListsIsACountChange) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   Remove(copy, 2);
@@ -142,7 +138,7 @@ TEST_F(Commit, AnotherNumberOfListsIsACountChange) {
   EXPECT_EQ(Shape(), "A/one/2330.TW|B/two/2317.TW");
 }
 
-TEST_F(Commit, TheNumberWinsOverAName) {
+TEST_F(EditCommits, TheNumberWinsOverAName) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   Remove(copy, 2);
@@ -152,17 +148,17 @@ TEST_F(Commit, TheNumberWinsOverAName) {
                             "(nNewSymbolListCnt != nOldSymbolListCnt)");
 }
 
-TEST_F(Commit, ListsThatChangedPlacesAreANameChange) {
+TEST_F(EditCommits, ListsThatChangedPlacesAreANameChange) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
-  Swap(copy, 0, 1);
+  std::swap(copy.All()[0], copy.All()[1]);
   tq::CommitLists(manager, copy, 3);
   EXPECT_EQ(Happened(),
             kOne + "ListNameChange; log DoSymbolListUI" + kChanged + "(bListNameChange)");
   EXPECT_EQ(Shape(), "B/two/2317.TW|A/one/2330.TW|C/three/1101.TW,2454.TW");
 }
 
-TEST_F(Commit, AnotherDefaultListIsAChangeWithoutAReason) {
+TEST_F(EditCommits, AnotherDefaultListIsAChangeWithoutAReason) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.SetDefaultIndex(2);
@@ -172,7 +168,7 @@ TEST_F(Commit, AnotherDefaultListIsAChangeWithoutAReason) {
   EXPECT_NE(ReadWorking().find("DefaultIdx='2'"), std::string::npos);
 }
 
-TEST_F(Commit, NoListsLeftMeansNoDefaultList) {
+TEST_F(EditCommits, NoListsLeftMeansNoDefaultList) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.Clear();
@@ -182,7 +178,7 @@ TEST_F(Commit, NoListsLeftMeansNoDefaultList) {
   EXPECT_EQ(DefaultIndex(), -1);
 }
 
-TEST_F(Commit, ADefaultIndexBehindTheListsIsBroughtBack) {
+TEST_F(EditCommits, ADefaultIndexBehindTheListsIsBroughtBack) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.SetDefaultIndex(7);
@@ -190,7 +186,7 @@ TEST_F(Commit, ADefaultIndexBehindTheListsIsBroughtBack) {
   EXPECT_EQ(DefaultIndex(), 2);
 }
 
-TEST_F(Commit, ASaveThatFailsIsShownAndToldAllTheSame) {
+TEST_F(EditCommits, ASaveThatFailsIsShownAndToldAllTheSame) {
   Start();
   const std::string file = ReadWorking();
   tq::WorkingCopy copy(manager, kUserLists);
@@ -205,7 +201,7 @@ TEST_F(Commit, ASaveThatFailsIsShownAndToldAllTheSame) {
   EXPECT_EQ(NameAt(0), "ONE");
 }
 
-TEST_F(Commit, TheTerminalIsToldAfterTheSave) {
+TEST_F(EditCommits, TheTerminalIsToldAfterTheSave) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   Rename(copy, 0, "ONE");
@@ -216,7 +212,7 @@ TEST_F(Commit, TheTerminalIsToldAfterTheSave) {
 
 // --- The cloud list editor -----------------------------------------------------------------------
 
-TEST_F(Commit, UntouchedCloudListsDoNothing) {
+TEST_F(EditCommits, UntouchedCloudListsDoNothing) {
   StartCloud();
   tq::WorkingCopy copy(manager, kCloudLists);
   tq::CommitCloudLists(manager, copy, 2);
@@ -224,7 +220,7 @@ TEST_F(Commit, UntouchedCloudListsDoNothing) {
   EXPECT_EQ(std::string(manager.GetCloudeList()), "<Cloud></Cloud>");
 }
 
-TEST_F(Commit, CloudListsGoIntoTheMapAndAreNotSaved) {
+TEST_F(EditCommits, CloudListsGoIntoTheMapAndAreNotSaved) {
   StartCloud();
   tq::WorkingCopy copy(manager, kCloudLists);
   copy.At(0).Update1("1101.TW");
@@ -234,10 +230,10 @@ TEST_F(Commit, CloudListsGoIntoTheMapAndAreNotSaved) {
   EXPECT_EQ(std::string(manager.GetCloudeList()),
             "<Cloud><List ID='VORNG0101' Name='one' Value='1101.TW' Flag='0'/>\n"
             "<List ID='PICK' Name='two' Value='2317.TW' Flag='0'/>\n</Cloud>");
-  EXPECT_EQ(copy.Lists().GetSize(), 0);
+  EXPECT_EQ(copy.Count(), 0);
 }
 
-TEST_F(Commit, CloudReasonsAreThoseOfTheUsersLists) {
+TEST_F(EditCommits, CloudReasonsAreThoseOfTheUsersLists) {
   StartCloud();
   tq::WorkingCopy renamed(manager, kCloudLists);
   Rename(renamed, 1, "TWO");
@@ -253,7 +249,7 @@ TEST_F(Commit, CloudReasonsAreThoseOfTheUsersLists) {
   EXPECT_EQ(CloudShape(), "PICK/TWO/2317.TW");
 }
 
-TEST_F(Commit, MovedSymbolsOfCloudListsAreRenamedInTheMapToo) {
+TEST_F(EditCommits, MovedSymbolsOfCloudListsAreRenamedInTheMapToo) {
   StartCloud();
   tq::WorkingCopy copy(manager, kCloudLists);
   copy.At(0).Update1("6488.TW"); // which went over to TE
@@ -264,14 +260,14 @@ TEST_F(Commit, MovedSymbolsOfCloudListsAreRenamedInTheMapToo) {
 
 // --- Adding symbols ------------------------------------------------------------------------------
 
-TEST_F(Commit, AddingNothingIsToldWithCode40Alone) {
+TEST_F(EditCommits, AddingNothingIsToldWithCode40Alone) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   tq::CommitAddedSymbols(manager, copy);
   EXPECT_EQ(Happened(), "saves 0; told 40:");
 }
 
-TEST_F(Commit, AddedSymbolsAreToldWithCode4First) {
+TEST_F(EditCommits, AddedSymbolsAreToldWithCode4First) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.At(0).Update1("2330.TW,2317.TW");
@@ -280,35 +276,35 @@ TEST_F(Commit, AddedSymbolsAreToldWithCode4First) {
   EXPECT_EQ(Shape(), "A/one/2330.TW,2317.TW|B/two/2317.TW|C/three/1101.TW,2454.TW");
 }
 
-TEST_F(Commit, AListThatIsNewWithTheSymbolsIsStored) {
+TEST_F(EditCommits, AListThatIsNewWithTheSymbolsIsStored) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
-  auto* list = new CSymbolList;
+  auto list = std::make_unique<CSymbolList>();
   list->SetID("N");
   list->SetName("new");
   list->Update1("2881.TW");
-  copy.Lists().Add(list);
+  copy.All().push_back(std::move(list));
   tq::CommitAddedSymbols(manager, copy);
   EXPECT_EQ(manager.GetSymbolListCount(kUserLists), 4);
   EXPECT_EQ(IdAt(3), "N");
 }
 
-TEST_F(Commit, OneSymbolAddedToListsIsToldOnlyWhenItChangedThem) {
+TEST_F(EditCommits, OneSymbolAddedToListsIsToldOnlyWhenItChangedThem) {
   Start();
   tq::WorkingCopy same(manager, kUserLists);
   tq::CommitSymbolAddedToLists(manager, same);
   EXPECT_EQ(Happened(), "saves 0");
-  EXPECT_EQ(same.Lists().GetSize(), 0);
+  EXPECT_EQ(same.Count(), 0);
   tq::WorkingCopy copy(manager, kUserLists);
   copy.At(1).Update1("2317.TW,2881.TW");
   tq::CommitSymbolAddedToLists(manager, copy);
   EXPECT_EQ(Happened(), kOne + "; log DoGroupSymbolAdd" + kChanged);
-  EXPECT_EQ(copy.Lists().GetSize(), 0);
+  EXPECT_EQ(copy.Count(), 0);
 }
 
 // --- One list ------------------------------------------------------------------------------------
 
-TEST_F(Commit, AnEditedListTakesItsPlaceAndIsSavedButNotTold) {
+TEST_F(EditCommits, AnEditedListTakesItsPlaceAndIsSavedButNotTold) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.At(1).Update1("2317.TW,2881.TW");
@@ -318,14 +314,14 @@ TEST_F(Commit, AnEditedListTakesItsPlaceAndIsSavedButNotTold) {
   EXPECT_EQ(Shape(), "A/one/2330.TW|B/zwei/2317.TW,2881.TW|C/three/1101.TW,2454.TW");
 }
 
-TEST_F(Commit, AListThatIsTheSameIsNotStored) {
+TEST_F(EditCommits, AListThatIsTheSameIsNotStored) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   EXPECT_FALSE(tq::CommitEditedList(manager, copy.At(2)));
   EXPECT_EQ(Happened(), "saves 0");
 }
 
-TEST_F(Commit, TheSameSymbolsInAnotherOrderAreAChange) {
+TEST_F(EditCommits, TheSameSymbolsInAnotherOrderAreAChange) {
   Start();
   tq::WorkingCopy copy(manager, kUserLists);
   copy.At(2).Update1("2454.TW,1101.TW");
@@ -333,7 +329,7 @@ TEST_F(Commit, TheSameSymbolsInAnotherOrderAreAChange) {
   EXPECT_EQ(Shape(), "A/one/2330.TW|B/two/2317.TW|C/three/2454.TW,1101.TW");
 }
 
-TEST_F(Commit, AListThatTheManagerDoesNotHaveIsNotStored) {
+TEST_F(EditCommits, AListThatTheManagerDoesNotHaveIsNotStored) {
   Start();
   CSymbolList list;
   list.SetID("NOBODY");
@@ -344,7 +340,7 @@ TEST_F(Commit, AListThatTheManagerDoesNotHaveIsNotStored) {
   EXPECT_EQ(Happened(), "saves 0");
 }
 
-TEST_F(Commit, AnEditedCloudListGoesIntoTheMapAndTheCloudGroups) {
+TEST_F(EditCommits, AnEditedCloudListGoesIntoTheMapAndTheCloudGroups) {
   StartCloud();
   tq::WorkingCopy copy(manager, kCloudLists);
   copy.At(1).Update1("2330.TW,2454.TW");
@@ -359,7 +355,7 @@ TEST_F(Commit, AnEditedCloudListGoesIntoTheMapAndTheCloudGroups) {
   EXPECT_STREQ(ids, "2330.TW,2454.TW");
 }
 
-TEST_F(Commit, WhatTheSelectionDialogChangedIsLoggedAndTold) {
+TEST_F(EditCommits, WhatTheSelectionDialogChangedIsLoggedAndTold) {
   Start();
   tq::ReportChangedBySelection();
   EXPECT_EQ(Happened(), std::string("saves 0; told 40:; log DoSelectUI") + kChanged);
