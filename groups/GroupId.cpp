@@ -56,7 +56,7 @@ std::string_view AfterComma(std::string_view id) {
   return comma == nullptr ? id : id.substr(static_cast<std::size_t>(comma + 1 - id.data()));
 }
 
-void TerminateTexts(GroupInfo& info) {
+void CutFullTexts(GroupInfo& info) {
   TerminateText(info.szID);
   TerminateText(info.szName);
 }

@@ -1,4 +1,7 @@
-#include "dialogs/Commit.h"
+#include "dialogs/EditCommits.h"
+
+#include <memory>
+#include <utility>
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
@@ -35,9 +38,9 @@ void Report(const char* line, long code, const char* reason) {
 // By position: lists that changed places count as renamed, as the terminal's pages go by position
 // too.
 bool NamesDiffer(const WorkingCopy& stored, const WorkingCopy& copy) {
-  if (stored.Lists().GetSize() != copy.Lists().GetSize())
+  if (stored.Count() != copy.Count())
     return false;
-  for (int i = 0; i < copy.Lists().GetSize(); ++i) {
+  for (int i = 0; i < copy.Count(); ++i) {
     if (stored.At(i).GetName() != copy.At(i).GetName())
       return true;
   }
@@ -58,46 +61,53 @@ bool SameList(CSymbolList& left, CSymbolList& right) {
          left.GetName() == right.GetName() && left.GetIDs() == right.GetIDs();
 }
 
-// The manager's lists of a kind with `edited` in its place; none when that changes nothing.
+// Puts a copy of `edited` in the place of the stored list with its id. False when there is none, or
+// nothing would change.
 bool PutEdited(WorkingCopy& stored, const CSymbolList& edited) {
-  CSymbolList list(edited);
-  const int index = stored.Find(list.GetID());
-  if (index < 0 || SameList(stored.At(index), list))
+  auto list = std::make_unique<CSymbolList>(edited);
+  const int index = stored.Find(list->GetID());
+  if (index < 0 || SameList(stored.At(index), *list))
     return false;
-  stored.Replace(index, list);
+  stored.All()[static_cast<std::size_t>(index)] = std::move(list);
   return true;
 }
 
-bool StoreIfModified(CTQSymbolListMgr& manager, WorkingCopy& copy) {
+void StoreAndSave(CTQSymbolListMgr& manager, CPtrArray& lists) {
+  manager.SetSymbolList(&lists);
+  manager.SaveSymbolList();
+}
+
+bool StoreIfModified(CTQSymbolListMgr& manager, const WorkingCopy& copy) {
   int index = -1;
   manager.GetDefaultListIdx(index);
-  if (!manager.IsModifyList(&copy.Lists(), index))
+  CPtrArray lists = copy.Pointers();
+  if (!manager.IsModifyList(&lists, index))
     return false;
-  manager.SetSymbolList(&copy.Lists());
-  manager.SaveSymbolList();
+  StoreAndSave(manager, lists);
   return true;
 }
 
 } // namespace
 
 void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) {
-  if (!manager.IsModifyList(&copy.Lists(), copy.DefaultIndex()))
+  CPtrArray lists = copy.Pointers();
+  if (!manager.IsModifyList(&lists, copy.DefaultIndex()))
     return;
   const bool nameChanged = NamesDiffer(WorkingCopy(manager, kUserLists), copy);
   manager.SetDefaultIndex(copy.DefaultIndex()); // brought into range by what follows
-  manager.SetSymbolList(&copy.Lists());
-  manager.SaveSymbolList();
+  StoreAndSave(manager, lists);
   copy.Clear();
   ReportChange(kListLines, kNotifyUserLists, manager.GetSymbolListCount(kUserLists) != countBefore,
                nameChanged);
 }
 
 void CommitCloudLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) {
-  if (!manager.IsModifyCountList(&copy.Lists()))
+  CPtrArray lists = copy.Pointers();
+  if (!manager.IsModifyCountList(&lists))
     return;
   const bool nameChanged = NamesDiffer(WorkingCopy(manager, kCloudLists), copy);
-  manager.SetCloudSymbolList(&copy.Lists(), kCloudLists);
-  for (int i = 0; i < copy.Lists().GetSize(); ++i)
+  manager.SetCloudSymbolList(&lists, kCloudLists);
+  for (int i = 0; i < copy.Count(); ++i)
     manager.UpdateCloudSymbolList(copy.At(i).GetID(), copy.At(i).GetName(), copy.At(i).GetIDs());
   copy.Clear();
   ReportChange(kCloudLines, kNotifyCloudLists,
@@ -122,8 +132,8 @@ bool CommitEditedList(CTQSymbolListMgr& manager, const CSymbolList& edited) {
   WorkingCopy stored(manager, kUserLists);
   if (!PutEdited(stored, edited))
     return false;
-  manager.SetSymbolList(&stored.Lists());
-  manager.SaveSymbolList();
+  CPtrArray lists = stored.Pointers();
+  StoreAndSave(manager, lists);
   return true;
 }
 
@@ -131,7 +141,8 @@ bool CommitEditedCloudList(CTQSymbolListMgr& manager, const CSymbolList& edited)
   WorkingCopy stored(manager, kCloudLists);
   if (!PutEdited(stored, edited))
     return false;
-  manager.SetCloudSymbolList(&stored.Lists(), kCloudLists);
+  CPtrArray lists = stored.Pointers();
+  manager.SetCloudSymbolList(&lists, kCloudLists);
   CSymbolList& list = stored.At(stored.Find(edited.GetID()));
   manager.UpdateCloudSymbolList(list.GetID(), list.GetName(), list.GetIDs());
   manager.LoadGroupList(kCloudGroupType);
