@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "symbolid/UpperId.h"
+#include "symbolid/PackedText.h"
 
 namespace tq {
 ExchangeTables::ExchangeTables() = default;
@@ -60,34 +60,31 @@ void ExchangeTables::Forget() {
   Reindex();
 }
 
-// Enters a slot under its name unless a lower slot, entered before, has that name already.
-template <typename IsName>
-void ExchangeTables::Enter(NameIndex& index, std::string_view name, int slot, IsName isName) {
-  std::size_t at = NameHash(PackHead(name));
-  for (; index[at] != 0; at = (at + 1) % kNameIndexSize)
-    if (isName(index[at] - 1))
-      return;
-  index[at] = static_cast<std::uint8_t>(slot + 1);
-}
-
 void ExchangeTables::Reindex() {
-  byName_.fill(0);
-  byUpperName_.fill(0);
+  shortNames_.fill({});
+  longNames_.clear();
+  upperNames_.clear();
   for (int slot = 0; slot < kCount; ++slot) {
     if (At(slot) == nullptr)
       continue;
-    const std::string_view name = NameAt(slot);
-    const PackedText head = PackHead(name);
-    nameHeads_[static_cast<std::size_t>(slot)] = {head, name.size()};
-    Enter(byName_, name, slot, [&](int other) { return IsNameAt(other, name, head); });
-    CString upper = At(slot)->ExchName();
-    upper.MakeUpper();
-    std::string& upperName = upperNames_[static_cast<std::size_t>(slot)];
-    upperName = ViewOf(upper);
-    Enter(byUpperName_, upperName, slot,
-          [&](int other) { return UpperNameAt(other) == upperName; });
+    CString name = At(slot)->ExchName();
+    AddName(ViewOf(name), slot);
+    name.MakeUpper();
+    upperNames_.emplace(ViewOf(name));
   }
   FindDefaults();
+}
+
+// Slots are added from the lowest on. A name that is there already keeps its slot.
+void ExchangeTables::AddName(std::string_view name, int slot) {
+  if (name.size() > kShortName) {
+    longNames_.emplace(name, slot);
+    return;
+  }
+  const std::uint64_t word = PackWord(name);
+  ShortName& entry = shortNames_[EntryOf(word, name.size())];
+  if (entry.slot == kNone)
+    entry = {word, static_cast<std::uint8_t>(name.size()), static_cast<std::int16_t>(slot)};
 }
 
 void ExchangeTables::FindDefaults() {
@@ -103,11 +100,10 @@ void ExchangeTables::SetDefaults(std::vector<int> exchIds) {
 }
 
 int ExchangeTables::FindName(std::string_view exchName) const {
-  const PackedText head = PackHead(exchName);
-  std::size_t at = NameHash(head);
-  while (byName_[at] != 0 && !IsNameAt(byName_[at] - 1, exchName, head))
-    at = (at + 1) % kNameIndexSize;
-  return byName_[at] - 1;
+  if (exchName.size() <= kShortName)
+    return FindShort(PackWord(exchName), exchName.size());
+  const auto found = longNames_.find(exchName);
+  return found == longNames_.end() ? kNone : found->second;
 }
 
 int ExchangeTables::FindId(int exchId) const {
@@ -115,13 +111,6 @@ int ExchangeTables::FindId(int exchId) const {
     if (At(slot) != nullptr && At(slot)->ExchId() == exchId)
       return slot;
   return kNone;
-}
-
-bool ExchangeTables::HasUpperName(std::string_view upperName) const {
-  std::size_t at = NameHash(PackHead(upperName));
-  while (byUpperName_[at] != 0 && UpperNameAt(byUpperName_[at] - 1) != upperName)
-    at = (at + 1) % kNameIndexSize;
-  return byUpperName_[at] != 0;
 }
 
 } // namespace tq
