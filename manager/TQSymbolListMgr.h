@@ -21,10 +21,10 @@
 //     from the terminal, and lists from trading accounts from the trading-system proxy. A group is
 //     addressed by type and id or by a handle, which is good until its type is loaded anew, removed
 //     or cleared or the group itself is replaced or removed.
-//  7. Names and id strings are kept without bytes that the list file could not give back (halves of
-//     double-byte characters, control bytes); a line in the log tells of it. An apostrophe, "&" and
-//     "<" are kept, and a file that holds one cannot be loaded: the terminal screens names on
-//     entry.
+//  7. Bytes that cannot be read back from the list file (halves of double-byte characters, control
+//     bytes) are removed from names and id strings, with a line in the log. An apostrophe, "&" and
+//     "<" are kept although a file that contains one cannot be loaded: the terminal screens names
+//     when the user enters them.
 //  8. The working list file is "\SymbolList.xml" in the data directory, its backup
 //     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with
 //     an empty one no file is read or written. A save leaves the old file or the new one, never a
@@ -87,11 +87,11 @@ public:
   //   loadSystemLists       non-zero: system lists are wanted
   //   systemListNames       their names in order, or null; copied
   //   useUserDefExch        non-zero: the default exchanges are the user's own
-  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start
-  //                         before stay, whatever this says; with 0 nothing changes them
+  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Lists of an earlier
+  //                         start stay in any case; with 0 they do not change any more
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and
-  // there are no lists. A list file that cannot be read is no failure: the manager starts without
-  // lists. Where the system does not tell whether there is a list file, none is created.
+  // there are no lists. A list file that cannot be read is not a failure: the manager starts
+  // without lists. If the system cannot tell whether a list file exists, none is created.
   int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
 
@@ -99,18 +99,18 @@ public:
   CSymbolTableMgr* GetSymbolTableMgr() const noexcept;
 
   // --- The list file -----------------------------------------------------------------------------
-  // A save writes over nothing that nobody has seen. When the file on the disk is not, as it is
-  // now, one that this manager has read whole or written itself (its load failed or ended early,
-  // Init failed at the tables, another program wrote it since), or when it holds what cannot be
-  // written back, its bytes are first copied beside it: "\SymbolList_Kept.xml", then
-  // "\SymbolList_Kept1.xml" to "\SymbolList_Kept9.xml", then in the place of the oldest copy; of
-  // the backup file as "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says
-  // why. A missing file, one without lists, and bytes that are kept already are not copied. A copy
-  // that cannot be made refuses the save.
+  // A save never destroys lists that were not loaded. Unless the file on the disk is exactly what
+  // this manager has read whole or written itself (its load may have failed or ended early, Init
+  // may have failed at the tables, another program may have written it since), or if it contains
+  // what cannot be written back, its bytes are first copied beside it: to "\SymbolList_Kept.xml",
+  // then "\SymbolList_Kept1.xml" to "\SymbolList_Kept9.xml", then over the oldest copy; the backup
+  // file to "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says why. A
+  // missing file, one without lists, and bytes that have a copy already are not copied. When the
+  // copy fails, the save fails.
 
-  // Reads the working file in the place of the lists in memory; a file that cannot be read leaves
-  // none. Always 1: judge a load by the lists that it made. Ids are resolved as they are read;
-  // calls from within the service meanwhile still find the lists of before, whole.
+  // Replaces the lists in memory by those of the working file; after a file that cannot be read
+  // there are none. Always 1: look at the lists to see what was loaded. Ids are resolved as they
+  // are read; re-entrant calls from the service still see all of the previous lists.
   int LoadSymbolList() noexcept;
   // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0,
   // after message 48026 to the user, when the file could not be written, a copy of it could not be
@@ -119,9 +119,8 @@ public:
   int SaveSymbolList() noexcept;
   // The same with the backup file.
   int BackupSymbolList() noexcept;
-  // Reads the backup file as LoadSymbolList reads the working file, which is not rewritten (unless
-  // the backup holds no list: then the working file is at once). A missing backup empties the
-  // manager.
+  // As LoadSymbolList, but from the backup file. The working file is not written, unless the backup
+  // contains no list: then it is written at once, empty. A missing backup leaves no lists.
   int RestorSymbolList() noexcept;
   // Data directory and name of the backup file.
   CString GetBackSymbolListPath() noexcept;
@@ -135,15 +134,14 @@ public:
   // an empty path the lists are gone and nothing is read. A file without any list makes the working
   // file be written anew at once, empty.
   int DoLoadSymbolList(const CString& path) noexcept;
-  // What a terminal asks for after somebody else changed the file: LoadSymbolList, then, as Init
-  // was told, LoadSystemList with the names of Init, which adds the system lists that the file
-  // lacks, and LoadTSList, which adds the list of all holdings when it is missing. Nothing is
-  // saved. Returns 1.
+  // For use after another program changed the file: LoadSymbolList, then, if Init was told so,
+  // LoadSystemList with the names of Init (adds missing system lists) and LoadTSList (adds the list
+  // of all holdings if it is missing). Nothing is saved. Returns 1.
   int UpdateTQSymbolList() noexcept;
-  // Goes over to another data directory: LoadSymbolList there, then, if Init was told to load
-  // system lists, LoadSystemList with the names of Init, which adds those that the file lacks. The
-  // lists from trading accounts stay as they are, and their file is written in the new directory
-  // from the next change on.
+  // Switches to another data directory: LoadSymbolList there, then, if Init was told to load system
+  // lists, LoadSystemList with the names of Init, which adds those that the file lacks. The lists
+  // from trading accounts stay as they are; their file is written to the new directory at their
+  // next change.
   void ReLoadList(const CString& dataDirectory) noexcept;
 
   // --- The list shown first ----------------------------------------------------------------------

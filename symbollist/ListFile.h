@@ -12,7 +12,7 @@
 
 namespace tq {
 
-// Names of the list files, put behind the data directory as they stand.
+// Names of the list files, appended to the data directory.
 inline constexpr char kListFileName[] = "\\SymbolList.xml";
 inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 
@@ -25,12 +25,12 @@ const char* FileDeclaration();
 // is in the process's ANSI code page, unescaped.
 std::string ListFileText(const ListVector& lists, int defaultIndex);
 
-// The same, where the lists may be many. False, with `text` not to be used, when it is not within
-// the bounds that hold for loading one (platform/xml/XmlText.h), for what is saved must be readable, or
-// when there is no memory for it.
+// The same for a save. False, with `text` not to be used, when the text exceeds the limits for
+// loading (platform/xml/XmlText.h), so that what is saved can be loaded again, or when there is no
+// memory for it.
 bool MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text);
 
-// The length of that text, or a little more: no list file of these lists is longer.
+// An upper bound of that text's length, a little more than it.
 size_t ListFileLength(const ListVector& lists);
 
 } // namespace tq
@@ -38,7 +38,7 @@ size_t ListFileLength(const ListVector& lists);
 // Reads a list file.
 class CXMLDOMParser {
 public:
-  // What is done with each list once its ids have been read, before the next one is.
+  // Called for each list after its ids have been resolved, before the next one is read.
   using Finish = std::function<void(CSymbolList&)>;
 
   // Reads the file through the platform's DOM. True only for a well-formed document; a missing

@@ -57,8 +57,8 @@ public:
   void AddLast(std::unique_ptr<CSymbolList> list) noexcept;
   void AddFirst(std::unique_ptr<CSymbolList> list) noexcept;
   void Delete(CSymbolList* list);
-  // Deletes the lists for which `wanted` returns true, in one pass; it is called once for each list,
-  // in order.
+  // Deletes the lists for which `wanted` returns true, in one pass; it is called once for each
+  // list, in order.
   template <typename Wanted> void DeleteIf(Wanted wanted) {
     std::erase_if(lists_, [&wanted](const auto& list) { return wanted(*list); });
     ++changes_;
