@@ -7,15 +7,14 @@
 namespace tq {
 
 bool XmlDocument::Load(const char* data, std::size_t size) {
+  Clear();
   const LoadResult result = TryLoad(data, size);
   systemFailed_ = result == LoadResult::SystemFailed;
-  if (result != LoadResult::Ok)
-    Clear();
   return result == LoadResult::Ok;
 }
 
-// A text of 64 MB needs blocks of several times its size: a 32-bit terminal may well lack those and
-// have all the memory that it needs else.
+// A text of 64 MB needs blocks of several times its size: a 32-bit terminal may lack those and still
+// have all the memory that it needs otherwise. So running out is no reason to stop here.
 XmlDocument::LoadResult XmlDocument::TryLoad(const char* data, std::size_t size) {
   try {
     XmlText text;

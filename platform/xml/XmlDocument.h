@@ -110,7 +110,7 @@ public:
 private:
   enum class LoadResult { Ok, Refused, SystemFailed };
   LoadResult TryLoad(const char* data, std::size_t size);
-  // The body's part: drops the document before and makes one of the text.
+  // Makes a document of the text; unless Ok, there is none. In the platform's body.
   LoadResult Parse(std::string_view utf8);
   void Clear();
 
