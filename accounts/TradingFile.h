@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "accounts/TradingTable.h"
+#include "accounts/TradingRecords.h"
 
 namespace tq {
 

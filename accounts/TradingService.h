@@ -1,7 +1,7 @@
 // Reading trading systems from the trading-system proxy.
 #pragma once
 
-#include "accounts/TradingTable.h"
+#include "accounts/TradingRecords.h"
 
 namespace tq {
 

@@ -12,8 +12,8 @@
 
 #include "platform/CodePage.h"
 #include "platform/framework/SeededHash.h"
-
-class CSymbolList;
+#include "symbollist/ListFollower.h"
+#include "symbollist/SymbolList.h"
 
 namespace tq {
 
@@ -36,7 +36,7 @@ struct NoCaseEqual {
 //
 // Adding is noexcept: without memory the process stops at once, since unwinding would destroy a
 // list that is in only one of the two tables.
-class ListIndex {
+class ListIndex final : public ListFollower {
 public:
   using Lists = std::vector<CSymbolList*>;
 
@@ -48,7 +48,7 @@ public:
   // Adds a list that is in no index yet, behind all others or in front of them.
   void AddLast(CSymbolList& list) noexcept { Add(list, ++last_); }
   void AddFirst(CSymbolList& list) noexcept { Add(list, --first_); }
-  void Remove(CSymbolList& list);
+  void Remove(CSymbolList& list) override;
   // Removes all lists. They are not destroyed.
   void Clear();
 
@@ -65,15 +65,15 @@ public:
   static bool IsBefore(const CSymbolList* left, const CSymbolList* right);
 
   // Called by the list itself, before and after its identifier or name changes.
-  void ForgetId(CSymbolList& list);
-  void EnterId(CSymbolList& list) noexcept;
-  void ForgetName(CSymbolList& list);
-  void EnterName(CSymbolList& list) noexcept;
+  void ForgetId(CSymbolList& list) override;
+  void EnterId(CSymbolList& list) noexcept override;
+  void ForgetName(CSymbolList& list) override;
+  void EnterName(CSymbolList& list) noexcept override;
 
 private:
   using Map = std::unordered_map<std::string, Lists, NoCaseHash, NoCaseEqual>;
 
-  void Add(CSymbolList& list, long long place) noexcept;
+  void Add(CSymbolList& list, long long order) noexcept;
   static const Lists& Under(const Map& map, std::string_view text);
   static void Enter(Map& map, const char* text, CSymbolList& list);
   static void Forget(Map& map, const char* text, const CSymbolList& list);
