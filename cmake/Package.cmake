@@ -19,7 +19,6 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/CPtrArray.h
   platform/framework/CString.h
   platform/framework/CStringArray.h
-  platform/framework/CStringOperators.h
   platform/framework/CUIntArray.h
   platform/framework/CWaitCursor.h
   platform/framework/CWinApp.h
