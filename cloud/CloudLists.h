@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "cloud/CloudMap.h"
-#include "symbollist/MovedLists.h"
+#include "symbollist/SymbolChanges.h"
 #include "symbollist/OwnedLists.h"
 
 class CGroupMgr;

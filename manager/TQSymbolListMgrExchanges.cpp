@@ -2,7 +2,7 @@
 #include "exchanges/SymbolInfos.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "symbollist/ChangedSymbols.h"
+#include "symbollist/SymbolChanges.h"
 
 int CTQSymbolListMgr::InitDefaultExchange() noexcept {
   return state_->defaultExchanges.Init();

@@ -10,8 +10,8 @@
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "symbollist/KeptFiles.h"
-#include "symbollist/MovedLists.h"
 #include "symbollist/OwnedLists.h"
+#include "symbollist/SymbolChanges.h"
 
 namespace tq {
 

@@ -9,54 +9,13 @@
 #include "platform/Notify.h"
 #include "platform/System.h"
 #include "platform/Text.h"
-#include "platform/xml/XmlText.h"
 #include "symbollist/IdString.h"
-#include "symbollist/ListFile.h"
 #include "symbollist/ListName.h"
 #include "symbollist/ReplaceIds.h"
 #include "symbollist/StorableText.h"
 #include "symbollist/UserLists.h"
 
 namespace tq {
-namespace {
-
-struct Renamed {
-  CSymbolList* list;
-  CString before;
-  CString now;
-};
-
-// Plain substrings of the whole string, not ids: an old id that is a part of a longer one changes
-// inside that one too. Callers rename whole families of ids by their common start. False when the
-// string would be longer than `limit` bytes on the way.
-bool ReplaceIn(CString& ids, const CStringArray& oldIds, const CStringArray& newIds, size_t limit) {
-  const int pairs = std::min(oldIds.GetSize(), newIds.GetSize());
-  for (int k = 0; k < pairs; ++k) {
-    if (!ReplaceWithin(ids, oldIds[k], newIds[k], limit))
-      return false;
-  }
-  return true;
-}
-
-// The strings of all lists before and after. False when the lists would be more than a list file
-// can hold, or than they are already: a few pairs that double the text would take all memory.
-bool RenameAll(const OwnedLists& lists, const CStringArray& oldIds, const CStringArray& newIds,
-               std::vector<Renamed>& renamed) {
-  size_t length = ListFileLength(lists.All());
-  const size_t limit = std::max(kXmlSizeLimit, length);
-  for (const auto& list : lists.All()) {
-    const CString before = list->GetIDs();
-    const size_t others = length - static_cast<size_t>(before.GetLength());
-    CString now = before;
-    if (!ReplaceIn(now, oldIds, newIds, limit - others))
-      return false;
-    length = others + static_cast<size_t>(now.GetLength());
-    renamed.push_back({list.get(), before, now});
-  }
-  return true;
-}
-
-} // namespace
 
 int UserLists::Add(const CString& id, const CString& name, const CString& symbols, bool append,
                    bool overwrite) {
@@ -152,14 +111,14 @@ int UserLists::Delete(const CString& id) {
 int UserLists::ReplaceIds(const CStringArray& oldIds, const CStringArray& newIds) {
   // All strings first: the lists that the terminal adds while one is resolved are not renamed, and
   // none is renamed twice.
-  std::vector<Renamed> renamed;
-  if (!RenameAll(lists_, oldIds, newIds, renamed)) {
+  std::vector<ReplacedIds> replaced;
+  if (!ReplaceInAll(lists_, oldIds, newIds, replaced)) {
     LogLine(kLogChange, "ReplaceID is refused: no list file can hold the lists after it");
     return 0;
   }
   int changed = 0;
-  for (size_t i = 0; i < renamed.size(); ++i) {
-    const Renamed& each = renamed[i];
+  for (size_t i = 0; i < replaced.size(); ++i) {
+    const ReplacedIds& each = replaced[i];
     if (each.now != each.before && lists_.Has(each.list, static_cast<int>(i)) &&
         each.list->GetIDs() == each.before)
       changed |= each.list->Update1(each.now);
