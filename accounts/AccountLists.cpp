@@ -10,8 +10,8 @@
 #include "platform/Notify.h"
 #include "platform/ServiceArray.h"
 #include "platform/System.h"
-#include "symbollist/IdString.h"
-#include "symbollist/ListKind.h"
+#include "idlist/IdString.h"
+#include "idlist/ListKind.h"
 #include "symbollist/ListName.h"
 
 namespace tq {

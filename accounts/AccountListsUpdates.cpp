@@ -4,7 +4,7 @@
 #include "accounts/TradingService.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 namespace tq {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/Text.h"
 #include "symbollist/ListFile.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 
 namespace tq {
 namespace {

@@ -8,7 +8,7 @@
 #include "platform/Log.h"
 #include "platform/Notify.h"
 #include "platform/System.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 
 namespace tq {
 namespace {

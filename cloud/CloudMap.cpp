@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/CodePage.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {

@@ -46,7 +46,7 @@ set(TQ_SYMBOL_HEADERS
   platform/services/VLProxy.h
   platform/services/VLRecords.h
   platform/services/tqStockFields.h
-  symbollist/IDList.h
+  idlist/IDList.h
   symbolid/ListID.h
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h

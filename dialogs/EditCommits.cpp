@@ -6,7 +6,7 @@
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 namespace tq {
 namespace {

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/services/VLProxy.h"
-#include "symbollist/IDList.h"
+#include "idlist/IDList.h"
 
 namespace tq {
 class GroupLevel;

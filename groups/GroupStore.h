@@ -21,7 +21,7 @@
 
 #include "groups/GroupMgr.h"
 #include "groups/GroupPushes.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 namespace tq {
 

@@ -7,7 +7,7 @@
 #include "platform/Text.h"
 #include "platform/xml/XmlDocument.h"
 #include "platform/xml/XmlText.h"
-#include "symbollist/IdString.h"
+#include "idlist/IdString.h"
 
 namespace tq {
 namespace {

@@ -3,7 +3,7 @@
 #include "accounts/TradingFile.h"
 #include "imports/ListImport.h"
 #include "platform/Log.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 #include "symboltable/MovedSymbols.h"
 
 namespace tq {

@@ -2,7 +2,7 @@
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Text.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 int CTQSymbolListMgr::CheckNameExist(const CString& name, int skipOne, int skip,
                                      int kind) noexcept {

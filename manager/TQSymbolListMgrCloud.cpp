@@ -2,7 +2,7 @@
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Notify.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 void CTQSymbolListMgr::SetCloudeList(const CString& id, const CString& name,
                                      const CString& symbols) noexcept {

@@ -1,7 +1,7 @@
 // The six system lists.
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "symbollist/SystemListId.h"
+#include "symbollist/ListIds.h"
 
 int CTQSymbolListMgr::LoadSystemList(CStringArray* names) noexcept {
   state_->userLists.AddSystemLists(names);

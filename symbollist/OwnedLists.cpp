@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/Text.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 
 namespace tq {
 

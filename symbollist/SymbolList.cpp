@@ -4,10 +4,10 @@
 
 #include "platform/CodePage.h"
 #include "platform/xml/XmlDocument.h"
-#include "symbollist/LifeWatch.h"
+#include "idlist/LifeWatch.h"
 #include "symbollist/ListFollower.h"
-#include "symbollist/StorableText.h"
-#include "symbollist/SystemListId.h"
+#include "idlist/StorableText.h"
+#include "symbollist/ListIds.h"
 
 CSymbolList::CSymbolList() noexcept : info_(), flag_(0) {}
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/CodePage.h"
-#include "symbollist/IDList.h"
+#include "idlist/IDList.h"
 #include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {

@@ -9,10 +9,10 @@
 #include "platform/Notify.h"
 #include "platform/System.h"
 #include "platform/Text.h"
-#include "symbollist/IdString.h"
+#include "idlist/IdString.h"
 #include "symbollist/ListName.h"
 #include "symbollist/ReplaceIds.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 #include "symbollist/UserLists.h"
 
 namespace tq {

@@ -1,7 +1,7 @@
 // The six system lists.
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
-#include "symbollist/SystemListId.h"
+#include "symbollist/ListIds.h"
 #include "symbollist/UserLists.h"
 
 namespace tq {

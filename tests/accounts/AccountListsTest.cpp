@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 #include "tests/support/CraftedTexts.h"
 #include "tests/support/StandInTest.h"
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "symbollist/SystemListId.h"
+#include "symbollist/ListIds.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 

@@ -1,4 +1,4 @@
-#include "symbollist/IdString.h"
+#include "idlist/IdString.h"
 
 #include <gtest/gtest.h>
 

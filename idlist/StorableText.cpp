@@ -1,11 +1,11 @@
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 
 #include <algorithm>
 
 #include "platform/Encoding.h"
 #include "platform/Log.h"
 #include "platform/Text.h"
-#include "symbollist/IdString.h"
+#include "idlist/IdString.h"
 #include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {

@@ -1,4 +1,4 @@
-#include "symbollist/RecordIndex.h"
+#include "idlist/RecordIndex.h"
 
 #include <bit>
 #include <cstring>

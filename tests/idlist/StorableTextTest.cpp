@@ -1,5 +1,5 @@
 // What names, identifiers and id strings keep of bytes that the list file cannot hold.
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 
 #include <string>
 

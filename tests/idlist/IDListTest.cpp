@@ -1,4 +1,4 @@
-#include "symbollist/IDList.h"
+#include "idlist/IDList.h"
 
 #include <cstring>
 #include <string>

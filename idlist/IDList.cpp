@@ -1,4 +1,4 @@
-#include "symbollist/IDList.h"
+#include "idlist/IDList.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,10 +7,10 @@
 
 #include "platform/ServiceArray.h"
 #include "platform/Text.h"
-#include "symbollist/IdString.h"
-#include "symbollist/LifeWatch.h"
-#include "symbollist/RecordIndex.h"
-#include "symbollist/StorableText.h"
+#include "idlist/IdString.h"
+#include "idlist/LifeWatch.h"
+#include "idlist/RecordIndex.h"
+#include "idlist/StorableText.h"
 
 namespace {
 

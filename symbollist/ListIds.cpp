@@ -1,4 +1,4 @@
-#include "symbollist/SystemListId.h"
+#include "symbollist/ListIds.h"
 
 #include <array>
 #include <cstring>

@@ -4,11 +4,11 @@
 #include <utility>
 
 #include "platform/Text.h"
-#include "symbollist/IDList.h"
-#include "symbollist/IdString.h"
-#include "symbollist/LifeWatch.h"
-#include "symbollist/RecordIndex.h"
-#include "symbollist/StorableText.h"
+#include "idlist/IDList.h"
+#include "idlist/IdString.h"
+#include "idlist/LifeWatch.h"
+#include "idlist/RecordIndex.h"
+#include "idlist/StorableText.h"
 
 int CIDList::RemoveEntry(int row) noexcept {
   if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)
