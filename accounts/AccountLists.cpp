@@ -6,12 +6,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include "idlist/IdString.h"
+#include "idlist/ListKind.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
 #include "platform/ServiceArray.h"
 #include "platform/System.h"
-#include "idlist/IdString.h"
-#include "idlist/ListKind.h"
 #include "symbollist/ListName.h"
 
 namespace tq {

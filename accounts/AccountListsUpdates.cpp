@@ -2,9 +2,9 @@
 #include "accounts/AccountLists.h"
 #include "accounts/Holdings.h"
 #include "accounts/TradingService.h"
+#include "idlist/ListKind.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
-#include "idlist/ListKind.h"
 
 namespace tq {
 namespace {

@@ -1,8 +1,8 @@
 #include "accounts/TradingFile.h"
 
+#include "idlist/StorableText.h"
 #include "platform/Text.h"
 #include "symbollist/ListFile.h"
-#include "idlist/StorableText.h"
 
 namespace tq {
 namespace {

@@ -5,10 +5,10 @@
 
 #include "cloud/CloudeListUtil.h"
 #include "groups/GroupList.h"
+#include "idlist/StorableText.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
 #include "platform/System.h"
-#include "idlist/StorableText.h"
 
 namespace tq {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/CodePage.h"
 #include "idlist/StorableText.h"
+#include "platform/CodePage.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {

@@ -3,10 +3,10 @@
 #include <memory>
 #include <utility>
 
+#include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "idlist/ListKind.h"
 
 namespace tq {
 namespace {

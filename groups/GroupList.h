@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "platform/services/VLProxy.h"
 #include "idlist/IDList.h"
+#include "platform/services/VLProxy.h"
 
 namespace tq {
 class GroupLevel;

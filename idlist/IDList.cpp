@@ -5,12 +5,12 @@
 #include <memory>
 #include <utility>
 
-#include "platform/ServiceArray.h"
-#include "platform/Text.h"
 #include "idlist/IdString.h"
 #include "idlist/LifeWatch.h"
 #include "idlist/RecordIndex.h"
 #include "idlist/StorableText.h"
+#include "platform/ServiceArray.h"
+#include "platform/Text.h"
 
 namespace {
 

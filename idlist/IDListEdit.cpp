@@ -3,12 +3,12 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/Text.h"
 #include "idlist/IDList.h"
 #include "idlist/IdString.h"
 #include "idlist/LifeWatch.h"
 #include "idlist/RecordIndex.h"
 #include "idlist/StorableText.h"
+#include "platform/Text.h"
 
 int CIDList::RemoveEntry(int row) noexcept {
   if (ResolveIfDue() != Rows::There || row < 0 || row >= count_)

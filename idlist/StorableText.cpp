@@ -2,11 +2,10 @@
 
 #include <algorithm>
 
+#include "idlist/IdString.h"
 #include "platform/Encoding.h"
 #include "platform/Log.h"
 #include "platform/Text.h"
-#include "idlist/IdString.h"
-#include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {
 namespace {
@@ -42,11 +41,6 @@ size_t FirstBadByte(std::string_view text) {
 
 bool IsStorable(const CString& text) {
   return FirstBadByte(ViewOf(text)) == ViewOf(text).size();
-}
-
-bool IsKeptWhole(const CString& id) {
-  constexpr int kIdLimit = sizeof(TQSymbolListInfo::ID) - 1;
-  return id.GetLength() <= kIdLimit && IsStorable(id);
 }
 
 void AppendStorable(std::string_view text, std::string& document) {

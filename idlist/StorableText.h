@@ -25,8 +25,4 @@ CString StorableText(const CString& text);
 // Appends the same to `document`, without a line in the log: for files that are rewritten often.
 void AppendStorable(std::string_view text, std::string& document);
 
-// Whether a list would keep this identifier unchanged: it can be stored, and it is not longer than
-// 36 bytes. A changed identifier would make a second list of the same one at the next update.
-bool IsKeptWhole(const CString& id);
-
 } // namespace tq

@@ -1,9 +1,9 @@
 #include "manager/ManagerState.h"
 
 #include "accounts/TradingFile.h"
+#include "idlist/ListKind.h"
 #include "imports/ListImport.h"
 #include "platform/Log.h"
-#include "idlist/ListKind.h"
 #include "symboltable/MovedSymbols.h"
 
 namespace tq {

@@ -1,8 +1,8 @@
 // Checks of names, identifiers and working copies.
+#include "idlist/ListKind.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Text.h"
-#include "idlist/ListKind.h"
 
 int CTQSymbolListMgr::CheckNameExist(const CString& name, int skipOne, int skip,
                                      int kind) noexcept {

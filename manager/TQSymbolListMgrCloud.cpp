@@ -1,8 +1,8 @@
 // Cloud lists.
+#include "idlist/ListKind.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Notify.h"
-#include "idlist/ListKind.h"
 
 void CTQSymbolListMgr::SetCloudeList(const CString& id, const CString& name,
                                      const CString& symbols) noexcept {

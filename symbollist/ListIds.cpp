@@ -3,6 +3,7 @@
 #include <array>
 #include <cstring>
 
+#include "idlist/StorableText.h"
 #include "platform/CodePage.h"
 
 namespace tq {
@@ -12,6 +13,10 @@ constexpr std::array<const char*, kSystemListCount> kIds = {
     "ZUSYSLIST1", "ZUSYSLIST2", "ZUSYSLIST3", "ZUSYSLIST4", "ZUSYSLIST5", "ZUSYSLIST6"};
 
 } // namespace
+
+bool IsKeptWhole(const CString& id) {
+  return id.GetLength() <= kListIdLimit && IsStorable(id);
+}
 
 const char* SystemListId(int index) {
   return kIds.at(static_cast<size_t>(index));

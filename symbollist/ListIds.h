@@ -1,7 +1,17 @@
-// The ids of the six lists that are the terminal's own.
+// The identifiers of lists, and those of the six lists that are the terminal's own.
 #pragma once
 
+#include "platform/framework/CString.h"
+#include "symbollist/TQSymbolListInfo.h"
+
 namespace tq {
+
+// The longest identifier, in bytes.
+inline constexpr int kListIdLimit = sizeof(TQSymbolListInfo::ID) - 1;
+
+// Whether a list would keep this identifier unchanged: it can be stored, and it is not too long. A
+// changed identifier would make a second list of the same one at the next update.
+bool IsKeptWhole(const CString& id);
 
 inline constexpr int kSystemListCount = 6;
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/Text.h"
 #include "idlist/StorableText.h"
+#include "platform/Text.h"
+#include "symbollist/ListIds.h"
 
 namespace tq {
 
@@ -39,11 +40,10 @@ int OwnedLists::ProblemsOfNewId(const CString& id) const {
   constexpr int kTaken = 1;
   constexpr int kTooLong = 2;
   constexpr int kNotForAFile = 4;
-  constexpr int kIdLimit = sizeof(TQSymbolListInfo::ID) - 1;
   int problems = 0;
   if (Find(id) != nullptr)
     problems |= kTaken;
-  if (id.GetLength() > kIdLimit)
+  if (id.GetLength() > kListIdLimit)
     problems |= kTooLong;
   if (id.FindOneOf("'&<") >= 0 || !IsStorable(id))
     problems |= kNotForAFile;

@@ -2,11 +2,11 @@
 
 #include <cstring>
 
+#include "idlist/LifeWatch.h"
+#include "idlist/StorableText.h"
 #include "platform/CodePage.h"
 #include "platform/xml/XmlDocument.h"
-#include "idlist/LifeWatch.h"
 #include "symbollist/ListFollower.h"
-#include "idlist/StorableText.h"
 #include "symbollist/ListIds.h"
 
 CSymbolList::CSymbolList() noexcept : info_(), flag_(0) {}

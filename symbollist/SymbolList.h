@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "platform/CodePage.h"
 #include "idlist/IDList.h"
+#include "platform/CodePage.h"
 #include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {

@@ -5,14 +5,15 @@
 #include <utility>
 #include <vector>
 
+#include "idlist/IdString.h"
+#include "idlist/StorableText.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
 #include "platform/System.h"
 #include "platform/Text.h"
-#include "idlist/IdString.h"
+#include "symbollist/ListIds.h"
 #include "symbollist/ListName.h"
 #include "symbollist/ReplaceIds.h"
-#include "idlist/StorableText.h"
 #include "symbollist/UserLists.h"
 
 namespace tq {

@@ -59,14 +59,6 @@ TEST_F(StorableTextTest, WhatCanBeStoredIsShared) {
   EXPECT_EQ(tq::StorableText(name).GetString(), name.GetString());
 }
 
-TEST_F(StorableTextTest, IdentifiersThatWouldComeOutAsOthersAreToldApart) {
-  EXPECT_TRUE(tq::IsKeptWhole(""));
-  EXPECT_TRUE(tq::IsKeptWhole(CString('a', 36)));
-  EXPECT_FALSE(tq::IsKeptWhole(CString('a', 37)));
-  EXPECT_FALSE(tq::IsKeptWhole("a\x01"));
-  EXPECT_FALSE(tq::IsKeptWhole("half\xA4"));
-}
-
 TEST_F(StorableTextTest, EveryWayIntoAListLeavesSuchBytesOut) {
   CSymbolList list;
   list.SetID("id\x02");

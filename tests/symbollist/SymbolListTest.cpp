@@ -130,4 +130,12 @@ TEST_F(SymbolListTest, AppendedElementFitsTheRoomThatWasAnnounced) {
   EXPECT_EQ(document.substr(0, 12), "before<List ");
 }
 
+TEST_F(SymbolListTest, IdentifiersThatWouldComeOutAsOthersAreToldApart) {
+  EXPECT_TRUE(tq::IsKeptWhole(""));
+  EXPECT_TRUE(tq::IsKeptWhole(CString('a', 36)));
+  EXPECT_FALSE(tq::IsKeptWhole(CString('a', 37)));
+  EXPECT_FALSE(tq::IsKeptWhole("a\x01"));
+  EXPECT_FALSE(tq::IsKeptWhole("half\xA4"));
+}
+
 } // namespace
