@@ -5,6 +5,7 @@
 #include "symbolid/PackedText.h"
 
 namespace tq {
+
 ExchangeTables::ExchangeTables() = default;
 ExchangeTables::~ExchangeTables() = default;
 
@@ -15,32 +16,32 @@ int ExchangeTables::FirstFree(int from) const {
   return kNone;
 }
 
-void ExchangeTables::Delete(std::unique_ptr<ExchangeTables> slots) {
-  slots->Clear();
-  if (slots->uses_ == 0)
+void ExchangeTables::Delete(std::unique_ptr<ExchangeTables> tables) {
+  tables->Clear();
+  if (tables->uses_ == 0)
     return;
-  slots->ownerless_ = true;
-  static_cast<void>(slots.release());
+  tables->ownerless_ = true;
+  static_cast<void>(tables.release());
 }
 
 void ExchangeTables::EndUse() {
   if (--uses_ != 0)
     return;
-  takenOut_.clear();
+  removed_.clear();
   if (ownerless_)
     delete this;
 }
 
 void ExchangeTables::TakeOut(std::size_t slot) {
   if (uses_ != 0 && tables_[slot] != nullptr)
-    takenOut_.push_back(std::move(tables_[slot]));
+    removed_.push_back(std::move(tables_[slot]));
   tables_[slot].reset();
 }
 
 void ExchangeTables::Put(int slot, std::unique_ptr<CSymbolTable> table) {
-  const auto place = static_cast<std::size_t>(slot);
-  TakeOut(place);
-  tables_[place] = std::move(table);
+  const auto index = static_cast<std::size_t>(slot);
+  TakeOut(index);
+  tables_[index] = std::move(table);
   Reindex();
 }
 
@@ -75,7 +76,7 @@ void ExchangeTables::Reindex() {
   FindDefaults();
 }
 
-// Slots are added from the lowest on. A name that is there already keeps its slot.
+// Called for the lowest slot first. A name that is known already keeps its slot.
 void ExchangeTables::AddName(std::string_view name, int slot) {
   if (name.size() > kShortName) {
     longNames_.emplace(name, slot);

@@ -26,45 +26,45 @@ public:
   static constexpr int kCount = 128;
   static constexpr int kNone = -1;
 
-  // Keeps the slots and what was in them while an operation asks the services.
+  // Keeps this object and its tables alive while an operation asks services.
   class Use {
   public:
-    explicit Use(ExchangeTables& slots) : slots_(slots) { ++slots.uses_; }
-    ~Use() { slots_.EndUse(); }
+    explicit Use(ExchangeTables& tables) : tables_(tables) { ++tables.uses_; }
+    ~Use() { tables_.EndUse(); }
     Use(const Use&) = delete;
     Use& operator=(const Use&) = delete;
 
-    ExchangeTables* operator->() const { return &slots_; }
-    ExchangeTables& operator*() const { return slots_; }
+    ExchangeTables* operator->() const { return &tables_; }
+    ExchangeTables& operator*() const { return tables_; }
 
   private:
-    ExchangeTables& slots_;
+    ExchangeTables& tables_;
   };
 
   ExchangeTables();
   ~ExchangeTables();
-  // Deletes the slots with all tables, as soon as no operation uses them.
-  static void Delete(std::unique_ptr<ExchangeTables> slots);
-  // Whether Delete was called, and an operation uses them still.
+  // Deletes the tables and this object as soon as no operation uses it.
+  static void Delete(std::unique_ptr<ExchangeTables> tables);
+  // Whether Delete was called while an operation uses this object.
   bool IsOwnerless() const { return ownerless_; }
   ExchangeTables(const ExchangeTables&) = delete;
   ExchangeTables& operator=(const ExchangeTables&) = delete;
 
   CSymbolTable* At(int slot) const { return tables_[static_cast<std::size_t>(slot)].get(); }
-  // The first slot at or after `from` that holds nothing; None when there is none.
+  // The first free slot from `from` on; kNone when there is none.
   int FirstFree(int from = 0) const;
 
-  // Puts a table in. The one that was there is deleted as soon as no operation uses the slots.
+  // Puts a table into a slot. The table that was there is deleted as soon as no operation uses it.
   void Put(int slot, std::unique_ptr<CSymbolTable> table);
-  // Deletes a table, or all of them, in the same way.
+  // Deletes one table, or all, in the same way.
   void Remove(int slot);
   void Clear();
-  // Empties all slots without deleting the tables, which then belong to nobody.
+  // Empties all slots without deleting the tables, which then have no owner.
   void Forget();
 
-  // The slot of a table with exactly that name, or with that exchange id; kNone.
+  // The lowest slot with exactly that name, or with that exchange id; kNone when there is none.
   int FindName(std::string_view exchName) const;
-  // The same for the name at the end of a text with that tail (UpperId), of one to kShortName bytes.
+  // FindName for the last `size` bytes, 1 to kShortName, of an id with that tail (UpperId).
   int FindNameInTail(std::uint64_t tail, std::size_t size) const {
     return FindShort(tail >> 8 * (sizeof tail - size), size);
   }
@@ -73,17 +73,17 @@ public:
   int Find(std::string_view exchName, int exchId) const {
     return exchName.empty() ? FindId(exchId) : FindName(exchName);
   }
-  // Whether a look-up of the table's name finds this very table.
+  // Whether FindName of the table's name returns the slot of this very table.
   bool IsFirstOfName(const CSymbolTable& table) const {
     const int slot = Find(ViewOf(table.ExchName()), kNone);
     return slot != kNone && At(slot) == &table;
   }
-  // Whether some table has that name but for letter case; `upperName` is in upper case.
+  // Whether a table has that name, letter case ignored. `upperName` is in upper case.
   bool HasUpperName(std::string_view upperName) const { return upperNames_.contains(upperName); }
 
-  // The default exchanges, best first; kept when the tables change.
+  // Sets the default exchanges, best first. They stay when the tables change.
   void SetDefaults(std::vector<int> exchIds);
-  // The tables of the default exchanges, in the same order, without those that have none.
+  // Their tables, in the same order; exchanges without a table are left out.
   const std::vector<CSymbolTable*>& Defaults() const { return defaults_; }
 
 private:
@@ -122,9 +122,9 @@ private:
   void FindDefaults();
 
   std::array<std::unique_ptr<CSymbolTable>, kCount> tables_;
-  std::vector<std::unique_ptr<CSymbolTable>> takenOut_; // while they may be in use
+  std::vector<std::unique_ptr<CSymbolTable>> removed_; // deleted when the last use ends
   int uses_ = 0;
-  bool ownerless_ = false; // to be deleted with the last use
+  bool ownerless_ = false; // to be deleted when the last use ends
   std::array<ShortName, kShortNames> shortNames_;
   std::map<std::string, int, std::less<>> longNames_; // the slots of the other names
   std::set<std::string, std::less<>> upperNames_;     // of all tables

@@ -6,10 +6,10 @@ namespace tq {
 namespace {
 
 FoundSymbol FindIn(const CSymbolTable* table, const SymbolKey& key, bool bySuffix) {
-  const CSymbolTable::Place place = table->Find(key);
-  if (place == CSymbolTable::kNoSymbol)
+  const CSymbolTable::Position position = table->Find(key);
+  if (position == CSymbolTable::kNoSymbol)
     return {};
-  return {table, place, bySuffix};
+  return {table, position, bySuffix};
 }
 
 FoundSymbol FindOn(const ExchangeTables& slots, std::string_view id, std::string_view exchName) {
@@ -21,10 +21,10 @@ FoundSymbol FindOn(const ExchangeTables& slots, std::string_view id, std::string
   return FindIn(table, MakeKey(table->KeyOf(id)), false);
 }
 
-// Kept out of the way of FindSymbol, which mostly does without.
+// Not inlined into FindSymbol, which rarely needs it.
 //
-// A default exchange names the table, and the name finds it: with two tables of one name it is the
-// lower slot's that answers, whichever of them holds the symbol.
+// A default exchange only yields the name of a table: with two tables of one name the lower slot
+// answers, whichever of them holds the symbol.
 TQ_NOINLINE FoundSymbol FindOnDefaults(const ExchangeTables& slots, const UpperId& id,
                                        BareSymbol rule) {
   const SymbolKey whole = MakeKey(id.text, id.head);
@@ -33,7 +33,7 @@ TQ_NOINLINE FoundSymbol FindOnDefaults(const ExchangeTables& slots, const UpperI
   for (const CSymbolTable* table : slots.Defaults())
     table->Prefetch(whole);
   for (const CSymbolTable* table : slots.Defaults()) {
-    // Mostly the whole id is the key on each of them, and is hashed once.
+    // Usually the whole id is the key on all of them, so it is hashed once.
     const std::string_view key = hasSuffix ? table->KeyOf(id.text) : id.text;
     const FoundSymbol found =
         FindIn(table, key.size() == id.text.size() ? whole : MakeKey(key), false);
@@ -58,8 +58,8 @@ int FindSuffix(const ExchangeTables& slots, const UpperId& id, std::string_view 
 } // namespace
 
 bool IsIdOf(const FoundSymbol& found, const UpperId& id) {
-  // Held ids have a "." and are in upper case. So one whose key has none is that key, "." and the
-  // exchange's name, and by that name it was found.
+  // Stored ids are in upper case and contain a ".". With a single "." in `id`, its key contains none,
+  // so the stored id is the key, "." and the name of the exchange by which the symbol was found.
   return found.bySuffix && HasSingleDot(id.text, id.head);
 }
 
@@ -78,8 +78,8 @@ FoundSymbol FindAnySymbol(const ExchangeTables& slots, const UpperId& id, std::s
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
       return FindIn(slots.At(slot), key, true);
     }
-    // An exchange that the service writes in lower case is known by its suffix, but the upper-cased
-    // suffix is not its name: such a symbol is found through the default exchanges alone, bare.
+    // An exchange whose name the service writes in lower case: the suffix names it, but no table has
+    // the upper-cased name. Its symbols are found only bare, through the default exchanges.
     if (slots.HasUpperName(suffix))
       return {};
   }

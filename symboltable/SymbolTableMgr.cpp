@@ -15,7 +15,7 @@ CSymbolTableMgr::~CSymbolTableMgr() {
 }
 
 int CSymbolTableMgr::Init() noexcept {
-  // Forgotten, not deleted: callers hand tables over by this, and delete them through CleanALL.
+  // Tables are forgotten, not deleted, as the header says. CleanALL cannot reach them afterwards.
   slots_->Forget();
   slots_->SetDefaults({});
   return 1;

@@ -41,8 +41,8 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
     const int slot = isLeftOut(exchId) ? ExchangeTables::kNone : slots->FindId(exchId);
     if (slot == ExchangeTables::kNone)
       return;
-    // By the position in the input: a first id that is left out leaves its comma behind, and
-    // callers count on that. Do not make it depend on what was written.
+    // By the position in the input: a first id that is left out leaves its comma behind, and callers
+    // rely on that. Do not make it depend on the names written so far.
     if (position > 0)
       names += ',';
     names += slots->At(slot)->ExchName();
@@ -78,7 +78,7 @@ int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName
     last = table;
     ++count;
   }
-  // Only now: it may be the symbol's own object.
+  // Assigned last: `exchName` and `symbol` may be the same object.
   if (last != nullptr)
     exchName = last->ExchName();
   return count;

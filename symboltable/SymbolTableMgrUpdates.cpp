@@ -91,15 +91,15 @@ int CSymbolTableMgr::RebuildSymbolTable() noexcept {
         table != nullptr && unknown.erase(tq::ViewOf(table->ExchName())) == 0)
       slots->Remove(slot);
 
-  // One counter is both the position in the service's list and the slot where the search for a free
-  // one starts. So when occupied slots are passed over, the exchanges in between wait for a later
-  // call. This is how the terminal's tables have always filled up: do not part the two.
+  // One counter serves as the position in the service's list and as the slot where the search for a
+  // free one starts. So when that search skips occupied slots, the exchanges in between wait for a
+  // later call. The terminal's tables have always been filled this way: do not separate the two.
   std::set<std::string_view> made;
   int position = 0;
   for (; position < static_cast<int>(exchanges.size()); ++position) {
     const ExchInfo& exchange = exchanges[static_cast<std::size_t>(position)];
     const std::string_view name = tq::NameOf(exchange);
-    // A table that was not made here the terminal made meanwhile.
+    // A table that was not made in this loop was made by the terminal meanwhile.
     if (!unknown.contains(name) ||
         (!made.contains(name) && slots->FindName(name) != ExchangeTables::kNone))
       continue;
