@@ -37,11 +37,11 @@ inline std::string_view TextView(const char* text) {
   return text == nullptr ? std::string_view() : std::string_view(text);
 }
 
-// The text behind the first comma; all of it when there is none.
+// The text behind the first comma, or all of it without one.
 std::string_view AfterComma(std::string_view id);
 
 // Terminates texts that fill their fields, at a whole character: the service may leave out the NUL.
-// Inline for the sound ones, of which a full load brings tens of thousands.
+// Inline because a full load checks tens of thousands of records.
 void CutFullTexts(GroupInfo& info);
 inline void TerminateTexts(GroupInfo& info) {
   if (info.szID[kGroupIdBytes] != '\0' || info.szName[kGroupNameBytes] != '\0')

@@ -1,15 +1,14 @@
 #include "groups/GroupMgr.h"
 
 #include <algorithm>
-#include <tuple>
 
 #include "groups/GroupLoader.h"
 
 namespace {
 
-// In any order that tells different ids apart.
-auto Words(const tq::FoldedId& id) {
-  return std::tie(id.low, id.high);
+// Any order will do that keeps equal ids together.
+bool IsBefore(const tq::FoldedId& left, const tq::FoldedId& right) {
+  return left.low != right.low ? left.low < right.low : left.high < right.high;
 }
 
 } // namespace
@@ -72,13 +71,8 @@ const GroupInfo* CGroupMgr::FindSubExactly(std::string_view id) {
 std::span<const CGroupMgr::SubPlace> CGroupMgr::SubsWithId(const tq::FoldedId& id) {
   if (!subIndex_)
     BuildSubIndex();
-  const auto isBefore = [](const SubPlace& place, const tq::FoldedId& other) {
-    return Words(place.id) < Words(other);
-  };
-  const auto found = std::lower_bound(subIndex_->begin(), subIndex_->end(), id, isBefore);
-  const auto last =
-      std::find_if(found, subIndex_->end(), [&](const SubPlace& place) { return place.id != id; });
-  return {found, last};
+  const auto found = std::ranges::equal_range(*subIndex_, id, IsBefore, &SubPlace::id);
+  return {found.begin(), found.end()};
 }
 
 void CGroupMgr::BuildSubIndex() {
@@ -88,9 +82,7 @@ void CGroupMgr::BuildSubIndex() {
     for (int sub = 0; sub < count; ++sub)
       index.push_back({groups_.SubsAt(group)->IdAt(sub), group, sub});
   }
-  std::stable_sort(index.begin(), index.end(), [](const SubPlace& left, const SubPlace& right) {
-    return Words(left.id) < Words(right.id);
-  });
+  std::ranges::stable_sort(index, IsBefore, &SubPlace::id);
 }
 
 const GroupInfo& CGroupMgr::InfoAt(const SubPlace& place) const {

@@ -23,8 +23,8 @@ public:
   CGroupList* GetAt(int index);
   CGroupList* Find(const char* id);
 
-  // The first group with that id, each top-level group in front of its sub-groups; null when there
-  // is none.
+  // The first group with that id, searching each top-level group before its sub-groups; null when
+  // there is none.
   CGroupList* FindAnywhere(std::string_view id);
   // The first sub-group with that id, or null. Top-level groups are not looked at.
   CGroupList* FindSub(std::string_view id);
@@ -32,8 +32,8 @@ public:
   // is none. Valid until groups change.
   const GroupInfo* FindSubExactly(std::string_view id);
 
-  // The top-level groups. Whoever adds or removes a group or a sub-group takes them with
-  // EditGroups, which drops the index of sub-groups.
+  // The top-level groups. Use EditGroups to add or remove groups or sub-groups: it drops the index
+  // of sub-groups.
   tq::GroupLevel& Groups() { return groups_; }
   tq::GroupLevel& EditGroups();
 

@@ -129,7 +129,7 @@ bool AddSubGroups(CGroupMgr& manager, const GroupSelection& sets) {
   bool changed = pass.any;
   for (const CGroupSet* set : sets) {
     const int at = groups.Find(set->id);
-    // This replacing counts for the one set, and sees what the sets in front of it have added.
+    // This attempt decides for this set alone, and finds what earlier sets have added.
     if (at < 0 || ReplaceSubGroups(groups.SubsAt(at), *set) || set->subGroups.empty())
       continue;
     AppendSubGroups(*set, groups.MakeSubsAt(at));
@@ -138,7 +138,7 @@ bool AddSubGroups(CGroupMgr& manager, const GroupSelection& sets) {
   return changed;
 }
 
-// Ids keep their places, so the index of sub-groups stays right.
+// Ids keep their places, so the index of sub-groups stays valid.
 bool UpdateSubGroups(CGroupMgr& manager, const GroupSelection& sets) {
   return ReplaceAllSubGroups(manager.Groups(), sets).any;
 }
@@ -160,7 +160,7 @@ bool UpdateSubGroupNames(CGroupMgr& manager, const GroupSelection& sets) {
   return found;
 }
 
-// Collected first, so that each level is walked once however many sets name its group.
+// The ids are collected first, so that each level is walked once however many sets name its group.
 bool RemoveSubGroups(CGroupMgr& manager, const GroupSelection& sets) {
   std::map<GroupLevel*, std::vector<FoldedId>> idsBySubs;
   FoldedId folded;

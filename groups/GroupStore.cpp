@@ -22,7 +22,7 @@ bool IsServiceType(int type) {
   return type >= 1 && type < kCloudGroupType;
 }
 
-// The types whose groups are searched for a symbol; what they are is the service's business.
+// Only groups of these types can be searched for a symbol; the service defines what they are.
 bool IsSearchedForSymbols(int type) {
   return type == 2 || type == 7 || type == 8;
 }
@@ -34,7 +34,8 @@ int CopyRecord(const GroupLevel* level, int index, GroupInfo* out) {
   return 1;
 }
 
-// The sub-groups of the first top-level group with that id, or null; of all of them for a null id.
+// The sub-groups of the first top-level group with that id, or null. For a null id the top-level
+// groups.
 GroupLevel* LevelOf(CGroupMgr& manager, const char* id) {
   GroupLevel& groups = manager.Groups();
   if (id == nullptr)
@@ -47,8 +48,8 @@ GroupLevel* LevelOf(CGroupMgr& manager, const char* id) {
 
 GroupStore::GroupStore(CloudRefresh refresh) : refresh_(std::move(refresh)) {}
 
-// A manager that is being loaded is in no array. The terminal may call back whenever the service is
-// asked, and removes or reloads only what is there.
+// The manager is not in the array while it loads: the terminal is re-entrant there, and could remove
+// or reload it.
 GroupStore::Manager GroupStore::MakeLoaded(int type) const {
   auto manager = std::make_unique<CGroupMgr>(type);
   manager->Load();
@@ -62,7 +63,7 @@ int GroupStore::LoadAll() {
   std::vector<Manager> loaded;
   for (const int type : kFullLoad)
     loaded.push_back(MakeLoaded(type));
-  Clear(); // what the terminal loaded meanwhile
+  Clear(); // of what the terminal loaded meanwhile
   for (Manager& manager : loaded) {
     indexes_[manager->GetType()] = static_cast<int>(managers_.size());
     managers_.push_back(std::move(manager));
@@ -85,9 +86,8 @@ int GroupStore::Load(int type) {
   return 1;
 }
 
-// Whether there is a manager of the type already is not asked: the new one stands behind it and is
-// the one that the map leads to. Behind all others it moves nothing: positions that a removal left
-// stale stay so.
+// A second manager of a type stands behind the first, and the map leads to the second. One that is
+// added at the end changes no other entry of the map, stale ones included.
 int GroupStore::Add(int type) {
   if (!IsServiceType(type))
     return 0;
@@ -110,7 +110,7 @@ int GroupStore::Update(int type) {
   return IsServiceType(type) ? Load(type) : LoadAll();
 }
 
-// The map loses this type and is not renumbered: see the top of GroupStore.h.
+// The other entries of the map are not renumbered: see the top of GroupStore.h.
 int GroupStore::Remove(int type) {
   if (!IsServiceType(type))
     return 0;
@@ -146,7 +146,7 @@ CGroupMgr* GroupStore::Loaded(int type) const {
   return managers_[static_cast<std::size_t>(index)].get();
 }
 
-// A handle answers for itself, whatever its type; the type only has to be loaded.
+// A handle answers for itself whatever its type, as long as the given type is loaded.
 int GroupStore::CountGroups(int type, const CGroupList* handle) const {
   if (handle != nullptr)
     return Has(type) ? handle->GetSubCount() : 0;
@@ -196,8 +196,7 @@ int GroupStore::CopyIds(CGroupList* handle, CString& ids) const {
   return 1;
 }
 
-// Any part of the member ids will do, also one that goes over a comma: terminals ask with
-// beginnings of ids.
+// Matches any part of the id string, across commas too: terminals ask with beginnings of ids.
 int GroupStore::HoldsText(int type, const CString& groupId, const CString& text) const {
   if (groupId.IsEmpty() || text.IsEmpty() || !IsSearchedForSymbols(type))
     return 0;
