@@ -203,7 +203,7 @@ TEST_F(OwnedListsTest, CopiesAreTheCallersAndAreComparedByPosition) {
   EXPECT_FALSE(lists.HaveNamesAndContentsOf(copies));
 }
 
-// Ids of a cloud service, say, that were made so that each look-up compares with all of them.
+// Ids crafted to collide, by a cloud service for example, so that a look-up compares with all.
 TEST_F(OwnedListsTest, NobodyCanChooseIdsAndNamesOfOneBucket) {
   constexpr std::size_t kTexts = 80'000;
   const auto texts = CraftedTexts(kTexts, [](const std::string& text) {
