@@ -1,4 +1,4 @@
-// Joining, comparing and hashing of CString, in all mixes with `const char*` and characters.
+// Concatenation, comparison and hashing of CString, also mixed with `const char*` and characters.
 // Included by CString.h. A null `const char*` counts as an empty text; order is that of the bytes,
 // as unsigned.
 #pragma once
@@ -9,7 +9,7 @@
 #include "platform/framework/CString.h"
 #include "platform/framework/HashKey.h"
 
-// One allocation for the sum; none when the left side is a temporary that has room.
+// One allocation for the result; none when the left side is a temporary with enough capacity.
 TQFRAMEWORK_API CString operator+(const CString& left, const CString& right);
 TQFRAMEWORK_API CString operator+(const CString& left, const char* right);
 TQFRAMEWORK_API CString operator+(const char* left, const CString& right);
@@ -60,8 +60,8 @@ namespace tq {
 TQFRAMEWORK_API int CompareText(const CString& left, const CString& right);
 TQFRAMEWORK_API int CompareText(const CString& left, const char* right);
 
-// The same key for a string and for equal characters, so that a map of strings is asked without
-// one.
+// A string and equal characters have the same hash, so that a map of strings can be asked with
+// characters.
 inline size_t HashKey(const CString& text) {
   return SeededHash(text.GetString(), static_cast<size_t>(text.GetLength()));
 }
