@@ -1,14 +1,13 @@
-// Text in the process's ANSI code page, by whole characters. This is the one place that knows about
-// double-byte characters: everything above goes through these functions or CString, never byte by
+// Text in the process's ANSI code page, by whole characters. Only this header knows about
+// double-byte characters: all other code uses these functions or CString and never goes byte by
 // byte, because the second byte of a character may equal a letter, a backslash or a vertical bar.
 //
 // Conventions that hold for every function of this header
-//  1. A character is one byte, or a lead byte and the byte behind it, its trail. Any byte but NUL
-//     serves as a trail, as the system's own functions have it. A lead byte at the end of a text,
-//     or in front of a NUL, has no trail and is a character of one byte.
-//  2. Only the single-byte letters A-Z and a-z have case. Ids, the only text compared without case,
-//     are ASCII; full-width letters stay as they are, and so every platform and code page gives one
-//     answer.
+//  1. A character is one byte, or a lead byte with the byte behind it, its trail. Any byte but NUL
+//     can be a trail, as in the system's own functions. A lead byte at the end of a text, or in
+//     front of a NUL, has no trail and is a character of one byte.
+//  2. Only the single-byte letters A-Z and a-z have case, so that every platform and code page
+//     gives the same answer: ids, the only text compared without case, are ASCII.
 //  3. Lengths and positions are in bytes. A null text counts as empty where text is NUL-terminated.
 //  4. Nothing allocates, fails or throws; every function may be called from any thread.
 #pragma once
@@ -19,13 +18,13 @@
 
 namespace tq {
 
-// One flag for each byte value: the byte opens a double-byte character.
+// For each byte value whether it is the lead byte of a double-byte character.
 struct LeadByteTable {
   bool lead[256];
 };
 
 // On Windows the lead bytes of GetACP(), read once when the library is loaded. Elsewhere 0x81 to
-// 0xFE, which is true of both code pages the terminal runs in, 950 and 936.
+// 0xFE, the lead bytes of both code pages that the terminal runs in, 950 and 936.
 extern TQFRAMEWORK_API const LeadByteTable leadBytes;
 
 inline bool IsLeadByte(unsigned char byte) {
@@ -45,16 +44,15 @@ inline const char* NextChar(const char* at, const char* end) {
   return at + CharLength(at, end);
 }
 
-// True when a character starts at `at`, false when the byte there is a trail. `text` starts with a
-// whole character; `at` is in the text or its terminating NUL. Looks back over neighbouring lead
-// bytes only.
+// Whether a character starts at `at`; false for a trail. `text` starts with a whole character; `at`
+// is in the text or its terminating NUL. Looks back over directly preceding lead bytes only.
 TQFRAMEWORK_API bool IsCharStart(const char* text, const char* at);
 
-// The start of the character that ends in front of `at`, itself a start; `text` when there is none.
+// The start of the character in front of `at`, which is a character start; `text` when there is
+// none.
 TQFRAMEWORK_API const char* PreviousChar(const char* text, const char* at);
 
-// The longest run of whole characters at the start of `text` that takes at most `limit` bytes: its
-// length.
+// The length of the longest run of whole characters at the start of `text` within `limit` bytes.
 TQFRAMEWORK_API size_t CutLength(const char* text, size_t length, size_t limit);
 
 // Copies `text` into a record's field of `size` bytes: cut at a whole character, NUL-terminated,
@@ -66,8 +64,8 @@ template <size_t SIZE> size_t CopyCut(char (&dest)[SIZE], const char* text) {
   return CopyCut(dest, SIZE, text);
 }
 
-// One single-byte character in the other case; anything but an ASCII letter comes back as it is.
-// Not for a trail byte: whoever calls this walks by whole characters.
+// A single-byte character in the other case; anything but an ASCII letter is returned unchanged.
+// Not for trail bytes: callers go by whole characters.
 inline char ToUpperLetter(char letter) {
   return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
@@ -79,18 +77,18 @@ inline char ToLowerLetter(char letter) {
 // bytes, taken as unsigned.
 TQFRAMEWORK_API int CompareNoCase(const char* left, const char* right);
 
-// The same question without the order, on texts whose lengths are known; unequal lengths cost
-// nothing.
+// Equality without regard to case, for texts of known lengths; different lengths are unequal at
+// once.
 TQFRAMEWORK_API bool EqualNoCase(const char* left, size_t leftLength, const char* right,
                                  size_t rightLength);
 
 // The first and the last single-byte character `wanted` in [text, end); null when there is none. A
-// trail byte of that value is passed over. `text` starts with a whole character.
+// trail byte of that value does not count. `text` starts with a whole character.
 TQFRAMEWORK_API const char* FindChar(const char* text, const char* end, char wanted);
 TQFRAMEWORK_API const char* FindLastChar(const char* text, const char* end, char wanted);
 
-// The first place in [text, end) where the `length` bytes of `wanted` stand as whole characters;
-// null when there is none. An empty text is found at once.
+// The first occurrence of the `length` bytes of `wanted` in [text, end) as whole characters; null
+// when there is none. An empty `wanted` is found at `text`.
 TQFRAMEWORK_API const char* FindText(const char* text, const char* end, const char* wanted,
                                      size_t length);
 

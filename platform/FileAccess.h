@@ -19,13 +19,12 @@
 
 namespace tq {
 
-// What the system tells of a regular file without a look at its bytes. As long as it stays equal
-// nobody has written the file, as far as can be told from outside. Units and origins are the
-// system's own.
+// What the system tells about a regular file without reading it. While it stays equal, the file has
+// not been written, as far as can be told from outside. Units and epochs are the system's own.
 struct FileStamp {
   std::uint64_t size = 0;     // bytes
   std::uint64_t modified = 0; // the time of the last write; later is greater
-  std::uint64_t volume = 0;   // these two tell the file from another one of its name
+  std::uint64_t volume = 0;   // these two identify the file, whatever its name
   std::uint64_t index = 0;
   bool operator==(const FileStamp&) const = default;
 };
@@ -34,14 +33,14 @@ enum class FileState {
   Missing, // there is no such file, or no such directory: the system says so
   File,    // a regular file, or a link to one
   Other,   // a directory, a device, a pipe
-  Unknown, // the system does not tell (rights, a drive that is gone): a file may well be there
+  Unknown, // the system does not tell (rights, a drive that is gone): there may be a file
 };
 
 enum class ReadResult {
   Ok,
   Missing,  // no such file, or no such directory
   TooLarge, // the file is longer than the caller's limit; nothing was read
-  Failed,   // it is there and cannot be read (rights, a directory, an error of the disk, no memory)
+  Failed,   // it exists and cannot be read (rights, a directory, a disk error, no memory)
 };
 
 enum class SaveResult {
@@ -56,8 +55,8 @@ public:
 
   // Reads the whole file into `bytes`, which is replaced when the result is Ok and emptied
   // otherwise. `limit` is the largest size accepted, in bytes. A file whose size or time changes
-  // while it is read, because somebody writes it in place, is read again, kReadTries times in all
-  // (platform/ReadSteps.h), and gives Failed when it does not come to rest.
+  // while it is read, because it is being written in place, is read again, up to kReadTries times
+  // (platform/ReadSteps.h); Failed when it keeps changing.
   virtual ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) = 0;
 
   // Makes the file hold exactly these bytes, creating it when it is missing. Anything but Saved
@@ -93,13 +92,12 @@ public:
   // question to the system; links are followed.
   virtual FileState StateOf(const char* path, FileStamp& stamp) = 0;
 
-  // Gives a file another name in its directory. A file that has that name already is replaced, in
-  // one step. False when that cannot be done: both are then as they were.
+  // Renames a file within its directory, atomically replacing a file that has the new name. False
+  // when that fails: both are then as they were.
   virtual bool RenameFile(const char* from, const char* to) = 0;
 };
 
-// Hands every operation on to another object, so that a test overrides the one that it wants to
-// fail.
+// Forwards every operation to another object, so that a test can override the one that is to fail.
 class FileAccessWrapper : public FileAccess {
 public:
   // `target` is not owned and must outlive the wrapper.
@@ -139,8 +137,8 @@ FileAccess& SystemFiles();
 // The position of the library's own separator in `path` (convention 1): the last backslash, when a
 // plain ASCII file name follows it and no other separator; npos otherwise. Any backslash further
 // left is part of the user's directory. Since the library's file names are ASCII, this finds the
-// separator without knowing the encoding of the directory, so it can neither split a double-byte
-// character nor take a separator for a trail byte.
+// separator without knowing the encoding of the directory: it can neither split a double-byte
+// character nor mistake a trail byte for a separator.
 std::size_t SeparatorOf(const char* path);
 
 } // namespace tq

@@ -11,8 +11,8 @@ namespace {
 
 TQLog* theLog = nullptr;
 
-// Made behind the logger, so it goes in front of everything that the log service had made by then,
-// in whatever order the two libraries were loaded.
+// Constructed after the logger, so it is destroyed before everything that the log service had
+// constructed by then, in whatever order the two libraries were loaded.
 struct LogEnd {
   ~LogEnd() { CloseLog(); }
 };

@@ -1,11 +1,11 @@
-// Telling the terminal that lists changed.
+// Notifications to the terminal that lists changed.
 #pragma once
 
 #include "platform/services/TQSProxy.h"
 
 namespace tq {
 
-// Codes that the terminal knows: do not change.
+// The terminal's codes: do not change.
 inline constexpr long kNotifySymbols = 4; // symbols were added, or names changed
 inline constexpr long kNotifyUserLists = 40;
 inline constexpr long kNotifyCloudLists = 41;

@@ -9,7 +9,7 @@ bool MakeRoom(std::string& bytes, std::size_t size) {
   try {
     bytes.resize(size);
     return true;
-  } catch (const std::bad_alloc&) { // a file as large as this does not have to end the terminal
+  } catch (const std::bad_alloc&) { // a file that large is no reason to stop the terminal
     return false;
   }
 }

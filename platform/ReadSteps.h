@@ -1,5 +1,5 @@
-// The steps of reading one file whole while others may write it in place. Apart, so that a test
-// changes the file at each of them.
+// Reading a whole file that other programs may write in place, split into steps, so that a test can
+// change the file at each of them.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@
 
 namespace tq {
 
-// How often a file is read that changes under the reader's hands.
+// How often a file is read that changes meanwhile.
 inline constexpr int kReadTries = 5;
 
 // One open file.
@@ -17,15 +17,16 @@ class ReadSteps {
 public:
   virtual ~ReadSteps() = default;
 
-  // What the system tells of the file now. False when it is none that can be read whole.
+  // What the system tells about the file now. False when it is no regular file.
   virtual bool Stamp(FileStamp& stamp) = 0;
-  // Fills all of `bytes`, whose size stays, from the file's start. False when the file has fewer.
+  // Fills `bytes`, without changing its size, from the start of the file. False when the file is
+  // shorter.
   virtual bool Read(std::string& bytes) = 0;
   // Lets a writer finish.
   virtual void Pause() = 0;
 };
 
-// Takes the steps. `bytes` is the whole file with Ok and empty otherwise.
+// Runs the steps. `bytes` is the whole file with Ok and empty otherwise.
 ReadResult RunRead(ReadSteps& steps, std::size_t limit, std::string& bytes);
 
 } // namespace tq

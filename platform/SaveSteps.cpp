@@ -31,7 +31,7 @@ SaveResult RunSave(SaveSteps& steps, const void* bytes, std::size_t size) {
   const StepResult target = steps.OpenTarget();
   if (target == StepResult::Failed)
     return SaveResult::NotOpened;
-  // A file that is not there yet has been opened when something could be created in its place.
+  // A missing file counts as opened once the temporary file or the file itself could be created.
   const SaveResult nothingOpened =
       target == StepResult::Missing ? SaveResult::NotOpened : SaveResult::Failed;
   StepResult result = steps.OpenTemporary();

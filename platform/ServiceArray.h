@@ -9,8 +9,8 @@
 
 namespace tq {
 
-// Give List() and Count() to a service operation, then read Records(). What the operation left in
-// the list is given back to the service at the end of the scope, after a failed call as well.
+// Pass List() and Count() to a service operation, then read Records(). The destructor releases the
+// array to the service, also after a failed call.
 template <typename Record> class ServiceArray {
 public:
   ServiceArray() = default;
@@ -25,14 +25,14 @@ public:
   Record** List() { return &list_; }
   int* Count() { return &count_; }
 
-  // To be read only after a call that succeeded.
+  // Only after a successful call.
   std::span<const Record> Records() const {
     if (list_ == nullptr || count_ <= 0)
       return {};
     return {list_, static_cast<std::size_t>(count_)};
   }
 
-  // Leaves the array to the caller, who gives it back with VLFree.
+  // Transfers the array to the caller, who releases it with VLFree.
   Record* Release() { return std::exchange(list_, nullptr); }
 
 private:

@@ -12,7 +12,7 @@ bool IsCommodityLetter(char letter) {
   return (letter >= 'A' && letter <= 'Z') || IsDecimalDigit(letter);
 }
 
-// The positions of a code are characters only as long as no character takes two of them.
+// Positions in a code are bytes, so a double-byte character would shift the parts behind it.
 bool IsUnreadable(char byte) {
   return byte == '\0' || IsLeadByte(byte);
 }
@@ -70,8 +70,8 @@ OptFutError CheckOneKind(const CombinationLeg& leg, const CombinationLeg& other)
   const bool sameStrike = ComparePrices(leg.strike, other.strike) == PriceOrder::Equal;
   if (leg.month != other.month)
     return sameStrike ? CheckTimeSpread(leg.month, other.month) : OptFutStrikesDiffer;
-  // No rule is broken by the same contract bought and sold; whether it makes sense is the
-  // exchange's.
+  // Buying and selling the same contract breaks no rule; the exchange decides whether it makes
+  // sense.
   return sameStrike ? OptFutNoError : CheckPriceSpread(leg.CallPut(), leg.strike, other.strike);
 }
 

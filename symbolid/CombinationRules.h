@@ -1,5 +1,6 @@
-// Which option codes, and which two of them, the exchange takes as a combination. Codes and their
-// parts are those of ContractCode.h; every answer is the error to report, OptFutNoError for none.
+// The exchange's rules for option codes and for combinations of two. Codes and their parts are
+// those of ContractCode.h. Every result is the error to report; OptFutNoError means that the rule
+// is met.
 #pragma once
 
 #include <string_view>
@@ -8,7 +9,7 @@
 
 namespace tq {
 
-// A code of kOptionCodeLength characters, looked at from left to right.
+// Checks a code of kOptionCodeLength characters from left to right.
 OptFutError CheckOptionCode(std::string_view code);
 
 // Two strikes of one month: of calls the first must be the higher one, of puts the lower.
@@ -17,7 +18,7 @@ OptFutError CheckPriceSpread(char callPut, std::string_view strike, std::string_
 // Two month codes of one kind: the first must not be later.
 OptFutError CheckTimeSpread(std::string_view month, std::string_view other);
 
-// A leg of a combination order, with the strike that counts for it.
+// A leg of a combination order, with the strike to compare.
 struct CombinationLeg {
   std::string_view month;
   std::string_view strike;

@@ -25,8 +25,8 @@ CString DescribeOneStrike(const OptionLeg& leg, const OptionLeg& other) {
   return text;
 }
 
-// "TXO CALL S 202612 - B 202701". The strike is not forgotten: terminals have always shown a time
-// spread without it, in columns that are made for this width.
+// "TXO CALL S 202612 - B 202701". The strike is left out on purpose: terminals have always shown a
+// time spread without it, in columns of this width.
 CString DescribeTwoMonths(const OptionLeg& leg, const OptionLeg& other) {
   CString text;
   text.Format("%s %s %c %04d%02d - %c %04d%02d", leg.commodity.GetString(), leg.Kind(), leg.side,

@@ -1,11 +1,11 @@
-// The descriptions of combinations that a person reads.
+// Descriptions of combinations for the user.
 #pragma once
 
 #include "platform/framework/CString.h"
 
 namespace tq {
 
-// One leg of an option combination, read out of a code of any content.
+// One leg of an option combination, parsed from a code with any content.
 struct OptionLeg {
   OptionLeg(const CString& code, char side);
 
@@ -23,10 +23,10 @@ struct OptionLeg {
 
 CString DescribeCombination(const OptionLeg& leg, const OptionLeg& other);
 
-// What the one form for all combinations has of a leg besides; empty for what is not known.
+// What the uniform description (DescribeLegs) adds to a leg; empty when not known.
 struct LegNames {
   CString exchange;
-  CString shortName; // with a blank at its end
+  CString shortName; // with a trailing blank
 };
 
 enum class KindWords { Written, LeftOut };

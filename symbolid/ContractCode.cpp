@@ -15,8 +15,7 @@ constexpr char kFirstPut = 'M';
 constexpr char kAfterLastPut = 'Y';
 constexpr int kYearsOfDigit = 10;
 
-// The whole text as a number; a terminal's own prices have neither sign nor exponent, but a service
-// may write blanks around them.
+// The whole text as a number without exponent. Services may put blanks around it.
 std::optional<double> ReadPrice(std::string_view text) {
   text = Trimmed(text);
   if (text.empty())

@@ -1,9 +1,8 @@
-// The exchange's compact contract codes, taken apart by position. An option is ten characters:
+// The exchange's compact contract codes, parsed by position. An option code has ten characters:
 // three of the commodity, five digits of the strike, the month letter, the last digit of the year.
-// A futures contract is the commodity, the month letter and the digit of the year.
+// A futures code is the commodity, the month letter and the digit of the year.
 //
-// Nothing here checks: a code of any length or content has an answer, and what is missing is empty
-// or NUL.
+// Nothing is validated here: any code is accepted, and missing parts are empty or NUL.
 #pragma once
 
 #include <string_view>
@@ -14,8 +13,7 @@ inline constexpr std::size_t kOptionCodeLength = 10;
 inline constexpr std::size_t kCommodityLength = 3;
 inline constexpr std::size_t kStrikeLength = 5;
 inline constexpr std::size_t kMonthCodeLength = 2;
-// A code less its month code, and a code less its commodity: what a typed combination may leave
-// out.
+// A code without its month code, and a code without its commodity: forms in typed combinations.
 inline constexpr std::size_t kCommodityStrikeLength = kCommodityLength + kStrikeLength;
 inline constexpr std::size_t kStrikeMonthLength = kStrikeLength + kMonthCodeLength;
 static_assert(kCommodityStrikeLength + kMonthCodeLength == kOptionCodeLength);
@@ -54,30 +52,30 @@ char CallPutOf(char monthLetter);
 
 // 1 to 12 from an option's month letter, 0 when it is none.
 int OptionMonth(char monthLetter);
-// The position in the alphabet of a futures contract's month letter: 1 to 12, more for the letters
-// behind "L", which no contract has. 0 for what is no letter.
+// 1 to 12 from a futures contract's month letter, its position in the alphabet; more for letters
+// after "L", which no contract has; 0 when it is no letter.
 int FutureMonth(char monthLetter);
 
-// The year that the digit stands for, by the local calendar: this year when that ends in the digit,
-// else the next. Contracts run no longer, so a digit that is past, or none at all, is next year
-// too.
+// The year that the digit means, by the local calendar: the current year if it ends in the digit,
+// else the next. No contract runs longer, so a past digit, or a character that is no digit, also
+// means the next year.
 int ExpiryYear(char yearDigit);
 
-// A strike without its leading zeros; of a strike of zeros one is kept.
+// A strike without leading zeros; of a strike of only zeros one is kept.
 std::string_view WithoutLeadingZeros(std::string_view strike);
 
-// Whether a text is a price: a plain decimal number, blanks around it or not.
+// Whether a text is a price: a plain decimal number, which blanks may surround.
 bool IsPrice(std::string_view text);
 
-// How two prices, decimal texts, stand to each other. A text that is no number has no order.
+// Compares two prices, which are decimal texts. Unordered when one is no number.
 enum class PriceOrder { Unordered = -1, Equal = 0, Higher = 1, Lower = 2 };
 PriceOrder ComparePrices(std::string_view price, std::string_view other);
 
-// How two month codes of one kind (two calls, two puts) stand to each other.
+// Compares two month codes of one kind (two calls, or two puts).
 enum class MonthOrder { TooFarApart = -1, Same = 0, Earlier = 1, Later = 2 };
 MonthOrder CompareMonths(std::string_view month, std::string_view other);
 
-// Whether two month codes are the same month of the same year, be they calls or puts.
+// Whether two month codes, each of a call or a put, mean the same month of the same year.
 bool IsSameMonth(std::string_view month, std::string_view other);
 
 } // namespace tq

@@ -19,7 +19,7 @@ constexpr char kWeekNumberKey[] = "V5"; // "2"
 constexpr char kNameFirstKey[] = "V5"; // of ExtAttrShortName
 constexpr char kNameSecondKey[] = "V6";
 
-// The text of a record, ended by its field when the service left the NUL out.
+// The text of a record. A text that fills its field has no NUL.
 CString TextOf(const ExtAttr& record) {
   return CString(record.text, static_cast<int>(strnlen(record.text, sizeof record.text)));
 }
@@ -69,7 +69,7 @@ int ReadShortName(const CString& serviceId, CString& name) {
   if (!CStockKey::ParseExtAttr(text, kNameFirstKey, first) ||
       !CStockKey::ParseExtAttr(text, kNameSecondKey, second))
     return 0;
-  // The blank sets the name off from what a description writes behind it.
+  // The blank separates the name from what follows in a description.
   name.Format("%s%s ", first.GetString(), second.GetString());
   return 1;
 }

@@ -103,7 +103,7 @@ int CListID::IsValid() {
     return 0;
   if (type_ == ListIDUserList || IsGroupType(type_))
     return !id_.IsEmpty();
-  // The other types need no id, and half of a name and content is none.
+  // The other types need no id. A name without content, or the reverse, is dropped.
   if (name_.IsEmpty() || symbolList_.IsEmpty()) {
     name_.Empty();
     symbolList_.Empty();
@@ -111,6 +111,6 @@ int CListID::IsValid() {
   return 1;
 }
 
-// Nothing, and it has to stay so: terminals read a new text into an identity that bears a name and
-// an original identity, and go on using these.
+// Does nothing, and must not: terminals read a new text into an identity that has a name and an
+// original identity, and go on using those.
 void CListID::Clear() {}

@@ -1,16 +1,15 @@
-// CListID: which source of symbols a page of the terminal shows. A list of the user's, a group or
-// sub-group of the symbol-data service, all symbols. It turns itself into a short text, which
-// terminals keep in their own settings, and back; for a user list also into a longer text that
-// carries the list's name and content, so that it can be shown where the list is not known.
+// CListID: the identity of a page's source of symbols: a list of the user's, a group or sub-group
+// of the symbol-data service, all symbols. It converts to and from a short text, which terminals
+// keep in their settings. For a user list there is also a longer text with the list's name and
+// content, so that the list can be shown where it is not known.
 //
 // Conventions that hold for all of it
-//  1. A value: copies are independent. It may be used on any thread, one object at a time, except
-//     that the operations that take a manager belong to the user-interface thread.
+//  1. A value type: copies are independent. Any thread, one object at a time; operations that take
+//     a manager only on the user-interface thread.
 //  2. Text is in the process's ANSI code page, of any length.
-//  3. Results are int: non-zero for success or "yes", 0 for failure or "no". Nothing throws, and no
-//     text makes an operation fail loudly: what cannot be read gets an empty id, and mostly type 1,
-//     which is not valid.
-//  4. Of a group with a sub-group the id is both, joined by a comma: "2,01".
+//  3. Results are int: non-zero for success or "yes", 0 for failure or "no". Nothing throws. A text
+//     that cannot be parsed gives an empty id, in most cases with type 1, which is not valid.
+//  4. The id of a sub-group is the group's and its own, joined by a comma: "2,01".
 //  5. The text forms are stored by terminals: do not change them.
 #pragma once
 
@@ -61,47 +60,49 @@ public:
   CListID(const CListID& other) noexcept;
   CListID& operator=(const CListID& other) noexcept;
   virtual ~CListID();
-  // Exchanges all that two of them hold.
+  // Swaps all contents.
   void swap(CListID& other) noexcept;
 
   ListIDType GetType() const override;
   CString GetID() const override;
-  // The identity that this one had at first, kept for whoever set it: not compared, not written.
+  // An original identity, stored for the caller: neither compared nor written.
   CString GetOrgID() const override;
   void SetOrgID(const CString& id) override;
   ListIDType GetOrgType() const override;
   void SetOrgType(ListIDType type) override;
-  // Name and content; empty but for user lists. The content is symbol ids joined by ",".
+  // Name and content of a user list; empty for other types. The content is symbol ids joined by
+  // ",".
   CString GetName() const noexcept;
   CString GetSymbolList() const noexcept;
 
-  // Sets type and id, of which nothing is checked. Name and content stay. The number is not used.
+  // Sets type and id without any check. Name and content stay. `reserved` is ignored.
   void SetData(ListIDType type, const CString& id, int reserved) noexcept;
 
-  // "<type>,<id>": "2,01". Type 0 is written as 1. Of type 4 the label for all symbols in the
-  // interface language stands in place of the id.
+  // "<type>,<id>": "2,01". Type 0 is written as 1. Type 4 has the label for all symbols, in the
+  // interface language, instead of an id.
   CString ToString() const override;
-  // The same, and for a user list with name and content ";<name>,<content>" behind it:
-  // "1,A1;Favourites,2330.TW,2317.TW". A name with a comma is cut there when it is read back, and
-  // an id with a semicolon likewise.
+  // The same, followed for a user list with name and content by ";<name>,<content>":
+  // "1,A1;Favourites,2330.TW,2317.TW". When it is read back, a name ends at its first comma and an
+  // id at its first semicolon.
   CString ToStringForList() const override;
-  // Reads what ToString writes: one character of type, a comma, the id. A text that reads as the
-  // number 6 need not have the comma in second place: its id begins at the third character all the
-  // same. The digit alone of a type that needs an id (1, 2, 3, 7, 8) gives that type with an empty
-  // id. Other texts give type 1 with an empty id. Name and content stay as they are. Returns
-  // whether the result is valid: a type of 0 to 8 and, for types 1, 2, 3, 7 and 8, an id. Of the
-  // other types name and content are emptied unless both are there.
+  // Parses what ToString writes: one character of type, a comma, the id. A text that reads as the
+  // number 6 need not have the comma in second place; its id still begins at the third character.
+  // The single digit of a type that needs an id (1, 2, 3, 7, 8) gives that type with an empty id.
+  // Other texts give type 1 with an empty id. Name and content stay. Returns whether the result is
+  // valid: a type of 0 to 8 and, for types 1, 2, 3, 7 and 8, an id. For the other types name and
+  // content are emptied unless both are set.
   int FromString(const CString& text) override;
-  // Reads what ToStringForList writes; the id ends at the first ";". For type 1 name and content
-  // are the texts around the first comma behind it; what is missing is empty. Texts whose first
-  // comma is not in second place give type 1 with an empty id. Returns as FromString does.
+  // Parses what ToStringForList writes; the id ends at the first ";". For type 1 name and content
+  // are the texts before and after the first comma behind it; a missing one is empty. A text whose
+  // first comma is not in second place gives type 1 with an empty id. Returns as FromString does.
   int FromStringForList(const CString& text) override;
 
-  // Takes over a group of the service, "<group type>,<id>" with one digit of type: 1 becomes type
-  // 2, 3 type 3. Returns 1, or 0 with nothing changed for any other text. An empty id is taken over
-  // too, and 0 returned, as it names no group.
+  // Sets type and id from a group of the service, "<group type>,<id>" with one digit of type: 1
+  // gives type 2, 3 gives type 3. Returns 1, or 0 with nothing changed for any other text. An empty
+  // id is set too, but returns 0, as it names no group.
   int ConvertFromGroupID(const char* groupId) noexcept;
-  // The id up to its first comma, and behind it: the group, and the sub-group or "".
+  // The group and the sub-group: the id before and after its first comma. Without one the sub-group
+  // is empty.
   CString GetGroupID() const noexcept;
   CString GetSubGroupID() const noexcept;
   // Whether both are groups (types 2, 3, 7, 8), of one type and with the same group part, letter

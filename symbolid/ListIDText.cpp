@@ -21,7 +21,7 @@ bool HasMarkInPlace(const CString& text) {
   return text.Find(kTypeMark) == kTypeMarkPosition;
 }
 
-// The digit of a type that needs an id, and nothing behind it.
+// Whether the text is only the digit of a type that needs an id.
 bool IsTypeWithoutItsId(const CString& text) {
   constexpr std::string_view typesWithId = "12378";
   return text.GetLength() == kTypeMarkPosition && typesWithId.find(text[0]) != typesWithId.npos;
@@ -32,8 +32,8 @@ struct GroupKind {
   ListIDType type;
 };
 
-// The group types of three digits are never met, as one character is read. They are no licence to
-// read more of them: a terminal that stored "201,x" has lived with its being refused.
+// Group types of three digits never match, because only one character is read. Do not read more:
+// "201,x" has always been refused.
 constexpr GroupKind kGroupKinds[] = {
     {1, ListIDGroup}, {201, ListIDGroup}, {3, ListIDGroup3}, {101, ListIDGroup101}};
 
@@ -68,10 +68,9 @@ void CListID::ReadTypeAndID(const CString& text) {
 
 int CListID::FromString(const CString& text) {
   Clear();
-  // Holdings are read without the comma in second place: "6" alone and "6x12" are of that type,
-  // with nothing and "12" as their id. The type is the first character's even so, which differs for
-  // " 6". "3" alone keeps its type too, so that the terminal can say what is missing; it is not
-  // valid.
+  // Holdings need no comma in second place: "6" and "6x12" are of that type, with the ids "" and
+  // "12". The type is still read from the first character, which makes a difference for " 6". A
+  // single "3" keeps its type, so that the terminal can tell what is missing, but is not valid.
   if (tq::LeadingInt(tq::ViewOf(text)) == ListIDHoldings || HasMarkInPlace(text) ||
       IsTypeWithoutItsId(text)) {
     ReadTypeAndID(text);

@@ -1,4 +1,4 @@
-// Checks of single parts (a code, two sides, two months, two strikes), and what the service tells.
+// Checks of single parts (a code, two sides, two months, two strikes), and queries of the service.
 #include "symbolid/OptFutID.h"
 
 #include "platform/Text.h"
@@ -33,8 +33,7 @@ int COptFutID::ChkBS(char side1, char side2) noexcept {
 
 int COptFutID::ChkCommIDFormat(const CString& code) noexcept {
   const std::string_view text = tq::ViewOf(code);
-  // A code of another length has no error of its own: the number that terminals would show for it
-  // does not exist, so none is to be stored here.
+  // A code of another length stores no error: terminals have no text for one.
   return text.size() == tq::kOptionCodeLength && Report(tq::CheckOptionCode(text));
 }
 

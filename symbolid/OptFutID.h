@@ -1,6 +1,6 @@
 // COptFutID: combination orders of two legs on exchange-listed options and futures. It splits a
-// typed combination into its legs and sides, checks that two legs make a combination that the
-// exchange takes, and writes the description that a person reads.
+// typed combination into legs and sides, checks that two legs form a combination that the exchange
+// accepts, and writes a description for the user.
 //
 // Conventions that hold for the whole class
 //  1. All calls come from the terminal's user-interface thread, as the service is asked.
@@ -9,13 +9,13 @@
 //     strike with leading zeros, the month letter (A to L January to December of a call, M to X of
 //     a put), the last digit of the expiry year. "TXO21000L6" is the December call at 21000. A
 //     futures code has the commodity, a month letter A to L and the digit of the year: "TXFL6".
-//  4. The digit stands for this year of the local calendar when that ends in it, else for the next
-//     year, even for a digit that is past: no contract runs longer.
+//  4. The digit means the current year of the local calendar if that ends in it, else the next
+//     year, also for a past digit: no contract runs longer.
 //  5. A side is "B" (buy) or "S" (sell).
 //  6. Results are int: non-zero for success, 0 for failure. After a failure GetErrorCode tells why
-//     and all outputs are as they were. Outputs may be the objects that the inputs are. Nothing
-//     throws, and texts of any length and content are taken, with `check` 0 as well: what a code
-//     lacks is then missing in the answer.
+//     and all outputs are unchanged. Outputs may be the same objects as inputs. Nothing throws.
+//     Texts of any length and content are accepted, also with `check` 0: parts that a code lacks
+//     are then missing in the result.
 #pragma once
 
 #include <cstdint>
@@ -66,11 +66,11 @@ public:
   //   "TXO21000L6:X6"     straddle: a call, then the put's month code
   //   "TXO21000X6:22000L6" strangle: a put, then the call's strike and month code
   //   "TXO21000L6-X6"     reversal or conversion: a call, then the put's month code
-  // The first "/" decides, without one the first ":", then the first "-"; one that opens the text
-  // does not count. `side` is the side of the second leg; the first has the same around ":", else
-  // the opposite ("B" for anything but "B").
+  // The text is split at its first "/", without one at its first ":", then at its first "-". A
+  // separator at the start of the text does not count. `side` is the side of the second leg; the
+  // first has the same side around ":", else the opposite one ("B" for anything but "B").
   //
-  // With `check` non-zero the legs must make a combination as the exchange takes it (ChkSpread,
+  // With `check` non-zero the legs must form a combination that the exchange accepts (ChkSpread,
   // ChkStraddle_Strangle, ChkReversals_Conversion). With 0 they are completed by their lengths
   // alone: a first text whose last character but one is a digit (so that it has no month code)
   // takes over the second's last two; a second of 7 characters takes over the first three of the

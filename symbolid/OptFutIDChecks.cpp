@@ -7,8 +7,8 @@
 
 namespace {
 
-// A leg that shares `shared` characters with the first and goes on with the typed text. Bytes and
-// not characters are counted: what is no plain code is found out by its format.
+// A leg of the first `shared` bytes of the first leg and the typed text. Bytes, not characters:
+// text that is no plain code fails the check of its format.
 CString CompleteLeg(std::string_view first, std::size_t shared, std::string_view typed) {
   CString leg = tq::ToCString(first.substr(0, shared));
   leg.Append(typed.data(), static_cast<int>(typed.size()));
@@ -98,7 +98,8 @@ int COptFutID::ChkReversals_Conversion(const CString& first, const CString& seco
     return 0;
   if (ChkTheSameCP(MonthLetterOf(leg1), MonthLetterOf(leg2)))
     return Report(OptFutKindsEqual);
-  // Months are not compared, on purpose: whether a pair of two months is traded, the exchange says.
+  // Months are deliberately not compared: the exchange decides whether it trades a pair of two
+  // months.
   if (!IsCall(leg1))
     return Report(OptFutFirstNotCall);
   id1 = leg1;
@@ -116,8 +117,8 @@ int COptFutID::ChkTwoCommID(const CString& id1, char side1, const CString& id2,
   tq::CombinationLeg two = LegOf(id2);
   const CString listed1 = tq::WeekOfCode(id1).strike;
   const CString listed2 = tq::WeekOfCode(id2).strike;
-  // Both or none: a listed strike and five digits may be in different units. What is no price
-  // cannot be compared, the digits can.
+  // Both listed strikes or neither: a listed strike and five digits may be in different units.
+  // Unless both are prices, the digits are compared.
   if (tq::IsPrice(tq::ViewOf(listed1)) && tq::IsPrice(tq::ViewOf(listed2))) {
     one.strike = tq::ViewOf(listed1);
     two.strike = tq::ViewOf(listed2);

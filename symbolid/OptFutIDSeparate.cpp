@@ -29,8 +29,8 @@ char Opposite(char side) {
   return side == 'B' ? 'S' : 'B';
 }
 
-// Legs by their lengths alone, of whatever was typed. `first` without a month code has a digit of
-// the strike where that would be.
+// Completes the legs by their lengths alone, whatever was typed. A `first` without a month code has
+// a digit of the strike in its position.
 void CompleteUnchecked(const Typed& typed, CString& leg1, CString& leg2) {
   constexpr int monthLength{tq::kMonthCodeLength};
   leg1 = typed.first;

@@ -1,5 +1,5 @@
-// Short texts as numbers: ids are looked up by the hundred thousand, and two words compare and hash
-// faster than a run of characters.
+// Short texts as machine words, which compare and hash faster than characters: start-up and sorting
+// look up hundreds of thousands of ids.
 #pragma once
 
 #include <bit>
@@ -15,7 +15,7 @@
 
 namespace tq {
 
-// The first eight bytes of a text, or all of them, the missing ones 0.
+// The first eight bytes of a text; missing ones are 0.
 inline std::uint64_t PackWord(std::string_view text) {
   const char* const at = text.data();
   const std::size_t size = text.size();
@@ -25,7 +25,7 @@ inline std::uint64_t PackWord(std::string_view text) {
     return word;
   }
   if (size >= sizeof(std::uint32_t)) {
-    // The two halves may overlap; where they do, they agree.
+    // Two halves, which may overlap; the overlapping bits are equal.
     const std::size_t shift = size - sizeof(std::uint32_t);
     std::uint32_t first;
     std::uint32_t last;
@@ -35,14 +35,14 @@ inline std::uint64_t PackWord(std::string_view text) {
   }
   if (size == 0)
     return 0;
-  // One to three bytes: the first, the middle and the last, which may be the same.
+  // One to three bytes: the first, the middle and the last, some of which may be the same byte.
   const auto byte = [at](std::size_t i) {
     return std::uint64_t{static_cast<unsigned char>(at[i])} << (8 * i);
   };
   return byte(0) | byte(size / 2) | byte(size - 1);
 }
 
-// The first sixteen bytes.
+// The first sixteen bytes of a text; missing ones are 0.
 struct PackedText {
   std::uint64_t low;
   std::uint64_t high;
@@ -95,39 +95,40 @@ inline PackedText CutHead(PackedText head, std::size_t size) {
   return {head.low, head.high & kept};
 }
 
-// What follows treats the eight bytes of a word at once.
+// The following functions work on all eight bytes of a word at once.
 constexpr std::uint64_t RepeatByte(std::uint8_t byte) {
   return 0x0101010101010101u * byte;
 }
 constexpr std::uint64_t kTopBits = RepeatByte(0x80);
 
-// The top bit of each byte of `word` that is `byte`. Exact: the shorter form that lets a borrow run
-// into the next byte would report neighbours, too.
+// The top bit of each byte of `word` that equals `byte`. Exact: the shorter formula, in which a
+// borrow runs into the next byte, would report neighbours too.
 constexpr std::uint64_t BytesEqual(std::uint64_t word, std::uint8_t byte) {
   const std::uint64_t difference = word ^ RepeatByte(byte);
   return ~(((difference & ~kTopBits) + ~kTopBits) | difference | ~kTopBits);
 }
 
-// The same for a word and a byte without top bits, in half the steps.
+// The same for an ASCII word and byte, in half the operations.
 constexpr std::uint64_t AsciiBytesEqual(std::uint64_t ascii, std::uint8_t byte) {
   return ~((ascii ^ RepeatByte(byte)) + ~kTopBits) & kTopBits;
 }
 
-// The top bit of each byte that is an ASCII letter of lower case, in a word of ASCII: adding 0x1f
-// sets the top bit of a byte from 'a' on, adding 5 that of one behind 'z'.
+// The top bit of each byte of an ASCII word that is a lower-case letter: adding 0x1f sets the top
+// bit of bytes from 'a' on, adding 5 that of bytes above 'z'.
 constexpr std::uint64_t LowerLetters(std::uint64_t ascii) {
   return (ascii + RepeatByte(0x1f)) & ~(ascii + RepeatByte(0x05)) & kTopBits;
 }
 
 #if defined(__SSE2__)
-// A bit for each of sixteen bytes that is `byte`, the first byte's the lowest. `bytes` is aligned.
+// A bit for each of sixteen bytes that equals `byte`, the lowest for the first. `bytes` is aligned
+// to sixteen bytes.
 inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
   const __m128i all = _mm_load_si128(reinterpret_cast<const __m128i*>(bytes));
   const __m128i wanted = _mm_set1_epi8(static_cast<char>(byte));
   return static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(all, wanted)));
 }
 #else
-// The same on processors that have no instruction for it.
+// The same for processors without such instructions.
 inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
   unsigned equal = 0;
   for (unsigned i = 0; i < 16; ++i)
@@ -138,19 +139,18 @@ inline unsigned EqualBytes(const std::uint8_t* bytes, std::uint8_t byte) {
 
 // Whether sixteen bytes are ASCII without a letter of lower case.
 constexpr bool IsUpperAscii(PackedText head) {
-  // A top bit disturbs what LowerLetters says, but then it is of no interest.
+  // LowerLetters is wrong for bytes beyond ASCII, but those make the result false anyway.
   return (((head.low | head.high) & kTopBits) | LowerLetters(head.low) | LowerLetters(head.high)) ==
          0;
 }
 
-// The upper and the lower half of a product, mixed: a hash of two words as long as nobody knows
-// `left`.
+// The upper and lower half of a product combined: a hash of two words as long as `left` is secret.
 inline std::uint64_t MixProduct(std::uint64_t left, std::uint64_t right) {
   const WideNumber product = Multiply(left, right);
   return product.high ^ product.low;
 }
 
-// One step of a hash, whose upper bits are the better ones.
+// One step of a hash. Its upper bits are the better ones.
 inline std::uint64_t MixWords(std::uint64_t state, std::uint64_t word) {
   constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u; // 2^64 by the golden ratio
   state = (state ^ word) * multiplier;

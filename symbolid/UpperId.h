@@ -1,8 +1,6 @@
-// Upper-casing and comparison that ignores letter case, without a copy where there is nothing to
-// change.
-//
-// Both go by whole characters: the second byte of a double-byte character may be an ASCII letter
-// and is left as it is. Two texts are equal ignoring case when their upper-cased forms are equal.
+// Ids in upper case, as look-ups compare them, without a copy when there is nothing to change. By
+// whole characters: the second byte of a double-byte character may equal a letter and stays as it
+// is.
 #pragma once
 
 #include <algorithm>
@@ -16,23 +14,23 @@
 
 namespace tq {
 
-// Room for the upper-cased form of every id that a person or a service writes.
+// Holds the upper-cased form of an id. Longer texts than any real id are upper-cased on the heap.
 using UpperBuffer = std::array<char, 64>;
 
-// A text with its first and last bytes as numbers.
+// An upper-cased text with its first sixteen and its last eight bytes as words (PackHead,
+// ShortText).
 struct UpperId {
   std::string_view text;
   PackedText head;
-  // The last eight bytes. A shorter text is in the upper ones, and the lower ones say nothing.
   std::uint64_t tail;
 };
 
-// UpperCased for any text.
+// The general path of UpperCased. `text` is not empty.
 UpperId UpperCasedCopy(CString& text, UpperBuffer& buffer);
 
-// `text` in upper case. The result lies in `text` itself when that is in upper case already, in
-// `buffer` when it fits there and is plain ASCII, and else in `text`, which is changed then. It is
-// valid while both live.
+// Upper-cases `text`. The result refers to `text` if that is in upper case already, to `buffer` if
+// it is ASCII and fits, and otherwise to `text`, which is then changed. Valid while both live
+// unchanged.
 inline UpperId UpperCased(CString& text, UpperBuffer& buffer) {
   const std::string_view view = ViewOf(text);
   if (view.size() - kShortest <= sizeof(PackedText) - kShortest) {

@@ -1,5 +1,5 @@
-// Texts that many symbols have in common: industry, currency, contract month and so on. Symbols with
-// equal texts share one immutable record.
+// Texts that many symbols have in common: industry, currency, contract month and so on. Symbols
+// with equal texts share one immutable record.
 #pragma once
 
 #include <cstdint>

@@ -12,10 +12,10 @@ namespace tq {
 inline constexpr char kMovedFromExchange[] = "TW";
 inline constexpr char kMovedToExchange[] = "TE";
 
-// Replaces the suffix of each comma-separated id of `ids` whose suffix is `oldExchange` (letter case
-// ignored) by `newExchange`, when the symbol is no longer on the old exchange and is on the new one.
-// Every other piece stays as it is, headings and blanks included. Returns the number of ids changed;
-// `ids` is written only if there are any.
+// Replaces the suffix of each comma-separated id of `ids` whose suffix is `oldExchange` (letter
+// case ignored) by `newExchange`, when the symbol is no longer on the old exchange and is on the
+// new one. Every other piece stays as it is, headings and blanks included. Returns the number of
+// ids changed; `ids` is written only if there are any.
 //
 // A symbol counts as gone only if the old exchange's table is complete (CSymbolTable::IsWhole). A
 // table that failed to load or is empty lacks every symbol: going by it would turn the ids of a

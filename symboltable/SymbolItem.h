@@ -56,8 +56,8 @@ public:
   // becomes the nearest int.
   int GetNumber(int field, int& value) const;
   // The same as text; `part` matters for field 1 only. A text that the item holds is a success even
-  // when the service left it empty. 0 for a field that is unknown or that the service fails to give;
-  // `value` is then empty, or "--" for fields 170, 171 and 179.
+  // when the service left it empty. 0 for a field that is unknown or that the service fails to
+  // give; `value` is then empty, or "--" for fields 170, 171 and 179.
   int GetText(int field, CString& value, tq::IdPart part = tq::IdPart::Full) const;
 
   // The chain. Its owner keeps head and tail up to date.

@@ -1,5 +1,5 @@
-// The attributes that an item does not hold because they change during trading: the service is asked
-// each time.
+// The attributes that an item does not hold because they change during trading: the service is
+// asked each time.
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -23,7 +23,8 @@ int CutToInt(double number) {
   return number >= highest ? std::numeric_limits<int>::max() : static_cast<int>(number);
 }
 
-// The number at the start of a text, 0 when there is none. The decimal point is "." in every locale.
+// The number at the start of a text, 0 when there is none. The decimal point is "." in every
+// locale.
 double LeadingNumber(const CString& text) {
   std::string_view number = tq::TrimmedFront(tq::ViewOf(text));
   if (number.starts_with('+'))

@@ -38,15 +38,15 @@ inline std::size_t SizeOf(PackedText code) {
   return static_cast<std::size_t>(size != kLongKey ? size : static_cast<std::uint32_t>(code.high));
 }
 
-// The process's random hash seed, so that nobody can craft ids whose hashes collide. Hashes are never
-// stored and affect nothing that is visible from outside.
+// The process's random hash seed, so that nobody can craft ids whose hashes collide. Hashes are
+// never stored and affect nothing that is visible from outside.
 extern const HashSeed kHashSeed;
 
 // Continues the hash of a code with the bytes of a long key that are not in the code.
 std::uint64_t MixRest(std::uint64_t state, std::string_view text);
 
-// Two multiplications: with a single one, some seeds spread ids that differ in a few digits so badly
-// that buckets get four times their share.
+// Two multiplications: with a single one, some seeds spread ids that differ in a few digits so
+// badly that buckets get four times their share.
 inline std::uint64_t MixCode(PackedText code) {
   const std::uint64_t once = MixProduct(code.low ^ kHashSeed.low, code.high ^ kHashSeed.high);
   return MixProduct(once, kHashSeed.low);
@@ -69,8 +69,8 @@ inline SymbolKey MakeKey(std::string_view text) {
 }
 
 // The parts of a full id: the suffix is the text after the last ".", the symbol the text before it.
-// Without a "." the suffix is empty and the symbol is the whole id. A "." that is the second byte of
-// a character does not count.
+// Without a "." the suffix is empty and the symbol is the whole id. A "." that is the second byte
+// of a character does not count.
 struct IdParts {
   std::string_view symbol;
   std::string_view suffix;

@@ -58,8 +58,9 @@ int FindSuffix(const ExchangeTables& slots, const UpperId& id, std::string_view 
 } // namespace
 
 bool IsIdOf(const FoundSymbol& found, const UpperId& id) {
-  // Stored ids are in upper case and contain a ".". With a single "." in `id`, its key contains none,
-  // so the stored id is the key, "." and the name of the exchange by which the symbol was found.
+  // Stored ids are in upper case and contain a ".". With a single "." in `id`, its key contains
+  // none, so the stored id is the key, "." and the name of the exchange by which the symbol was
+  // found.
   return found.bySuffix && HasSingleDot(id.text, id.head);
 }
 
@@ -78,8 +79,8 @@ FoundSymbol FindAnySymbol(const ExchangeTables& slots, const UpperId& id, std::s
       const SymbolKey key = MakeKey(symbol, CutHead(id.head, symbol.size()));
       return FindIn(slots.At(slot), key, true);
     }
-    // An exchange whose name the service writes in lower case: the suffix names it, but no table has
-    // the upper-cased name. Its symbols are found only bare, through the default exchanges.
+    // An exchange whose name the service writes in lower case: the suffix names it, but no table
+    // has the upper-cased name. Its symbols are found only bare, through the default exchanges.
     if (slots.HasUpperName(suffix))
       return {};
   }

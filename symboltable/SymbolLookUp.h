@@ -44,8 +44,8 @@ inline bool FindByShortId(const ExchangeTables& slots, const UpperId& id, FoundS
   return true;
 }
 
-// Looks a symbol up. `id` is not empty. Without `exchName` the id's suffix names the exchange; without
-// such a suffix the default exchanges are searched.
+// Looks a symbol up. `id` is not empty. Without `exchName` the id's suffix names the exchange;
+// without such a suffix the default exchanges are searched.
 inline FoundSymbol FindSymbol(const ExchangeTables& slots, const UpperId& id,
                               std::string_view exchName, BareSymbol rule) {
   FoundSymbol found;
@@ -54,8 +54,8 @@ inline FoundSymbol FindSymbol(const ExchangeTables& slots, const UpperId& id,
   return FindAnySymbol(slots, id, exchName, rule);
 }
 
-// Whether the full id of the symbol that FindSymbol found for `id` is known to equal `id`. False does
-// not mean that it differs.
+// Whether the full id of the symbol that FindSymbol found for `id` is known to equal `id`. False
+// does not mean that it differs.
 bool IsIdOf(const FoundSymbol& found, const UpperId& id);
 
 // The exchange named by the suffix of `id`; empty when there is none.

@@ -32,8 +32,8 @@ void CSymbolTable::Reserve(std::size_t count) {
   arena_.Reset(count);
 }
 
-// Reads the full id, in upper case; 0 when there is none. This exchange's suffix is appended when the
-// service leaves it out.
+// Reads the full id, in upper case; 0 when there is none. This exchange's suffix is appended when
+// the service leaves it out.
 int CSymbolTable::ReadId(const CStaticKey& key, CString& id) const {
   if (!key.GetID(id, 1) || id.IsEmpty())
     return 0;
@@ -108,8 +108,8 @@ void CSymbolTable::Unchain(CSymbolItem* item) {
 
 // The chain is chosen by the id as written; only within it is letter case ignored. So "aapl" finds
 // nothing where chains go by the sum of the characters, but "1234a" finds "1234A" where they go by
-// the number. Do not choose the chain by the upper-cased id: removals would then remove symbols that
-// they have always left.
+// the number. Do not choose the chain by the upper-cased id: removals would then remove symbols
+// that they have always left.
 void CSymbolTable::Remove(std::string_view id) {
   const std::string_view asked = KeyOf(id);
   CString copy = tq::ToCString(asked);

@@ -1,9 +1,9 @@
 // The symbols of one exchange.
 //
-// They are kept in 780 chains, whose order is visible to callers: look-ups by name go chain by chain,
-// and of symbols with the same key the first in the chain answers. Since a single chain may hold a
-// sixth of an exchange, a hash index maps each key to that first symbol. Invariant: every answer is
-// the one that walking the chain would give. User-interface thread only.
+// They are kept in 780 chains, whose order is visible to callers: look-ups by name go chain by
+// chain, and of symbols with the same key the first in the chain answers. Since a single chain may
+// hold a sixth of an exchange, a hash index maps each key to that first symbol. Invariant: every
+// answer is the one that walking the chain would give. User-interface thread only.
 #pragma once
 
 #include <cstdint>
@@ -21,7 +21,8 @@ struct BaseAttr;
 
 class CSymbolTable {
 public:
-  // `exchName`, as the service writes it, is the text after the last "." of the exchange's full ids.
+  // `exchName`, as the service writes it, is the text after the last "." of the exchange's full
+  // ids.
   CSymbolTable(const CString& exchName, int exchId);
   virtual ~CSymbolTable();
   CSymbolTable(const CSymbolTable&) = delete;
@@ -32,20 +33,21 @@ public:
   bool IsAuthorized() const { return authorized_; }
   void SetAuthorized(bool authorized) { authorized_ = authorized; }
 
-  // Replaces the symbols by all that the service has for the exchange. On failure 0, and the table is
-  // empty. An exchange without symbols is no failure.
+  // Replaces the symbols by all that the service has for the exchange. On failure 0, and the table
+  // is empty. An exchange without symbols is no failure.
   int Load();
   // Deletes all symbols.
   void Clear();
-  // Whether the table is complete, so that a symbol it lacks is not on the exchange: the latest load
-  // succeeded and brought symbols, and some are left. Adding symbols to an empty table does not make
-  // it complete.
+  // Whether the table is complete, so that a symbol it lacks is not on the exchange: the latest
+  // load succeeded and brought symbols, and some are left. Adding symbols to an empty table does
+  // not make it complete.
   bool IsWhole() const { return loaded_ && !index_.IsEmpty(); }
 
   // Adds the service's records of the symbols (codes joined by ","), even of symbols that the table
   // holds already. 0 when the service fails.
   int Add(const CString& symbols);
-  // Updates the attributes of the symbols from the service. Symbols that the table lacks are skipped.
+  // Updates the attributes of the symbols from the service. Symbols that the table lacks are
+  // skipped.
   int Update(const CString& symbols);
   // Removes the first symbol with this id, if there is one. The comparison ignores letter case, the
   // choice of the chain does not: see the implementation.

@@ -11,8 +11,8 @@
 //     whose loading fails is left empty; output arguments of a failing look-up are described there.
 //     An output may be the object that an input is.
 //  4. Exchange ids are the service's numbers. Entitlements exist for 1 to 127 only.
-//  5. There are 128 slots for tables. A table is found by its exchange's name or id, not by its slot;
-//     the lowest matching slot wins.
+//  5. There are 128 slots for tables. A table is found by its exchange's name or id, not by its
+//     slot; the lowest matching slot wins.
 //  6. A symbol is held as often as the service listed it; the first of equal ones answers.
 #pragma once
 

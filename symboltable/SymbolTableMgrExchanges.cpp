@@ -41,8 +41,8 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
     const int slot = isLeftOut(exchId) ? ExchangeTables::kNone : slots->FindId(exchId);
     if (slot == ExchangeTables::kNone)
       return;
-    // By the position in the input: a first id that is left out leaves its comma behind, and callers
-    // rely on that. Do not make it depend on the names written so far.
+    // By the position in the input: a first id that is left out leaves its comma behind, and
+    // callers rely on that. Do not make it depend on the names written so far.
     if (position > 0)
       names += ',';
     names += slots->At(slot)->ExchName();

@@ -92,8 +92,8 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
     value = found.table->IdAt(found.position);
     return 1;
   }
-  // `id` is that text, and in the cache already; sharing the stored string would be a cache miss. In
-  // a market of 100,000 symbols this takes 85 ns a look-up instead of 280.
+  // `id` is that text, and in the cache already; sharing the stored string would be a cache miss.
+  // In a market of 100,000 symbols this takes 85 ns a look-up instead of 280.
   value = std::move(id);
   return 1;
 }

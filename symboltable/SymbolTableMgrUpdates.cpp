@@ -16,9 +16,9 @@ namespace {
 using tq::ExchangeTables;
 
 // Makes a table of that exchange, marked as the user's entitlements say, loads it and puts it into
-// the first free slot from `from` on. `loaded`: whether loading succeeded. Returns the slot, or kNone
-// when none is free: no table was made then. A table of that name that the terminal made while the
-// services were asked is replaced.
+// the first free slot from `from` on. `loaded`: whether loading succeeded. Returns the slot, or
+// kNone when none is free: no table was made then. A table of that name that the terminal made
+// while the services were asked is replaced.
 int MakeTable(ExchangeTables& tables, int from, const CString& exchName, int exchId, int& loaded) {
   const std::string_view name = tq::ViewOf(exchName);
   if (tables.FirstFree(from) == ExchangeTables::kNone)

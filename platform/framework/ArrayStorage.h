@@ -1,5 +1,6 @@
-// The elements of a CArray in memory: room, growth and moving. Internal to CArray.h, whose
-// conventions hold.
+// The memory of a CArray: capacity, growth and moving of elements. Internal to CArray.h, whose
+// conventions hold. Not a standard container, because the layout is part of the interface and
+// must not depend on a standard library or its settings.
 #pragma once
 
 #include <climits>
@@ -55,12 +56,12 @@ template <class TYPE> struct ArrayStorage {
 
   int Add(const TYPE& value) {
     if (size == capacity)
-      return AddMoved(TYPE(value)); // a copy first: the value may be an element that growing moves
+      return AddMoved(TYPE(value)); // copied first: it may be an element of this array
     new (data + size) TYPE(value);
     return size++;
   }
 
-  // By value: the caller's may be an element that opening the gap moves.
+  // By value: the caller's may be an element of this array.
   void Insert(int index, int count, TYPE value) {
     if (index < 0 || count < 0)
       InvalidArgument("CArray::InsertAt: negative index or count");
@@ -78,7 +79,7 @@ template <class TYPE> struct ArrayStorage {
     const bool itself = this == &other;
     OpenGap(index, count);
     for (int i = 0; i < count; ++i) {
-      // Of an array inserted into itself, the part behind the gap has moved by its width.
+      // In an array inserted into itself, the elements behind the gap have moved.
       const TYPE* from = other.data + (itself && i >= index ? i + count : i);
       new (data + index + i) TYPE(*from);
     }
@@ -122,8 +123,8 @@ private:
       data[i].~TYPE();
   }
 
-  // Makes raw room of `count` elements in front of `index`; the caller constructs them. The size
-  // already counts them.
+  // Makes uninitialised room for `count` elements in front of `index`; the caller constructs them.
+  // `size` includes them already.
   void OpenGap(int index, int count) {
     if (index > size)
       SetSize(index);
@@ -161,7 +162,7 @@ private:
     from->~TYPE();
   }
 
-  // Moves `count` elements to another place in the array; what is there, apart from them, is raw.
+  // Moves `count` elements within the array, over uninitialised memory or themselves.
   void MoveWithin(int to, int from, int count) {
     if (count == 0 || to == from)
       return;

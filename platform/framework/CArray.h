@@ -6,10 +6,10 @@
 //     invalid-argument handler (InvalidArgument.h), unless the operation says that it grows the
 //     array. So does a negative size or count.
 //  3. New elements without a given value are value-initialised: numbers and pointers are 0.
-//  4. Growing makes room for half as many again, so that adding one by one stays linear. Removing
-//     keeps the room for later elements; FreeExtra gives it back.
-//  5. Whatever changes the size may move the elements: their addresses and references end there. A
-//     value to be added may be an element of the array itself.
+//  4. Capacity grows by half, so that adding one by one takes linear time. Removing elements keeps
+//     the capacity; FreeExtra frees it.
+//  5. Operations that change the size invalidate pointers and references to elements. A value to be
+//     added may be an element of the array itself.
 //  6. One array is used by one thread at a time. Storage comes from tqFramework (Storage.h).
 #pragma once
 
@@ -19,7 +19,7 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CArray {
 public:
   CArray() noexcept = default;
   ~CArray() { m_store.Release(); }
-  CArray(const CArray&) = delete; // Copy says it where it is meant
+  CArray(const CArray&) = delete; // call Copy
   CArray& operator=(const CArray&) = delete;
   CArray(CArray&& other) noexcept { m_store.Swap(other.m_store); }
   CArray& operator=(CArray&& other) noexcept {
@@ -42,7 +42,7 @@ public:
     m_store.SetSize(size);
   }
   void RemoveAll() { m_store.SetSize(0); }
-  // Gives back the room that holds no element.
+  // Frees unused capacity.
   void FreeExtra() { m_store.FreeExtra(); }
 
   const TYPE& GetAt(int index) const { return m_store.At(index, "CArray::GetAt"); }
@@ -53,7 +53,7 @@ public:
   TYPE& operator[](int index) { return m_store.At(index, "CArray::operator[]"); }
   void SetAt(int index, ARG_TYPE value) { m_store.At(index, "CArray::SetAt") = value; }
 
-  // The elements, one behind the other; null when there has never been one.
+  // The elements, contiguous; null when there has never been one.
   const TYPE* GetData() const noexcept { return m_store.data; }
   TYPE* GetData() noexcept { return m_store.data; }
 
@@ -75,7 +75,7 @@ public:
     return first;
   }
 
-  // Takes over the elements of another array in the place of its own.
+  // Replaces the elements by copies of another array's.
   void Copy(const CArray& other) {
     if (this == &other)
       return;

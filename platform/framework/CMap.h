@@ -1,11 +1,10 @@
-// CMap: values under keys, found by hash. KEY and VALUE are what the map holds; ARG_KEY and
-// ARG_VALUE are how they are handed in: with KEY CString and ARG_KEY const char* a look-up makes no
-// string.
+// CMap: a hash map. KEY and VALUE are the types that it stores, ARG_KEY and ARG_VALUE those of
+// arguments: with KEY CString and ARG_KEY const char* a look-up constructs no string.
 //
 // Conventions that hold for every operation of this header
 //  1. The map owns its keys and values; of pointers it owns the pointers, not what they point to.
 //  2. Keys are compared with == (KEY against ARG_KEY) and hashed with tq::HashKey (HashKey.h).
-//  3. Walking goes in the order in which the keys were first set; removing a key and setting it
+//  3. Iteration is in the order in which the keys were first set; removing a key and setting it
 //     again moves it to the end.
 //  4. A value stays at its address until its key is removed, however the map grows. New values
 //     without a given value are value-initialised.
@@ -20,7 +19,7 @@
 #include "platform/framework/InvalidArgument.h"
 #include "platform/framework/MapStorage.h"
 
-// A place in a walk over a map; null is the end.
+// A position in an iteration over a map; null is the end.
 struct MapPosition;
 using POSITION = MapPosition*;
 
@@ -61,12 +60,12 @@ public:
 
   // Removes the key and its value; false when there is none.
   bool RemoveKey(ARG_KEY key) { return m_store.Remove(key, tq::HashKey(key)); }
-  // Removes all of them and gives the storage back.
+  // Removes all entries and frees the memory.
   void RemoveAll() noexcept { m_store.Release(); }
 
-  // Walks over all entries: from GetStartPosition, null for an empty map, until GetNextAssoc sets
-  // the position to null. The entry just handed out may be removed on the way; others may not, and
-  // none is added. A null position is a programming error and stops the program.
+  // Iterates over all entries: from GetStartPosition, null for an empty map, until GetNextAssoc
+  // sets the position to null. Meanwhile the entry just returned may be removed; no other may be,
+  // and none may be added. A null position is a programming error and stops the program.
   POSITION GetStartPosition() const noexcept { return PositionOf(m_store.first); }
   void GetNextAssoc(POSITION& position, KEY& key, VALUE& value) const {
     if (position == nullptr)
@@ -77,8 +76,7 @@ public:
     value = node->value;
   }
 
-  // Makes the table ready for `size` entries. The table grows by itself, so this is a help, not a
-  // must.
+  // Reserves a table for `size` entries. Optional: the table grows by itself.
   void InitHashTable(unsigned int size, bool allocateNow = true) {
     if (allocateNow)
       m_store.ResizeTable(size);

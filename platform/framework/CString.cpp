@@ -43,7 +43,7 @@ void CString::SetString(const char* text) {
 
 void CString::SetString(const char* text, int length) {
   const int kept = text == nullptr || length < 0 ? 0 : length;
-  if (kept == 0 && IsEmpty()) // the most frequent text that services hand out
+  if (kept == 0 && IsEmpty()) // services hand out empty texts most often
     return;
   if (!IsWritable(kept)) { // what is assigned may be a part of the text that is given up
     *this = CString(text, kept);
@@ -147,7 +147,7 @@ void CString::SetLength(int length) noexcept {
   m_text[length] = '\0';
 }
 
-// Puts `length` bytes of text in the place of `removed` bytes at `index`.
+// Replaces `removed` bytes at `index` by `length` bytes of text.
 void CString::Exchange(int index, int removed, const char* text, int length) {
   const int before = GetLength();
   const int tail = before - index - removed;
@@ -159,7 +159,7 @@ void CString::Exchange(int index, int removed, const char* text, int length) {
     SetLength(after);
     return;
   }
-  // A string that grows by appending gets half as much again, so that many appends stay linear.
+  // Appending grows the capacity by half, so that many appends take linear time.
   const int room = before != 0 && after > before ? SumOf(after, before / 2) : after;
   char* const joined = tq::AllocateText(room);
   CopyBytes(joined, m_text, index);

@@ -1,20 +1,20 @@
 // CString: the string that crosses the interface. Text of any length in the process's ANSI code
-// page, reference-counted and copied on write: copying one costs a count, changing one never shows
-// in another.
+// page, reference-counted with copy-on-write: a copy only increments a count.
 //
 // Conventions that hold for every operation of this header
 //  1. Lengths, counts and positions are in bytes. A position outside of the text is no error: each
-//     operation says, or has by "clamped" (below 0 taken as 0, above the length as the length),
-//     what it answers.
+//     operation says what it does then. "Clamped": below 0 counts as 0, above the length as the
+//     length.
 //  2. Searching, trimming, replacing, changing case and cutting go by whole characters, as
 //     CodePage.h defines them: a trail byte that equals a letter, '\' or '|' is never taken for
 //     one, and no operation leaves half of a character behind, except SetAt and the buffer
-//     operations, which take the caller's bytes as they are.
+//     operations, which store the caller's bytes unchecked.
 //  3. A null `const char*` counts as an empty text. An argument may be a part of the string itself.
 //  4. Only A-Z and a-z have case. Order is that of the bytes, taken as unsigned.
-//  5. A string may hold NULs that it was given with a length; operations taking a `const char*`
-//     without one end at its first NUL.
-//  6. Nothing throws; a process without memory is stopped. Text is limited to 2 GB less 64 bytes.
+//  5. Text given with a length may contain NULs; a `const char*` without a length ends at its first
+//     NUL.
+//  6. Nothing throws; when memory runs out the process is stopped. The limit is 2 GB minus 64
+//     bytes.
 //  7. One object is used by one thread at a time. Different objects may be used by different
 //     threads, also when they share their text.
 //  8. Characters are allocated and freed inside tqFramework, so any module may destroy any string.
@@ -55,7 +55,7 @@ public:
     m_text = taken;
     return *this;
   }
-  // The text is written into the room at hand when that is enough and not shared.
+  // Reuses the present memory when it is large enough and not shared.
   CString& operator=(const char* text);
   CString& operator=(char letter);
   void SetString(const char* text);
@@ -63,7 +63,7 @@ public:
 
   int GetLength() const noexcept { return Header()->length; }
   bool IsEmpty() const noexcept { return GetLength() == 0; }
-  // Makes the string empty and gives up its room.
+  // Makes the string empty and frees its memory.
   void Empty() noexcept {
     tq::ReleaseText(m_text);
     m_text = tq::EmptyText();
@@ -108,8 +108,8 @@ public:
   int ReverseFind(char letter) const;   // of the last one
   int FindOneOf(const char* set) const; // of the first character that is in `set`
 
-  // These return how many were replaced or removed. An empty `what` is nowhere; a null `with`
-  // removes.
+  // These return the number of replacements or removals. An empty `what` never occurs; a null
+  // `with` removes.
   int Replace(char what, char with);
   int Replace(const char* what, const char* with);
   int Remove(char letter);
@@ -122,7 +122,7 @@ public:
   // Keeps the first `length` bytes, less a character that this would split. Clamped.
   void Truncate(int length);
 
-  // A text that is as wanted already stays shared.
+  // A text that does not change stays shared.
   CString& MakeUpper();
   CString& MakeLower();
   CString& MakeReverse(); // the order of characters, not of bytes
@@ -139,14 +139,14 @@ public:
   CString& TrimRight(char letter);
   CString& TrimRight(const char* set);
 
-  // The next piece between characters of `separators`, from `start` on; empty pieces are passed
-  // over. Sets `start` behind the separator that ends the piece. At the end it returns an empty
-  // string and sets `start` to -1, and so it does when called with that.
+  // The next piece between characters of `separators` from `start` on; empty pieces are skipped.
+  // Sets `start` behind the separator that ends the piece. At the end it returns an empty string
+  // and sets `start` to -1; so it does when called with -1.
   CString Tokenize(const char* separators, int& start) const;
 
   // printf-style, with the C standard's conversions on every platform. Arguments may point into the
-  // string itself. A format that cannot be carried out gives no text. User text is an argument,
-  // never the format.
+  // string itself. After a formatting error the string is empty. User text is an argument, never
+  // the format.
   void Format(const char* format, ...) TQ_PRINTF_MEMBER;
   void FormatV(const char* format, va_list arguments);
   void AppendFormat(const char* format, ...) TQ_PRINTF_MEMBER;
@@ -156,10 +156,10 @@ public:
   // It belongs to the string. Until ReleaseBuffer the string is neither copied nor used otherwise.
   char* GetBuffer(int minimum = 0);
   char* GetBufferSetLength(int length); // the same, with the length set; new bytes are zero
-  // Ends the writing: the text is `length` bytes, or for -1 goes to the first NUL. Clamped to the
-  // buffer.
+  // Ends writing. The text is the first `length` bytes, or with -1 ends at the first NUL. Clamped
+  // to the buffer.
   void ReleaseBuffer(int length = -1);
-  // Makes room for `capacity` bytes, so that appending up to there allocates nothing.
+  // Reserves room for `capacity` bytes, so that appending up to there does not allocate.
   void Preallocate(int capacity);
 
 private:
@@ -169,8 +169,8 @@ private:
   }
   const char* End() const noexcept { return m_text + GetLength(); }
   int Clamp(int position) const noexcept;
-  bool IsWritable(int capacity) const noexcept; // mine alone, with that much room
-  char* Writable(int capacity);                 // makes it so, keeping the text
+  bool IsWritable(int capacity) const noexcept; // unshared, with that capacity
+  char* Writable(int capacity);                 // ensures that and keeps the text
   void SetLength(int length) noexcept;
   void Keep(const char* from, const char* to); // a part of the text becomes all of it
   void Exchange(int index, int removed, const char* text, int length);
@@ -182,10 +182,10 @@ private:
 
 template <> inline constexpr bool tq::isRelocatable<CString> = true;
 
-// Joining, comparing and hashing, in all mixes with `const char*` and characters. A null
+// Concatenation, comparison and hashing, also mixed with `const char*` and characters. A null
 // `const char*` counts as an empty text; order is that of the bytes, as unsigned.
 
-// One allocation for the sum; none when the left side is a temporary that has room.
+// One allocation for the result; none when the left side is a temporary with enough capacity.
 TQFRAMEWORK_API CString operator+(const CString& left, const CString& right);
 TQFRAMEWORK_API CString operator+(const CString& left, const char* right);
 TQFRAMEWORK_API CString operator+(const char* left, const CString& right);
@@ -236,8 +236,8 @@ namespace tq {
 TQFRAMEWORK_API int CompareText(const CString& left, const CString& right);
 TQFRAMEWORK_API int CompareText(const CString& left, const char* right);
 
-// The same key for a string and for equal characters, so that a map of strings is asked without
-// one.
+// A string and equal characters have the same hash, so that a map of strings can be asked with
+// characters.
 inline size_t HashKey(const CString& text) {
   return SeededHash(text.GetString(), static_cast<size_t>(text.GetLength()));
 }

@@ -36,7 +36,7 @@ const char* CharSet::Walk(const char* at, const char* end, bool wanted) const {
 }
 
 const char* CharSet::TrimEnd(const char* at, const char* end) const {
-  if (m_doubles == m_end) { // only single bytes: from the end, which is where trimming mostly stops
+  if (m_doubles == m_end) { // single bytes only: backwards, which usually stops at once
     while (end != at && HoldsSingle(end[-1]) && IsCharStart(at, end - 1))
       --end;
     return end;

@@ -9,7 +9,7 @@ namespace tq {
 
 class CharSet {
 public:
-  // `characters` is read again by Holds and outlives the set; null is the empty set.
+  // `characters` must outlive the set, which reads it again; null is the empty set.
   explicit CharSet(const char* characters);
 
   // True when the character of `length` bytes at `at` is one of the set.
@@ -21,7 +21,7 @@ public:
   const char* FindIn(const char* at, const char* end) const { return Walk(at, end, true); }
   const char* FindOutside(const char* at, const char* end) const { return Walk(at, end, false); }
 
-  // The end of [at, end) without the set's characters at its end.
+  // The end of [at, end) once trailing characters of the set are trimmed.
   const char* TrimEnd(const char* at, const char* end) const;
 
 private:

@@ -1,4 +1,4 @@
-// The functions of CodePage.h that need no more of the platform than its lead bytes.
+// The functions of CodePage.h that need nothing of the platform but its lead bytes.
 #include "platform/CodePage.h"
 
 #include <cstring>
@@ -7,14 +7,14 @@ namespace tq {
 
 namespace {
 
-// True when the last byte is a lead byte that waits for a trail: such a text must not match the
-// first half of a character.
+// True when the text ends with a lead byte without a trail: it must not match the first half of a
+// character.
 bool EndsInHalf(const char* text, size_t length) {
   return IsLeadByte(text[length - 1]) && IsCharStart(text, text + length - 1);
 }
 
-// A single-byte first character is found by memchr, and the few hits are then checked. The look
-// back of IsCharStart passes over no byte twice, since the byte at each hit is not a lead byte.
+// A single-byte first character is found by memchr, and the few hits are checked. IsCharStart looks
+// at no byte twice in all, since the byte at each hit is not a lead byte.
 const char* FindFromSingle(const char* text, const char* end, const char* wanted, size_t length) {
   for (const char* at = text; length <= static_cast<size_t>(end - at); ++at) {
     const size_t room = static_cast<size_t>(end - at) - length + 1;

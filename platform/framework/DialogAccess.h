@@ -1,4 +1,4 @@
-// How a back end reaches the handlers and the state of a dialog. Internal.
+// A back end's access to the handlers and the state of a dialog. Internal.
 #pragma once
 
 #include "platform/framework/CDialog.h"
@@ -16,7 +16,7 @@ struct DialogAccess {
   static bool HasEnded(const CDialog& dialog) { return dialog.ended_; }
 
   static bool Init(CDialog& dialog) { return dialog.OnInitDialog(); }
-  // A dialog that has ended hears none of the following any more.
+  // None of the following is delivered to a dialog that has ended.
   // OnOK and OnCancel for buttons 1 and 2, else OnCommand.
   static void Command(CDialog& dialog, int id, ControlEvent event);
   static void Notify(CDialog& dialog, int id, const ListNotice& notice);

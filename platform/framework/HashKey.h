@@ -1,4 +1,4 @@
-// Hash values for the keys of a CMap. They serve one run of a process and are never stored.
+// Hash values for the keys of a CMap. They are valid in one process and never stored.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace tq {
 
-// Spreads a number over all bits of the result, the low ones too, which pick the bucket.
+// Mixes a number into all bits of the result; the low ones select the bucket.
 inline size_t MixBits(uint64_t value) {
   constexpr uint64_t odd = 0x9E3779B97F4A7C15u;
   value = (value ^ (value >> 32)) * odd;
@@ -19,8 +19,7 @@ inline size_t MixBits(uint64_t value) {
   return static_cast<size_t>(value ^ (value >> 32));
 }
 
-// Characters up to their NUL, not the address; null counts as empty, as everywhere in the
-// framework.
+// Of the characters up to the NUL, not of the address. Null counts as empty.
 inline size_t HashKey(const char* text) {
   return SeededHash(text, text == nullptr ? 0 : std::strlen(text));
 }
@@ -28,7 +27,7 @@ inline size_t HashKey(char* text) {
   return HashKey(static_cast<const char*>(text));
 }
 
-// Numbers and named constants by value, other pointers by address, the rest by std::hash.
+// Integers and enumerations by value, other pointers by address, everything else by std::hash.
 template <class KEY> size_t HashKey(const KEY& key) {
   if constexpr (std::is_integral_v<KEY> || std::is_enum_v<KEY>)
     return MixBits(static_cast<uint64_t>(key));

@@ -27,7 +27,7 @@ bool IsListKey(Key key, Held held) {
 int TargetOf(const KeyedList& list, Key key, bool leavesCaret) {
   const int caret = list.Caret();
   const int last = list.Count() - 1;
-  const int page = std::max(1, list.RowsInSight() - 1); // one row stays for the eye
+  const int page = std::max(1, list.RowsInSight() - 1); // one row stays in sight
   switch (key) {
   case Key::Up:
     return leavesCaret ? caret : std::max(0, caret - 1);

@@ -1,12 +1,11 @@
-// What the keys do in a list, the same with every kind of windows; the rules stand in CListBox.h.
-// Internal.
+// What keys do in a list, the same for every kind of window. The rules are in CListBox.h. Internal.
 #pragma once
 
 #include "platform/framework/WindowTypes.h"
 
 namespace tq {
 
-// A list as its keys see it. Rows that are named here are there.
+// The list that keys act on. Row numbers given to it are valid.
 class KeyedList {
 public:
   virtual ~KeyedList() = default;
@@ -26,7 +25,7 @@ public:
   virtual void SetCaret(int row) = 0;
 };
 
-// What a combo box answers for RowsInSight: how much its list shows is the system's matter.
+// A combo box returns this for RowsInSight: the system decides how many rows its list shows.
 inline constexpr int kComboPage = 10;
 
 enum class ListKeyResult {

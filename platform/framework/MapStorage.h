@@ -1,5 +1,6 @@
-// The entries of a CMap in memory: nodes in blocks, chained by hash and in order. Internal to
-// CMap.h, whose conventions hold.
+// The memory of a CMap: a chained hash table whose nodes, allocated in blocks, are also linked in
+// order of insertion. Internal to CMap.h, whose conventions hold. Not a standard container, because
+// the layout is part of the interface and must not depend on a standard library or its settings.
 #pragma once
 
 #include <climits>
@@ -18,8 +19,8 @@ template <class KEY, class VALUE> struct MapPair {
 
 template <class KEY, class VALUE> struct MapStorage {
   struct Node : MapPair<KEY, VALUE> {
-    Node* chain; // the next one in the same bucket
-    Node* next;  // the ones set after and before it
+    Node* chain; // the next in the same bucket
+    Node* next;  // in order of insertion, as `previous`
     Node* previous;
     size_t hash;
   };
@@ -67,14 +68,14 @@ template <class KEY, class VALUE> struct MapStorage {
     return false;
   }
 
-  // Gives the table at least `wanted` buckets.
+  // Grows the table to at least `wanted` buckets.
   void ResizeTable(size_t wanted) {
     size_t buckets = m_table == nullptr ? kLeastBuckets : m_mask + 1;
     while (buckets < wanted)
       buckets *= 2;
     if (m_table != nullptr && buckets == m_mask + 1)
       return;
-    const size_t bytes = buckets * sizeof(void*); // each the first node of a chain
+    const size_t bytes = buckets * sizeof(void*); // a bucket points to the first node of its chain
     FreeStorage(m_table);
     m_table = static_cast<Node**>(AllocateStorage(bytes));
     std::memset(m_table, 0, bytes);
@@ -101,11 +102,11 @@ template <class KEY, class VALUE> struct MapStorage {
 private:
   static constexpr size_t kLeastBuckets = 16;
 
-  // Room of a node that is not in use.
+  // The memory of a node that was removed.
   struct FreeNode {
     FreeNode* next;
   };
-  // In front of the nodes of a block.
+  // The header of a block, in front of its nodes.
   struct alignas(std::max_align_t) Block {
     Block* next;
   };
@@ -124,7 +125,7 @@ private:
     --count;
   }
 
-  // Blocks double with the map, so that filling a large one asks for few.
+  // Each block doubles the map's capacity, so that a large map has few.
   void* TakeNode() {
     if (m_free == nullptr && m_left == 0) {
       const size_t nodes = static_cast<size_t>(count > m_blockSize ? count : m_blockSize);
@@ -143,11 +144,11 @@ private:
   }
 
   Node** m_table = nullptr;
-  size_t m_mask = 0; // number of buckets, a power of two, less one
+  size_t m_mask = 0; // the number of buckets, a power of two, minus one
   Node* m_last = nullptr;
   FreeNode* m_free = nullptr;
-  Node* m_fresh = nullptr; // the nodes of the newest block that were never in use
-  size_t m_left = 0;       // how many
+  Node* m_fresh = nullptr; // the unused nodes of the newest block,
+  size_t m_left = 0;       // and their number
   Block* m_blocks = nullptr;
   int m_blockSize;
 };

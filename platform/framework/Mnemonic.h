@@ -1,10 +1,10 @@
-// The letters that controls are reached by. Internal.
+// The letters by which controls are reached with Alt. Internal.
 #pragma once
 
 namespace tq {
 
-// The letter or digit behind the ampersand of a label's or button's text, as a capital; 0 when
-// there is none. Two ampersands are one that is shown. No trail byte of a double-byte character is
+// The letter or digit behind the ampersand in a label's or button's text, in upper case; 0 when
+// there is none. A doubled ampersand is a literal one. No trail byte of a double-byte character is
 // an ampersand.
 char MnemonicOf(const char* text);
 // `letter` as MnemonicOf gives them, 0 when it is neither letter nor digit.

@@ -1,9 +1,9 @@
-// The resources in force: whose dialog templates and strings are looked up. Each library has its
-// own, and a terminal's libraries call each other: so an operation that opens a dialog puts its
-// library's own in force and whatever was before back in force when it returns, on every path. A
+// The current resources: those in which dialog templates and strings are looked up. Each library
+// has its own, and a terminal's libraries call each other. So an operation that opens a dialog
+// makes its own library's resources current and restores the previous ones on every path. A
 // ResourceContext on its stack does both.
 //
-// All of it belongs to the thread on which the terminal's windows are.
+// For the thread of the terminal's windows only.
 #pragma once
 
 #include "platform/framework/CString.h"

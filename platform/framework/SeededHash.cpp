@@ -9,7 +9,7 @@
 namespace tq {
 namespace {
 
-// 0 where the system has no source.
+// 0 when the system has no source of random numbers.
 uint64_t RandomWord() {
   try {
     std::random_device source;
@@ -19,8 +19,8 @@ uint64_t RandomWord() {
   }
 }
 
-// What differs from one start to the next even without a source of random numbers: the clock, and
-// where the system puts the library.
+// Differs from start to start even without a source of random numbers: the clock and the address at
+// which the system loads the library.
 uint64_t StartWord() {
   static const char place = 0;
   const auto time = std::chrono::steady_clock::now().time_since_epoch().count();
@@ -33,7 +33,7 @@ HashSeed MakeSeed() {
   return {low | 1, (RandomWord() ^ std::rotl(start, 32)) | 1};
 }
 
-// SipHash with one round for each word and three at the end: made for hash tables under attack.
+// SipHash-1-3: one round a word, three at the end. Made for hash tables that may be attacked.
 class Sip {
 public:
   explicit Sip(const HashSeed& seed)
@@ -82,8 +82,8 @@ constexpr uint64_t EachByte(uint64_t byte) {
   return byte * 0x0101010101010101u;
 }
 
-// Lower-cases the ASCII letters among eight bytes. Second bytes of characters are taken for letters
-// too: texts that count as equal still come out equal.
+// Lower-cases the ASCII letters among eight bytes. Trail bytes that look like letters are changed
+// too, which is harmless: equal texts still have equal values.
 uint64_t Folded(uint64_t word) {
   const uint64_t low = word & EachByte(0x7F);
   const uint64_t fromA = low + EachByte(0x80 - 'A');

@@ -1,7 +1,7 @@
-// Hash values of text that anybody may have written: ids of a file, of an import, of the user.
+// Hash values of untrusted text: ids of a file, of an import, of the user.
 //
-// The values depend on a secret of the process, so nobody can prepare thousands of ids that share
-// one value and turn a hash table into a list. They serve one run and are never stored. Any thread;
+// They depend on a random seed of the process, so nobody can craft thousands of ids that collide
+// and turn a hash table into a list. They are valid in one process and never stored. Any thread;
 // nothing allocates or fails.
 #pragma once
 
@@ -13,7 +13,7 @@
 
 namespace tq {
 
-// The secret: two odd numbers, other ones in every process.
+// The seed: two odd numbers, different in every process.
 struct HashSeed {
   std::uint64_t low;
   std::uint64_t high;
@@ -21,7 +21,7 @@ struct HashSeed {
 TQFRAMEWORK_API const HashSeed& ProcessHashSeed();
 
 TQFRAMEWORK_API size_t SeededHash(const char* text, size_t length);
-// The same for texts that differ in the case of ASCII letters only.
+// Texts that differ only in the case of ASCII letters have equal values.
 TQFRAMEWORK_API size_t SeededHashNoCase(const char* text, size_t length);
 
 inline size_t SeededHash(std::string_view text) {

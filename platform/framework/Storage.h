@@ -1,6 +1,5 @@
-// Where strings, arrays and maps get their memory. All of it is allocated and freed inside this
-// library, so that an object filled in one module may be emptied in another that has a heap of its
-// own.
+// The memory of strings, arrays and maps. It is allocated and freed in this library only, so that
+// an object filled in one module may be emptied in another module that has a heap of its own.
 #pragma once
 
 #include <cstddef>
@@ -10,16 +9,15 @@
 
 namespace tq {
 
-// Raw storage of `bytes` bytes, aligned for any plain type. Never null: a terminal that is out of
-// memory is stopped with a line on the standard error stream, since nothing may throw across the
+// Allocates `bytes` bytes, aligned for any plain type. Never null: when memory runs out the process
+// is stopped with a line on the standard error stream, since nothing may throw across the
 // interface.
 TQFRAMEWORK_API void* AllocateStorage(size_t bytes);
 
-// The same storage at another size, its bytes kept; the old address is no longer valid. Null
-// allocates.
+// Resizes storage and keeps its bytes; the old address becomes invalid. A null `storage` allocates.
 TQFRAMEWORK_API void* ResizeStorage(void* storage, size_t bytes);
 
-// Frees what the two above returned. Null is allowed.
+// Frees storage from the two functions above. Null is allowed.
 TQFRAMEWORK_API void FreeStorage(void* storage);
 
 // Stops the program as AllocateStorage does, for a size that cannot be expressed.
@@ -28,8 +26,8 @@ TQFRAMEWORK_API void FreeStorage(void* storage);
 // Called with the size at each allocation and each resize, on the thread that makes it.
 using StorageObserver = void (*)(size_t bytes);
 
-// Puts in an observer, null for none, and returns the one before. For tests and benchmarks that
-// hold an operation to "allocates nothing"; without one an allocation pays a single load for this.
+// Replaces the observer, null for none, and returns the one before. For tests and benchmarks that
+// check that an operation allocates nothing. Without an observer this costs an allocation one load.
 TQFRAMEWORK_API StorageObserver SetStorageObserver(StorageObserver observer);
 
 // True for a type whose objects may be moved to another address as bytes.

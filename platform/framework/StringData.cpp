@@ -10,7 +10,7 @@ namespace tq {
 namespace {
 
 constexpr int kUncounted = -1;
-// Blocks are rounded to what the allocator gives out anyway; the slack serves later appends.
+// Block sizes are rounded up as the allocator does anyway; the slack serves later appends.
 constexpr size_t kBlockStep = 8;
 
 } // namespace

@@ -1,5 +1,4 @@
-// Lengths of the framework's strings are int; this keeps arithmetic with them inside its bounds.
-// Internal.
+// Arithmetic with string lengths, which are int, without overflow. Internal.
 #pragma once
 
 #include <climits>
@@ -9,7 +8,7 @@
 
 namespace tq {
 
-// The length of a NUL-terminated text, 0 for null. Stops the program where an int cannot hold it.
+// The length of a NUL-terminated text, 0 for null. Stops the program when it does not fit an int.
 inline int LengthOf(const char* text) {
   const size_t length = text == nullptr ? 0 : std::strlen(text);
   if (length > INT_MAX)
@@ -17,7 +16,7 @@ inline int LengthOf(const char* text) {
   return static_cast<int>(length);
 }
 
-// The sum of two lengths; stops the program where an int cannot hold it.
+// The sum of two lengths. Stops the program when it does not fit an int.
 inline int SumOf(int left, int right) {
   if (left > INT_MAX - right)
     OutOfMemory();

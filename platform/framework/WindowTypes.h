@@ -1,7 +1,7 @@
-// The words that the window layer speaks with: handles, events, keys, and how a row looks. No type
-// and no name of the operating system's headers is needed, and none is disturbed: the headers of
-// this layer compile before and after <windows.h>, and no method has the name of one of its macros
-// (so it is SetText and Post here, where the system's functions are SetWindowText and PostMessage).
+// The vocabulary of the window layer: handles, events, keys, and how a row looks. It needs no type
+// of the operating system's headers: the headers of this layer compile before and after
+// <windows.h>, and no method is named like one of its macros (hence SetText and Post, where the
+// system's functions are SetWindowText and PostMessage).
 #pragma once
 
 // On Windows this is the HWND itself. Elsewhere it is a number that only this layer understands; it
@@ -9,8 +9,8 @@
 struct HWND__; // NOLINT(bugprone-reserved-identifier): the system names it so
 using WindowHandle = HWND__*;
 
-// What a control tells its dialog, and only because of something that the user did: no operation of
-// this layer that changes a control ever makes one.
+// What a control tells its dialog. Only actions of the user cause events, never an operation of
+// this layer that changes a control.
 enum class ControlEvent {
   Clicked, // button: clicked, or its key pressed
   // List box, combo box: the user chose. A click on a row tells so always, also where that row was

@@ -10,7 +10,7 @@ using namespace tq::headless;
 
 namespace {
 
-// A control that is given as the parent stands for its dialog.
+// A control given as the parent means its dialog.
 WindowHandle DialogOf(WindowHandle parent) {
   const Control* const control = FindControl(parent);
   return control == nullptr ? parent : control->owner->handle;
@@ -41,7 +41,7 @@ void FocusFirst(Dialog& dialog) {
   }
 }
 
-// Nobody is there who could end the dialog: the user is taken to give up.
+// Nothing is left that could end the dialog: as if the user gave up.
 void GiveUp(CDialog& object) {
   tq::DialogAccess::Command(object, CDialog::Cancelled, ControlEvent::Clicked);
   if (!tq::DialogAccess::HasEnded(object))

@@ -19,7 +19,7 @@ void PutCaretAt(Control& edit, int byte) {
   edit.selectionEnd = byte;
 }
 
-// Puts `text` in the place of the bytes from `from` to `to`.
+// Replaces the bytes from `from` to `to` by `text`.
 void Exchange(Control& edit, int from, int to, const CString& text) {
   edit.text = edit.text.Left(from) + text + edit.text.Mid(to);
   PutCaretAt(edit, from + text.GetLength());

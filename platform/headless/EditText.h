@@ -5,12 +5,12 @@
 
 namespace tq::headless {
 
-// One character (one or two bytes) in the place of what is selected; "\b" takes back the one before
-// the caret. True when the text is another one now.
+// Types one character (one or two bytes) over the selection; "\b" deletes the character before the
+// caret. True when the text changed.
 bool TypeCharacter(Control& edit, const CString& character);
-// The Delete key: what is selected, or the character behind the caret. True as above.
+// The Delete key: deletes the selection, or the character behind the caret. True as above.
 bool DeleteForward(Control& edit);
-// The Home and End keys; `selects` what the caret passes over.
+// The Home and End keys; with `selects` the caret selects what it passes.
 void PutCaret(Control& edit, Key key, bool selects);
 
 } // namespace tq::headless

@@ -12,7 +12,7 @@ void Tell(Control& control, ControlEvent event) {
     DialogAccess::Command(*control.owner->object, control.id, event);
 }
 
-// The place of the control among the dialog's; their count when it is none of them.
+// The index of the control among the dialog's; their count when it is none of them.
 size_t IndexOf(const Dialog& dialog, const Control* control) {
   size_t at = 0;
   while (at < dialog.controls.size() && dialog.controls[at].get() != control)
@@ -20,8 +20,8 @@ size_t IndexOf(const Dialog& dialog, const Control* control) {
   return at;
 }
 
-// Of the controls behind `from` and around, or in front of it, the first that can take the focus;
-// null when there is none but itself.
+// The first control behind `from` (or before it), continuing at the other end, that can take the
+// focus; null when there is none but itself.
 Control* NextOf(const Dialog& dialog, const Control* from, bool backwards) {
   const size_t count = dialog.controls.size();
   if (count == 0)
@@ -37,7 +37,7 @@ Control* NextOf(const Dialog& dialog, const Control* from, bool backwards) {
   return nullptr;
 }
 
-// What the letter leads to; null when nothing.
+// The control that the letter leads to, or null.
 Control* FindMnemonic(const Dialog& dialog, char letter) {
   const size_t count = dialog.controls.size();
   const size_t from = IndexOf(dialog, dialog.focus);

@@ -5,15 +5,15 @@
 
 namespace tq::headless {
 
-// The focus goes there, with the events of the edits that lose and gain it. False when a handler
-// ended the dialog or moved the focus on: then what moved it has no further effect.
+// Moves the focus, with the events of the edits that lose and gain it. False when a handler ended
+// the dialog or moved the focus elsewhere: then the action that moved it has no further effect.
 bool MoveFocus(Control& control);
 // Tab: the next control that can take it, or the one before.
 void FocusNext(Dialog& dialog, bool backwards);
-// When the control has the focus and cannot take it any more, the next one gets it, and nobody is
-// told.
+// If the control has the focus and can no longer have it, moves the focus to the next one, without
+// events.
 void LeaveIfClosed(const Control& control);
-// All of an edit's text, as where the focus arrives by key or program.
+// Selects all of an edit's text, as when it gets the focus by key or program.
 void SelectText(Control& control);
 
 // OnOK or OnCancel, unless the template has that button and it is disabled.

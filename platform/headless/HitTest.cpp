@@ -6,7 +6,7 @@ namespace tq::headless {
 
 namespace {
 
-// In dialog units, of which a line of text has eight from top to bottom.
+// In dialog units; a line of text is eight units high.
 constexpr int kRowHeight = 8;
 constexpr int kByteWidth = 4; // a full-width character is two bytes and twice as wide
 constexpr int kBorder = 1;

@@ -21,12 +21,12 @@ void DropMessages(WindowHandle dialog);
 
 void StartTimer(Dialog& dialog, unsigned id, unsigned milliseconds);
 
-// Delivers the message that has waited longest. False when none waits.
+// Delivers the oldest waiting message. False when there is none.
 bool DeliverMessage();
-// Moves the clock to the next timer that is due, of all dialogs, and calls it. False when none is
-// set, or none comes until that time.
+// Advances the clock to the next timer due of all dialogs and calls its handler. False when none is
+// set, or none is due until that time.
 bool FireTimer(uint64_t until = UINT64_MAX);
-// So much time goes by, with all that arrives in it.
+// Lets that much time pass and delivers everything that becomes due.
 void Rest(unsigned milliseconds);
 
 // The dialogs that are up, the innermost last.

@@ -9,8 +9,8 @@ namespace {
 constexpr unsigned kFirstNumber = 0xC000;
 constexpr int kNumbers = 0x4000;
 
-// Made by the first call, for libraries register their names before this file's own objects need be
-// there.
+// Constructed by the first call: libraries register names during their initialisation, perhaps
+// before that of this file.
 CMap<CString, const char*, unsigned, unsigned>& Numbers() {
   static CMap<CString, const char*, unsigned, unsigned> numbers;
   return numbers;

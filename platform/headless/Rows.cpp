@@ -6,7 +6,7 @@ namespace tq::headless {
 
 namespace {
 
-// Where a row is when another one came, or went.
+// The number of a row after another one was inserted, or deleted.
 int AfterInsert(int row, int came) {
   return row >= came ? row + 1 : row;
 }

@@ -15,7 +15,8 @@ struct Row {
   bool selected = false;
 };
 
-// Counts from 0; -1 is "none". Out of range nothing changes, and false, -1 or null is the answer.
+// Rows count from 0; -1 means none. A row out of range changes nothing and returns false, -1 or
+// null.
 class Rows {
 public:
   int Count() const { return isVirtual_ ? static_cast<int>(marks_.size()) : HeldCount(); }
@@ -24,13 +25,13 @@ public:
   int Insert(int row, const char* text); // -1: at the end
   bool Remove(int row);
   void Clear();
-  // Rows without content: only how many, and which of them are selected.
+  // Virtual rows: only their number and selection are stored.
   void MakeVirtual() { isVirtual_ = true; }
   void SetVirtualCount(int count);
 
   bool SelectOnly(int row); // makes it the caret row too; -1 clears the selection
   bool Select(int row, bool select);
-  // Selects the rows from one to the other and no others.
+  // Selects exactly the rows from one to the other.
   void SelectRange(int from, int to);
   bool IsSelected(int row) const;
   int NextSelected(int after) const;

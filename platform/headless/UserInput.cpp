@@ -11,13 +11,14 @@ namespace tq::headless {
 namespace {
 
 constexpr int kBeside = -1;
-constexpr unsigned kSystemHoverTime = 400; // where a list view has none of its own
+constexpr unsigned kSystemHoverTime =
+    400; // milliseconds, for list views without a time of their own
 
 bool IsOpen(const Dialog& dialog) {
   return dialog.enabled && dialog.visible && !DialogAccess::HasEnded(*dialog.object);
 }
 
-// The control, if the mouse is let in.
+// The control, if it accepts the mouse.
 Control* FindOpen(WindowHandle handle) {
   Control* const control = FindControl(handle);
   return control != nullptr && IsOpen(*control->owner) && control->TakesFocus() ? control : nullptr;
@@ -33,7 +34,7 @@ bool HasSpaceBeside(const Control& list) {
   return list.rows.Count() < list.rows.Page();
 }
 
-// The list, if the mouse can reach the row, to which the user scrolls.
+// The list, scrolled to the row, if the mouse can reach it.
 Control* ReachRow(WindowHandle handle, int row) {
   Control* const list = FindOpen(handle);
   if (list == nullptr || !list->HasRows() || list->kind == ControlKind::ComboBox)
@@ -46,7 +47,7 @@ Control* ReachRow(WindowHandle handle, int row) {
   return IsRowReached(*list, row) ? list : nullptr;
 }
 
-// What a click with this modifier selects. True when the selection is another one now.
+// Selects what a click with this modifier selects. True when the selection changed.
 bool SelectByMouse(Control& control, int row, Modifier modifier) {
   Rows& rows = control.rows;
   std::vector<int> before;

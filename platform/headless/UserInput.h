@@ -1,11 +1,10 @@
-// What a user can do to windows in memory, with everything that follows from it: for tests that act
-// as the user, and for nothing else. The library does not call it.
+// What a user can do to windows in memory, with all consequences. For tests that act as the user;
+// the library does not call it.
 //
-// Each operation returns false, and nothing happens, when the user could not do it: the dialog is
-// not up or lies behind another, the control is disabled, hidden or of another kind, the row is not
-// there, or another control lies in front of where the mouse would have to be (in the middle of the
-// control, of the row). Handlers have returned when the operation does; messages that they posted
-// are still waiting.
+// An operation that the user could not do returns false and does nothing: the dialog is not up or
+// lies behind another, the control is disabled, hidden or of another kind, the row does not exist,
+// or another control covers the point of the mouse (the centre of the control or row). When an
+// operation returns, handlers have returned; messages that they posted are still waiting.
 #pragma once
 
 #include <vector>
@@ -24,7 +23,7 @@ struct ControlView {
 };
 TQFRAMEWORK_API std::vector<ControlView> ControlsOf(WindowHandle dialog);
 
-// Windows that are there, dialogs and controls: after a run as many as before it.
+// The number of existing windows, dialogs and controls: the same after a run as before it.
 TQFRAMEWORK_API size_t WindowCount();
 
 // A click on a button or an edit. The focus goes there.

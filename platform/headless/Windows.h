@@ -80,7 +80,7 @@ struct Dialog : Node {
 // hidden.
 std::unique_ptr<Dialog> MakeDialog(unsigned templateId);
 
-// Every window that is there, by its handle. A handle is given once.
+// All existing windows by handle. Handles are never reused.
 void Register(Node& node);
 void Forget(const Node& node);
 size_t NodeCount();

@@ -16,7 +16,7 @@ constexpr LeadByteTable BuildLeadBytes() {
 
 } // namespace
 
-// A constant: static strings of other modules may be worked on before this module's own start.
+// A constant: other modules' static strings may be used before this module's initialisation.
 constinit const LeadByteTable leadBytes = BuildLeadBytes();
 
 } // namespace tq

@@ -8,7 +8,7 @@
 namespace tq {
 namespace {
 
-constexpr char kEuroInGbk = '\x80'; // Windows' code page has it, iconv's table does not
+constexpr char kEuroInGbk = '\x80'; // in Windows' code page 936, but not in iconv's table
 constexpr char32_t kEuroSign = 0x20AC;
 constexpr char kEuroInUtf8[] = "\xE2\x82\xAC";
 constexpr std::size_t kUtf8PerByte = 2; // a double-byte character takes three or four
@@ -19,7 +19,8 @@ const char* TableName(unsigned codePage) {
   return codePage == kCodePageBig5 ? "CP950" : "CP936";
 }
 
-// Runs the table over `text`; returns the bytes taken. `utf8` grows by what came out.
+// Decodes `text` up to the first error and appends the result to `utf8`. Returns the bytes
+// consumed.
 std::size_t DecodeRun(iconv_t table, std::string_view text, std::string& utf8) {
   const std::size_t start = utf8.size();
   utf8.resize(start + text.size() * kUtf8PerByte);

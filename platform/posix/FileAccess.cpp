@@ -29,7 +29,7 @@ FileStamp StampOf(const struct stat& info) {
 
 class PosixReadSteps : public ReadSteps {
 public:
-  // The file is the caller's.
+  // The caller keeps the file and closes it.
   explicit PosixReadSteps(int file) : file_(file) {}
 
   bool Stamp(FileStamp& stamp) override {
@@ -60,7 +60,7 @@ private:
   const int file_;
 };
 
-// Of errno, after a call that takes a path has failed.
+// Whether errno, after a failed call that takes a path, means that there is no such file.
 bool IsMissing() {
   return errno == ENOENT || errno == ENOTDIR;
 }
@@ -112,8 +112,8 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  // Never destroyed, for files may be asked for until the process ends, and without storage of its
-  // own, for the library may be unloaded long before that.
+  // Never destroyed, since files may be used until the process ends, and not on the heap, where it
+  // would leak when the library is unloaded earlier.
   alignas(PosixFiles) static unsigned char room[sizeof(PosixFiles)];
   static PosixFiles* const files = new (room) PosixFiles;
   return *files;

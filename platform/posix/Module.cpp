@@ -25,7 +25,7 @@ std::string OwnModulePath() {
   char full[PATH_MAX];
   if (::dladdr(&kInThisModule, &info) != 0 && info.dli_fname != nullptr)
     path = info.dli_fname;
-  // A program is known by the name that started it, which says where it lies only with a directory.
+  // A program is reported under the name that started it, which may lack the directory.
   if (path.find('/') == std::string::npos)
     path = ProgramPath();
   else if (path[0] != '/')

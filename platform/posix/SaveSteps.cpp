@@ -17,8 +17,8 @@ constexpr int kLockTries = 50;
 constexpr useconds_t kLockPause = 10'000; // microseconds; together the half second of FileAccess.h
 constexpr mode_t kNewFileMode = 0666;     // less the process's umask
 
-// Follows the symbolic links of the file itself, also when the last names nothing yet. A chain that
-// is too long is returned as it is and fails when it is opened.
+// Resolves symbolic links of the file itself, even if the last one points to nothing yet. Opening
+// the result of a chain that is too long fails.
 std::string FollowLinks(std::string path) {
   char link[PATH_MAX];
   for (int i = 0; i < kLongestLinkChain; ++i) {
@@ -33,9 +33,9 @@ std::string FollowLinks(std::string path) {
   return path;
 }
 
-// Errors that concern the way of replacing (rights on the directory, a file mounted on its own, a
-// name without room for the suffix, something under the temporary name that is no file), not the
-// disk.
+// Distinguishes errors that concern only the replacing (rights on the directory, a file that is a
+// mount point, a name without room for the suffix, a temporary name that is not a file's) from
+// those of the disk.
 StepResult WhyNotReplaced() {
   switch (errno) {
   case EACCES:
@@ -54,7 +54,8 @@ StepResult WhyNotReplaced() {
   }
 }
 
-// One call, except that the kernel takes at most 2 GiB of it and a signal may come first.
+// One call, repeated only when a signal interrupts it before it wrote. The kernel writes at most 2
+// GiB.
 std::size_t WriteOnce(int file, const void* bytes, std::size_t size) {
   ssize_t written;
   do {
@@ -127,16 +128,16 @@ StepResult PosixSaveSteps::OpenTarget() {
   return existed_ ? StepResult::Ok : StepResult::Failed;
 }
 
-// Whether the file that is open still bears the temporary name.
+// Whether the open file still has the temporary name.
 bool PosixSaveSteps::IsTemporary(const struct stat& open) const {
   struct stat named;
   return ::stat(temporary_.c_str(), &named) == 0 && named.st_ino == open.st_ino &&
          named.st_dev == open.st_dev;
 }
 
-// The lock keeps a second process from writing into a temporary file that is about to take the
-// target's place; it goes with the process that holds it. Failed when somebody else holds it
-// throughout.
+// The lock keeps a second process from writing into a temporary file that is about to replace the
+// target; the kernel releases it when its process ends. Failed when another process holds it all
+// the time.
 StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
   for (int i = 0; i < kLockTries; ++i) {
     if (!temporaryFile_.Open(temporary_, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK,
@@ -147,13 +148,13 @@ StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
     if (!S_ISREG(locked.st_mode))
       return StepResult::Refused;
     if (locked.st_nlink > 1 && IsTemporary(locked)) {
-      // No save made this: it is a second name of another file, perhaps of the target itself. The
-      // name goes, the file stays.
+      // A hard link to another file, perhaps to the target, which no save creates. Only this name
+      // is removed.
       if (::unlink(temporary_.c_str()) != 0 && errno != ENOENT)
         return WhyNotReplaced();
       continue;
     }
-    // A file system without locks is used without.
+    // On a file system without locks the save goes on without one.
     if (::flock(temporaryFile_.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) {
       if (::fstat(temporaryFile_.Get(), &locked) != 0)
         return StepResult::Failed;
@@ -166,7 +167,7 @@ StepResult PosixSaveSteps::LockTemporary(struct stat& locked) {
   return StepResult::Failed;
 }
 
-// `left` is the temporary file as it was found, perhaps with what a killed save left in it.
+// `left` describes the temporary file as it was found; a killed save may have left bytes in it.
 StepResult PosixSaveSteps::EmptyTemporary(const struct stat& left) {
   const int file = temporaryFile_.Get();
   if (left.st_size != 0 && ::ftruncate(file, 0) != 0)
@@ -235,7 +236,7 @@ bool PosixSaveSteps::ReserveTarget(std::size_t size) {
     return true;
   if (::posix_fallocate(targetFile_.Get(), old_.st_size, wanted - old_.st_size) == 0)
     return true;
-  // Whether or not it grew: on failure the old file has its old length.
+  // On failure the old file gets its old length back, whether or not it grew.
   [[maybe_unused]] const int cut = ::ftruncate(targetFile_.Get(), old_.st_size);
   return false;
 }

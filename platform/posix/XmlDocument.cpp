@@ -14,7 +14,7 @@
 namespace tq {
 namespace {
 
-// Own bounds stand before the parser's (XmlText.h); errors are the caller's to report.
+// The library's own limits (XmlText.h) replace the parser's; errors are reported by the caller.
 constexpr int kParserOptions =
     XML_PARSE_NONET | XML_PARSE_HUGE | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_COMPACT;
 
@@ -35,9 +35,8 @@ bool IsElement(const xmlNode* node, std::string_view name) {
   return node->type == XML_ELEMENT_NODE && node->ns == nullptr && TextOf(node->name) == name;
 }
 
-// Whether the parser has told of memory that it did not get, while one of these lives. It does not
-// always take that for an error of the document; and what it says last is often another error that
-// came of it.
+// Notices whether the parser reports a lack of memory while this object lives. The parser does not
+// always treat that as an error of the document, and its last error is often a consequence of it.
 class MemoryWatch {
 public:
   MemoryWatch() : handler_(xmlStructuredError), argument_(xmlStructuredErrorContext) {
@@ -55,12 +54,12 @@ private:
       static_cast<MemoryWatch*>(watch)->lacked_ = true;
   }
 
-  const xmlStructuredErrorFunc handler_; // of this thread, and the terminal's
+  const xmlStructuredErrorFunc handler_; // the terminal's, for this thread
   void* const argument_;
   bool lacked_ = false;
 };
 
-// An attribute's value lies in one node, unless references stand in it.
+// An attribute's value is a single text node, unless it contains references.
 void AssignValue(const xmlAttr* attribute, bool carried, CString& value) {
   const xmlNode* part = attribute->children;
   if (part == nullptr || (part->next == nullptr && part->type == XML_TEXT_NODE)) {
@@ -84,7 +83,7 @@ bool TakeName(std::string_view& path, std::string_view& name) {
   return true;
 }
 
-// Calls take(node) for the elements at `path` under `siblings`, in document order, until it is
+// Calls take(node) for the elements at `path` below `siblings`, in document order, until it returns
 // false.
 template <typename Take> bool Walk(xmlNode* siblings, std::string_view path, const Take& take) {
   std::string_view name;
@@ -178,8 +177,8 @@ XmlDocument::~XmlDocument() {
   xmlFreeDoc(static_cast<xmlDoc*>(state_));
 }
 
-// No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though
-// the same, would cost a copy.
+// No encoding is passed: the parser takes the text for UTF-8 anyway, and passing one would make it
+// copy the text.
 XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
   const MemoryWatch watch;
   state_ =

@@ -24,9 +24,8 @@ constexpr uint16_t kPictures[kIcons][kSize] = {
      0x001C, 0x000E, 0x0006, 0},
 };
 
-// Black where the picture is, elsewhere what is behind. In colour, although one colour would do:
-// Wine takes the size of a picture from its colours, and puts one without them beside the middle of
-// the button.
+// Black on a transparent background. A colour bitmap, although two colours would do: Wine takes the
+// size of an icon from its colour bitmap and does not centre one that has none.
 HICON MakeIcon(const uint16_t (&picture)[kSize]) {
   BYTE keep[kSize * 2];
   static constexpr BYTE black[kSize * kSize * 4] = {};
@@ -37,7 +36,7 @@ HICON MakeIcon(const uint16_t (&picture)[kSize]) {
   return ::CreateIcon(nullptr, kSize, kSize, 1, 32, keep, black);
 }
 
-// Made once and kept for the life of the process: every dialog shows the same few.
+// Created once and kept until the process ends: every dialog shows the same few.
 HICON IconOf(int number) {
   static HICON icons[kIcons] = {};
   if (number != 0 && icons[number] == nullptr)

@@ -21,7 +21,7 @@ WPARAM Number(int index) {
   return static_cast<WPARAM>(index);
 }
 
-// The control does not move its choice when an entry in front of it comes or goes.
+// The control does not adjust its selection when an entry before it is inserted or deleted.
 void Choose(HWND combo, int index) {
   if (Ask(combo, CB_GETCURSEL) != index)
     Ask(combo, CB_SETCURSEL, Number(index));

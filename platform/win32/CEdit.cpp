@@ -48,7 +48,7 @@ bool CEdit::PlaceOverRow(const CListBox& list, int row) {
   RECT place{};
   ::SendMessageW(box, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
   ::MapWindowPoints(box, dialog, reinterpret_cast<POINT*>(&place), 2);
-  // The row's height is that of a text: the borders go around it.
+  // A row is as high as its text, so the edit's borders are added around it.
   ::AdjustWindowRectEx(&place, static_cast<DWORD>(::GetWindowLongPtrW(handle_, GWL_STYLE)), FALSE,
                        static_cast<DWORD>(::GetWindowLongPtrW(handle_, GWL_EXSTYLE)));
   ::SetWindowPos(handle_, nullptr, place.left, place.top, place.right - place.left,

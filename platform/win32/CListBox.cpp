@@ -27,7 +27,7 @@ int Insert(HWND box, int row, const char* text) {
   return at < 0 ? -1 : at;
 }
 
-// What a window is drawn with, its own font selected.
+// A window's device context with the window's font selected.
 class WindowContext {
 public:
   explicit WindowContext(HWND window) : window_(window), context_(::GetDC(window)) {
@@ -89,7 +89,7 @@ int CListBox::InsertString(int row, const char* text) {
   return at;
 }
 
-// The controls cannot change a text: the row goes and comes again.
+// List boxes cannot change the text of a row, so it is deleted and inserted again.
 bool CListBox::SetItemText(int row, const char* text) {
   if (!HasRow(handle_, row))
     return false;
@@ -182,7 +182,7 @@ bool CListBox::SelectRange(int first, int last, bool select) {
     return SelectRow(first, select);
   const KeepPlace place(handle_);
   const auto [low, high] = std::minmax(first, last);
-  // To the control, from the greater row to the smaller one means to deselect.
+  // For the control a range from a greater to a smaller row means deselecting.
   tq::AskBox(handle_, LB_SELITEMRANGEEX, Number(select ? low : high), select ? high : low);
   place.Restore();
   return true;

@@ -11,7 +11,7 @@ using tq::AskView;
 
 namespace {
 
-constexpr int kLongText = 256; // of a cell; longer ones are asked for again
+constexpr int kLongText = 256; // longer texts of cells are read with a larger buffer
 constexpr auto kSystemHoverTime = static_cast<DWORD>(HOVER_DEFAULT);
 
 template <class RECORD> LPARAM Address(RECORD& record) {
@@ -22,7 +22,7 @@ bool HasRow(HWND view, int row) {
   return row >= 0 && row < static_cast<int>(AskView(view, LVM_GETITEMCOUNT));
 }
 
-// What the columns leave of the table's width, less the scroll bar's that comes with many rows.
+// The table's width that the columns leave, less that of the scroll bar that many rows bring.
 int RestOfWidth(HWND view, int columns) {
   RECT client{};
   ::GetClientRect(view, &client);
@@ -43,7 +43,8 @@ void StartAtFirstRow(HWND view) {
   tq::PutAnchorOfView(view, 0);
 }
 
-// Where a row is when another one of `count` was deleted; of that one itself, the one in its place.
+// The number of a row after another one of `count` was deleted; for the deleted row itself, that of
+// the row that takes its number.
 int AfterDelete(int row, int deleted, int count) {
   return row > deleted || row == count - 1 ? row - 1 : row;
 }

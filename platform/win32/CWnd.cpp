@@ -86,7 +86,7 @@ bool CWnd::HasFocus() const {
   return handle_ != nullptr && ::GetFocus() == handle_;
 }
 
-// For many windows the system keeps "hidden" and "not drawn" in one bit, so that drawing a hidden
+// For many windows the system stores "hidden" and "not drawn" in one bit, so that drawing a hidden
 // window again would show it. The property tells them apart.
 void CWnd::SetRedraw(bool draw) {
   const bool isDrawn = ::GetPropW(handle_, kNotDrawn) == nullptr;

@@ -30,7 +30,8 @@ CharacterEncoder::CharacterEncoder(unsigned codePage) : codePage_(codePage), tab
 CharacterEncoder::~CharacterEncoder() = default;
 
 std::size_t CharacterEncoder::EncodeAssigned(char32_t character, char (&bytes)[2]) {
-  constexpr char32_t firstOfTwo = 0x10000; // two UTF-16 units; no ANSI code page has such a one
+  constexpr char32_t firstOfTwo =
+      0x10000; // from here on two UTF-16 units; no ANSI code page has those
   const wchar_t wide = static_cast<wchar_t>(character);
   BOOL lacking = FALSE;
   int length = 0;

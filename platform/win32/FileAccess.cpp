@@ -28,7 +28,7 @@ FileStamp StampOf(const BY_HANDLE_FILE_INFORMATION& info) {
 
 class WindowsReadSteps : public ReadSteps {
 public:
-  // The file is the caller's.
+  // The caller keeps the file and closes it.
   explicit WindowsReadSteps(HANDLE file) : file_(file) {}
 
   bool Stamp(FileStamp& stamp) override {
@@ -53,7 +53,7 @@ private:
   const HANDLE file_;
 };
 
-// Of the system's last error, after a call that takes a path has failed.
+// Whether the last error, after a failed call that takes a path, means that there is no such file.
 bool IsMissing() {
   const DWORD error = ::GetLastError();
   return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
@@ -87,7 +87,7 @@ public:
 
   FileState StateOf(const char* path, FileStamp& stamp) override {
     stamp = {};
-    FileHandle file; // for its attributes alone, which nobody's sharing forbids
+    FileHandle file; // opened for attributes only, which no sharing mode of others forbids
     if (!file.Open(SystemPath(path), FILE_READ_ATTRIBUTES, kShareAll, OPEN_EXISTING,
                    FILE_FLAG_BACKUP_SEMANTICS))
       return IsMissing() ? FileState::Missing : FileState::Unknown;
@@ -112,8 +112,8 @@ public:
 } // namespace
 
 FileAccess& SystemFiles() {
-  // Never destroyed, for files may be asked for until the process ends, and without storage of its
-  // own, for the library may be unloaded long before that.
+  // Never destroyed, since files may be used until the process ends, and not on the heap, where it
+  // would leak when the library is unloaded earlier.
   alignas(WindowsFiles) static unsigned char room[sizeof(WindowsFiles)];
   static WindowsFiles* const files = new (room) WindowsFiles;
   return *files;

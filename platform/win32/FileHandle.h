@@ -23,7 +23,7 @@ inline std::wstring SystemPath(const char* path) {
   return wide;
 }
 
-// No program is to be kept from reading, writing or replacing a file while this library uses it.
+// Lets other programs read, write and replace a file while this library uses it.
 inline constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 class FileHandle {
@@ -52,7 +52,7 @@ public:
   bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE Get() const { return handle_; }
 
-  // One call; what does not fit in it counts as not written. Returns the bytes written.
+  // Writes with one call, which takes less than 4 GiB. Returns the bytes written.
   std::size_t WriteOnce(const void* bytes, std::size_t size) {
     constexpr std::size_t most = std::numeric_limits<DWORD>::max();
     DWORD written = 0;

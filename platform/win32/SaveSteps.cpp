@@ -11,8 +11,8 @@ constexpr DWORD kSharingPause = 10; // milliseconds; together the half second of
 constexpr DWORD kKeptAttributes =
     FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-// Errors that concern the way of replacing (rights on the directory, somebody who holds the target
-// or has mapped it), not the disk.
+// Distinguishes errors that concern only the replacing (rights on the directory, a target that
+// another program has open or mapped) from those of the disk.
 StepResult WhyNotReplaced() {
   switch (::GetLastError()) {
   case ERROR_ACCESS_DENIED:
@@ -28,13 +28,13 @@ StepResult WhyNotReplaced() {
   }
 }
 
-// Longer names need a form that not every program of the user opens files by.
+// Longer paths need the \\?\ form, which not every program can open.
 bool IsTooLong(const std::wstring& path) {
   return path.size() >= MAX_PATH && !path.starts_with(L"\\\\?\\");
 }
 
-// Opens a file that another program may hold for a moment without sharing it, as a second saver or
-// a program that copies it does.
+// Opens a file, retrying while another program (a second saver, a program that copies it) has it
+// open without sharing.
 bool OpenPatiently(FileHandle& file, const std::wstring& path, DWORD disposition) {
   for (int i = 0; i < kSharingTries; ++i) {
     if (file.Open(path, GENERIC_WRITE, kShareAll, disposition))
@@ -88,12 +88,12 @@ StepResult WindowsSaveSteps::OpenTarget() {
   existed_ = opened;
   if (opened) {
     attributes_ = ::GetFileAttributesW(target_.c_str());
-    // Where the superuser runs Wine, a read-only file lets itself be opened.
+    // Under Wine the superuser can open a read-only file for writing.
     if (attributes_ == INVALID_FILE_ATTRIBUTES || (attributes_ & FILE_ATTRIBUTE_READONLY) != 0)
       return StepResult::Failed;
     if ((attributes_ & FILE_ATTRIBUTE_REPARSE_POINT) != 0)
       FollowLink();
-    // The system replaces no file that is open, not even by us.
+    // The system does not replace a file that is open, not even by this process.
     targetFile_.Close();
   }
   for (const char* c = kTemporarySuffix; *c != '\0'; ++c)
@@ -113,15 +113,14 @@ void WindowsSaveSteps::FollowLink() {
   target_ = real;
 }
 
-// The temporary file is open; `found` when it was there before, perhaps with what a killed save
-// left in it. Missing: it was none of ours and its name is free now.
+// Prepares the open temporary file. `found`: it existed before; a killed save may have left bytes
+// in it. Missing: it was not ours, and its name is free now.
 StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
   BY_HANDLE_FILE_INFORMATION info;
   if (::GetFileInformationByHandle(temporaryFile_.Get(), &info) == 0)
     return StepResult::Failed;
   if (info.nNumberOfLinks > 1 || (info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
-    // A link, or a second name of another file, perhaps of the target itself: the name goes, the
-    // file stays.
+    // A link of either kind to another file, perhaps to the target. Only this name is removed.
     temporaryFile_.Close();
     return ::DeleteFileW(temporary_.c_str()) != 0 ? StepResult::Missing : StepResult::Refused;
   }
@@ -135,8 +134,8 @@ StepResult WindowsSaveSteps::EmptyTemporary(bool found) {
 StepResult WindowsSaveSteps::OpenTemporary() {
   if (IsTooLong(temporary_))
     return StepResult::Refused;
-  // Shared for deletion alone, so that it can be renamed while it is open: from its creation until
-  // it bears the target's name no other save can write into it.
+  // Shared for deletion only, so that it can be renamed while it is open: until it has the target's
+  // name no other save can write into it.
   for (int i = 0; i < kSharingTries; ++i) {
     if (temporaryFile_.Open(temporary_, GENERIC_WRITE, FILE_SHARE_DELETE, OPEN_ALWAYS,
                             FILE_ATTRIBUTE_ARCHIVE | (attributes_ & kKeptAttributes) |

@@ -23,7 +23,7 @@ std::wstring TextOf(HWND edit) {
   return text;
 }
 
-// How many bytes fit in the place of what is selected.
+// How many bytes can replace the selection.
 int Room(HWND edit, int limit) {
   DWORD start = 0;
   DWORD end = 0;
@@ -67,7 +67,7 @@ public:
   }
   LockedText(const LockedText&) = delete;
   LockedText& operator=(const LockedText&) = delete;
-  // Without the end that another program may have left out.
+  // Bounded by the block's size, since another program may have left out the NUL.
   std::wstring_view Get() const {
     if (text_ == nullptr)
       return {};
@@ -85,7 +85,7 @@ CString ClipboardText(HWND edit) {
   return FromWide(wide.Get().data(), wide.Get().size());
 }
 
-// As much of the clipboard's text as there is room for, by whole characters.
+// As many whole characters of the clipboard's text as fit.
 void Paste(HWND edit, int limit) {
   CString text = ClipboardText(edit);
   const int room = Room(edit, limit);

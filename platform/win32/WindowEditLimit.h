@@ -1,5 +1,5 @@
-// The limit of an edit in bytes. The control's own counts characters, which a name that is stored
-// in so many bytes cannot use. Internal.
+// The limit of an edit in bytes, for names that are stored in a number of bytes. The control's own
+// limit counts characters. Internal.
 #pragma once
 
 #include <windows.h>

@@ -24,7 +24,7 @@ constexpr Translation kTranslations[] = {
     {ControlKind::Edit, EN_KILLFOCUS, ControlEvent::FocusLost},
 };
 
-// A focus that goes to another window, a message box say, is not lost: it comes back.
+// A focus that moves to another window, such as a message box, does not count as lost: it returns.
 bool IsLeavingDialog(const Run& run, const Translation& translation) {
   return translation.event == ControlEvent::FocusLost && !::IsChild(run.window, ::GetFocus());
 }
@@ -54,8 +54,8 @@ void GiveCellText(Run& run, const NMHDR& header) {
   ::lstrcpynW(item.pszText, ToWide(text).c_str(), item.cchTextMax);
 }
 
-// What a list view tells of rows that were selected or are not any more; of a virtual one also of
-// many rows at once.
+// A list view's notification that rows were selected or deselected; of a virtual one also for many
+// rows at once.
 bool IsOtherSelection(const NMHDR& header) {
   UINT change = 0;
   if (header.code == LVN_ITEMCHANGED) {

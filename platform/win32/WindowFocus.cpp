@@ -67,7 +67,7 @@ FocusBehind::FocusBehind(Run* outer) : outer_(outer) {
     outer_->focusBehind = before_ = focus;
 }
 
-// Where nothing changed the system puts the focus back itself, with the caret where it was.
+// If nothing changed, the system restores the focus itself, and the caret keeps its position.
 FocusBehind::~FocusBehind() {
   if (outer_ == nullptr || outer_->window == nullptr)
     return;

@@ -6,11 +6,12 @@
 
 namespace tq {
 
-// The dialog gives the control the focus, and nobody is told; when it lies behind another one, as
-// soon as that one has ended.
+// Gives the control the focus without events; in a dialog that lies behind another one as soon as
+// that one has ended.
 void PutFocus(Run& run, HWND control);
 
-// Put around what disables or hides a control: when it has the focus the next one gets it, or none.
+// A scope around disabling or hiding a control: if that has the focus, the next control gets it, or
+// none.
 class FocusGoesOn {
 public:
   explicit FocusGoesOn(HWND control);
@@ -35,8 +36,9 @@ private:
   HWND before_ = nullptr;
 };
 
-// The user's click or letter moves the focus, and who loses and gains it is told. False when it did
-// not stay there, or the dialog has ended: then what moved it has no further effect.
+// Moves the focus for a click or letter of the user, with the events of losing and gaining it.
+// False when it did not stay there or the dialog has ended: then the click or letter has no further
+// effect.
 bool MoveFocusByMouse(Run& run, HWND control);
 bool MoveFocusByKey(Run& run, HWND control);
 

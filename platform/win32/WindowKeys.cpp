@@ -54,7 +54,7 @@ bool OfferKey(const Run& run, HWND window, Key key, Held held) {
   return DialogAccess::KeyDown(*run.dialog, id, key, held) || DialogAccess::HasEnded(*run.dialog);
 }
 
-// The system would also take a button that once was the default for one.
+// The system would also count a button that was the default earlier.
 void PressEnter(const Run& run, HWND focus) {
   const LRESULT standard = ::SendMessageW(run.window, DM_GETDEFID, 0, 0);
   int id = HIWORD(standard) == DC_HASDEFID ? LOWORD(standard) : static_cast<int>(CDialog::Accepted);
@@ -93,7 +93,7 @@ bool HasMnemonic(HWND control, char letter) {
          MnemonicOf(window.GetText()) == letter;
 }
 
-// What the letter leads to, searched for from behind the focus and around; null when nothing.
+// The control that the letter leads to, searched from behind the focus on and around; or null.
 HWND FindMnemonic(const Run& run, char letter) {
   std::vector<HWND> controls = ChildrenOf(run.window);
   const auto focus = std::find(controls.begin(), controls.end(), ::GetFocus());

@@ -5,8 +5,7 @@
 
 namespace tq {
 
-// Whether the message is a key that is dealt with: by the dialog, which hears of it first, or by
-// this layer.
+// Handles a key: the dialog gets it first, then this layer. Whether one of them used it.
 bool IsKeyDone(Run& run, const MSG& message);
 
 } // namespace tq

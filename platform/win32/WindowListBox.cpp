@@ -18,7 +18,7 @@ int AfterInsert(int row, int came) {
   return row >= came ? row + 1 : row;
 }
 
-// For the caret: of a row that went, the one in its place.
+// For the caret: for a deleted row, the row that takes its number.
 int AfterRemove(int row, int went) {
   return row > went ? row - 1 : row;
 }

@@ -1,11 +1,11 @@
-// What list boxes keep that their own operations move: caret, anchor, scrolling. Internal.
+// State of list boxes that their own operations change: caret, anchor, scrolling. Internal.
 #pragma once
 
 #include <windows.h>
 
 namespace tq {
 
-// A message to a list box whose notifications are not heard; LB_ERR without a box.
+// Sends a message to a list box with its notifications muted; LB_ERR without a box.
 int AskBox(HWND box, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 bool IsMultiBox(HWND box);
@@ -13,9 +13,8 @@ int RowsInSightOf(HWND box); // whole ones
 int AnchorOf(HWND box);      // the row from which Shift selects
 void PutAnchor(HWND box, int row);
 
-// Keeps the caret row, the anchor, what is scrolled to and, in a box of one selection, what is
-// selected, with their rows. Made before a change, told of the row that came or went, and put back
-// by Restore.
+// Keeps caret, anchor, scroll position and, in a single-selection box, the selection with their
+// rows. Construct it before a change, tell it the inserted or deleted row, and call Restore.
 class KeepPlace {
 public:
   explicit KeepPlace(HWND box);

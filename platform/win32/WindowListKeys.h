@@ -5,8 +5,8 @@
 
 namespace tq {
 
-// A key in a list box, list view or closed combo box, with what the dialog hears of it. False when
-// the control is none of them, and for keys that are not theirs.
+// Handles a key in a list box, list view or closed combo box, with its events. False for other
+// controls, and for keys that those do not use.
 bool PressInListControl(Run& run, HWND control, Key key, Held held);
 
 } // namespace tq

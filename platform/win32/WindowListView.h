@@ -5,7 +5,7 @@
 
 namespace tq {
 
-// A message to a list view whose notifications are not heard.
+// Sends a message to a list view with its notifications muted.
 LRESULT AskView(HWND view, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
 bool IsVirtualView(HWND view);

@@ -14,7 +14,7 @@ constexpr WORD kSimplifiedChinese = 2052;
 const DLGTEMPLATE* FindTemplate(const Resources& resources, unsigned id) {
   const auto module = static_cast<HMODULE>(resources.module);
   const WORD language = resources.traditional ? kTraditionalChinese : kSimplifiedChinese;
-  // To the system no module means the program itself, whose dialogs are not meant.
+  // For the system a null module means the program, whose dialogs are not wanted here.
   if (module == nullptr)
     return nullptr;
   const HRSRC found = ::FindResourceExA(module, RT_DIALOG, MAKEINTRESOURCEA(id), language);
@@ -29,7 +29,7 @@ void RegisterControls() {
   static_cast<void>(done);
 }
 
-// Keeps the parent's window from taking input while a dialog is up.
+// Disables the parent's window while a dialog is up.
 class ParentDisabled {
 public:
   explicit ParentDisabled(HWND parent)
@@ -129,7 +129,7 @@ int RunModal(CDialog& dialog) {
   Run run;
   run.dialog = &dialog;
   const RunWindow running(run, window);
-  // Enabled again before the window goes, so that the parent is the one to come to the front.
+  // Enabled before the dialog's window is destroyed, so that the parent comes to the front.
   const ParentDisabled disabled(parent);
   DialogAccess::Begin(dialog, window);
   RunWindowOf(run);

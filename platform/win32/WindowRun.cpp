@@ -81,8 +81,8 @@ bool Handle(Run& run, UINT message, WPARAM wParam, LPARAM lParam) {
   }
 }
 
-// Somebody else took the window away. When a message that was sent did so, the run's loop still
-// waits for one that is posted, and the window can have none any more.
+// The window was destroyed from outside. If a sent message did it, the run's loop still waits for a
+// posted one, which the window can no longer get.
 void NoteDestroyed(Run& run) {
   run.window = nullptr;
   if (!DialogAccess::HasEnded(*run.dialog))

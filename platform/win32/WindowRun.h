@@ -33,7 +33,7 @@ struct Run {
 std::vector<Run*>& Runs();
 Run* FindRun(HWND dialog);
 
-// While one of these lives the program changes its controls, and what they tell of it is not heard.
+// Mutes the controls' notifications while it lives, because the program is changing them.
 class Silence {
 public:
   Silence() { ++depth_; }
@@ -47,8 +47,7 @@ private:
   static int depth_;
 };
 
-// While one of these lives notifications are heard again: a dialog that a silenced change led to
-// has a user of its own.
+// Unmutes notifications while it lives: a dialog that a muted change opened has a user.
 class Hearing {
 public:
   Hearing() : depth_(Silence::depth_) { Silence::depth_ = 0; }

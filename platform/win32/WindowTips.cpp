@@ -20,7 +20,7 @@ TTTOOLINFOW ToolOf(HWND dialog, HWND control) {
   return tool;
 }
 
-// Owned by the dialog's window and gone with it.
+// Owned by the dialog's window and destroyed with it.
 HWND TipWindowOf(Run& run) {
   if (run.tipWindow == nullptr) {
     run.tipWindow = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,

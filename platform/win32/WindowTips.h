@@ -14,7 +14,7 @@ bool HasRowTips(HWND box);
 
 // The tip window asks what to show: the text of the row under the mouse.
 void GiveRowTip(Run& run, const NMHDR& header);
-// The mouse went to another row of a list box: a tip that is up is another one's.
+// Called when the mouse moves to another row of a list box: a visible tip no longer applies.
 void NoteMouseOnRow(Run& run, const MSG& message);
 
 } // namespace tq

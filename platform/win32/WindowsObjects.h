@@ -1,7 +1,6 @@
-// What the library has opened of the system and not closed yet, counted where the owning classes of
-// this folder open and close it, so that tests can see that nothing stays behind. Windows itself
-// counts some kinds only, and not on every system that runs these programs. A count costs as much
-// as an addition.
+// Counts of system objects that the library has opened and not yet closed, kept by the owning
+// classes of this folder, so that tests can detect leaks. Windows counts only some kinds, and not
+// on every system. Counting costs one addition.
 #pragma once
 
 #include "platform/framework/FrameworkApi.h"

@@ -17,8 +17,8 @@ class CString;
 
 namespace tq {
 
-// Keeps COM initialised on this thread. A thread that is in an apartment already, of either kind,
-// stays in it. Made and destroyed on the same thread.
+// Keeps COM initialised on this thread. A thread that is in an apartment of either kind stays in
+// it. Constructed and destroyed on the same thread.
 class ComScope {
 public:
   ComScope() : balance_(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
@@ -35,10 +35,10 @@ public:
   ComScope& operator=(const ComScope&) = delete;
 
 private:
-  const bool balance_; // false where the thread is in the other kind of apartment
+  const bool balance_; // false when the thread is in the other kind of apartment
 };
 
-// A reference to an interface, taken and given back.
+// Adds and removes a reference to an interface.
 template <typename Interface> Interface* TakeReference(Interface* object) {
   object->AddRef();
   NoteOpened(SystemObject::Interface);
@@ -49,25 +49,25 @@ template <typename Interface> void GiveBack(Interface* object) {
   NoteClosed(SystemObject::Interface);
 }
 
-// Where a call of COM stores what the caller owns from then on. Lives as long as the call.
+// The output argument of a COM call whose result the caller owns. Lives as long as the call.
 template <typename Pointer> class Receiver {
 public:
-  Receiver(Pointer& place, SystemObject kind) : place_(place), kind_(kind) {}
+  Receiver(Pointer& result, SystemObject kind) : result_(result), kind_(kind) {}
   ~Receiver() {
-    if (place_ != nullptr)
+    if (result_ != nullptr)
       NoteOpened(kind_);
   }
   Receiver(const Receiver&) = delete;
   Receiver& operator=(const Receiver&) = delete;
-  operator Pointer*() const { return &place_; }
-  operator void**() const { return reinterpret_cast<void**>(&place_); }
+  operator Pointer*() const { return &result_; }
+  operator void**() const { return reinterpret_cast<void**>(&result_); }
 
 private:
-  Pointer& place_;
+  Pointer& result_;
   const SystemObject kind_;
 };
 
-// An owned, counted interface.
+// Owns one reference to an interface.
 template <typename Interface> class ComPtr {
 public:
   ComPtr() = default;
@@ -92,13 +92,13 @@ private:
   Interface* pointer_ = nullptr;
 };
 
-// An owned string of COM. A null one counts as empty. Without the memory for one the process is
-// stopped, but for TryAssign.
+// Owns a COM string; null counts as empty. When memory runs out the process is stopped, except in
+// TryAssign.
 class ComText {
 public:
   ComText() = default;
   explicit ComText(std::string_view utf8);
-  // A string that somebody else made and gives away.
+  // Takes ownership of a string.
   static ComText Own(BSTR text) { return ComText(text); }
   ComText(const ComText&) = delete;
   ComText& operator=(const ComText&) = delete;

@@ -8,7 +8,7 @@
 namespace tq {
 namespace {
 
-// The free-threaded document of version 3.0, by number: import libraries do not all name it.
+// The class id of the free-threaded document, version 3.0, which not all import libraries define.
 constexpr CLSID kFreeThreadedDocument30 = {
     0xF5078F33, 0xC551, 0x11D3, {0x89, 0xB9, 0x00, 0x00, 0xF8, 0x1F, 0xE2, 0x21}};
 constexpr IID kDocumentWithProperties = { // IXMLDOMDocument2
@@ -57,7 +57,8 @@ bool Create(ComPtr<Dom>& document) {
          Configure(document.Get());
 }
 
-// Of a question to a document that is there. Without memory there is no answer to go on with.
+// Checks the result of a question to a loaded document: when memory runs out there is no answer to
+// go on with.
 HRESULT Told(HRESULT result) {
   if (result == E_OUTOFMEMORY)
     OutOfMemory();
@@ -88,7 +89,7 @@ void AssignText(const ComText& text, bool carried, CString& value) {
   AssignXmlText(ToUtf8(text.View()), carried, value);
 }
 
-// The piece's own text; empty when the node is no piece of text.
+// The text of a text or CDATA node; empty for other nodes.
 std::string TextPiece(Node* node) {
   DOMNodeType type = NODE_INVALID;
   VARIANT value = {};
@@ -152,8 +153,9 @@ bool XmlElement::HasAttributes() const {
   for (LONG i = 0; i < count; ++i) {
     ComPtr<Node> attribute;
     ComText name;
-    // Wine's DOM calls it a lack of memory when the attribute is a namespace declaration. A real
-    // one ends the load at this list, as a list without attributes does: nothing is lost by it.
+    // Not checked for E_OUTOFMEMORY, which Wine's DOM also returns for a namespace declaration.
+    // When memory does run out, the load ends at this list, as at one without attributes, and
+    // nothing is lost.
     if (map->get_item(i, attribute.Receive()) == S_OK && attribute &&
         Told(attribute->get_nodeName(name.Receive())) == S_OK &&
         !IsNamespaceDeclaration(name.View()))

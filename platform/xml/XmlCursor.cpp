@@ -12,9 +12,8 @@ namespace {
 
 constexpr char32_t kCarriedEnd = kCarriedBase + 0x10000;
 
-// The character that the reference at `at`, "&#...;", stands for; `at` moves behind it. 0 for
-// anything else, which the DOM judges. A character beyond the carried ones may come out as another
-// such.
+// The character of the character reference at `at`, "&#...;"; `at` moves behind it. 0 for anything
+// else, which the DOM checks. For characters beyond the carried ones some value beyond them.
 char32_t ReadReference(const char*& at, const char* end) {
   const char* p = at + 1;
   if (p == end || *p != '#')
@@ -30,7 +29,7 @@ char32_t ReadReference(const char*& at, const char* end) {
     if (!digit && !(hexadecimal && letter >= 'a' && letter <= 'f'))
       return 0;
     const auto number = static_cast<char32_t>(digit ? *p - '0' : letter - 'a' + 10);
-    if (value < kCarriedEnd) // beyond it stays beyond it, and nothing overflows
+    if (value < kCarriedEnd) // larger values stay, so that nothing overflows
       value = value * (hexadecimal ? 16 : 10) + number;
   }
   if (p == end)
@@ -87,7 +86,7 @@ bool XmlCursor::TakeUtf8() {
   return length != 0;
 }
 
-// Takes the double-byte characters that stand here, many at a time.
+// Moves over a run of double-byte characters, many at a time.
 bool XmlCursor::TakeCarried() {
   constexpr std::size_t many = 256;
   constexpr std::size_t bytesOfOne = 4;

@@ -1,5 +1,5 @@
-// A position in XML text that moves on through checked characters only, and what the text becomes on
-// the way to the DOM. Internal to the scan (XmlScan.h).
+// A cursor in XML text that moves over checked characters only and writes the rewritten text for
+// the DOM. Internal to the scan (XmlScan.h).
 #pragma once
 
 #include <array>
@@ -75,8 +75,8 @@ public:
   void TakeByte() { ++at_; }
   // Moves over white space; false when there is none.
   bool TakeBlanks();
-  // At an ampersand: moves over it. A character reference into the plane of carried characters is
-  // taken whole and becomes "?": it would come out as a double-byte character that nobody wrote.
+  // At an ampersand: moves over it, or in carried text over a whole character reference into the
+  // plane of carried characters, which becomes "?" (XmlScan.h).
   void TakeAmpersand();
   // Moves over the characters of a name, perhaps none. `foreign` is set when it has a colon or a
   // character beyond ASCII. False for a character that the encoding or XML does not have in a name.

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
 
-// The encoding names that this system's programs and those that users keep lists with write.
+// The encoding names written by this system's programs and by those with which users edit lists.
 struct EncodingName {
   std::string_view name;
   XmlEncoding encoding;
@@ -77,7 +77,8 @@ bool FindEncoding(std::string_view name, XmlEncoding& encoding) {
   return false;
 }
 
-// What stands between "<?xml" and "?>". `encoding` stays empty when it is not named.
+// Reads what follows "<?xml", up to and including "?>". `encoding` stays empty when none is
+// declared.
 bool TakeDeclaration(Reader& reader, std::string_view& encoding) {
   std::string_view version;
   std::string_view standalone = "no";
@@ -100,7 +101,7 @@ XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration
   Reader reader(file);
   const bool marked = declaration.encoding == XmlEncoding::Utf8 && reader.Take(kUtf8Mark);
   declaration.length = file.size() - reader.Left();
-  // A longer name, as of an instruction for style sheets, is no declaration.
+  // A longer name, such as "<?xml-stylesheet", is not a declaration.
   constexpr std::string_view opening = "<?xml";
   const std::string_view rest = file.substr(declaration.length);
   if (rest.size() <= opening.size() || !reader.Take(opening) || !IsBlank(rest[opening.size()]))

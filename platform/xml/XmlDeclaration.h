@@ -8,14 +8,13 @@ namespace tq {
 enum class XmlEncoding { Utf8, Ascii, Big5, Gbk, Latin1, Utf16 };
 
 struct XmlDeclaration {
-  XmlEncoding encoding =
-      XmlEncoding::Utf8;  // what the recommendation says of a file that names none
-  std::size_t length = 0; // bytes before the text proper
+  XmlEncoding encoding = XmlEncoding::Utf8; // the default of the recommendation
+  std::size_t length = 0;                   // bytes before the text proper
 };
 
-// Reads it from the start of `file`. Ok, BadDeclaration or UnknownEncoding. A file without
-// declaration is Ok. `declaration.encoding` is what the file is in unless it names one; a file in
-// UTF-16 is given decoded.
+// Reads the declaration at the start of `file`: Ok, BadDeclaration or UnknownEncoding. A file
+// without one is Ok. On input `declaration.encoding` is the default for a file that declares none.
+// A UTF-16 file is passed decoded.
 XmlVerdict ReadXmlDeclaration(std::string_view file, XmlDeclaration& declaration);
 
 } // namespace tq

@@ -13,8 +13,8 @@ bool XmlDocument::Load(const char* data, std::size_t size) {
   return result == LoadResult::Ok;
 }
 
-// A text of 64 MB needs blocks of several times its size: a 32-bit terminal may lack those and still
-// have all the memory that it needs otherwise. So running out is no reason to stop here.
+// A text of 64 MB needs several times its size in large blocks. A 32-bit terminal may not get those
+// and still have enough memory otherwise, so running out here does not stop it.
 XmlDocument::LoadResult XmlDocument::TryLoad(const char* data, std::size_t size) {
   try {
     XmlText text;

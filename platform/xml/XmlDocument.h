@@ -8,20 +8,18 @@
 //     there are no entities beyond the five predefined ones and character references. Nothing is
 //     fetched. Size, nesting, markup, attributes and names are bounded (platform/xml/XmlText.h), so
 //     that a hostile file is refused at once.
-//  3. Text comes out in the process's ANSI code page. From a file in that code page every character
-//     comes out as the very bytes that stand in the file, user-defined characters included. From a
-//     file in another encoding, and from a character reference, a character that the code page
-//     lacks comes out as "?".
+//  3. Text is returned in the process's ANSI code page. Of a file in that code page every character
+//     is returned as the bytes in the file, user-defined characters included. Of a file in another
+//     encoding, and from a character reference, a character that the code page lacks becomes "?".
 //  4. Both bodies (MSXML 3.0's free-threaded DOM on Windows, libxml2 elsewhere) give the same
 //     answer.
-//  5. Paths are element names joined with "/" from the root, "/Result/SymbolList/List". A name in a
-//     path stands for elements without a namespace. Letter case counts. Names with a prefix,
-//     whether or not a namespace is bound to it, and names beyond ASCII are read and never asked
-//     for: they are other names than the one behind the prefix. A default namespace (xmlns='...')
-//     puts elements into it.
-//  6. Nothing throws. Memory that runs out while a document is loaded refuses the document; later
-//     it stops the process (tq::OutOfMemory), for what is there must not read as "not there", which
-//     is how any other failure of the platform's DOM reads.
+//  5. Paths are element names from the root, joined with "/": "/Result/SymbolList/List". A name in
+//     a path matches elements without a namespace; letter case counts. Names with a prefix, bound
+//     to a namespace or not, and names beyond ASCII can be read but not asked for: they differ from
+//     the name behind the prefix. A default namespace (xmlns='...') puts elements into it.
+//  6. Nothing throws. When memory runs out while a document is loaded, it is refused; later the
+//     process is stopped (tq::OutOfMemory), because any other failure of the platform's DOM reads
+//     as "not there", and what is there must not.
 //  7. One thread at a time for a document and its elements.
 //     On Windows COM is initialised while a document lives, whichever apartment the thread is in.
 #pragma once
@@ -34,11 +32,11 @@ class CString;
 
 namespace tq {
 
-// A borrowed view of one element. Cheap to copy. It must not outlive its document or that
-// document's next Load.
+// A non-owning handle of one element, cheap to copy. Valid until its document is destroyed or
+// loaded again.
 class XmlElement {
 public:
-  // No element: every question is answered with "not there".
+  // The null element, for which every question answers "not there".
   XmlElement() = default;
   XmlElement(const XmlElement& other);
   XmlElement(XmlElement&& other) noexcept;
@@ -47,27 +45,27 @@ public:
 
   bool IsNull() const { return node_ == nullptr; }
 
-  // True when the element bears at least one attribute, namespace declarations not counted.
+  // Whether the element has an attribute other than namespace declarations.
   bool HasAttributes() const;
 
-  // The value of the attribute with that name. Present: true, `value` assigned once
-  // (perhaps to empty). Absent: false, `value` untouched.
+  // Reads the value, perhaps empty, of the attribute with that name. False, `value` untouched, when
+  // there is none.
   bool Attribute(const char* name, CString& value) const;
 
-  // The element's name as the file has it, prefix included. False, `name` untouched, for no
-  // element.
+  // Reads the element's name as it is in the file, prefix included. False, `name` untouched, for
+  // the null element.
   bool Name(CString& name) const;
 
-  // The element's own text: its text and CDATA pieces joined, those of child elements left out,
-  // white space kept. False, `text` untouched, for no element.
+  // Reads the element's own text: its text and CDATA nodes joined, white space kept, without the
+  // text of child elements. False, `text` untouched, for the null element.
   bool Text(CString& text) const;
 
-  // The child elements in document order; with a name only those of that name without a namespace.
+  // The child elements in document order; with `name` only those of that name and no namespace.
   std::vector<XmlElement> Children(const char* name = nullptr) const;
 
-  // All child nodes in document order, for callers who number them: what is no element (a comment,
-  // a processing instruction, a CDATA section, a piece of text) is null. Text that is nothing but
-  // white space is no node here: it is how a file is laid out.
+  // All child nodes in document order, for callers that count them. Nodes that are not elements
+  // (comments, processing instructions, CDATA sections, text) are null. Text that is only white
+  // space is layout and left out.
   std::vector<XmlElement> ChildNodes() const;
 
 private:
@@ -85,17 +83,16 @@ public:
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
 
-  // Reads a whole file's bytes, declaration and all. `data` is not needed after the call. False
-  // when they are refused; the document is then empty. May be called again; the document before is
-  // dropped.
+  // Replaces the document by that of a whole file, declaration included. `data` is not needed after
+  // the call. False when the file is refused; the document is then empty.
   bool Load(const char* data, std::size_t size);
 
-  // Whether the last Load failed for the system's sake: no memory, or no DOM to be had. Nothing is
-  // known of the bytes then.
+  // Whether the last Load failed because of the system (no memory, no DOM), which says nothing
+  // about the file.
   bool SystemFailed() const { return systemFailed_; }
 
-  // True when double-byte text came from a file in the process's own code page and so comes out as
-  // the file's own bytes; else what the code page lacks has become "?".
+  // Whether text is returned as the bytes in the file, which is in the process's own code page. If
+  // not, characters that the code page lacks have become "?".
   bool KeepsBytes() const { return carried_; }
 
   // The document element; null for an empty document.
@@ -104,7 +101,7 @@ public:
   // The first element at `path` in document order; null when there is none.
   XmlElement SelectSingle(const char* path) const;
 
-  // All elements at `path`, whichever parents they have, in document order.
+  // All elements at `path`, of whichever parents, in document order.
   std::vector<XmlElement> Select(const char* path) const;
 
 private:

@@ -11,7 +11,7 @@ struct Range {
   char32_t last;
 };
 
-// NameStartChar and what NameChar has beyond it, of XML 1.0 in its fifth edition, from U+0080 on.
+// NameStartChar, and what NameChar adds to it, of XML 1.0 (fifth edition), from U+0080 on.
 constexpr Range kStartRanges[] = {
     {0xC0, 0xD6},     {0xD8, 0xF6},     {0xF8, 0x2FF},    {0x370, 0x37D},
     {0x37F, 0x1FFF},  {0x200C, 0x200D}, {0x2070, 0x218F}, {0x2C00, 0x2FEF},
@@ -63,15 +63,15 @@ bool ReadForeignName(std::string_view name, std::string& bytes) {
 }
 
 bool XmlNameTable::Add(std::string_view name) {
-  std::size_t place = Hash(name) % kPlaces;
-  for (; !names_[place].empty(); place = (place + 1) % kPlaces) {
-    if (names_[place] == name)
+  std::size_t bucket = Hash(name) % kBuckets;
+  for (; !names_[bucket].empty(); bucket = (bucket + 1) % kBuckets) {
+    if (names_[bucket] == name)
       return true;
   }
   if (count_ == kXmlNameLimit)
     return false;
   ++count_;
-  names_[place] = name;
+  names_[bucket] = name;
   return true;
 }
 

@@ -1,11 +1,10 @@
-// Names of elements, attributes and instructions: what XML takes for one, and how names travel
-// through the DOM that the DOMs would treat differently. Internal.
+// Names of elements, attributes and instructions: which characters they may have, and how names
+// that the two DOMs would treat differently are encoded. Internal.
 //
-// The library asks for plain ASCII names without a prefix only. Every other name (with a colon,
-// with characters beyond ASCII) is handed to the DOM as kForeignNameMark and its bytes in
-// hexadecimal: no DOM then has to agree with another one about namespaces, unbound prefixes or the
-// letters of a language, and two names are equal to the DOM exactly when they are equal in the
-// file.
+// The library asks only for plain ASCII names without a prefix. Every other name ("foreign": with a
+// colon or characters beyond ASCII) is passed to the DOM as kForeignNameMark and its bytes in
+// hexadecimal. So the DOMs need not agree about namespaces, unbound prefixes or name characters,
+// and two names are equal in the DOM exactly when they are equal in the file.
 #pragma once
 
 #include <array>
@@ -19,26 +18,28 @@
 namespace tq {
 
 inline constexpr std::string_view kForeignNameMark = "_._";
-// What a foreign name begins with that declares a namespace prefix: "xmlns:".
+// The start of a foreign name that declares a namespace prefix: "xmlns:".
 inline constexpr std::string_view kForeignDeclarationMark = "_._786D6C6E733A";
 
-// Whether XML allows the character, which is beyond ASCII, in a name; `first`: as its first one.
+// Whether XML allows a character beyond ASCII in a name, or with `first` at its start.
 bool IsNameCharacter(char32_t character, bool first);
 
-// Appends the form in which a foreign name travels.
+// Appends the encoded form of a foreign name.
 void AppendForeignName(std::string_view name, std::string& out);
-// Reads it back into the file's bytes. False for a name that travels as it stands.
+// Decodes it into the file's bytes. False for a name that is not encoded.
 bool ReadForeignName(std::string_view name, std::string& bytes);
 
-// The different names of one text, up to kXmlNameLimit. Nothing is allocated.
+// The set of names in one text, up to kXmlNameLimit: a hash table of fixed size, without
+// allocation.
 class XmlNameTable {
 public:
-  // False when the name would be one too many. The bytes must outlive the table.
+  // False when a new name exceeds the limit. The bytes must outlive the table.
   bool Add(std::string_view name);
 
 private:
-  static constexpr std::size_t kPlaces = 2 * kXmlNameLimit; // a power of two, never full
-  std::array<std::string_view, kPlaces> names_{};
+  static constexpr std::size_t kBuckets =
+      2 * kXmlNameLimit; // a power of two; at most half are used
+  std::array<std::string_view, kBuckets> names_{};
   int count_ = 0;
 };
 

@@ -7,7 +7,7 @@
 namespace tq {
 namespace {
 
-// Markup and its bounds. Each Take moves behind what it names; false when the text is refused, with
+// The markup and its limits. Each Take function moves behind what it names, or returns false with
 // the reason in verdict_.
 class Scanner {
 public:
@@ -61,9 +61,9 @@ bool Scanner::TakeName(std::string_view& name) {
   if (name.size() > kXmlNameLengthLimit || !names_.Add(name))
     return Refuse(XmlVerdict::TooMany);
   if (foreign || name.starts_with(kForeignNameMark)) {
-    std::string travelling;
-    AppendForeignName(name, travelling);
-    cursor_.ReplaceTaken(name.size(), travelling);
+    std::string encoded;
+    AppendForeignName(name, encoded);
+    cursor_.ReplaceTaken(name.size(), encoded);
   }
   return true;
 }
@@ -191,7 +191,7 @@ XmlVerdict Scanner::Scan() {
 XmlVerdict ScanXml(std::string_view text, XmlCharset charset, unsigned codePage,
                    std::string& rewritten) {
   rewritten.clear();
-  // One byte-order mark has been taken off; the DOMs would swallow a second.
+  // One byte-order mark has been removed; the DOMs would ignore a second one.
   if (charset == XmlCharset::Utf8 && text.starts_with("\xEF\xBB\xBF"))
     return XmlVerdict::Malformed;
   return Scanner(XmlCursor(text, charset, codePage, rewritten)).Scan();

@@ -1,5 +1,5 @@
-// One pass over XML text before the DOM sees it: characters, markup declarations, names, nesting
-// and the bounds of XmlText.h.
+// One pass over XML text before the DOM sees it, which checks characters, markup declarations,
+// names, nesting and the limits of XmlText.h.
 #pragma once
 
 #include "platform/xml/XmlText.h"
@@ -9,18 +9,18 @@ namespace tq {
 enum class XmlCharset {
   Utf8,
   Ascii,
-  Carried, // the process's code page, rewritten into UTF-8 with private code points
+  Carried, // the process's code page; double-byte characters are carried (XmlText.h)
 };
 
-// Scans `text`, which starts behind the XML declaration. Knows comments, CDATA sections,
-// instructions and quoted values, so that markup inside of them is not taken for markup; leaves
-// everything else of well-formedness to the DOM.
+// Scans `text`, which starts behind the XML declaration. Comments, CDATA sections, instructions and
+// quoted values are recognised, so that their content is not taken for markup. The DOM checks the
+// rest of well-formedness.
 //
-// `rewritten` receives the text for the DOM when it differs from `text`, and is empty otherwise:
-// names that the DOMs would treat differently are replaced (platform/xml/XmlNames.h), and carried
-// characters are put into UTF-8. Carried: a character reference into the private plane would come
-// out as a double-byte character that nobody wrote; it becomes "?", like any other character that
-// the code page lacks.
+// `rewritten` receives the text for the DOM if it differs from `text`, and is empty otherwise:
+// foreign names are encoded (platform/xml/XmlNames.h), and carried characters are converted to
+// UTF-8. In carried text a character reference into the plane of carried characters becomes "?",
+// like any other character that the code page lacks: it would come out as a double-byte character
+// that is not in the file.
 XmlVerdict ScanXml(std::string_view text, XmlCharset charset, unsigned codePage,
                    std::string& rewritten);
 

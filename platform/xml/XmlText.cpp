@@ -15,10 +15,10 @@ namespace {
 
 constexpr std::size_t kShortText = 512; // bytes; list names and ids are far shorter
 
-// A list file holds text of the process's code page whatever its declaration says: the writer names
-// big5 or gb2312 by the interface language, and on Windows the code page does not follow that. So a
-// declaration that this process would write now stands for the code page, as does the code page's
-// own.
+// A list file contains text of the process's code page whatever its declaration says: the writer
+// declares big5 or gb2312 by the interface language, which on Windows need not match the code page.
+// So the declaration that this process would write counts as the process's code page, as does the
+// code page's own.
 bool IsProcessText(unsigned declared) {
   const unsigned written = ::IsTraditionChinese() != 0 ? kCodePageBig5 : kCodePageGbk;
   return declared == written || declared == AnsiCodePage();
@@ -46,8 +46,8 @@ XmlVerdict ScanDecoded(XmlText& text) {
   return verdict;
 }
 
-// Text of the other Chinese code page. The structure is checked by us, so that all platforms refuse
-// the same bytes whatever their tables make of them.
+// Text of the other Chinese code page. Its structure is checked here, so that all platforms refuse
+// the same bytes, whatever their tables do.
 XmlVerdict PrepareForeign(unsigned codePage, std::string_view body, XmlText& text) {
   if (!IsStructured(codePage, body) || !DecodeText(codePage, body, text.buffer))
     return XmlVerdict::BadCharacters;
@@ -86,7 +86,7 @@ XmlVerdict PrepareBody(XmlEncoding encoding, std::string_view body, XmlText& tex
   return verdict;
 }
 
-// A text in UTF-16 begins with its mark, as the recommendation has it.
+// XML in UTF-16 has to begin with a byte-order mark.
 XmlVerdict PrepareUtf16(std::string_view file, XmlText& text) {
   std::string decoded;
   if (!DecodeUtf16(file, decoded))
@@ -103,10 +103,10 @@ XmlVerdict PrepareUtf16(std::string_view file, XmlText& text) {
   return ScanDecoded(text);
 }
 
-// Takes the two bytes, or the one, that a carried character at `at` stands for. False when it is
-// none.
+// Writes the one or two bytes of a carried character and moves behind it. False when the character
+// at `at` is not a carried one.
 bool TakeCarried(const char*& at, char*& out) {
-  // All of the plane, and nothing else, begins with these twelve bits.
+  // The first twelve bits identify the plane.
   const auto byte = [at](int i) { return static_cast<unsigned char>(at[i]); };
   if (byte(0) != 0xF3 || (byte(1) & 0xF0) != 0xB0)
     return false;
@@ -118,7 +118,7 @@ bool TakeCarried(const char*& at, char*& out) {
   return true;
 }
 
-// Writes the text's bytes; `out` has room for as many as `utf8` has, and there are never more.
+// Writes the text in the code page, which never takes more bytes than UTF-8. Returns the length.
 std::size_t EncodeText(std::string_view utf8, bool carried, char* out) {
   std::optional<CharacterEncoder> encoder; // seldom needed
   const char* at = utf8.data();

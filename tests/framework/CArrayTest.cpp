@@ -20,7 +20,7 @@ void Fill(CStringArray& array, std::initializer_list<const char*> texts) {
     array.Add(text);
 }
 
-// Counts itself, and cannot be moved as bytes: it knows its own address.
+// Counts its objects, and stores its own address, so that it cannot be moved as bytes.
 struct Tracked {
   explicit Tracked(int number = 0) : value(number), self(this) { ++alive; }
   Tracked(const Tracked& other) : value(other.value), self(this) { ++alive; }

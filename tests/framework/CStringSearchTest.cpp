@@ -47,7 +47,7 @@ TEST(CStringSearch, TrailByteIsNeitherBackslashNorBarNorLetter) {
 }
 
 TEST(CStringSearch, TextIsNotFoundAcrossCharacters) {
-  // The second half of one character and the first of the next look like the wanted character.
+  // The trail of one character and the lead byte of the next together equal the wanted character.
   const CString text("\xA4\xB3\x5C");
   EXPECT_EQ(text.Find("\xB3\x5C"), -1);
   EXPECT_EQ(CString("\xA4\xA4\xB3\x5C").Find("\xB3\x5C"), 2);

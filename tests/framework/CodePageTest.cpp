@@ -8,7 +8,7 @@
 
 namespace {
 
-// Walks forward from the start, which is the definition that the look back is a short cut for.
+// The definition: goes forward from the start of the text, where IsCharStart looks back.
 bool StartsByWalk(const std::string& text, size_t position) {
   const char* const end = text.data() + text.size();
   const char* at = text.data();
@@ -28,7 +28,7 @@ const char* FindByWalk(const std::string& text, const std::string& wanted) {
   return nullptr;
 }
 
-// Text that is dense in lead bytes, in trail bytes that look like something else, and in halves.
+// Text with many lead bytes, trail bytes that look like other characters, and halves of characters.
 std::string RandomText(std::mt19937& random, size_t longest) {
   static constexpr char bytes[] = "\xB3\xA4\x81\xFE\x5C|aA,\x80\xFF";
   std::string text(random() % (longest + 1), ' ');

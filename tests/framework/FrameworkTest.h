@@ -1,4 +1,4 @@
-// What the tests of the framework share.
+// Common helpers of the framework's tests.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,11 +13,11 @@ inline void PrintTo(const CString& text, std::ostream* out) {
   *out << testing::PrintToString(text.GetString());
 }
 
-// Big5, and three of the characters every double-byte bug is found with: each ends in a backslash
-// byte. In code page 936 the same bytes are three other characters.
+// Three Big5 characters whose trail byte is a backslash, which reveal most double-byte bugs. In
+// code page 936 the same bytes are three other characters.
 inline constexpr char kBackslashTrails[] = "\xB3\x5C\xA5\x5C\xBB\x5C";
 
-// Counts the storage that strings, arrays and maps ask for while it lives.
+// Counts the allocations of strings, arrays and maps while it lives.
 class StorageCount {
 public:
   StorageCount() : m_before(tq::SetStorageObserver(&Count)) { s_count = 0; }

@@ -1,4 +1,4 @@
-// Numbers of window messages that go by name.
+// Registered message numbers.
 #include "platform/framework/RegisteredMessage.h"
 
 #include <gtest/gtest.h>

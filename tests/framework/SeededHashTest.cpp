@@ -1,4 +1,4 @@
-// Hash values of text that somebody may have chosen.
+// Hash values of untrusted text.
 #include "platform/framework/SeededHash.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ TEST(SeededHash, DependsOnEveryByteAndOnTheLength) {
       values.insert(tq::SeededHash(other));
     }
   }
-  // A value for each length and for each place of the other letter.
+  // A value for each length and each position of the different letter.
   EXPECT_EQ(values.size(), 40u + 39u * 40u / 2u);
   EXPECT_NE(tq::SeededHash({"a\0", 2}), tq::SeededHash("a"));
 }

@@ -65,7 +65,8 @@ TEST(FileAccess, AFileIsNoDirectory) {
   EXPECT_FALSE(Files().DirectoryExists(""));
 }
 
-// A file that could not be asked for, as on a drive that does not answer, counted as missing.
+// Symptom: a file whose state the system could not tell, as on a drive that does not respond,
+// counted as missing.
 TEST(FileAccess, OnlyWhatTheSystemCallsMissingIsMissing) {
   using tq::FileState;
   const TestDirectory directory("data");
@@ -130,8 +131,7 @@ TEST(FileAccess, WhatAKilledSaveLeftIsOverwrittenAndGone) {
   EXPECT_EQ("SymbolList.xml", directory.List());
 }
 
-// A directory name may end in a double-byte character whose trail byte is a backslash, and hold
-// others.
+// A directory name may end in, and contain, double-byte characters whose trail byte is a backslash.
 TEST(FileAccess, DirectoryNamesMayEndInATrailByteBackslash) {
   const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string names[] = {big5 ? "\xB3\x5C\xA5\x5C\xBB\x5C" : "\x97\x5C",

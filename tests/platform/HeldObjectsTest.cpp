@@ -1,4 +1,4 @@
-// Nothing of the operating system stays open behind an operation, whichever way it ends.
+// No object of the operating system stays open after an operation, however it ends.
 #include "tests/support/HeldObjects.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The operating system's save steps with a say before and after each.
+// The operating system's save steps with a hook before and after each.
 #pragma once
 
 #include "platform/SaveSteps.h"
@@ -29,13 +29,13 @@ inline constexpr Step kAllSteps[] = {
     Step::WriteTarget,   Step::FlushTarget,    Step::CloseTarget,     Step::RemoveNewTarget,
 };
 
-// What the hook makes of a step.
+// What the hook decides about a step.
 enum class Fate {
   Proceed,
-  Fail,   // it is not taken and fails
-  Refuse, // it is not taken and the system "does not allow it"
+  Fail,   // it is not run and fails
+  Refuse, // it is not run, as if the system did not allow it
   Short,  // a write writes half
-  Skip,   // it is not taken and succeeds
+  Skip,   // it is not run and succeeds
 };
 
 class HookedSteps : public tq::SaveSteps {

@@ -1,4 +1,4 @@
-// A file is read while somebody writes it in place: what is read is never a mixture.
+// Reading a file that is being written in place: the result is never a mixture.
 #include "platform/ReadSteps.h"
 
 #include "tests/platform/TestSystem.h"
@@ -16,7 +16,7 @@ namespace {
 using tq::FileStamp;
 using tq::ReadResult;
 
-// A file that is written at some of the reads of it.
+// A file that is written during some of its reads.
 class ChangingFile : public tq::ReadSteps {
 public:
   bool Stamp(FileStamp& stamp) override {

@@ -1,5 +1,5 @@
-// The process is killed in the middle of a save: the file is the old one or the new one, and what
-// the kill left behind disturbs no later save.
+// A process is killed during a save: the file is the old one or the new one, and leftovers of the
+// kill do not disturb later saves.
 #include "platform/FileAccess.h"
 #include "symbollist/KeptFiles.h"
 #include "tests/platform/HookedSteps.h"
@@ -42,8 +42,8 @@ void SaveForEver(const std::string& path) {
   }
 }
 
-// What a killed process has written stays in the system's cache, so the disk is left out of it:
-// that gives the kills more saves to hit.
+// What a killed process has written survives in the system's cache, so nothing is flushed to the
+// disk: more saves fit into the time, which kills can hit.
 void SaveForEverWithoutFlushing(const std::string& path) {
   const auto skipFlushing = [](Step step) {
     return step == Step::FlushTemporary || step == Step::FlushDirectory ? Fate::Skip
@@ -135,8 +135,7 @@ TEST(SaveKill, AKillAroundAnyStepLeavesTheOldFileOrTheNew) {
   EXPECT_EQ(12, killed);
 }
 
-// The file that is kept stays as it is, and its copy is whole or not there yet; the next save makes
-// it.
+// The kept file is unchanged, and its copy is complete or missing; the next save then makes it.
 TEST(SaveKill, AKillAroundAnyStepOfKeepingLosesNothing) {
   constexpr char copy[] = "SymbolList_Kept.xml";
   int killed = 0;

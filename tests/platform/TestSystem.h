@@ -1,12 +1,12 @@
-// What the file tests ask of the operating system beyond the library's own seam.
+// What the file tests need of the operating system beyond the library's own interface to it.
 #pragma once
 
 #include <string>
 
 namespace tqtest {
 
-// A new, empty directory under the system's temporary directory, removed with all in it at the end.
-// `name` is bytes in the process's code page.
+// A new, empty directory below the system's temporary directory, removed with its contents by the
+// destructor. `name` is in the process's code page.
 class TestDirectory {
 public:
   explicit TestDirectory(const std::string& name);
@@ -15,14 +15,14 @@ public:
   TestDirectory& operator=(const TestDirectory&) = delete;
 
   const std::string& Path() const { return path_; }
-  // A file in it, as the library joins the name, and as the system's own calls take it.
+  // The path of a file in it, as the library joins it and as the system's own calls take it.
   std::string File(const std::string& name) const { return path_ + "\\" + name; }
   std::string OsFile(const std::string& name) const { return path_ + "/" + name; }
 
-  // The test's own reading and writing, not the library's. Read gives "(none)" for a missing file.
+  // Read and write without the library. Read returns "(none)" for a missing file.
   std::string Read(const std::string& name) const;
   void Write(const std::string& name, const std::string& bytes) const;
-  // Names in the directory, in order, joined by blanks.
+  // The names in the directory, sorted, joined by blanks.
   std::string List() const;
 
 private:
@@ -30,13 +30,13 @@ private:
   std::string path_;
 };
 
-// What a child process does; ends before the process when it is killed.
+// What a child process runs. A kill ends it early.
 using ChildBody = void (*)(const std::string& argument);
 
 constexpr int kNotKilled = -1;
 
-// Runs `body` in another process, on Windows by starting this program again. Kills it after so many
-// microseconds unless kNotKilled, and waits for its end. True when it came to its own end.
+// Runs `body` in a child process, on Windows by starting this program again. Kills it after so many
+// microseconds unless kNotKilled, and waits for its end. True when it was not killed.
 bool RunChild(ChildBody body, const std::string& argument, int killAfter = kNotKilled);
 
 // How many kills at random times this system can do in about two seconds.
@@ -44,10 +44,10 @@ int RandomKills();
 // Microseconds that a child needs to start and save a few times.
 int LongestLife();
 
-// Ends this process as a kill does.
+// Ends this process as abruptly as a kill.
 [[noreturn]] void EndAtOnce();
 
-// On Windows a child is this program again: the bodies it can be asked for.
+// The bodies that can run in a child, which on Windows is this program started again.
 int ChildBodyNumber(ChildBody body);
 ChildBody ChildBodyByNumber(int number);
 

@@ -1,5 +1,5 @@
-// One corpus for both platforms: files that must be read, with what must be read out of them, and
-// files that must be refused.
+// One corpus for both platforms: files that must be read, with the expected result, and files that
+// must be refused.
 //
 // good/<name>.xml has <name>.expected, or one for each interface language (<name>.tw.expected,
 // <name>.cn.expected) where the text depends on it; a file without one for a language is not meant
@@ -79,8 +79,7 @@ std::string Dump(const tq::XmlDocument& document) {
   return dump;
 }
 
-// Where the expectation for this process's language stands; empty when the file is not meant for
-// it.
+// The path of the expectation for this process's language; empty when the file is not meant for it.
 fs::path ExpectationOf(fs::path file) {
   const char* language = tq::AnsiCodePage() == tq::kCodePageBig5 ? ".tw.expected" : ".cn.expected";
   const fs::path always = file.replace_extension(".expected");
@@ -121,7 +120,7 @@ TEST(XmlCorpus, BadFilesAreRefused) {
   EXPECT_GE(refused, 190);
 }
 
-// A save that was cut short must never be taken for a file with fewer lists.
+// A truncated save must never pass for a file with fewer lists.
 TEST(XmlCorpus, EveryTruncationOfAListFileIsRefused) {
   for (const char* name : {"list_file_big5.xml", "list_file_gb2312.xml"}) {
     const std::string bytes = ReadFile(Corpus("good") / name);

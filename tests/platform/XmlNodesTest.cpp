@@ -9,7 +9,7 @@
 
 namespace {
 
-// The root's nodes: an element by its name, anything else as "-".
+// The root's child nodes: elements by name, anything else as "-".
 std::string Nodes(const std::string& inner) {
   const std::string file = "<r>" + inner + "</r>";
   tq::XmlDocument document;

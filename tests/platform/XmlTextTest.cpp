@@ -1,4 +1,4 @@
-// What is decided before the DOM sees a file, and what its text becomes behind it.
+// The checks before the DOM sees a file, and the conversion of its text afterwards.
 #include "platform/xml/XmlText.h"
 
 #include "platform/Encoding.h"
@@ -22,7 +22,7 @@ bool Loads(const std::string& file) {
   return tq::XmlDocument().Load(file.data(), file.size());
 }
 
-// The declaration that the list writer would write now.
+// The declaration that the list writer would write in this language.
 std::string OwnDeclaration() {
   const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   return std::string("<?xml version='1.0' encoding='") + (big5 ? "big5" : "gb2312") + "' ?>";
@@ -96,7 +96,7 @@ TEST(XmlText, NestingIsBoundedBeforeTheDomSeesIt) {
   EXPECT_EQ(XmlVerdict::Ok, Prepare(nested(tq::kXmlDepthLimit, "<!-- <b><b> -->")));
 }
 
-// 80,000 attributes in one element took the DOM 105 seconds, two million different names 156.
+// Symptom: 80,000 attributes of one element took the DOM 105 seconds, two million names 156.
 TEST(XmlText, WhatWouldMakeADomSlowIsRefusedAtOnce) {
   const auto many = [](int count, const auto& piece) {
     std::string text;
@@ -123,8 +123,8 @@ TEST(XmlText, WhatWouldMakeADomSlowIsRefusedAtOnce) {
   EXPECT_EQ(XmlVerdict::Ok, Prepare("<a>" + many(tq::kXmlPieceLimit - 1, comment) + "</a>"));
 }
 
-// The library asks for ASCII names alone; every other name reaches the DOM as one that all DOMs
-// take.
+// The library asks for ASCII names only; every other name is encoded in a form that all DOMs
+// accept.
 TEST(XmlText, NamesThatTheDomsTreatDifferentlyTravelAsHexadecimal) {
   const std::string file = "<p:a xmlns:p='u' _._x='1' b='2'>\xE8\xA8\xB1</p:a>";
   tq::XmlText text;
@@ -142,8 +142,8 @@ TEST(XmlText, NamesThatTheDomsTreatDifferentlyTravelAsHexadecimal) {
   EXPECT_FALSE(document.Root().Attribute("p", value));
 }
 
-// Every pair of bytes that is built like a character of the code page comes out as it went in,
-// assigned or not; every other pair refuses the file.
+// Every pair of bytes with the structure of a character of the code page is returned unchanged,
+// assigned or not; a file with any other pair is refused.
 TEST(XmlText, EveryDoubleByteCharacterComesOutAsItsOwnBytes) {
   const bool big5 = tq::AnsiCodePage() == tq::kCodePageBig5;
   const std::string start = OwnDeclaration() + "<a b='";

@@ -15,7 +15,7 @@ protected:
 
   static void LiveIn(int year) { year_ = year; }
 
-  // The checks, which only a class of its own may call.
+  // Makes the protected checks callable.
   struct Checks : COptFutID {
     using COptFutID::ChkBS;
     using COptFutID::ChkCommID;

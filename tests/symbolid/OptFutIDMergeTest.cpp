@@ -6,7 +6,7 @@
 
 namespace {
 
-// A text and the side, or "error <code>" when both are as they were.
+// The text and the side, or "error <code>" with both unchanged.
 std::string Answer(const COptFutID& id, int merged, const CString& text, char side) {
   if (merged)
     return std::string(text) + "|" + side;
@@ -123,7 +123,7 @@ TEST_F(OptFutIDMerge, LegsThatTheTablesKnowHaveExchangeAndShortName) {
   ListWithShortName("TXO22000L6");
   CSymbolTableMgr tables;
   ASSERT_EQ(tables.InitAllSymbolTable(), 1);
-  // The second leg has no short name; its exchange is told all the same.
+  // The second leg has no short name; its exchange is written nevertheless.
   EXPECT_EQ(Merge2("TXO22000L6", 'S', "TXO21000L6", 'B', 1, &tables),
             "TXO S 202612TF TX1 22000 CALL - B 202612TF 21000 CALL|B");
   EXPECT_EQ(Merge2("TXO22000L6", 'S', "TXO21000L6", 'B', 0, &tables),

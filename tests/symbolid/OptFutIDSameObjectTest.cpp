@@ -1,4 +1,4 @@
-// COptFutID with one object as input and output. The answer is the one that two objects would get.
+// COptFutID with the same object as input and output gives the same result as with two objects.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace {
 
-// The answers of an operation, joined by "|". The text is the input, and `out` is where the first
-// (or the second) text goes that it gives.
+// The results of an operation, joined by "|". The text is the input, and `out` receives its first
+// (or second) output text.
 struct Operation {
   const char* name;
   const char* input;

@@ -5,7 +5,7 @@ namespace {
 
 class OptFutIDSeparate : public CombinationTest {
 protected:
-  // "<leg> <side> <leg> <side>", or "error <code>" when the outputs are as they were.
+  // "<leg> <side> <leg> <side>", or "error <code>" with the outputs unchanged.
   static std::string Separate(const CString& text, char side, int check) {
     COptFutID id;
     CString id1 = "one";

@@ -1,4 +1,4 @@
-// COptFutID: calendar spreads of futures, and what the service tells of contracts.
+// COptFutID: calendar spreads of futures, and what the service knows about contracts.
 #include <cstring>
 
 #include "tests/symbolid/CombinationTest.h"
@@ -117,8 +117,7 @@ TEST_F(OptFutIDService, ARecordWithoutAWeekIsARecordAllTheSame) {
   EXPECT_EQ(Week("TX121000L6.TF"), "1 0  ");
 }
 
-// Symptom: a text that fills its field without an end was read on into the memory behind the
-// record.
+// Symptom: a text that fills its field without a NUL was read beyond the record.
 TEST_F(OptFutIDService, ATextWithoutAnEndEndsWithItsField) {
   List("TX121000L6", {});
   const auto filled = [](int kind, std::string text) {

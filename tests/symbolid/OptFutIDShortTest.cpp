@@ -1,5 +1,5 @@
-// COptFutID: every text of up to twelve characters over small alphabets has a defined answer. What
-// is read out of bounds, the sanitizers report.
+// COptFutID: every text of up to twelve characters over small alphabets has a defined result. The
+// sanitizers report reads out of bounds.
 #include "tests/symbolid/CombinationTest.h"
 
 #include <set>
@@ -71,7 +71,7 @@ protected:
     return std::string(id1) + " " + side1 + " " + id2.GetString() + " " + side2;
   }
 
-  // All operations that take two ids; they must leave a text, or an error and no text.
+  // All operations that take two ids; each must give a text, or an error and no text.
   static void Merge(const CString& id1, const CString& id2) {
     for (int operation = 0; operation < 5; ++operation) {
       COptFutID id;

@@ -1,5 +1,5 @@
-// COptFutID: which two legs make a combination, over all pairs of months, against the rules written
-// down once more in plain words.
+// COptFutID: which two legs form a combination, for all pairs of months, compared with a second
+// plain formulation of the rules.
 #include "tests/symbolid/CombinationTest.h"
 
 #include <set>
@@ -8,7 +8,7 @@ namespace {
 
 const std::string kLetters = "ABCDEFGHIJKLMNOPQRSTUVWX"; // twelve calls, twelve puts
 
-// The years of two legs: equal, in order, out of order, over a decade's end, too far apart.
+// The years of two legs: equal, ascending, descending, across a decade, too far apart.
 struct Years {
   char first;
   char second;
@@ -17,7 +17,7 @@ struct Years {
 const Years kAllYears[] = {{'6', '6', 0}, {'6', '7', 1},  {'7', '6', 2},  {'9', '0', 1},
                            {'0', '9', 2}, {'9', '1', -1}, {'0', '8', -1}, {'9', '9', 0}};
 
-// One pair, and what is true of it.
+// One pair and its properties.
 struct Pair {
   char letter1;
   char letter2;
@@ -148,7 +148,7 @@ TEST_F(OptFutIDTwoLegs, TypedStraddlesStranglesAndReversalsAreCheckedByKindAndMo
 }
 
 TEST_F(OptFutIDTwoLegs, StrikesOfTheServiceGoBeforeTheDigits) {
-  // Digits that say nothing: all strikes are below one.
+  // The digits do not help: all strikes are below one.
   List("ABO00000L6", {{ExtAttrWeekly, "V3=0.75"}});
   List("ABO00001L6", {{ExtAttrWeekly, "V3=0.5"}});
   Checks id;
@@ -172,8 +172,8 @@ TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessTheServiceHasBothStrikes) {
   }
 }
 
-// Symptom: a strike of the service that is no plain number refused a combination whose codes are in
-// order.
+// Symptom: a combination with valid codes was refused because the service's strike is no plain
+// number.
 TEST_F(OptFutIDTwoLegs, TheDigitsCountUnlessBothStrikesOfTheServiceAreNumbers) {
   List("ABO00002L6", {{ExtAttrWeekly, "V3=0.25"}});
   for (const char* strike : {"n/a", "1,000", "1e3", "0x1", "1 000", " "}) {

@@ -24,7 +24,7 @@ std::string LastEight(std::string_view text) {
   return std::string(8 - size, '\0').append(text.substr(text.size() - size));
 }
 
-// The upper-cased text, once its head and tail were found to be its own.
+// The upper-cased text; expects head and tail to match it.
 std::string_view UpperCased(CString& text, UpperBuffer& buffer) {
   const tq::UpperId upper = tq::UpperCased(text, buffer);
   EXPECT_EQ(upper.head, tq::PackHead(upper.text)) << upper.text;

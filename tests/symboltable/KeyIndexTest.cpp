@@ -11,7 +11,7 @@ namespace {
 
 using tq::KeyIndex;
 
-// Nodes by number, each with a key of its own; several may have one hash, as different keys can.
+// Nodes by number, each with a unique key; several may share a hash, as different keys can.
 class KeyIndexTest : public testing::Test {
 protected:
   static tq::SymbolKey KeyOf(std::uint32_t node, std::uint32_t hash) {

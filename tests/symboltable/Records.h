@@ -1,4 +1,4 @@
-// Service records for tests that give a table what no service should: odd ids, odd names.
+// Service records for tests that give a table what no service should send: odd ids, odd names.
 #pragma once
 
 #include <cstring>

@@ -6,7 +6,7 @@
 
 namespace {
 
-// One symbol of the stand-in's market, with attributes of its own.
+// One symbol of the stand-in's market with given attributes.
 class SymbolItemTest : public StandInTest {
 protected:
   const CSymbolItem& Item() {

@@ -44,7 +44,7 @@ TEST(SymbolKey, DotAfterALoneLeadByteBelongsToThatCharacter) {
   const tq::IdParts parts = tq::SplitId("A\xa4.TW");
   EXPECT_EQ(parts.symbol, "A\xa4.TW");
   EXPECT_EQ(parts.suffix, "");
-  // Here the byte in front of the dot is the second one of a character.
+  // The byte in front of the dot is a trail byte here.
   EXPECT_EQ(tq::SplitId("A\xa4\xa4.TW").suffix, "TW");
 }
 
@@ -156,8 +156,8 @@ TEST(SymbolKey, CharacterBucketIsTheSumOfTwelveUnsignedBytes) {
   }
 }
 
-// Keys of 15 bytes that had one hash when it was the same in every process: the last step of that
-// hash is undone, and the sizes that do not come out right are left out.
+// Keys of 15 bytes that collided under an earlier hash without a seed: its last step is inverted,
+// and results with a wrong size are discarded.
 std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
   constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u;
   std::uint64_t inverse = multiplier;
@@ -179,8 +179,7 @@ std::set<std::string> KeysOfOneKnownHash(std::size_t count) {
   return keys;
 }
 
-// Symptom: a table of 80,000 ids that were chosen for it took two seconds to load, since they had
-// one hash.
+// Symptom: a table of 80,000 crafted ids with one hash took two seconds to load.
 TEST(SymbolKey, NobodyCanChooseKeysOfOneHash) {
   constexpr std::size_t count = 2000;
   std::set<std::uint32_t> hashes;

@@ -1,4 +1,4 @@
-// A table's answers against those of plain chains that are walked.
+// A table's answers compared with those of walking plain chains.
 #include <list>
 #include <random>
 #include <string>
@@ -48,8 +48,8 @@ public:
 
 class ChainTest : public StandInTest, public testing::WithParamInterface<int> {
 protected:
-  // Few codes, so that duplicates and full chains are common; some longer than sixteen bytes, none
-  // with its exchange longer than the service takes.
+  // Few codes, so that duplicates and full chains are common. Some are longer than sixteen bytes;
+  // with the exchange none exceeds the service's limit.
   std::string RandomCode() {
     std::string code = std::to_string(Below(40));
     if (Below(2) == 0)

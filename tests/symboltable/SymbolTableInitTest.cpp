@@ -1,4 +1,4 @@
-// What Init does with tables that are present: seen from inside, since it leaves them to nobody.
+// What Init does with existing tables; tested from inside, because afterwards nobody owns them.
 #include <memory>
 
 #include "platform/framework/CUIntArray.h"

@@ -1,4 +1,4 @@
-// The end of the numbers, in a process of its own, for they are never given back.
+// Using up all numbers, in a process of its own, because they are never released.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

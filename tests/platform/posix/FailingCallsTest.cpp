@@ -41,7 +41,7 @@ ReadResult Read(const TestDirectory& directory, std::string& bytes) {
   return tq::Files().ReadWholeFile(directory.File("SymbolList.xml").c_str(), 1 << 20, bytes);
 }
 
-// Of a save over an old file, with these faults.
+// The outcome of a save over an old file with these faults.
 Calls CallsOfASave(const std::vector<Fault>& faults) {
   const TestDirectory directory("data");
   directory.Write("SymbolList.xml", kOld);
@@ -113,8 +113,7 @@ TEST(FailingCalls, ASaveOfANewFileLeavesNoneOrTheWholeOne) {
   });
 }
 
-// What fails from the first byte written on is the disk, which the place in the directory is then
-// no protection from; until then the old file stays.
+// Once bytes are written in place a failure damages the file; until then the old file is untouched.
 TEST(FailingCalls, InPlaceTheOldFileStaysUntilItIsWritten) {
   ForEachFault(CallsOfASave({kNoReplacing}), [](const Fault& fault) {
     const TestDirectory directory("data");
@@ -189,7 +188,7 @@ TEST(FailingCalls, NoErrorMakesAFileMissing) {
   EXPECT_EQ("SymbolList.xml", directory.List());
 }
 
-// The name goes over to another file between the reader's look at the size and its read.
+// Another file gets the name after the reader asked for the size and before it reads.
 TEST(FailingCalls, AFileThatIsReplacedWhileItIsReadIsReadWhole) {
   for (const char* call : {"fstat", "pread"}) {
     for (const int turn : {1, 2}) {
@@ -208,7 +207,7 @@ TEST(FailingCalls, AFileThatIsReplacedWhileItIsReadIsReadWhole) {
   }
 }
 
-// Somebody takes the whole directory away between two calls, and puts it back later.
+// The directory is renamed away between two calls, and later restored.
 TEST(FailingCalls, ADirectoryThatGoesKeepsAWholeFile) {
   for (const auto& [call, count] : CallsOfASave({})) {
     for (int turn = 1; turn <= count; ++turn) {
@@ -229,7 +228,7 @@ TEST(FailingCalls, ADirectoryThatGoesKeepsAWholeFile) {
   }
 }
 
-// A limit on the size of files is a disk that is full from there on.
+// A limit on the size of files stands for a full disk.
 TEST(FailingCalls, ADiskThatIsFullAtAnyByteKeepsTheOldFile) {
   rlimit before = {};
   ASSERT_EQ(0, ::getrlimit(RLIMIT_FSIZE, &before));

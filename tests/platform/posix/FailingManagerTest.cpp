@@ -1,4 +1,4 @@
-// Whichever call of the file system fails in a start, a load or an edit: no list is lost.
+// No list is lost, whichever call of the file system fails during a start, a load or an edit.
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -113,8 +113,8 @@ TEST_F(FailingManager, AnEditThatFailsToSaveAnywhereIsSavedByTheNext) {
       });
 }
 
-// A file that was written by another program since is copied aside first, and each call of that
-// may fail.
+// A file that another program has written meanwhile is copied aside first; each call of that may
+// fail.
 TEST_F(FailingManager, ACopyThatFailsAnywhereCostsNoList) {
   ForEachFault(
       [&] {

@@ -1,4 +1,4 @@
-// Saving where POSIX has more to say: rights, links, owners, full disks, another process's lock.
+// Saving, as far as it is particular to POSIX: rights, links, owners, full disks, locks.
 #include "platform/FileAccess.h"
 #include "tests/platform/TestSystem.h"
 
@@ -26,7 +26,7 @@ SaveResult Save(const std::string& path, const std::string& bytes) {
   return Files().SaveWholeFile(path.c_str(), bytes.data(), bytes.size());
 }
 
-// A right is no obstacle to the superuser: children give it up.
+// Missing rights do not stop the superuser, so children drop those privileges.
 void BecomeNobody() {
   if (::geteuid() == 0 && ::setuid(kNobody) != 0)
     ::_exit(2);
@@ -218,7 +218,7 @@ TEST(PosixSave, ALinkUnderTheTemporaryNameIsNotFollowed) {
   EXPECT_EQ("precious", directory.Read("victim.txt"));
 }
 
-// A directory of the temporary file's name, or a pipe, a socket, a device, made each save fail.
+// Symptom: a directory, pipe, socket or device under the temporary file's name made each save fail.
 TEST(PosixSave, WhatBearsTheTemporaryNameAndIsNoFileIsPassedBy) {
   constexpr char temporary[] = "SymbolList.xml.tmp";
   const auto makers = {
@@ -256,7 +256,8 @@ TEST(PosixSave, APipeThatSomebodyReadsUnderTheTemporaryNameGetsNoByte) {
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-// A second name of one of the user's files, or of the list file itself, was written over.
+// Symptom: a file of the user's, or the list file, was overwritten through a hard link under the
+// temporary name.
 TEST(PosixSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
   const TestDirectory directory("data");
   directory.Write(kName, "old");
@@ -286,8 +287,7 @@ TEST(PosixSave, ALinkThatLeadsInACircleIsNotMissing) {
   EXPECT_EQ(tq::FileState::Other, Files().StateOf(directory.File("null").c_str(), stamp));
 }
 
-// Directory names are bytes in any encoding, and a UTF-8 name can end in a byte that opens a
-// double-byte character.
+// Directory names may be in any encoding, and a UTF-8 name can end in a byte that is a lead byte.
 TEST(PosixSave, DirectoryNamesMayBeInAnyEncoding) {
   for (const char* name :
        {"\xE8\xA8\xB1", "\xB3\x5C\xA5\x5C", "\xA5\x5C", "caf\xE9", "back\\slash", "a b"}) {

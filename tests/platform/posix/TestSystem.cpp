@@ -37,8 +37,8 @@ std::string TestDirectory::List() const {
 
 namespace {
 
-// The alarm's default action ends a process as abruptly as a kill, and does not wait until a busy
-// machine lets the parent send one.
+// The alarm's default action ends a process as abruptly as a kill, and is on time even when a busy
+// machine does not run the parent.
 void EndIn(int microseconds) {
   itimerval timer = {};
   timer.it_value.tv_usec = std::max(microseconds, 1);

@@ -1,5 +1,5 @@
-// A document is loaded whole or not at all when memory runs out at any moment of its load: a part
-// of the user's lists must never pass for all of them.
+// When memory runs out at any moment of a load, the document is loaded completely or not at all: a
+// part of the user's lists must never pass for all of them.
 #include "platform/xml/XmlDocument.h"
 
 #include <cstdlib>
@@ -19,7 +19,7 @@ namespace {
 constexpr long kNever = -1;
 
 long allocationsLeft = kNever; // before they fail
-bool failsOnce = false;        // and then no other
+bool failsOnce = false;        // only the first of them fails
 long failures = 0;
 
 bool Fails() {
@@ -56,7 +56,7 @@ char* Copy(const char* text) {
   return copy != nullptr ? static_cast<char*>(std::memcpy(copy, text, size)) : nullptr;
 }
 
-// The parser takes its memory from here while one lives.
+// The parser allocates from here while it lives.
 class ParserMemory {
 public:
   ParserMemory() {
@@ -113,7 +113,7 @@ bool LoadWithout(long n, const std::string& text, const std::vector<std::string>
   return true;
 }
 
-// The parser itself forgets its input buffer and that buffer's text when it cannot fill them.
+// The parser itself leaks its input buffer and the buffer's text when it cannot fill them.
 constexpr size_t kForgotten = 2;
 
 void FreeForgotten(const std::set<void*>& before) {

@@ -101,7 +101,7 @@ void EndAtOnce() {
   std::abort();
 }
 
-// Not a test: what RunChild starts this program for.
+// Not a test: the entry of a child that RunChild starts.
 TEST(ChildProcess, DISABLED_Body) {
   const char* number = std::getenv("TQ_CHILD_BODY");
   const char* argument = std::getenv("TQ_CHILD_ARGUMENT");

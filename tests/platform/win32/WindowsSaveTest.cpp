@@ -1,4 +1,4 @@
-// Saving where Windows has more to say: files that others hold, attributes.
+// Saving, as far as it is particular to Windows: files that others have open, attributes.
 #include "platform/FileAccess.h"
 #include "tests/platform/TestSystem.h"
 
@@ -22,7 +22,7 @@ SaveResult Save(const TestDirectory& directory) {
   return Files().SaveWholeFile(directory.File(kName).c_str(), "new", 3);
 }
 
-// Another program that holds a file.
+// Another program that has a file open.
 class Holder {
 public:
   Holder(const std::string& path, DWORD share, DWORD disposition = OPEN_EXISTING)
@@ -94,7 +94,8 @@ TEST(WindowsSave, WhileAnotherProcessSavesTheSameFileThisOneFails) {
   EXPECT_EQ(kName, directory.List());
 }
 
-// A target that another program held without share-write for a moment was given up at once.
+// Symptom: a save failed at once when another program briefly had the target open without
+// share-write.
 TEST(WindowsSave, ATargetHeldWithoutShareWriteIsWaitedFor) {
   const TestDirectory directory("data");
   directory.Write(kName, kOld);
@@ -108,7 +109,8 @@ TEST(WindowsSave, ATargetHeldWithoutShareWriteIsWaitedFor) {
   EXPECT_EQ("new", directory.Read(kName));
 }
 
-// A second name of one of the user's files, or of the list file itself, was emptied.
+// Symptom: a file of the user's, or the list file, was emptied through a hard link under the
+// temporary name.
 TEST(WindowsSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
   const TestDirectory directory("data");
   directory.Write(kName, kOld);
@@ -132,8 +134,8 @@ TEST(WindowsSave, ADirectoryUnderTheTemporaryNameIsPassedBy) {
   ::RemoveDirectoryA(directory.File("SymbolList.xml.tmp").c_str());
 }
 
-// The temporary name is longer than the system takes: saved in place, so that the file stays the
-// same one.
+// When the temporary name is too long for the system, the file is saved in place and stays the same
+// file.
 TEST(WindowsSave, APathWithoutRoomForTheTemporaryNameIsSavedInPlace) {
   const TestDirectory directory("data");
   const std::size_t start = directory.File("").size();
