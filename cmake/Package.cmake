@@ -1,5 +1,5 @@
-# What `cmake --install` gives a terminal's programmers: the two libraries, the public headers in this
-# tree's folders, and the files by which CMake and pkg-config find them.
+# What `cmake --install` gives a terminal's programmers: the two libraries, the public headers in one
+# folder, and the files by which CMake and pkg-config find them.
 include(CMakePackageConfigHelpers)
 
 # Every header that a terminal may include, and what those include. Nothing else is installed.
@@ -58,11 +58,10 @@ set(TQ_SYMBOL_HEADERS
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
 file(RELATIVE_PATH TQ_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 
-# The headers come with the target. The number in the name of the .so is the
-# interface's: it changes when a terminal has to be compiled anew.
+# The number in the name of the .so is the interface's: it changes when a terminal has to be compiled
+# anew.
 function(tq_package_library target)
-  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/)
-  target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
+  target_include_directories(${target} INTERFACE $<INSTALL_INTERFACE:${TQ_INCLUDE_DIR}>)
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "\$ORIGIN")
   if(NOT WIN32)
@@ -75,15 +74,21 @@ function(tq_package_library target)
   install(TARGETS ${target} EXPORT tqSymbolTargets
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-    FILE_SET HEADERS DESTINATION ${TQ_INCLUDE_DIR})
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${target}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()
 
-tq_package_library(tqFramework ${TQ_FRAMEWORK_HEADERS})
-tq_package_library(tqSymbol ${TQ_SYMBOL_HEADERS})
+tq_package_library(tqFramework)
+tq_package_library(tqSymbol)
+
+set(headers ${TQ_FRAMEWORK_HEADERS} ${TQ_SYMBOL_HEADERS})
+list(TRANSFORM headers PREPEND ${PROJECT_SOURCE_DIR}/)
+install(CODE "set(TQ_HEADERS \"${headers}\")
+  set(TQ_STAGE \"${CMAKE_BINARY_DIR}/package/headers\")
+  set(TQ_INCLUDE_DIR \"${TQ_INCLUDE_DIR}\")")
+install(SCRIPT cmake/InstallHeaders.cmake)
 
 set(TQ_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tqSymbol)
 install(EXPORT tqSymbolTargets NAMESPACE tqSymbol:: DESTINATION ${TQ_PACKAGE_DIR})

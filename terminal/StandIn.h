@@ -161,6 +161,8 @@ TQSTANDIN_API void Reset();
 // The interface language that IsTraditionChinese reports. At the start: on Windows whether the code
 // page is 950; elsewhere traditional unless the environment says TQ_LANG=cn.
 TQSTANDIN_API void SetTraditional(bool traditional);
+// How often anybody has asked for it since the process began, the stand-in's services too.
+TQSTANDIN_API long LanguageQuestions();
 
 // Makes the n-th call from now (1: the next) of one service operation fail, as that operation's
 // contract says a failure looks; n = 0 takes the order back. "*" counts calls of every operation.

@@ -1,5 +1,6 @@
 #include "terminal/control/Reports.h"
 
+#include <atomic>
 #include <deque>
 
 #include "terminal/control/Parts.h"
@@ -26,6 +27,9 @@ Reports& TheReports() {
 // Loggers outlive a Reset: they are objects of the library.
 int loggersAlive = 0;
 
+// Services are asked from several threads in some tests.
+std::atomic<long> languageQuestions = 0;
+
 Language& TheLanguage() {
   static Language language = StartLanguage();
   return language;
@@ -34,7 +38,12 @@ Language& TheLanguage() {
 } // namespace
 
 Language InterfaceLanguage() {
+  ++languageQuestions;
   return TheLanguage();
+}
+
+long LanguageQuestions() {
+  return languageQuestions;
 }
 
 void SetTraditional(bool traditional) {

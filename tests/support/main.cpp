@@ -1,6 +1,36 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <string_view>
+
+#include "terminal/StandIn.h"
+
+namespace {
+
+// Fails each test that asked for the interface language, its fixture included: one that does not ask
+// need not run in every language.
+class LanguageGuard : public testing::EmptyTestEventListener {
+public:
+  void OnTestStart(const testing::TestInfo&) override { before_ = standin::LanguageQuestions(); }
+  void OnTestEnd(const testing::TestInfo&) override {
+    if (standin::LanguageQuestions() != before_)
+      ADD_FAILURE() << "asks for the language: it is no test of tests/language-neutral.txt";
+  }
+
+private:
+  long before_ = 0;
+};
+
+bool RunsInNoLanguage() {
+  const char* const language = std::getenv("TQ_LANG");
+  return language != nullptr && std::string_view(language) == "none";
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
+  if (RunsInNoLanguage())
+    testing::UnitTest::GetInstance()->listeners().Append(new LanguageGuard);
   return RUN_ALL_TESTS();
 }
