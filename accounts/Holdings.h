@@ -1,4 +1,4 @@
-// Holdings as texts of symbol ids joined by ",": taken from the service, and put together.
+// Holdings: symbol ids joined by ",". Cleans up the service's text and merges several.
 #pragma once
 
 #include <cstdint>
@@ -10,23 +10,24 @@
 
 namespace tq {
 
-// The trading-system proxy's text with the blanks around ids and the empty pieces left out. Order,
-// letter case and repetitions stay. A null text has none.
+// The trading-system proxy's text without blanks around ids and without empty pieces. Order, letter
+// case and repetitions stay. Empty for a null text.
 CString TidyHoldings(const char* text);
 
-// The holdings of several accounts as one text: each id where it is met first, compared byte by
-// byte.
+// Merges the holdings of several accounts: each id once, in order of first occurrence, compared
+// byte by byte. A hash table with open addressing over the merged text, so that an id costs no
+// allocation of its own.
 class MergedHoldings {
 public:
-  // `holdings` is tidy and not longer than any CString.
+  // `holdings` comes from TidyHoldings.
   void Add(const CString& holdings);
   CString Text() const;
-  // Entries that were looked at so far, to find ids and to make room: a few for each id, whatever
-  // the ids are.
+  // Table entries examined so far, for look-ups and rehashing: a few for each id, whatever the ids
+  // are.
   size_t Steps() const { return steps_; }
 
 private:
-  // An id of text_; a length of 0 is a free slot, for no id is empty.
+  // An id as a range of text_. A length of 0 marks a free slot.
   struct Slot {
     uint32_t hash;
     uint32_t begin;
@@ -37,7 +38,7 @@ private:
   void Grow();
 
   std::string text_;
-  std::vector<Slot> slots_; // a power of two, at most half of them in use
+  std::vector<Slot> slots_; // the size is a power of two; at most half are in use
   size_t count_ = 0;
   size_t steps_ = 0;
 };

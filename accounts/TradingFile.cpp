@@ -1,8 +1,8 @@
 #include "accounts/TradingFile.h"
 
-#include "symbolid/UpperText.h"
-#include "symbollist/FileDeclaration.h"
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
+#include "platform/Text.h"
+#include "symbollist/ListFile.h"
 
 namespace tq {
 namespace {

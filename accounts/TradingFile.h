@@ -1,20 +1,19 @@
-// The text of the file that shows the trading systems. docs/trading-list-file.md describes it byte
-// for byte.
+// The text of the trading-system file. docs/trading-list-file.md describes it byte for byte.
 #pragma once
 
 #include <string>
 #include <vector>
 
-#include "accounts/TradingTable.h"
+#include "accounts/TradingRecords.h"
 
 namespace tq {
 
-// The file's name, put behind the data directory as it stands.
+// The file's name, appended to the data directory.
 inline constexpr char kTradingFileName[] = "\\TSList.xml";
 
-// The whole document, in the process's ANSI code page. Nothing is escaped: the file is the broker's
-// own texts, and whoever reads it expects them as they are. Bytes that no reader could take (halves
-// of double-byte characters, control bytes) are left out; the table keeps them, for ids are the
+// The whole document, in the process's ANSI code page. Nothing is escaped, since readers of this
+// file expect the broker's texts unchanged. Bytes that would make the file unreadable (halves of
+// double-byte characters, control bytes) are left out here; the table keeps them, since ids are the
 // service's keys.
 std::string TradingFileText(const std::vector<CTS>& systems);
 

@@ -7,7 +7,7 @@
 namespace tq {
 namespace {
 
-// The owner of a text that the proxy handed out.
+// Owns a text that the proxy handed out.
 class ServiceText {
 public:
   ServiceText() = default;

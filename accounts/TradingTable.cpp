@@ -2,66 +2,12 @@
 
 #include <utility>
 
-#include "accounts/Holdings.h"
 #include "accounts/TradingFile.h"
 #include "accounts/TradingService.h"
 #include "platform/FileAccess.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 
 namespace tq {
-namespace {
-
-CString ToText(std::string_view text) {
-  return CString(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
-
-CString CAccount::Id() const {
-  return ToText(FieldText(info.id));
-}
-
-CString CAccount::DisplayId() const {
-  return ToText(FieldText(info.displayId));
-}
-
-CString CAccount::ListId() const {
-  CString id;
-  id.Format("%d%s", static_cast<int>(info.type), Id().GetString());
-  return id;
-}
-
-bool CAccount::HasId(const CString& id) const {
-  return FieldText(info.id) == ViewOf(id);
-}
-
-CString CTS::Id() const {
-  return ToText(FieldText(info.id));
-}
-
-CString CTS::Name() const {
-  return ToText(FieldText(info.name));
-}
-
-int CTS::IndexOf(const CString& id, TqsAccType type) const {
-  for (size_t i = 0; i < accounts.size(); ++i) {
-    if (accounts[i].Is(id, type))
-      return static_cast<int>(i);
-  }
-  return -1;
-}
-
-const CAccount* CTS::FindAccount(const CString& id, TqsAccType type) const {
-  const int index = IndexOf(id, type);
-  return index < 0 ? nullptr : &accounts[static_cast<size_t>(index)];
-}
-
-CString CTS::MergedHoldings() const {
-  tq::MergedHoldings merged;
-  for (const CAccount& account : accounts)
-    merged.Add(account.holdings);
-  return merged.Text();
-}
 
 const CTS* TradingTable::Find(const CString& tsId) const {
   const int index = IndexOf(tsId);
@@ -86,7 +32,7 @@ void TradingTable::Put(const CString& tsId, bool available, CTS fresh) {
   const int index = IndexOf(tsId);
   if (index >= 0) {
     CTS& entry = systems_[static_cast<size_t>(index)];
-    // An emptied entry keeps its id: without it the next login would not find its place again.
+    // An emptied entry keeps its id, so that the next login finds it again.
     if (!available)
       std::memcpy(fresh.info.id, entry.info.id, sizeof(fresh.info.id));
     entry = std::move(fresh);
@@ -118,8 +64,7 @@ void TradingTable::RefetchHoldings(const CString& tsId, const CString& accountId
   Changed();
 }
 
-// The file is for others to look at; the library never reads it. So one that cannot be written
-// holds up nothing, and the next change tries again.
+// The library never reads this file, so a failed write is ignored; the next change tries again.
 void TradingTable::Changed() {
   ++changes_;
   if (path_.IsEmpty())

@@ -1,58 +1,22 @@
-// The user's trading systems with their accounts and what these hold: a mirror of the
-// trading-system proxy, as of the last login or change of holdings that the terminal told of.
+// The user's trading systems with their accounts and holdings: a copy of the trading-system proxy's
+// data as of the last login or change of holdings that the terminal announced.
 #pragma once
 
-#include <cstring>
-#include <string_view>
 #include <vector>
 
-#include "platform/framework/CString.h"
-#include "platform/services/TQSProxy.h"
+#include "accounts/TradingRecords.h"
 
 namespace tq {
 
-// The text of a record's field, which need not be terminated when it fills the field.
-template <size_t SIZE> std::string_view FieldText(const char (&field)[SIZE]) {
-  return std::string_view(field, strnlen(field, SIZE));
-}
-
-// One account. Its holdings are kept as one tidy text: lists, queries and the file all want them
-// joined.
-struct CAccount {
-  CString holdings; // ids joined by ",", in the service's order
-  TQS_ACCOUNTINFO info = {};
-
-  CString Id() const;
-  CString DisplayId() const;
-  // The id of the account's list: the type's number and the account id, "19801234567".
-  CString ListId() const;
-  bool Is(const CString& id, TqsAccType type) const { return info.type == type && HasId(id); }
-  bool HasId(const CString& id) const;
-};
-
-// One trading system.
-struct CTS {
-  TQS_TSINFO info = {};
-  std::vector<CAccount> accounts; // in the service's order
-
-  CString Id() const;
-  CString Name() const;
-  // Position of the first account with that id and type, or -1; and the account itself, or null.
-  int IndexOf(const CString& id, TqsAccType type) const;
-  const CAccount* FindAccount(const CString& id, TqsAccType type) const;
-  // What all accounts hold.
-  CString MergedHoldings() const;
-};
-
 // Ids of systems and accounts are the service's keys and compared byte by byte. Pointers into the
-// table are good until it changes, which it may whenever the service is asked or the terminal is
-// told something: the terminal may log in from there.
+// table are valid until it changes, which it may during any call of the service or of the terminal:
+// the terminal may log in from there.
 class TradingTable {
 public:
   // `path` is the file that is rewritten with each change; empty for none.
   explicit TradingTable(const CString& path) : path_(path) {}
 
-  // The file of the next change.
+  // Changes the file, from the next update on.
   void SetPath(const CString& path) { path_ = path; }
 
   const std::vector<CTS>& Systems() const { return systems_; }
@@ -60,16 +24,15 @@ public:
 
   // Reads a trading system from the service and puts it in.
   void Reload(const CString& tsId);
-  // Puts in what the service was asked for: `fresh` takes the place of the entry of that id, or is
-  // added. When it was not `available`, an entry that is there keeps only its id. Rewrites the
-  // file.
+  // Stores the service's answer: `fresh` replaces the entry with that id, or is added. When it was
+  // not `available`, an existing entry keeps only its id. Rewrites the file.
   void Put(const CString& tsId, bool available, CTS fresh);
   // Asks for the holdings of one account of the table. When the service fails, or the account is
   // not in the table, nothing changes; else the file is rewritten.
   void RefetchHoldings(const CString& tsId, const CString& accountId, TqsAccType type);
 
-  // Counts the changes of the table: who copied from it, and lets the terminal work, can tell
-  // whether the copy is what the table says still.
+  // A version number: a caller that has called the service compares it to see whether what it
+  // copied is out of date.
   unsigned Changes() const { return changes_; }
 
 private:

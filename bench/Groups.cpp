@@ -17,8 +17,8 @@
 namespace bench {
 namespace {
 
-constexpr double kGoalLoading = 1.5;
-constexpr double kGoalFinding = 0.02; // fifty times faster
+constexpr double kGoalLoading = 2;
+constexpr double kGoalFinding = 0.01; // a hundred times faster
 constexpr int kSubGroups = 10;
 
 // The types of a full load.

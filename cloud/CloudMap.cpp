@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "idlist/StorableText.h"
 #include "platform/CodePage.h"
-#include "symbollist/StorableText.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {

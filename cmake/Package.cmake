@@ -19,7 +19,6 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/CPtrArray.h
   platform/framework/CString.h
   platform/framework/CStringArray.h
-  platform/framework/CStringOperators.h
   platform/framework/CUIntArray.h
   platform/framework/CWaitCursor.h
   platform/framework/CWinApp.h
@@ -47,7 +46,7 @@ set(TQ_SYMBOL_HEADERS
   platform/services/VLProxy.h
   platform/services/VLRecords.h
   platform/services/tqStockFields.h
-  symbollist/IDList.h
+  idlist/IDList.h
   symbolid/ListID.h
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h

@@ -1,8 +1,6 @@
 // The operations that open dialogs. Each puts the library's resources in force while it runs, and
 // converts the terminal's window handle.
-#include "dialogs/FinIndiSearchDlg.h"
-#include "dialogs/NationalCommodityDlg.h"
-#include "dialogs/NationalOptionDlg.h"
+#include "dialogs/IndicatorSearches.h"
 #include "dialogs/resources/DialogTable.h"
 #include "manager/TQSymbolListMgr.h"
 

@@ -1,35 +1,30 @@
 #include "dialogs/WorkingCopy.h"
 
 #include "manager/TQSymbolListMgr.h"
-#include "symbollist/ListArray.h"
 
 namespace tq {
 
 WorkingCopy::WorkingCopy(CTQSymbolListMgr& manager, int kind) {
-  manager.GetSymbolList(lists_, kind);
+  CPtrArray copies;
+  manager.GetSymbolList(copies, kind);
+  for (int i = 0; i < copies.GetSize(); ++i)
+    lists_.emplace_back(static_cast<CSymbolList*>(copies[i]));
   manager.GetDefaultListIdx(defaultIndex_);
 }
 
-WorkingCopy::~WorkingCopy() {
-  Clear();
-}
-
-CSymbolList& WorkingCopy::At(int index) const {
-  return *ListAt(lists_, index);
-}
-
 int WorkingCopy::Find(const char* id) const {
-  return FindListById(lists_, id);
+  for (int i = 0; i < Count(); ++i) {
+    if (At(i).IsSameID(id))
+      return i;
+  }
+  return -1;
 }
 
-void WorkingCopy::Replace(int index, const CSymbolList& list) {
-  auto* const copy = new CSymbolList(list);
-  delete ListAt(lists_, index);
-  lists_.SetAt(index, copy);
-}
-
-void WorkingCopy::Clear() {
-  DestroyLists(lists_);
+CPtrArray WorkingCopy::Pointers() const {
+  CPtrArray pointers;
+  for (const auto& list : lists_)
+    pointers.Add(list.get());
+  return pointers;
 }
 
 } // namespace tq

@@ -2,6 +2,9 @@
 // committed.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "platform/framework/CPtrArray.h"
 #include "symbollist/SymbolList.h"
 
@@ -9,34 +12,32 @@ class CTQSymbolListMgr;
 
 namespace tq {
 
-// Owns its lists.
 class WorkingCopy {
 public:
+  using Lists = std::vector<std::unique_ptr<CSymbolList>>; // none is null
+
   // Empty, without a default list.
   WorkingCopy() = default;
   // Of the manager's lists of a kind (1 or 8), with the user lists' default index.
   WorkingCopy(CTQSymbolListMgr& manager, int kind);
-  WorkingCopy(const WorkingCopy&) = delete;
-  WorkingCopy& operator=(const WorkingCopy&) = delete;
-  ~WorkingCopy();
 
-  // CSymbolList pointers in display order. A list that is put in belongs to the copy.
-  CPtrArray& Lists() { return lists_; }
-  const CPtrArray& Lists() const { return lists_; }
-  // The list at `index`, which is there.
-  CSymbolList& At(int index) const;
+  // In display order.
+  Lists& All() { return lists_; }
+  int Count() const { return static_cast<int>(lists_.size()); }
+  // `index` must be in range.
+  CSymbolList& At(int index) const { return *lists_[static_cast<std::size_t>(index)]; }
   // Position of the list with that id, ignoring letter case, or -1.
   int Find(const char* id) const;
-  // Puts a copy of `list` in the place of the one at `index`.
-  void Replace(int index, const CSymbolList& list);
-  // Destroys the lists.
-  void Clear();
+  void Clear() { lists_.clear(); }
+
+  // The lists as the manager's operations take them. The pointers are valid until the lists change.
+  CPtrArray Pointers() const;
 
   int DefaultIndex() const { return defaultIndex_; }
   void SetDefaultIndex(int index) { defaultIndex_ = index; }
 
 private:
-  CPtrArray lists_;
+  Lists lists_;
   int defaultIndex_ = -1;
 };
 

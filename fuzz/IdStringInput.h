@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "fuzz/Input.h"
-#include "symbollist/IDList.h"
-#include "symbollist/IdString.h"
-#include "symbollist/StorableText.h"
+#include "idlist/IDList.h"
+#include "idlist/IdString.h"
+#include "idlist/StorableText.h"
 
 namespace fuzz {
 

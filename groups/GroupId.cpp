@@ -9,13 +9,13 @@ bool IsAscii(const FoldedId& id) {
   return ((id.low | id.high) & kTopBits) == 0;
 }
 
-// A lower-case letter differs from its upper-case form in bit 5, two below the flag of
-// LowerLetters.
+// A lower-case letter differs from its upper-case form in bit 5, which is the flag bit of
+// LowerLetters shifted right by two.
 std::uint64_t UpperAscii(std::uint64_t ascii) {
   return ascii ^ LowerLetters(ascii) >> 2;
 }
 
-// The second byte of a double-byte character may equal a letter and is left as it is.
+// The second byte of a double-byte character may look like a letter and is left as it is.
 FoldedId FoldCharacters(std::string_view id) {
   char upper[kGroupIdBytes];
   const char* const end = id.data() + id.size();
@@ -56,7 +56,7 @@ std::string_view AfterComma(std::string_view id) {
   return comma == nullptr ? id : id.substr(static_cast<std::size_t>(comma + 1 - id.data()));
 }
 
-void TerminateTexts(GroupInfo& info) {
+void CutFullTexts(GroupInfo& info) {
   TerminateText(info.szID);
   TerminateText(info.szName);
 }

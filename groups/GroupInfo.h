@@ -1,6 +1,5 @@
-// GroupInfo: the record of a group as the symbol-data service hands it out and the manager copies
-// it. It is one of the service's records; this header is where a terminal finds it beside the other
-// group headers.
+// GroupInfo: the record of a group, which the symbol-data service defines and the manager copies.
+// This header puts it beside the other public headers of groups.
 #pragma once
 
 #include "platform/services/VLRecords.h"

@@ -6,92 +6,58 @@
 namespace tq {
 namespace {
 
-// A level this small is searched plainly: that touches no more memory than an index would.
+// So few groups are scanned faster than an index is built.
 constexpr int kSmallLevel = 16;
 
 } // namespace
 
-const GroupParts* GroupLevel::PartsAt(int index) const {
-  return parts_.empty() ? nullptr : &parts_[Place(index)];
-}
-
-GroupParts& GroupLevel::MakePartsAt(int index) {
+GroupLevel::Parts& GroupLevel::MakePartsAt(int index) {
   if (parts_.empty())
     parts_.resize(records_.size());
   return parts_[Place(index)];
 }
 
-const GroupInfo& GroupLevel::InfoAt(int index) const {
-  const GroupParts* const parts = PartsAt(index);
-  return parts != nullptr && parts->list != nullptr ? parts->list->GetInfo()
-                                                    : records_[Place(index)];
-}
-
 CGroupList* GroupLevel::ListAt(int index) {
-  GroupParts& parts = MakePartsAt(index);
-  if (parts.list == nullptr) {
-    SubsAt(index);
+  Parts& parts = MakePartsAt(index);
+  if (parts.list == nullptr)
     parts.list = std::make_shared<CGroupList>(records_[Place(index)], std::move(parts.subs));
-  }
   return parts.list.get();
 }
 
-// The level of the sub-groups as far as there is one.
-const GroupLevel* GroupLevel::KnownSubsAt(int index) const {
-  const GroupParts* const parts = PartsAt(index);
-  if (parts == nullptr)
-    return nullptr;
-  return parts->list != nullptr ? parts->list->Subs() : parts->subs.get();
-}
-
-GroupLevel* GroupLevel::SubsAt(int index) {
-  if (parts_.empty())
-    return nullptr;
-  GroupParts& parts = parts_[Place(index)];
-  if (parts.list != nullptr)
-    return parts.list->Subs();
-  if (parts.subs == nullptr && !parts.arrived.empty()) {
-    parts.subs = std::make_unique<GroupLevel>();
-    parts.subs->Adopt(std::exchange(parts.arrived, {}));
-  }
-  return parts.subs.get();
+GroupLevel* GroupLevel::SubsAt(int index) const {
+  if (const CGroupList* const list = KnownListAt(index))
+    return list->Subs();
+  return parts_.empty() ? nullptr : parts_[Place(index)].subs.get();
 }
 
 GroupLevel& GroupLevel::MakeSubsAt(int index) {
-  GroupParts& parts = MakePartsAt(index);
+  Parts& parts = MakePartsAt(index);
   if (parts.list != nullptr)
     return parts.list->MakeSubs();
-  if (GroupLevel* const subs = SubsAt(index))
-    return *subs;
-  parts.subs = std::make_unique<GroupLevel>();
+  if (parts.subs == nullptr)
+    parts.subs = std::make_unique<GroupLevel>();
   return *parts.subs;
 }
 
 int GroupLevel::SubCountAt(int index) const {
-  if (const GroupLevel* const subs = KnownSubsAt(index))
-    return subs->Count();
-  const GroupParts* const parts = PartsAt(index);
-  return parts == nullptr ? 0 : static_cast<int>(parts->arrived.size());
-}
-
-FoldedId GroupLevel::SubIdAt(int index, int sub) const {
-  const GroupLevel* const subs = KnownSubsAt(index);
-  return subs != nullptr ? subs->IdAt(sub) : FoldedIdOf(PartsAt(index)->arrived[Place(sub)]);
+  const GroupLevel* const subs = SubsAt(index);
+  return subs == nullptr ? 0 : subs->Count();
 }
 
 void GroupLevel::SetNameAt(int index, const char* name) {
-  const GroupParts* const parts = PartsAt(index);
-  if (parts != nullptr && parts->list != nullptr)
-    parts->list->SetName(name);
+  if (CGroupList* const list = KnownListAt(index))
+    list->SetName(name);
   else
-    SetGroupName(OwnRecords()[Place(index)], name);
+    SetGroupName(records_[Place(index)], name);
 }
 
 int GroupLevel::Find(const FoldedId& id) {
-  if (index_ == nullptr && (Count() <= kSmallLevel || ++searches_ <= kPlainSearches))
-    return FindPlainly(id);
-  const std::uint32_t number = Index().Find(id);
-  return number == GroupIdIndex::kNone ? -1 : static_cast<int>(number);
+  if (Count() <= kSmallLevel)
+    return Scan(id);
+  if (firsts_ == nullptr)
+    BuildIndex();
+  const auto found = firsts_->find(id);
+  return found == firsts_->end() ? -1 : found->second;
 }
 
 int GroupLevel::Find(const char* id) {
@@ -99,7 +65,7 @@ int GroupLevel::Find(const char* id) {
   return FoldId(TextView(id), folded) ? Find(folded) : -1;
 }
 
-int GroupLevel::FindPlainly(const FoldedId& id) const {
+int GroupLevel::Scan(const FoldedId& id) const {
   for (int i = 0; i < Count(); ++i) {
     if (IdAt(i) == id)
       return i;
@@ -107,34 +73,69 @@ int GroupLevel::FindPlainly(const FoldedId& id) const {
   return -1;
 }
 
-GroupIdIndex& GroupLevel::Index() {
-  if (index_ == nullptr) {
-    index_ = std::make_unique<GroupIdIndex>();
-    index_->Build(records_.size(), [this](std::size_t i) { return FoldedIdOf(records_[i]); });
-  }
-  return *index_;
-}
-
-void GroupLevel::DropIndex() {
-  index_.reset();
-  searches_ = 0;
+void GroupLevel::BuildIndex() {
+  firsts_ = std::make_unique<MapById<int>>(records_.size());
+  for (int i = 0; i < Count(); ++i)
+    firsts_->try_emplace(IdAt(i), i);
 }
 
 void GroupLevel::Clear() {
-  records_ = {};
-  own_.clear();
+  records_.clear();
   parts_.clear();
-  DropIndex();
+  firsts_.reset();
 }
 
-void GroupLevel::Adopt(std::span<const GroupInfo> records) {
+// One pass for both, since a full load spends its time on little else.
+bool GroupLevel::Assign(std::span<const GroupInfo> records) {
   Clear();
-  records_ = records;
+  records_.assign(records.begin(), records.end());
+  int haveSubs = 0;
+  for (GroupInfo& record : records_) {
+    TerminateTexts(record);
+    haveSubs |= record.bHasSubGroup;
+  }
+  return haveSubs != 0;
 }
 
-void GroupLevel::AdoptSubsAt(int index, std::span<const GroupInfo> records) {
-  if (!records.empty())
-    MakePartsAt(index).arrived = records;
+void GroupLevel::Append(const GroupInfo& record, std::unique_ptr<GroupLevel> subs) {
+  if (firsts_ != nullptr)
+    firsts_->try_emplace(FoldedIdOf(record), Count());
+  records_.push_back(record);
+  if (!parts_.empty())
+    parts_.emplace_back();
+  if (subs != nullptr)
+    MakePartsAt(Count() - 1).subs = std::move(subs);
+}
+
+void GroupLevel::ReplaceAt(int index, const GroupInfo& record, std::unique_ptr<GroupLevel> subs) {
+  records_[Place(index)] = record;
+  MakePartsAt(index) = {std::move(subs), nullptr};
+}
+
+void GroupLevel::Move(std::size_t from, std::size_t to) {
+  records_[to] = records_[from];
+  if (!parts_.empty())
+    parts_[to] = std::move(parts_[from]);
+}
+
+bool GroupLevel::RemoveFirsts(std::span<const FoldedId> ids) {
+  MapById<int> wanted; // how many groups of each id are still to be removed
+  for (const FoldedId& id : ids)
+    ++wanted[id];
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < records_.size(); ++i) {
+    const auto found = wanted.find(FoldedIdOf(records_[i]));
+    if (found != wanted.end() && found->second > 0)
+      --found->second;
+    else if (const std::size_t to = kept++; to != i)
+      Move(i, to);
+  }
+  if (kept == records_.size())
+    return false;
+  records_.resize(kept);
+  parts_.resize(std::min(kept, parts_.size()));
+  firsts_.reset();
+  return true;
 }
 
 } // namespace tq

@@ -41,16 +41,15 @@ int CGroupList::Update2(SymbolInfo* records, int count) {
   return result;
 }
 
-// The blanks around "=" are in this line only. Whoever reads the log looks for them: do not tidy
-// them.
+// Only this line has blanks around "=". Readers of the log look for them: do not change them.
 int CGroupList::Update1(const CString& ids) {
   const int result = CIDList::Update1(ids);
   LogContents("CGroupList::Update1 GroupName = %s, Symbols = %s");
   return result;
 }
 
-// What the list holds now; asking through GetIDs would fetch members to write a line. Of the texts
-// there are copies, since the terminal may change them while the line is written.
+// Writes what the list holds now; the own GetIDs would fetch members for it. The texts are copied
+// because the terminal may change them while the line is written.
 void CGroupList::LogContents(const char* format) {
   const CString name = info_.szName;
   const CString ids = CIDList::GetIDs();
@@ -67,8 +66,7 @@ int CGroupList::LoadSymbols() {
       VLFree(records);
     return 0;
   }
-  // The terminal may have given the group members meanwhile, those of a cloud list for one: these
-  // stay.
+  // Members that the terminal has set meanwhile, those of a cloud list for example, are kept.
   if (!CIDList::GetIDs().IsEmpty()) {
     if (records != nullptr)
       VLFree(records);

@@ -1,29 +1,23 @@
 // Reads the tree of groups of one type from the symbol-data service.
 //
 // A sound service publishes two levels. A broken one may name a group as its own sub-group, or a
-// group above it, and would keep the library asking for ever. A group that stands above itself has,
-// by the service's own answers, no end, so it is not asked for again. What else is broken is held
-// by two limits far beyond what any service publishes.
+// group above it, which would never end. So a group that stands above itself is not asked for
+// again, and two limits far beyond what any service publishes bound the rest.
 #pragma once
 
 #include <vector>
 
-#include "groups/GroupArena.h"
 #include "groups/GroupLevel.h"
 
 namespace tq {
 
-// Levels of a tree; what lies deeper is not asked for. Callers reach three.
+// Levels of a tree; deeper ones are not asked for. Callers reach three.
 inline constexpr std::size_t kDeepestLevel = 8;
-// Groups of a type, sub-groups of all levels included; what the service lists beyond them is left
-// out.
+// Groups of a type on all levels; what the service lists beyond them is left out.
 inline constexpr std::size_t kMostGroups = 1'000'000;
 
 class GroupLoader {
 public:
-  // Puts the records into an arena, which outlives the levels.
-  explicit GroupLoader(GroupArena& arena) : arena_(arena) {}
-
   // Fills an empty level with the groups of the type. False, and the level stays empty, when the
   // service fails. A failure below leaves that group without sub-groups.
   bool Load(int type, GroupLevel& groups);
@@ -31,21 +25,16 @@ public:
 private:
   struct Asked {
     int type;
-    const char* id; // of a record above in the tree, or ""
-  };
-  struct Answer {
-    std::span<const GroupInfo> records;
-    bool haveSubs; // one of them says that it has sub-groups
+    const char* id; // of a record in the level above, or ""
   };
 
-  bool Ask(const Asked& asked, Answer& answer);
-  Answer Keep(std::span<const GroupInfo> records);
-  void FillSubGroups(const Asked& asked, const Answer& groups, GroupLevel& level);
-  bool MayAsk(const Asked& subs) const;
+  bool Fill(const Asked& asked, GroupLevel& level);
+  bool Ask(const Asked& asked, GroupLevel& level, bool& haveSubs);
+  void FillSubGroups(const Asked& asked, GroupLevel& level);
+  bool MayAsk(const Asked& asked) const;
   bool IsAskedAbove(const Asked& asked) const;
 
-  GroupArena& arena_;
-  std::vector<Asked> path_; // what was asked for on the way to the level that is being filled
+  std::vector<Asked> path_; // the questions that led to the level being filled
   std::size_t count_ = 0;   // groups so far
 };
 

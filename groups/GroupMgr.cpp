@@ -1,20 +1,34 @@
 #include "groups/GroupMgr.h"
 
+#include <algorithm>
+
 #include "groups/GroupLoader.h"
 
-CGroupMgr::CGroupMgr(int type) : type_(type), subIndex_(groups_) {}
+namespace {
+
+// Any order will do that keeps equal ids together.
+bool IsBefore(const tq::FoldedId& left, const tq::FoldedId& right) {
+  return left.low != right.low ? left.low < right.low : left.high < right.high;
+}
+
+} // namespace
+
+CGroupMgr::CGroupMgr(int type) : type_(type) {}
 
 CGroupMgr::~CGroupMgr() = default;
 
 void CGroupMgr::Empty() {
-  groups_.Clear();
-  arena_.Clear();
-  subIndex_.Drop();
+  EditGroups().Clear();
 }
 
 int CGroupMgr::Load() {
   Empty();
-  return tq::GroupLoader(arena_).Load(type_, groups_) ? 1 : 0;
+  return tq::GroupLoader().Load(type_, groups_) ? 1 : 0;
+}
+
+tq::GroupLevel& CGroupMgr::EditGroups() {
+  subIndex_.reset();
+  return groups_;
 }
 
 CGroupList* CGroupMgr::GetAt(int index) {
@@ -25,39 +39,56 @@ CGroupList* CGroupMgr::Find(const char* id) {
   return GetAt(groups_.Find(id));
 }
 
-bool CGroupMgr::FindSubPlace(const tq::FoldedId& id, tq::SubGroupPlace& place) {
-  return subIndex_.Find(id, place, [](const tq::SubGroupPlace&) { return true; });
-}
-
-CGroupList* CGroupMgr::SubAt(const tq::SubGroupPlace& place) {
-  return groups_.SubsAt(place.group)->ListAt(place.sub);
-}
-
 CGroupList* CGroupMgr::FindAnywhere(std::string_view id) {
   tq::FoldedId folded;
   if (!tq::FoldId(id, folded))
     return nullptr;
   const int group = groups_.Find(folded);
-  tq::SubGroupPlace place = {};
-  if (FindSubPlace(folded, place) && (group < 0 || place.group < group))
-    return SubAt(place);
-  return GetAt(group);
+  const std::span<const SubPlace> subs = SubsWithId(folded);
+  const bool isSub = !subs.empty() && (group < 0 || subs.front().group < group);
+  return isSub ? ListAt(subs.front()) : GetAt(group);
 }
 
 CGroupList* CGroupMgr::FindSub(std::string_view id) {
   tq::FoldedId folded;
-  tq::SubGroupPlace place = {};
-  return tq::FoldId(id, folded) && FindSubPlace(folded, place) ? SubAt(place) : nullptr;
+  if (!tq::FoldId(id, folded))
+    return nullptr;
+  const std::span<const SubPlace> subs = SubsWithId(folded);
+  return subs.empty() ? nullptr : ListAt(subs.front());
 }
 
 const GroupInfo* CGroupMgr::FindSubExactly(std::string_view id) {
   tq::FoldedId folded;
   if (!tq::FoldId(id, folded))
     return nullptr;
-  const auto infoAt = [this](const tq::SubGroupPlace& at) -> const GroupInfo& {
-    return groups_.SubsAt(at.group)->InfoAt(at.sub);
-  };
-  tq::SubGroupPlace place = {};
-  const auto same = [&](const tq::SubGroupPlace& at) { return id == infoAt(at).szID; };
-  return subIndex_.Find(folded, place, same) ? &infoAt(place) : nullptr;
+  for (const SubPlace& place : SubsWithId(folded)) {
+    if (id == InfoAt(place).szID)
+      return &InfoAt(place);
+  }
+  return nullptr;
+}
+
+std::span<const CGroupMgr::SubPlace> CGroupMgr::SubsWithId(const tq::FoldedId& id) {
+  if (!subIndex_)
+    BuildSubIndex();
+  const auto found = std::ranges::equal_range(*subIndex_, id, IsBefore, &SubPlace::id);
+  return {found.begin(), found.end()};
+}
+
+void CGroupMgr::BuildSubIndex() {
+  std::vector<SubPlace>& index = subIndex_.emplace();
+  for (int group = 0; group < groups_.Count(); ++group) {
+    const int count = groups_.SubCountAt(group);
+    for (int sub = 0; sub < count; ++sub)
+      index.push_back({groups_.SubsAt(group)->IdAt(sub), group, sub});
+  }
+  std::ranges::stable_sort(index, IsBefore, &SubPlace::id);
+}
+
+const GroupInfo& CGroupMgr::InfoAt(const SubPlace& place) const {
+  return groups_.SubsAt(place.group)->InfoAt(place.sub);
+}
+
+CGroupList* CGroupMgr::ListAt(const SubPlace& place) {
+  return groups_.SubsAt(place.group)->ListAt(place.sub);
 }

@@ -7,8 +7,8 @@
 #include "platform/framework/CString.h"
 #include "tqSymbolApi.h"
 
-// A value: copies are independent. Text is in the process's ANSI code page; what does not fit into
-// a group's record (16 bytes of id, 48 of name) is cut there, not here.
+// A value type: copies are independent. Texts are in the process's ANSI code page and kept whole
+// here; a group's record cuts them to 16 bytes of id and 48 of name.
 class TQSYMBOL_API CGroupSet {
 public:
   // Type -1, everything else empty.
@@ -19,7 +19,7 @@ public:
 
   // Equal types, equal texts (letter case counts), equal pairs in the same order.
   bool operator==(const CGroupSet& other) const noexcept;
-  // Back to the state of a new one.
+  // Restores the state of a new set.
   void Reset() noexcept;
 
   // The order of the fields is part of the interface.

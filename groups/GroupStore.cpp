@@ -1,4 +1,3 @@
-// Which types there are. What is asked about them is in GroupQueries.cpp.
 #include "groups/GroupStore.h"
 
 #include <algorithm>
@@ -23,12 +22,34 @@ bool IsServiceType(int type) {
   return type >= 1 && type < kCloudGroupType;
 }
 
+// Only groups of these types can be searched for a symbol; the service defines what they are.
+bool IsSearchedForSymbols(int type) {
+  return type == 2 || type == 7 || type == 8;
+}
+
+int CopyRecord(const GroupLevel* level, int index, GroupInfo* out) {
+  if (level == nullptr || out == nullptr || !level->Has(index))
+    return 0;
+  *out = level->InfoAt(index);
+  return 1;
+}
+
+// The sub-groups of the first top-level group with that id, or null. For a null id the top-level
+// groups.
+GroupLevel* LevelOf(CGroupMgr& manager, const char* id) {
+  GroupLevel& groups = manager.Groups();
+  if (id == nullptr)
+    return &groups;
+  const int at = groups.Find(id);
+  return at < 0 ? nullptr : groups.SubsAt(at);
+}
+
 } // namespace
 
 GroupStore::GroupStore(CloudRefresh refresh) : refresh_(std::move(refresh)) {}
 
-// A manager that is being loaded is in no array. The terminal may call back whenever the service is
-// asked, and removes or reloads only what is there.
+// The manager is not in the array while it loads: the terminal is re-entrant there, and could remove
+// or reload it.
 GroupStore::Manager GroupStore::MakeLoaded(int type) const {
   auto manager = std::make_unique<CGroupMgr>(type);
   manager->Load();
@@ -40,9 +61,10 @@ GroupStore::Manager GroupStore::MakeLoaded(int type) const {
 int GroupStore::LoadAll() {
   Clear();
   std::vector<Manager> loaded;
+  loaded.reserve(std::size(kFullLoad));
   for (const int type : kFullLoad)
     loaded.push_back(MakeLoaded(type));
-  Clear(); // what the terminal loaded meanwhile
+  Clear(); // of what the terminal loaded meanwhile
   for (Manager& manager : loaded) {
     indexes_[manager->GetType()] = static_cast<int>(managers_.size());
     managers_.push_back(std::move(manager));
@@ -65,9 +87,8 @@ int GroupStore::Load(int type) {
   return 1;
 }
 
-// Whether there is a manager of the type already is not asked: the new one stands behind it and is
-// the one that the map leads to. Behind all others it moves nothing: positions that a removal left
-// stale stay so.
+// A second manager of a type stands behind the first, and the map leads to the second. One that is
+// added at the end changes no other entry of the map, stale ones included.
 int GroupStore::Add(int type) {
   if (!IsServiceType(type))
     return 0;
@@ -90,7 +111,7 @@ int GroupStore::Update(int type) {
   return IsServiceType(type) ? Load(type) : LoadAll();
 }
 
-// The map loses this type and is not renumbered: see the top of GroupStore.h.
+// The other entries of the map are not renumbered: see the top of GroupStore.h.
 int GroupStore::Remove(int type) {
   if (!IsServiceType(type))
     return 0;
@@ -111,6 +132,81 @@ std::vector<GroupStore::Manager>::iterator GroupStore::FirstOf(int type) {
   return std::find_if(managers_.begin(), managers_.end(),
                       [=](const Manager& manager) { return manager->GetType() == type; });
 }
+
+// --- Loaded types ------------------------------------------------------------------------------
+
+int GroupStore::IndexOf(int type) const {
+  const auto found = indexes_.find(type);
+  return found == indexes_.end() ? -1 : found->second;
+}
+
+CGroupMgr* GroupStore::Loaded(int type) const {
+  const int index = IndexOf(type);
+  if (index < 0 || index >= static_cast<int>(managers_.size()))
+    return nullptr;
+  return managers_[static_cast<std::size_t>(index)].get();
+}
+
+// A handle answers for itself whatever its type, as long as the given type is loaded.
+int GroupStore::CountGroups(int type, const CGroupList* handle) const {
+  if (handle != nullptr)
+    return Has(type) ? handle->GetSubCount() : 0;
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? 0 : manager->GetCount();
+}
+
+int GroupStore::CountGroups(int type, const char* id) const {
+  CGroupMgr* const manager = Loaded(type);
+  GroupLevel* const level = manager == nullptr ? nullptr : LevelOf(*manager, id);
+  return level == nullptr ? 0 : level->Count();
+}
+
+int GroupStore::CopyInfo(int type, const CGroupList* handle, int index, GroupInfo* out) const {
+  if (handle != nullptr)
+    return Has(type) ? CopyRecord(handle->Subs(), index, out) : 0;
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? 0 : CopyRecord(&manager->Groups(), index, out);
+}
+
+int GroupStore::CopyInfo(int type, const char* id, int index, GroupInfo* out) const {
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? 0 : CopyRecord(LevelOf(*manager, id), index, out);
+}
+
+CGroupList* GroupStore::FindHandle(int type, std::string_view id) const {
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? nullptr : manager->FindAnywhere(id);
+}
+
+CGroupList* GroupStore::FindSub(int type, std::string_view id) const {
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? nullptr : manager->FindSub(id);
+}
+
+const GroupInfo* GroupStore::FindSubExactly(int type, std::string_view id) const {
+  CGroupMgr* const manager = Loaded(type);
+  return manager == nullptr ? nullptr : manager->FindSubExactly(id);
+}
+
+int GroupStore::CopyIds(CGroupList* handle, CString& ids) const {
+  ids.Empty();
+  if (handle == nullptr || indexes_.empty())
+    return 0;
+  const auto alive = KeepAlive(handle);
+  ids = handle->GetIDs();
+  return 1;
+}
+
+// Matches any part of the id string, across commas too: terminals ask with beginnings of ids.
+int GroupStore::HoldsText(int type, const CString& groupId, const CString& text) const {
+  if (groupId.IsEmpty() || text.IsEmpty() || !IsSearchedForSymbols(type))
+    return 0;
+  CGroupList* const group = FindHandle(type, AfterComma(TextView(groupId)));
+  const auto alive = KeepAlive(group);
+  return group != nullptr && group->GetIDs().Find(text) >= 0 ? 1 : 0;
+}
+
+// --- Pushes ------------------------------------------------------------------------------------
 
 int GroupStore::Push(const std::vector<CGroupSet>& sets, GroupPush push) {
   std::map<int, GroupSelection> selections;

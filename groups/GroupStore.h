@@ -1,16 +1,15 @@
 // The groups of all types, for the manager of symbol lists.
 //
-// There is an array of managers, one for each type, in ascending order of the types, and a map from
-// type to position in it. What asks about a loaded type goes through the map; what loads, removes
-// or pushes groups looks at the managers themselves. Removing a type leaves the positions of the
-// others in the map as they were, on purpose: terminals rely on the positions that GetGroupIdx told
-// them until the next full load. So the types behind a removed one answer for their right
-// neighbour, and the last of them, whose position lies behind the array, as one that has no groups.
-// Renumbering the map would be a change of the interface.
+// The managers stand in an array, ascending by type, and a map leads from a type to its position.
+// Queries go through the map; loading, removing and pushing search the array. Removing a type leaves
+// the other entries of the map unchanged, on purpose: terminals use the positions that GetGroupIdx
+// gave them until the next full load. So every type behind a removed one answers with the groups of
+// the type behind it, and the last one, whose position is past the end, has none. Renumbering the
+// map would change the interface.
 //
-// The terminal may call back whenever the service is asked, which loading and asking for members
-// does. So types are loaded aside and then put in, and a group that is asked for members is kept
-// alive meanwhile (see KeepAlive).
+// The terminal is re-entrant whenever the service is asked, that is, while types are loaded and
+// members fetched. So a type is loaded outside of the array and then put in, and a group is kept
+// alive while its members are fetched (see KeepAlive).
 #pragma once
 
 #include <functional>
@@ -21,40 +20,40 @@
 
 #include "groups/GroupMgr.h"
 #include "groups/GroupPushes.h"
-#include "symbollist/ListKind.h"
+#include "idlist/ListKind.h"
 
 namespace tq {
 
 class GroupStore {
 public:
-  // Gives the cloud groups, just loaded, what the user's cloud lists say of them.
+  // Applies the user's cloud lists to the cloud groups after a load.
   using CloudRefresh = std::function<void(CGroupMgr& manager)>;
 
   explicit GroupStore(CloudRefresh refresh = nullptr);
 
   // --- Types -------------------------------------------------------------------------------------
-  // All return 1 when done and 0 for a type out of their range.
+  // All return 1 on success and 0 for a type out of range.
 
-  // Types 1 to 21, 101 and 201, anew. A type that the service fails for is empty; that is no
-  // failure.
+  // Replaces everything by the types 1 to 21, 101 and 201. A type for which the service fails is
+  // empty, which counts as success.
   int LoadAll();
-  // 1 to 201. Adds the type when there is no manager of it. 0 too when the terminal removed the
-  // type while the service was asked.
+  // Types 1 to 201. Adds a type that has no manager. Also 0 when the terminal removes the type while
+  // the service is asked.
   int Load(int type);
-  // 1 to 200. Another manager when there is one of the type.
+  // Types 1 to 200. Adds a manager even if the type has one.
   int Add(int type);
-  // Load for 1 to 200, for anything else LoadAll: the cloud groups cannot be updated alone.
+  // Load for types 1 to 200, LoadAll for any other: the cloud groups cannot be updated alone.
   int Update(int type);
-  // 1 to 200: the first manager of the type. 0 when there is none.
+  // Types 1 to 200. Removes the first manager of the type; 0 when there is none.
   int Remove(int type);
   void Clear();
 
   // --- Loaded types ------------------------------------------------------------------------------
 
-  // Position in the array, as the map has it, or -1.
+  // The position in the array according to the map, or -1.
   int IndexOf(int type) const;
-  // What the map leads to: null for a type that is not in it or whose position lies behind the
-  // array.
+  // The manager at that position; null when the type is not in the map or its position is past the
+  // end.
   CGroupMgr* Loaded(int type) const;
 
   int CountGroups(int type, const CGroupList* handle) const;
@@ -71,8 +70,7 @@ public:
 
   // --- Pushes ------------------------------------------------------------------------------------
 
-  // Hands each manager the sets of its type, if there are any. 1 when one of them changed
-  // something.
+  // Hands each manager the sets of its type, if there are any. 1 when anything changed.
   int Push(const std::vector<CGroupSet>& sets, GroupPush push);
 
 private:

@@ -2,12 +2,12 @@
 
 #include <string>
 
+#include "idlist/IdString.h"
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
-#include "platform/XmlDocument.h"
-#include "platform/XmlText.h"
-#include "symbolid/UpperText.h"
-#include "symbollist/IdString.h"
+#include "platform/Text.h"
+#include "platform/xml/XmlDocument.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 namespace {

@@ -1,7 +1,7 @@
 // The identity of a list of the manager's: its name and ids as the manager has them now.
+#include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
 #include "symbolid/ListID.h"
-#include "symbollist/ListKind.h"
 
 int CListID::SetNameAndList(const CString& name, CTQSymbolListMgr* mgr) noexcept {
   if (mgr == nullptr || type_ != ListIDUserList)

@@ -21,10 +21,10 @@
 //     from the terminal, and lists from trading accounts from the trading-system proxy. A group is
 //     addressed by type and id or by a handle, which is good until its type is loaded anew, removed
 //     or cleared or the group itself is replaced or removed.
-//  7. Names and id strings are kept without bytes that the list file could not give back (halves of
-//     double-byte characters, control bytes); a line in the log tells of it. An apostrophe, "&" and
-//     "<" are kept, and a file that holds one cannot be loaded: the terminal screens names on
-//     entry.
+//  7. Bytes that cannot be read back from the list file (halves of double-byte characters, control
+//     bytes) are removed from names and id strings, with a line in the log. An apostrophe, "&" and
+//     "<" are kept although a file that contains one cannot be loaded: the terminal screens names
+//     when the user enters them.
 //  8. The working list file is "\SymbolList.xml" in the data directory, its backup
 //     "\SymbolList_Backup.xml" beside it. The directory is given without a trailing backslash; with
 //     an empty one no file is read or written. A save leaves the old file or the new one, never a
@@ -33,7 +33,7 @@
 //     table, docs/notifications.md.
 #pragma once
 
-#include <utility>
+#include <memory>
 #include <vector>
 
 #include "groups/GroupSet.h"
@@ -52,13 +52,8 @@
 
 class CSymbolTableMgr;
 namespace tq {
-struct ImportedList;
-class CloudMap;
-class GroupStore;
-class KeptFiles;
-class OwnedLists;
-class TradingTable;
-} // namespace tq
+struct ManagerState;
+}
 
 // What is traded, as the terminal numbers it. Only the differences that the library makes are
 // named.
@@ -92,30 +87,30 @@ public:
   //   loadSystemLists       non-zero: system lists are wanted
   //   systemListNames       their names in order, or null; copied
   //   useUserDefExch        non-zero: the default exchanges are the user's own
-  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Those of a start
-  //                         before stay, whatever this says; with 0 nothing changes them
+  //   loadTradingLists      non-zero: lists from trading accounts are wanted. Lists of an earlier
+  //                         start stay in any case; with 0 they do not change any more
   // Returns 0 when the tables were asked for and could not be built: then no file was touched and
-  // there are no lists. A list file that cannot be read is no failure: the manager starts without
-  // lists. Where the system does not tell whether there is a list file, none is created.
+  // there are no lists. A list file that cannot be read is not a failure: the manager starts
+  // without lists. If the system cannot tell whether a list file exists, none is created.
   int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
 
   // The tables that Init built, or null before it. The manager's; gone with the next Init.
-  CSymbolTableMgr* GetSymbolTableMgr() const noexcept { return symbolTables_; }
+  CSymbolTableMgr* GetSymbolTableMgr() const noexcept;
 
   // --- The list file -----------------------------------------------------------------------------
-  // A save writes over nothing that nobody has seen. When the file on the disk is not, as it is
-  // now, one that this manager has read whole or written itself (its load failed or ended early,
-  // Init failed at the tables, another program wrote it since), or when it holds what cannot be
-  // written back, its bytes are first copied beside it: "\SymbolList_Kept.xml", then
-  // "\SymbolList_Kept1.xml" to "\SymbolList_Kept9.xml", then in the place of the oldest copy; of
-  // the backup file as "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says
-  // why. A missing file, one without lists, and bytes that are kept already are not copied. A copy
-  // that cannot be made refuses the save.
+  // A save never destroys lists that were not loaded. Unless the file on the disk is exactly what
+  // this manager has read whole or written itself (its load may have failed or ended early, Init
+  // may have failed at the tables, another program may have written it since), or if it contains
+  // what cannot be written back, its bytes are first copied beside it: to "\SymbolList_Kept.xml",
+  // then "\SymbolList_Kept1.xml" to "\SymbolList_Kept9.xml", then over the oldest copy; the backup
+  // file to "\SymbolList_Backup_Kept.xml" and so on. A line of level 64 in the log says why. A
+  // missing file, one without lists, and bytes that have a copy already are not copied. When the
+  // copy fails, the save fails.
 
-  // Reads the working file in the place of the lists in memory; a file that cannot be read leaves
-  // none. Always 1: judge a load by the lists that it made. Ids are resolved as they are read;
-  // calls from within the service meanwhile still find the lists of before, whole.
+  // Replaces the lists in memory by those of the working file; after a file that cannot be read
+  // there are none. Always 1: look at the lists to see what was loaded. Ids are resolved as they
+  // are read; re-entrant calls from the service still see all of the previous lists.
   int LoadSymbolList() noexcept;
   // Writes the working file. A negative default index becomes 0 when there are lists. Returns 0,
   // after message 48026 to the user, when the file could not be written, a copy of it could not be
@@ -124,9 +119,8 @@ public:
   int SaveSymbolList() noexcept;
   // The same with the backup file.
   int BackupSymbolList() noexcept;
-  // Reads the backup file as LoadSymbolList reads the working file, which is not rewritten (unless
-  // the backup holds no list: then the working file is at once). A missing backup empties the
-  // manager.
+  // As LoadSymbolList, but from the backup file. The working file is not written, unless the backup
+  // contains no list: then it is written at once, empty. A missing backup leaves no lists.
   int RestorSymbolList() noexcept;
   // Data directory and name of the backup file.
   CString GetBackSymbolListPath() noexcept;
@@ -140,23 +134,21 @@ public:
   // an empty path the lists are gone and nothing is read. A file without any list makes the working
   // file be written anew at once, empty.
   int DoLoadSymbolList(const CString& path) noexcept;
-  // What a terminal asks for after somebody else changed the file: LoadSymbolList, then, as Init
-  // was told, LoadSystemList with the names of Init, which adds the system lists that the file
-  // lacks, and LoadTSList, which adds the list of all holdings when it is missing. Nothing is
-  // saved. Returns 1.
+  // For use after another program changed the file: LoadSymbolList, then, if Init was told so,
+  // LoadSystemList with the names of Init (adds missing system lists) and LoadTSList (adds the list
+  // of all holdings if it is missing). Nothing is saved. Returns 1.
   int UpdateTQSymbolList() noexcept;
-  // Goes over to another data directory: LoadSymbolList there, then, if Init was told to load
-  // system lists, LoadSystemList with the names of Init, which adds those that the file lacks. The
-  // lists from trading accounts stay as they are, and their file is written in the new directory
-  // from the next change on.
+  // Switches to another data directory: LoadSymbolList there, then, if Init was told to load system
+  // lists, LoadSystemList with the names of Init, which adds those that the file lacks. The lists
+  // from trading accounts stay as they are; their file is written to the new directory at their
+  // next change.
   void ReLoadList(const CString& dataDirectory) noexcept;
 
   // --- The list shown first ----------------------------------------------------------------------
   // Stores the index without any check; -1 means none.
   void SetDefaultIndex(int index) noexcept;
   // Writes the stored index to `out`, always. Returns 0 when it is negative or there are no lists,
-  // else
-  // 1. It may lie beyond the last list: the caller must check the upper bound.
+  // else 1. It may lie beyond the last list: the caller must check the upper bound.
   int GetDefaultListIdx(int& out) noexcept;
 
   // --- The lists in memory -----------------------------------------------------------------------
@@ -361,15 +353,15 @@ public:
   // Stores the user's own default exchanges and reloads. Returns 1.
   int UpdateDefaultExch(CUIntArray& ids) noexcept;
   // Whether the user's own are used. Takes effect with the next reload.
-  void SetUseUserDefExch(int use) noexcept { useUserDefExch_ = use; }
-  int IsUseUserDefExch() const noexcept { return useUserDefExch_; }
+  void SetUseUserDefExch(int use) noexcept;
+  int IsUseUserDefExch() const noexcept;
   // Stores a copy of the order in which dialogs show exchanges; 1 when it is not empty.
   // GetDefExchOrder copies it out. CheckExchOrder accepts any order, changes nothing and returns 1.
   int LoadDefExchOrder(CUIntArray& order) noexcept;
   void GetDefExchOrder(CUIntArray& order) noexcept;
   static int CheckExchOrder(CUIntArray& order) noexcept;
   // Builds the buffer of all symbols: the exchanges that are no default ones go towards the end, in
-  // the order that exchanges/DefaultExchangeIds.h describes. When the service fails a buffer that
+  // the order that exchanges/DefaultExchanges.h describes. When the service fails a buffer that
   // is there stays as it is.
   void SortAllSymbolByExch() noexcept;
   // 1 when there is no buffer of all symbols, or an empty one.
@@ -553,7 +545,7 @@ public:
   // dialogs; each is kept once. Empty ones are ignored.
   void AddExtraTQInfo(const CString& info) noexcept;
   void RemoveExtraTQInfo(const CString& info) noexcept;
-  const std::vector<CString>& GetExtraTQInfo() const noexcept { return extraInfo_; }
+  const std::vector<CString>& GetExtraTQInfo() const noexcept;
 
   // --- Dialogs -----------------------------------------------------------------------------------
   // Each runs one modal dialog on the parent (null: none) and returns its end code: 1 when the user
@@ -580,54 +572,13 @@ public:
   static int EndDomodal(WindowHandle dialog, int result) noexcept;
 
   // --- Switches ----------------------------------------------------------------------------------
-  int GetbCN() const noexcept { return bCN_; }
-  void SetbCN(int bCN) noexcept { bCN_ = bCN; }
+  int GetbCN() const noexcept;
+  void SetbCN(int bCN) noexcept;
 
 protected:
   // Whether the text is one of the six system ids, letter case as it stands.
   int IsSameSysSymbolListGUID(const CString& id) const noexcept;
 
 private:
-  const tq::OwnedLists* ListsOf(int kind) const;
-  CSymbolList* FindList(const char* id, int kind) const;
-  CSymbolList* FindUserList(const char* id);
-  int AddNewList(const CString& id, const CString& name, const CString& symbols, int append);
-  void PutNewList(const CString& id, const CString& name, const CString& symbols, int append);
-  void PutSymbolList(CSymbolList* list, int append);
-  CSymbolList* CopyMoved(CSymbolList& source);
-  std::pair<CString, CString> SplitId(const CString& id) const;
-  CString FilePath(const char* name) const;
-  void StartTradingLists();
-  tq::TradingTable* TradingTable() const;
-  void DeleteAccountLists(const CString& tsId);
-  void UpdateAllHoldings(const CString& tsId);
-  void UpdateAccountLists(const CString& tsId);
-  bool ImportList(const tq::ImportedList& from);
-  int ImportLists(const std::vector<tq::ImportedList>& lists, int& taken);
-  int BuildSymbolTables();
-  void ClearAllSymbols();
-
-  CSymbolTableMgr* symbolTables_; // owned
-  tq::OwnedLists* lists_;         // owned, in display order
-  tq::OwnedLists* tradingLists_;  // the same, kind 6
-  tq::OwnedLists* cloudLists_;    // the same, kind 8
-  int defaultIndex_;
-  CString dataDirectory_;
-  SymbolInfo* allSymbols_; // owned, grouped by exchange
-  int allSymbolCount_;
-  int systemListsWanted_;
-  CStringArray systemListNames_;
-  int tradingListsWanted_;
-  int useUserDefExch_;
-  int bCN_;
-  CUIntArray defaultExchanges_;
-  CPtrArray defaultRecords_;  // for each of them its record in exchangeRecords_, or null
-  ExchInfo* exchangeRecords_; // the service's array, released with VLFree
-  CUIntArray userDefaultExchanges_;
-  CUIntArray exchangeOrder_;
-  tq::GroupStore* groups_;         // owned
-  tq::CloudMap* cloudMap_;         // owned
-  tq::KeptFiles* keptFiles_;       // owned
-  tq::TradingTable* tradingTable_; // owned; null until Init was first told to load trading lists
-  std::vector<CString> extraInfo_;
+  const std::unique_ptr<tq::ManagerState> state_;
 };

@@ -1,42 +1,16 @@
-// The manager's default exchanges, exchange order and buffer of all symbols.
-#include <algorithm>
-#include <cstring>
-#include <new>
-#include <span>
-#include <utility>
-#include <vector>
-
-#include "exchanges/DefaultExchangeIds.h"
+// Default exchanges and the order of exchanges, single symbols, and symbols that change.
+#include "exchanges/SymbolInfos.h"
+#include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "platform/ServiceArray.h"
-#include "symboltable/ExchangeService.h"
-#include "symboltable/SymbolTableMgr.h"
+#include "symbollist/SymbolChanges.h"
 
-namespace {
-
-// All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be
-// read.
-std::vector<tq::ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, bool& complete) {
-  constexpr int kAllSections = -1;
-  std::vector<tq::ServiceArray<SymbolInfo>> lists;
-  lists.reserve(static_cast<size_t>(exchanges.GetSize()));
-  for (const unsigned exchange : exchanges) {
-    tq::ServiceArray<SymbolInfo> list;
-    if (VLGetSymbolInfos2(static_cast<int>(exchange), kAllSections, list.List(), list.Count(), 0) ==
-        0)
-      complete = false;
-    else if (!list.Records().empty())
-      lists.push_back(std::move(list));
-  }
-  return lists;
+int CTQSymbolListMgr::InitDefaultExchange() noexcept {
+  return state_->defaultExchanges.Init();
 }
-
-} // namespace
 
 int CTQSymbolListMgr::LoadDefaultExchange(CUIntArray& ids, int useUser,
                                           const char* /*unused*/) noexcept {
-  if (useUser != 0 || DoLoadDefaultExchange(ids) == 0)
-    DoLoadUserDefaultExchange(ids);
+  state_->defaultExchanges.Read(ids, useUser != 0);
   return 1;
 }
 
@@ -45,84 +19,55 @@ int CTQSymbolListMgr::DoLoadDefaultExchange(CUIntArray& ids) noexcept {
 }
 
 int CTQSymbolListMgr::DoLoadUserDefaultExchange(CUIntArray& ids) noexcept {
-  ids.Copy(userDefaultExchanges_);
+  ids.Copy(state_->defaultExchanges.Users());
   return 1;
 }
 
 void CTQSymbolListMgr::ClearDefaultExchangeData() noexcept {
-  defaultExchanges_.RemoveAll();
-  defaultRecords_.RemoveAll();
-  if (ExchInfo* const records = std::exchange(exchangeRecords_, nullptr))
-    VLFree(records);
-}
-
-int CTQSymbolListMgr::InitDefaultExchange() noexcept {
-  ClearDefaultExchangeData();
-  // While the services are asked the terminal may call this again: what they say is kept apart
-  // until then.
-  CUIntArray exchanges;
-  LoadDefaultExchange(exchanges, useUserDefExch_, "");
-  tq::ServiceArray<ExchInfo> list;
-  const int result = VLGetExch(list.List(), list.Count(), 1);
-  defaultExchanges_.Copy(exchanges);
-  const size_t count = result == 0 ? 0 : list.Records().size();
-  tq::ServiceArray<ExchInfo> before; // given back last, when all is in place
-  *before.List() = std::exchange(exchangeRecords_, list.Release());
-  const std::span<ExchInfo> records(exchangeRecords_, count);
-  defaultRecords_.SetSize(defaultExchanges_.GetSize());
-  for (int i = 0; i < defaultExchanges_.GetSize(); ++i) {
-    const auto found = std::find_if(records.begin(), records.end(), [&](const ExchInfo& record) {
-      return record.id == static_cast<int>(defaultExchanges_[i]);
-    });
-    defaultRecords_[i] = found == records.end() ? nullptr : &*found;
-  }
-  return result != 0;
+  state_->defaultExchanges.Clear();
 }
 
 int CTQSymbolListMgr::GetDefaultExchange(int index) noexcept {
-  return static_cast<int>(defaultExchanges_.GetAt(index));
+  return static_cast<int>(state_->defaultExchanges.Ids().GetAt(index));
 }
 
 int CTQSymbolListMgr::GetDefaultExchangeCount() noexcept {
-  return defaultExchanges_.GetSize();
+  return state_->defaultExchanges.Ids().GetSize();
 }
 
 int CTQSymbolListMgr::IsDefaultExchange(int exchId) noexcept {
-  return tq::ContainsId(defaultExchanges_, static_cast<unsigned>(exchId));
+  return state_->defaultExchanges.Contains(exchId);
 }
 
 int CTQSymbolListMgr::IsDefaultExchangeChange() noexcept {
-  CUIntArray now;
-  if (!tq::ReadDefaultExchangeIds(now))
-    return 0;
-  return !std::equal(now.begin(), now.end(), defaultExchanges_.begin(), defaultExchanges_.end());
+  return state_->defaultExchanges.HaveChanged();
 }
 
 void CTQSymbolListMgr::ReLoadDefaultExch(int force) noexcept {
-  if (force == 0 && IsDefaultExchangeChange() == 0) {
-    if (CheckAllSymbolByExch() != 0)
-      SortAllSymbolByExch();
-    return;
-  }
-  InitDefaultExchange();
-  SortAllSymbolByExch();
-  if (symbolTables_ != nullptr)
-    symbolTables_->InitDefaultExchList(defaultExchanges_);
+  state_->ReloadDefaultExchanges(force != 0);
 }
 
 int CTQSymbolListMgr::UpdateDefaultExch(CUIntArray& ids) noexcept {
-  userDefaultExchanges_.Copy(ids);
-  ReLoadDefaultExch(1);
+  state_->defaultExchanges.SetUsers(ids);
+  state_->ReloadDefaultExchanges(true);
   return 1;
 }
 
+void CTQSymbolListMgr::SetUseUserDefExch(int use) noexcept {
+  state_->defaultExchanges.UseUsers(use);
+}
+
+int CTQSymbolListMgr::IsUseUserDefExch() const noexcept {
+  return state_->defaultExchanges.UsesUsers();
+}
+
 int CTQSymbolListMgr::LoadDefExchOrder(CUIntArray& order) noexcept {
-  exchangeOrder_.Copy(order);
-  return !exchangeOrder_.IsEmpty();
+  state_->defaultExchanges.SetOrder(order);
+  return !state_->defaultExchanges.Order().IsEmpty();
 }
 
 void CTQSymbolListMgr::GetDefExchOrder(CUIntArray& order) noexcept {
-  order.Copy(exchangeOrder_);
+  order.Copy(state_->defaultExchanges.Order());
 }
 
 // Whatever the order, it is accepted as it is.
@@ -131,60 +76,37 @@ int CTQSymbolListMgr::CheckExchOrder(CUIntArray& /*order*/) noexcept {
 }
 
 void CTQSymbolListMgr::SortAllSymbolByExch() noexcept {
-  CUIntArray exchanges;
-  {
-    const tq::ExchangeList list;
-    if (list.Result() == 0)
-      return;
-    for (const ExchInfo& record : list.Records())
-      exchanges.Add(static_cast<unsigned>(record.id));
-  }
-  tq::MoveDefaultsForward(exchanges, defaultExchanges_);
-  bool complete = true;
-  const std::vector<tq::ServiceArray<SymbolInfo>> lists = ReadSymbols(exchanges, complete);
-  // A buffer that lacks an exchange is better than none, but not than the whole one of before.
-  if (!complete && allSymbols_ != nullptr)
-    return;
-  size_t total = 0;
-  for (const auto& list : lists)
-    total += list.Records().size();
-  ClearAllSymbols();
-  if (total == 0)
-    return;
-  // Hundreds of bytes a symbol in one piece: where that is not to be had there is no buffer.
-  allSymbols_ = new (std::nothrow) SymbolInfo[total];
-  if (allSymbols_ == nullptr)
-    return;
-  for (const auto& list : lists) {
-    const std::span<const SymbolInfo> records = list.Records();
-    if (!records.empty())
-      std::memcpy(allSymbols_ + allSymbolCount_, records.data(), records.size_bytes());
-    allSymbolCount_ += static_cast<int>(records.size());
-  }
-}
-
-void CTQSymbolListMgr::ClearAllSymbols() {
-  delete[] allSymbols_;
-  allSymbols_ = nullptr;
-  allSymbolCount_ = 0;
+  state_->allSymbols.Build(state_->defaultExchanges.Ids());
 }
 
 int CTQSymbolListMgr::CheckAllSymbolByExch() noexcept {
-  return allSymbols_ == nullptr || allSymbolCount_ == 0;
+  return state_->allSymbols.IsEmpty();
 }
 
-int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept {
-  if (out == nullptr || count == nullptr || CheckAllSymbolByExch() != 0)
-    return 0;
-  auto* const copy = new (std::nothrow) SymbolInfo[static_cast<size_t>(allSymbolCount_)];
-  if (copy == nullptr)
-    return 0;
-  *out = copy;
-  std::memcpy(*out, allSymbols_, static_cast<size_t>(allSymbolCount_) * sizeof(SymbolInfo));
-  *count = allSymbolCount_;
+int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables,
+                                      JT_DEAL kind) noexcept {
+  return tq::TradeLotSize(id, tables, kind);
+}
+
+int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,
+                                             ExchSymbolUpdateType type) noexcept {
+  CStringArray changed;
+  tq::ReadChangedSymbols(symbols, count, changed);
+  tq::ResolveHolders(state_->userLists.Lists(), changed);
+  tq::ResolveHolders(state_->accountLists.Lists(), changed);
+  if (type == ExchSymbolsAdded)
+    tq::ResolveHolders(state_->cloudLists.Lists(), changed);
   return 1;
 }
 
-void CTQSymbolListMgr::FreeSymbolInfos(SymbolInfo* infos) noexcept {
-  delete[] infos;
+int CTQSymbolListMgr::ReplaceSymbolListExchID(CString& ids, const CString& oldExchange,
+                                              const CString& newExchange) noexcept {
+  return state_->RenameSymbols(ids, oldExchange, newExchange);
+}
+
+int CTQSymbolListMgr::ReplaceSymbolListExchID(CSymbolList* list, const CString& oldExchange,
+                                              const CString& newExchange) noexcept {
+  return list != nullptr && tq::RenameMovedIn(*list, [&](CString& ids) {
+           return state_->RenameSymbols(ids, oldExchange, newExchange);
+         });
 }

@@ -1,5 +1,5 @@
-// The manager's groups: types, queries, members. The work is GroupStore's.
-#include "groups/GroupStore.h"
+// Groups: types, queries, members, and the groups that the terminal pushes in.
+#include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 
 namespace {
@@ -15,15 +15,15 @@ std::string_view IdOf(const char* id, int afterComma) {
 } // namespace
 
 int CTQSymbolListMgr::LoadGroupList() noexcept {
-  return groups_->LoadAll();
+  return state_->groups.LoadAll();
 }
 
 int CTQSymbolListMgr::LoadGroupList(int type) noexcept {
-  return groups_->Load(type);
+  return state_->groups.Load(type);
 }
 
 int CTQSymbolListMgr::AddNewGroup(int type) noexcept {
-  return groups_->Add(type);
+  return state_->groups.Add(type);
 }
 
 int CTQSymbolListMgr::AddGroupList(int type, bool reload) noexcept {
@@ -31,39 +31,39 @@ int CTQSymbolListMgr::AddGroupList(int type, bool reload) noexcept {
 }
 
 int CTQSymbolListMgr::UpdateGroup(int type, const char*) noexcept {
-  return groups_->Update(type);
+  return state_->groups.Update(type);
 }
 
 int CTQSymbolListMgr::UpdateGroupType(int type) noexcept {
-  return groups_->Update(type);
+  return state_->groups.Update(type);
 }
 
 int CTQSymbolListMgr::RemoveGroupList(int type) noexcept {
-  return groups_->Remove(type);
+  return state_->groups.Remove(type);
 }
 
 void CTQSymbolListMgr::ClearGroupList() noexcept {
-  groups_->Clear();
+  state_->groups.Clear();
 }
 
 int CTQSymbolListMgr::GetGroupIdx(int type) noexcept {
-  return groups_->IndexOf(type);
+  return state_->groups.IndexOf(type);
 }
 
 int CTQSymbolListMgr::GetGroupCount(int type, void* handle) noexcept {
-  return groups_->CountGroups(type, GroupOf(handle));
+  return state_->groups.CountGroups(type, GroupOf(handle));
 }
 
 int CTQSymbolListMgr::GetGroupCounts(int type, const char* id) noexcept {
-  return groups_->CountGroups(type, id);
+  return state_->groups.CountGroups(type, id);
 }
 
 int CTQSymbolListMgr::GetGroupInfo(int type, void* handle, int index, GroupInfo* out) noexcept {
-  return groups_->CopyInfo(type, GroupOf(handle), index, out);
+  return state_->groups.CopyInfo(type, GroupOf(handle), index, out);
 }
 
 int CTQSymbolListMgr::GetGroupInfos(int type, const char* id, int index, GroupInfo* out) noexcept {
-  return groups_->CopyInfo(type, id, index, out);
+  return state_->groups.CopyInfo(type, id, index, out);
 }
 
 int CTQSymbolListMgr::GetGroupHandle(int type, const char* id, void** handle,
@@ -72,12 +72,12 @@ int CTQSymbolListMgr::GetGroupHandle(int type, const char* id, void** handle,
     return 0;
   *handle = nullptr;
   if (id != nullptr)
-    *handle = groups_->FindHandle(type, IdOf(id, afterComma));
+    *handle = state_->groups.FindHandle(type, IdOf(id, afterComma));
   return *handle != nullptr ? 1 : 0;
 }
 
 int CTQSymbolListMgr::GetGroupListIDs(void* handle, CString& ids) noexcept {
-  return groups_->CopyIds(GroupOf(handle), ids);
+  return state_->groups.CopyIds(GroupOf(handle), ids);
 }
 
 int CTQSymbolListMgr::GetGroupName(int, void* handle, CString& name) noexcept {
@@ -87,13 +87,13 @@ int CTQSymbolListMgr::GetGroupName(int, void* handle, CString& name) noexcept {
 
 int CTQSymbolListMgr::GetGroupName(int type, const char* id, CString& name,
                                    int afterComma) noexcept {
-  const GroupInfo* const info = groups_->FindSubExactly(type, IdOf(id, afterComma));
+  const GroupInfo* const info = state_->groups.FindSubExactly(type, IdOf(id, afterComma));
   name = info == nullptr ? "" : info->szName;
   return info != nullptr ? 1 : 0;
 }
 
 int CTQSymbolListMgr::GetGroupSymbolCount(int type, const char* id) noexcept {
-  return GetGroupSymbolCount(groups_->FindSub(type, tq::TextView(id)));
+  return GetGroupSymbolCount(state_->groups.FindSub(type, tq::TextView(id)));
 }
 
 int CTQSymbolListMgr::GetGroupSymbolCount(void* handle) noexcept {
@@ -103,7 +103,7 @@ int CTQSymbolListMgr::GetGroupSymbolCount(void* handle) noexcept {
 
 int CTQSymbolListMgr::GetGroupSymbolInfo(int type, const char* id, int index,
                                          SymbolInfo* out) noexcept {
-  return GetGroupSymbolInfo(groups_->FindSub(type, tq::TextView(id)), index, out);
+  return GetGroupSymbolInfo(state_->groups.FindSub(type, tq::TextView(id)), index, out);
 }
 
 int CTQSymbolListMgr::GetGroupSymbolInfo(void* handle, int index, SymbolInfo* out) noexcept {
@@ -113,5 +113,37 @@ int CTQSymbolListMgr::GetGroupSymbolInfo(void* handle, int index, SymbolInfo* ou
 
 int CTQSymbolListMgr::FindSymoblInGroupList(int type, const CString& groupId,
                                             const CString& symbol) noexcept {
-  return groups_->HoldsText(type, groupId, symbol);
+  return state_->groups.HoldsText(type, groupId, symbol);
+}
+
+int CTQSymbolListMgr::AddGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::AddGroups);
+}
+
+int CTQSymbolListMgr::UpdateGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::UpdateGroups);
+}
+
+int CTQSymbolListMgr::UpdateGroupName(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::UpdateGroupNames);
+}
+
+int CTQSymbolListMgr::RemoveGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::RemoveGroups);
+}
+
+int CTQSymbolListMgr::AddSubGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::AddSubGroups);
+}
+
+int CTQSymbolListMgr::UpdateSubGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::UpdateSubGroups);
+}
+
+int CTQSymbolListMgr::UpdateSubGroupName(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::UpdateSubGroupNames);
+}
+
+int CTQSymbolListMgr::RemoveSubGroup(const std::vector<CGroupSet>& sets) noexcept {
+  return state_->groups.Push(sets, tq::RemoveSubGroups);
 }

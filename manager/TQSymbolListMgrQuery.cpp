@@ -1,30 +1,10 @@
 // Looking at the lists.
+#include "exchanges/SymbolInfos.h"
+#include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "symbollist/IdString.h"
-#include "symbollist/ListKind.h"
-#include "symbollist/OwnedLists.h"
-
-const tq::OwnedLists* CTQSymbolListMgr::ListsOf(int kind) const {
-  switch (kind) {
-  case tq::kUserLists:
-    return lists_;
-  case tq::kTradingLists:
-    return tradingLists_;
-  case tq::kCloudLists:
-    return cloudLists_;
-  default:
-    return nullptr;
-  }
-}
-
-CSymbolList* CTQSymbolListMgr::FindList(const char* id, int kind) const {
-  const tq::OwnedLists* lists = ListsOf(kind);
-  return lists == nullptr ? nullptr : lists->Find(id);
-}
 
 int CTQSymbolListMgr::GetSymbolListCount(int kind) noexcept {
-  const tq::OwnedLists* lists = ListsOf(kind);
-  return lists == nullptr ? 0 : lists->GetSize();
+  return state_->ListsOf(kind).GetSize();
 }
 
 int CTQSymbolListMgr::GetTQSymbolListCount(int kind) noexcept {
@@ -32,35 +12,30 @@ int CTQSymbolListMgr::GetTQSymbolListCount(int kind) noexcept {
 }
 
 int CTQSymbolListMgr::GetSymbolList(CPtrArray& out, int kind) noexcept {
-  const tq::OwnedLists* lists = ListsOf(kind);
-  if (lists == nullptr)
-    return 0;
-  for (int i = 0; i < lists->GetSize(); ++i)
-    out.Add(new CSymbolList(*tq::ListAt(*lists, i)));
-  return 1;
+  state_->ListsOf(kind).AppendCopies(out);
+  return tq::ManagerState::HasKind(kind);
 }
 
 int CTQSymbolListMgr::GetSymbolList(CString id, CSymbolList** out, int kind) noexcept {
   if (out == nullptr)
     return 0;
-  *out = FindList(id, kind);
+  *out = state_->ListsOf(kind).Find(id);
   return *out != nullptr;
 }
 
 int CTQSymbolListMgr::GetTQSymbolListInfo(int index, TQSymbolListInfo* out, int kind) noexcept {
-  const tq::OwnedLists* lists = ListsOf(kind);
-  if (lists == nullptr || out == nullptr || index < 0 || index >= lists->GetSize())
+  const CSymbolList* const list = state_->ListsOf(kind).At(index);
+  if (list == nullptr || out == nullptr)
     return 0;
-  tq::ListAt(*lists, index)->GetListInfo(out);
+  list->GetListInfo(out);
   return 1;
 }
 
 int CTQSymbolListMgr::GetSymbolListInfo(int index, CString& id, CString& name, CString& symbols,
                                         int kind) noexcept {
-  const tq::OwnedLists* lists = ListsOf(kind);
-  if (lists == nullptr || index < 0 || index >= lists->GetSize())
+  CSymbolList* const list = state_->ListsOf(kind).At(index);
+  if (list == nullptr)
     return 0;
-  CSymbolList* list = tq::ListAt(*lists, index);
   id = list->GetID();
   name = list->GetName();
   symbols = list->GetIDs();
@@ -73,7 +48,7 @@ int CTQSymbolListMgr::GetSymbolListName(const CString& id, CString& name, int ki
 
 int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kind) noexcept {
   // The id may be the text of `name` itself.
-  const CSymbolList* list = FindList(id, kind);
+  const CSymbolList* const list = state_->ListsOf(kind).Find(id);
   name = list == nullptr ? CString() : list->GetName();
   return list != nullptr;
 }
@@ -81,12 +56,9 @@ int CTQSymbolListMgr::GetTQSymbolListName(const char* id, CString& name, int kin
 int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& symbols,
                                        CStringArray* tokens) noexcept {
   constexpr int kDefaultList = 0;
-  CSymbolList* list = nullptr;
-  int index = 0;
-  if (kind != kDefaultList)
-    list = FindList(id, kind);
-  else if (GetDefaultListIdx(index) != 0 && index < lists_->GetSize())
-    list = tq::ListAt(*lists_, index);
+  const tq::UserLists& user = state_->userLists;
+  CSymbolList* const list =
+      kind == kDefaultList ? user.Lists().At(user.DefaultIndex()) : state_->ListsOf(kind).Find(id);
   if (tokens != nullptr)
     tokens->RemoveAll();
   if (list == nullptr) {
@@ -101,7 +73,7 @@ int CTQSymbolListMgr::GetSymbolListIDs(int kind, const CString& id, CString& sym
 
 int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind) noexcept {
   // Before `out` is emptied, which may be the id's own object.
-  CSymbolList* list = FindList(id, kind);
+  CSymbolList* const list = state_->ListsOf(kind).Find(id);
   out.Empty();
   if (list == nullptr)
     return 0;
@@ -110,13 +82,13 @@ int CTQSymbolListMgr::GetSymoblIDList(const CString& id, CString& out, int kind)
 }
 
 int CTQSymbolListMgr::GetTQSymbolCount(const char* id, int kind) noexcept {
-  CSymbolList* list = FindList(id, kind);
+  CSymbolList* const list = state_->ListsOf(kind).Find(id);
   return list == nullptr ? 0 : list->GetCount();
 }
 
 int CTQSymbolListMgr::GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out,
                                       int kind) noexcept {
-  CSymbolList* list = FindList(id, kind);
+  CSymbolList* const list = state_->ListsOf(kind).Find(id);
   return list != nullptr && list->GetAt(entry, out);
 }
 
@@ -125,7 +97,25 @@ int CTQSymbolListMgr::GetSymbolInfos(int exchId, int subId, SymbolInfo** list,
   return VLGetSymbolInfos2(exchId, subId, list, count, 0);
 }
 
+int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept {
+  return state_->allSymbols.Copy(out, count);
+}
+
+void CTQSymbolListMgr::FreeSymbolInfos(SymbolInfo* infos) noexcept {
+  tq::AllSymbols::Free(infos);
+}
+
+int CTQSymbolListMgr::GetSymbolInfo(const char* symbol, ExchInfo* exchanges, int exchangeCount,
+                                    SymbolInfo* out) noexcept {
+  return tq::ReadSymbolInfo(symbol, exchanges, exchangeCount, state_->defaultExchanges,
+                            state_->symbolTables, out);
+}
+
 int CTQSymbolListMgr::GetBaseAttrs(const char* symbols, BaseAttr** list, int* count) noexcept {
   constexpr int kAllAttributes = 1;
   return VLGetBaseAttrs(symbols, list, count, kAllAttributes);
+}
+
+int CTQSymbolListMgr::IsValidSymbol(const CString& text, SymbolInfo* info) noexcept {
+  return tq::FindValidSymbol(text, state_->bCN, state_->symbolTables, info);
 }

@@ -1,7 +1,5 @@
 #include "platform/FileAccess.h"
 
-#include "platform/SystemFiles.h"
-
 #include <atomic>
 #include <cstring>
 

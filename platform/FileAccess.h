@@ -129,9 +129,12 @@ private:
 // The file access that the library uses: the operating system's unless SetFiles gave another.
 FileAccess& Files();
 
-// Puts `files` in its place and returns the one before, for giving it back. Null stands for the
-// operating system's. `files` is not owned and must outlive its use.
+// Replaces it and returns the one before, for restoring that. Null stands for the operating
+// system's. `files` is not owned and must outlive its use.
 FileAccess* SetFiles(FileAccess* files);
+
+// The operating system's file access: one object for the whole process, never destroyed.
+FileAccess& SystemFiles();
 
 // The position of the library's own separator in `path` (convention 1): the last backslash, when a
 // plain ASCII file name follows it and no other separator; npos otherwise. Any backslash further

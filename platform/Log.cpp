@@ -3,8 +3,7 @@
 #include <new>
 #include <utility>
 
-#include "platform/LibraryEnd.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "platform/framework/CString.h"
 
 namespace tq {

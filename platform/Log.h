@@ -18,7 +18,7 @@ TQLog* Log();
 void OpenLog();
 
 // Destroys the logger, if there is one. Managers may outlive it: their lines are then dropped.
-// Where the process ends and other libraries may not be called (platform/LibraryEnd.h), it is only
+// Where the process ends and other libraries may not be called (platform/Module.h), it is only
 // let go.
 void CloseLog();
 

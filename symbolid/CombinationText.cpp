@@ -1,7 +1,7 @@
 #include "symbolid/CombinationText.h"
 
+#include "platform/Text.h"
 #include "symbolid/ContractCode.h"
-#include "symbolid/UpperText.h"
 
 namespace tq {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <optional>
 
-#include "platform/Clock.h"
-#include "platform/TextPieces.h"
+#include "platform/System.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {

@@ -2,11 +2,10 @@
 
 #include <cstring>
 
-#include "platform/LeadingInt.h"
 #include "platform/ServiceArray.h"
+#include "platform/Text.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
 
 namespace tq {
 namespace {

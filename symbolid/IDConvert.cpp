@@ -1,7 +1,6 @@
 #include "symbolid/IDConvert.h"
 
-#include "platform/LeadingInt.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 
 CIDConvert::CIDConvert(int idType, const char* id) noexcept : idType_(idType), id_(id) {
   fullId_.Format("%d.%s", idType_, id_.GetString());

@@ -1,11 +1,9 @@
 // The text forms of identities.
 #include <string_view>
 
-#include "platform/LeadingInt.h"
 #include "platform/LibraryString.h"
+#include "platform/Text.h"
 #include "symbolid/ListID.h"
-#include "symbolid/ParameterText.h"
-#include "symbolid/UpperText.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Checks of single parts (a code, two sides, two months, two strikes), and what the service tells.
 #include "symbolid/OptFutID.h"
 
+#include "platform/Text.h"
 #include "symbolid/CombinationRules.h"
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
-#include "symbolid/UpperText.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Checks of two legs, given as a typed combination or as two full codes.
+#include "platform/Text.h"
 #include "symbolid/CombinationRules.h"
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
-#include "symbolid/UpperText.h"
 
 namespace {
 

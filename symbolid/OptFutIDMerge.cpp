@@ -1,9 +1,9 @@
 // Descriptions of two legs.
+#include "platform/Text.h"
 #include "symbolid/CombinationText.h"
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
-#include "symbolid/UpperText.h"
 
 namespace {
 

@@ -54,15 +54,45 @@ inline PackedText PackHead(std::string_view text) {
   return {PackWord(text), text.size() > half ? PackWord(text.substr(half)) : 0};
 }
 
+// PackHead of a text of kShortest to sixteen bytes, and its last eight bytes, of which a shorter
+// text fills the upper ones; the others are 0.
+struct ShortText {
+  std::uint64_t low;
+  std::uint64_t high;
+  std::uint64_t tail;
+};
+
+constexpr std::size_t kShortest = sizeof(std::uint32_t);
+
+// Four overlapping loads inside the text, and masks instead of branches on its length: lengths
+// differ from id to id, and one mispredicted branch costs more than all of this.
+inline ShortText PackShort(std::string_view text) {
+  constexpr auto word = static_cast<std::int64_t>(sizeof(std::uint64_t));
+  constexpr auto half = static_cast<std::int64_t>(kShortest);
+  const auto load = [at = text.data()](std::int64_t position) {
+    std::uint32_t bytes;
+    std::memcpy(&bytes, at + position, sizeof bytes);
+    return std::uint64_t{bytes};
+  };
+  const auto size = static_cast<std::int64_t>(text.size());
+  const std::int64_t inHigh = (word - size) >> 63; // all bits for more than a word, else none
+  const std::int64_t behind = (size - word) & inHigh;
+  const std::int64_t missing = (word - size) & ~inHigh;
+  const std::int64_t second = half - missing;
+  const std::uint64_t low = load(0) | load(second) << 8 * second;
+  const std::uint64_t tail = load(size - half) << 32 | load(behind) << 8 * missing;
+  return {low, tail >> (8 * (word - behind) & 63) & static_cast<std::uint64_t>(inHigh), tail};
+}
+
 // The head of the first `size` bytes of a text with that head.
 inline PackedText CutHead(PackedText head, std::size_t size) {
   constexpr std::size_t half = sizeof(std::uint64_t);
   if (size >= 2 * half)
     return head;
-  // Of the word in which the cut is. Without a branch on the half, which differs from text to text.
-  const std::uint64_t kept = (std::uint64_t{1} << 8 * (size % half)) - 1;
-  const bool isLong = size >= half;
-  return {head.low & (isLong ? ~std::uint64_t{0} : kept), head.high & (isLong ? kept : 0)};
+  const std::uint64_t kept = (std::uint64_t{1} << 8 * (size % half)) - 1; // of the word that is cut
+  if (size < half)
+    return {head.low & kept, 0};
+  return {head.low, head.high & kept};
 }
 
 // What follows treats the eight bytes of a word at once.

@@ -18,7 +18,7 @@ struct Place {
   FileStamp stamp;
 };
 
-// The names that can be used, free or taken by a file.
+// The copies' names that can be used: free ones, and those of regular files.
 std::vector<Place> PlacesOf(const CString& path) {
   std::vector<Place> places;
   for (int number = 0; number < kKeptCopies; ++number) {
@@ -37,8 +37,8 @@ bool Holds(const CString& copy, const Place& place, const std::string& bytes) {
          Files().ReadWholeFile(copy, bytes.size(), kept) == ReadResult::Ok && kept == bytes;
 }
 
-// Free names in order, then copies by age. Those of one time stand in the order in which they were
-// made from the one behind `last` on.
+// Free names first, in order, then the copies from the oldest to the newest. Copies with equal
+// times are ordered by number, starting after `last`, the most recent one.
 void SortByTurn(std::vector<Place>& places, int last) {
   const auto turn = [last](const Place& place) {
     const int behind = (place.number - last - 1 + kKeptCopies) % kKeptCopies;
@@ -78,7 +78,7 @@ KeepResult KeepCopy(const CString& path, const std::string& bytes, int& number) 
       return KeepResult::Kept;
     }
     if (result == SaveResult::Failed)
-      break; // the disk is full or broken: for the other names too
+      break; // the disk is full or broken, so no other name would work either
   }
   return KeepResult::Failed;
 }

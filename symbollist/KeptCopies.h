@@ -7,7 +7,7 @@
 
 namespace tq {
 
-// So many copies of one file are kept; then the oldest goes.
+// How many copies of one file are kept. The next one replaces the oldest.
 inline constexpr int kKeptCopies = 10;
 
 // The name of a copy, 0 to kKeptCopies - 1: "_Kept" and, from 1 on, the number in front of the
@@ -20,12 +20,11 @@ enum class KeepResult {
   Failed,     // none of the names can be written
 };
 
-// Puts `bytes`, the contents of the file at `path`, into a copy: under the first name that is free,
-// else in the place of the oldest copy. What bears such a name and is no file, or may not be
-// written, is passed over. `number` is the copy that was made before by the caller, -1 for none,
-// and becomes the one that holds the bytes; it tells copies apart that are of one time. A copy is a
-// save (FileAccess::SaveWholeFile): whatever ends the process, each copy is an older one or this
-// one.
+// Copies `bytes`, the contents of the file at `path`: under the first free name, or else over the
+// oldest copy. Names that belong to something other than a file, or that cannot be written, are
+// skipped. `number` is the caller's previous copy (-1: none) and becomes the new one; it orders
+// copies with equal times. A copy is made with FileAccess::SaveWholeFile, so it is never left
+// incomplete.
 KeepResult KeepCopy(const CString& path, const std::string& bytes, int& number);
 
 } // namespace tq

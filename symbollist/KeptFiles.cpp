@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/Log.h"
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 #include "symbollist/KeptCopies.h"
 
 namespace tq {
@@ -17,7 +17,7 @@ bool IsStamped(const FileStamp& stamp) {
   return stamp != FileStamp();
 }
 
-// Such a file has nothing that could be lost.
+// Overwriting such a file loses nothing.
 bool HoldsNoList(const std::string& bytes) {
   if (bytes.empty())
     return true;
@@ -96,8 +96,8 @@ bool KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents c
   return std::exchange(file.savedInLoad, false);
 }
 
-// The line comes behind the save: the terminal may change and save the lists while it is written,
-// and the bytes given here, which are older, must not follow those.
+// Logs only after the save: logging may let the terminal save newer lists, which these older bytes
+// must not overwrite.
 SaveResult KeptFiles::Save(const CString& path, std::string bytes) {
   CString line;
   SaveResult result = SaveResult::NotOpened;
@@ -116,7 +116,7 @@ void KeptFiles::NoteSaved(const CString& path, std::string bytes) {
   file.known = true;
   file.contents = {};
   Files().StateOf(path, file.contents.stamp);
-  // Another size is another program's, which was quicker than this question.
+  // A different size means that another program has written the file in between.
   if (file.contents.stamp.size != bytes.size())
     file.contents.stamp = {};
   file.contents.bytes = std::move(bytes);
@@ -154,7 +154,7 @@ bool KeptFiles::MayWrite(const CString& path, CString& line) {
   return HoldsNoList(now.bytes) || Keep(file, std::move(now), line);
 }
 
-// `now` is what the file holds. Once it has been kept it is known.
+// `now` is the file's present contents. Once copied, the file counts as known.
 bool KeptFiles::Keep(File& file, FileContents now, CString& line) {
   const bool same = file.known && now.bytes == file.contents.bytes;
   const char* why = WhyUnknown(file.outcome);

@@ -2,17 +2,15 @@
 
 #include <algorithm>
 
-#include "symbollist/SymbolList.h"
-
 namespace tq {
 
 bool ListIndex::IsBefore(const CSymbolList* left, const CSymbolList* right) {
-  return left->place_ < right->place_;
+  return left->order_ < right->order_;
 }
 
-void ListIndex::Add(CSymbolList& list, long long place) noexcept {
-  list.index_ = this;
-  list.place_ = place;
+void ListIndex::Add(CSymbolList& list, long long order) noexcept {
+  list.follower_ = this;
+  list.order_ = order;
   EnterId(list);
   EnterName(list);
 }
@@ -20,13 +18,13 @@ void ListIndex::Add(CSymbolList& list, long long place) noexcept {
 void ListIndex::Remove(CSymbolList& list) {
   ForgetId(list);
   ForgetName(list);
-  list.index_ = nullptr;
+  list.follower_ = nullptr;
 }
 
 void ListIndex::Clear() {
   for (const auto& [id, lists] : ids_) {
     for (CSymbolList* list : lists)
-      list->index_ = nullptr;
+      list->follower_ = nullptr;
   }
   ids_.clear();
   names_.clear();

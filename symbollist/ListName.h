@@ -1,4 +1,4 @@
-// Display names that no list has yet.
+// Makes display names unique.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@ namespace tq {
 
 // Longest display name, in bytes.
 inline constexpr int kNameLimit = 64;
-// Numbers that are tried for a taken name. Part of the interface: the name after it is refused.
+// How many numbers are tried for a taken name. Part of the interface: do not change.
 inline constexpr int kNameAttempts = 100;
 
 inline CString NumberSuffix(int number) {
@@ -18,15 +18,14 @@ inline CString NumberSuffix(int number) {
   return suffix;
 }
 
-// The name with `suffix` behind it, shortened in front of the suffix at a whole character where the
-// two would not fit.
+// Appends `suffix`, cutting the name at a whole character where both would be too long.
 inline CString WithSuffix(const CString& name, const CString& suffix) {
   return name.Left(std::min(name.GetLength(), kNameLimit - suffix.GetLength())) + suffix;
 }
 
-// `name`, or where `taken` says yes, the name with "(1)" behind it, then with "(2)" in the place of
-// that, and so on up to "(100)"; a name that has the number already is renumbered, everywhere in
-// it. After the last attempt the candidate comes back although it is taken.
+// `wanted`, or, while `taken` returns true, the name with "(1)" appended, then "(2)" in its place,
+// up to "(100)". A name that already contains the number has every occurrence of it renumbered.
+// After the last attempt the candidate is returned although it is taken.
 template <typename TAKEN> CString FreeName(const CString& wanted, TAKEN taken) {
   CString name = wanted.Left(std::min(wanted.GetLength(), kNameLimit));
   int number = 1;
@@ -46,12 +45,12 @@ template <typename TAKEN> CString FreeName(const CString& wanted, TAKEN taken) {
   return name;
 }
 
-// Times that a suffix is put behind a taken name. Part of the interface.
+// How often a suffix is appended to a taken name. Part of the interface: do not change.
 inline constexpr int kSuffixAttempts = 5;
 
-// `name`, or where `taken` says yes, the name with `suffix` behind it, then with another behind
-// that, up to five. Names are tried as they are kept: one that does not fit is shortened in front
-// of its suffixes. After the last attempt the candidate comes back although it is taken.
+// `wanted`, or, while `taken` returns true, the name with `suffix` appended once, twice, up to five
+// times. A name that gets too long is cut in front of its suffixes. After the last attempt the
+// candidate is returned although it is taken.
 template <typename TAKEN>
 CString SuffixedName(const CString& wanted, const CString& suffix, TAKEN taken) {
   CString name = WithSuffix(wanted, CString());

@@ -1,16 +1,20 @@
 #include "symbollist/OwnedLists.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "symbolid/UpperText.h"
+#include "idlist/StorableText.h"
+#include "platform/Text.h"
+#include "symbollist/ListIds.h"
 
 namespace tq {
 
 bool OwnedLists::HasName(const CString& name, int skip) const {
   const ListIndex::Lists& lists = index_.WithName(ViewOf(name));
-  if (lists.empty() || skip < 0 || skip >= lists_.GetSize())
+  const CSymbolList* const skipped = At(skip);
+  if (lists.empty() || skipped == nullptr)
     return !lists.empty();
-  return lists.size() > 1 || lists.front() != ListAt(lists_, skip);
+  return lists.size() > 1 || lists.front() != skipped;
 }
 
 bool OwnedLists::HasIdAndName(const CString& id, const CString& name) const {
@@ -19,43 +23,74 @@ bool OwnedLists::HasIdAndName(const CString& id, const CString& name) const {
                      [&name](const CSymbolList* list) { return list->GetName() == name; });
 }
 
+bool OwnedLists::Has(const CSymbolList* list, int position) const {
+  return At(position) == list || std::any_of(lists_.begin(), lists_.end(),
+                                             [=](const auto& each) { return each.get() == list; });
+}
+
 int OwnedLists::PositionOf(const CSymbolList* list) const {
-  const auto* found = std::lower_bound(
-      lists_.begin(), lists_.end(), list, [](const void* each, const CSymbolList* one) {
-        return ListIndex::IsBefore(static_cast<const CSymbolList*>(each), one);
-      });
+  const auto found = std::lower_bound(lists_.begin(), lists_.end(), list,
+                                      [](const auto& each, const CSymbolList* one) {
+                                        return ListIndex::IsBefore(each.get(), one);
+                                      });
   return static_cast<int>(found - lists_.begin());
 }
 
-void OwnedLists::AddLast(std::unique_ptr<CSymbolList> list) {
+int OwnedLists::ProblemsOfNewId(const CString& id) const {
+  constexpr int kTaken = 1;
+  constexpr int kTooLong = 2;
+  constexpr int kNotForAFile = 4;
+  int problems = 0;
+  if (Find(id) != nullptr)
+    problems |= kTaken;
+  if (id.GetLength() > kListIdLimit)
+    problems |= kTooLong;
+  if (id.FindOneOf("'&<") >= 0 || !IsStorable(id))
+    problems |= kNotForAFile;
+  return problems;
+}
+
+bool OwnedLists::HaveNamesAndContentsOf(const CPtrArray& copy) const {
+  return std::equal(lists_.begin(), lists_.end(), copy.begin(), copy.end(),
+                    [](const auto& list, void* each) {
+                      auto* const other = static_cast<CSymbolList*>(each);
+                      return other != nullptr && other->GetName() == list->GetName() &&
+                             other->GetIDs() == list->GetIDs();
+                    });
+}
+
+void OwnedLists::AppendCopies(CPtrArray& out) const {
+  for (const auto& list : lists_)
+    out.Add(std::make_unique<CSymbolList>(*list).release());
+}
+
+void OwnedLists::AddLast(std::unique_ptr<CSymbolList> list) noexcept {
   index_.AddLast(*list);
-  lists_.Add(list.release());
+  lists_.push_back(std::move(list));
   ++changes_;
 }
 
-void OwnedLists::AddFirst(std::unique_ptr<CSymbolList> list) {
+void OwnedLists::AddFirst(std::unique_ptr<CSymbolList> list) noexcept {
   index_.AddFirst(*list);
-  lists_.InsertAt(0, list.release());
+  lists_.insert(lists_.begin(), std::move(list));
   ++changes_;
 }
 
 void OwnedLists::Delete(CSymbolList* list) {
-  lists_.RemoveAt(PositionOf(list));
-  delete list;
+  lists_.erase(lists_.begin() + PositionOf(list));
   ++changes_;
 }
 
-void OwnedLists::Replace(CPtrArray& lists) {
+void OwnedLists::Replace(ListVector lists) noexcept {
   Destroy();
-  lists_.Copy(lists);
-  lists.RemoveAll();
-  for (int i = 0; i < lists_.GetSize(); ++i)
-    index_.AddLast(*ListAt(lists_, i));
+  lists_ = std::move(lists);
+  for (const auto& list : lists_)
+    index_.AddLast(*list);
 }
 
 void OwnedLists::Destroy() {
   index_.Clear();
-  DestroyLists(lists_);
+  lists_.clear();
   ++changes_;
 }
 

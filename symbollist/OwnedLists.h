@@ -2,15 +2,22 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
-#include "symbollist/ListArray.h"
+#include "platform/framework/CPtrArray.h"
 #include "symbollist/ListIndex.h"
+#include "symbollist/SymbolList.h"
 
 namespace tq {
 
+using ListVector = std::vector<std::unique_ptr<CSymbolList>>;
+
 // Owns its lists. Finding one by identifier or name takes the same time however many there are, so
 // a terminal may add or update ten thousand one after the other. Identifiers and names are compared
-// ignoring letter case.
+// ignoring letter case, unless said.
+//
+// Re-entrancy: a list that calls the symbol-data service may let the terminal add, delete or
+// replace lists. A loop that does so iterates over a copy of the pointers and checks each with Has.
 class OwnedLists {
 public:
   OwnedLists() = default;
@@ -18,11 +25,13 @@ public:
   OwnedLists& operator=(const OwnedLists&) = delete;
   ~OwnedLists() { Destroy(); }
 
-  // The array itself, to be walked.
-  operator const CPtrArray&() const { return lists_; }
-  int GetSize() const { return lists_.GetSize(); }
-  int GetUpperBound() const { return lists_.GetUpperBound(); }
-  bool IsEmpty() const { return lists_.IsEmpty(); }
+  const ListVector& All() const { return lists_; }
+  int GetSize() const { return static_cast<int>(lists_.size()); }
+  bool IsEmpty() const { return lists_.empty(); }
+  // Null for an index out of range.
+  CSymbolList* At(int index) const {
+    return index < 0 || index >= GetSize() ? nullptr : lists_[static_cast<size_t>(index)].get();
+  }
 
   // The first list with that identifier, or null. A null id is no list's.
   CSymbolList* Find(const char* id) const { return id == nullptr ? nullptr : index_.FindById(id); }
@@ -31,37 +40,40 @@ public:
   // Whether a list has that identifier and exactly that name, letter case included. Identifiers
   // need not be unique in a file that somebody else wrote, so it may be any of several.
   bool HasIdAndName(const CString& id, const CString& name) const;
+  // Whether the list is one of these; `position` is where it was.
+  bool Has(const CSymbolList* list, int position) const;
   // Where one of the lists stands.
   int PositionOf(const CSymbolList* list) const;
+  // Why a list with that identifier cannot be added, as CTQSymbolListMgr::CheckValidSymbolList
+  // says.
+  int ProblemsOfNewId(const CString& id) const;
+  // Whether `copy`, CSymbolList pointers, holds lists of the same names (letter case counts) and
+  // symbol strings, position by position.
+  bool HaveNamesAndContentsOf(const CPtrArray& copy) const;
 
-  void AddLast(std::unique_ptr<CSymbolList> list);
-  void AddFirst(std::unique_ptr<CSymbolList> list);
+  // Puts a new copy of each list behind what `out` holds. The caller deletes them.
+  void AppendCopies(CPtrArray& out) const;
+
+  void AddLast(std::unique_ptr<CSymbolList> list) noexcept;
+  void AddFirst(std::unique_ptr<CSymbolList> list) noexcept;
   void Delete(CSymbolList* list);
-  // Deletes, in one pass, the lists that `wanted` says true of; it is asked once for each, in
-  // order.
+  // Deletes the lists for which `wanted` returns true, in one pass; it is called once for each
+  // list, in order.
   template <typename Wanted> void DeleteIf(Wanted wanted) {
-    int kept = 0;
-    for (int i = 0; i < lists_.GetSize(); ++i) {
-      CSymbolList* const list = ListAt(lists_, i);
-      if (wanted(*list))
-        delete list;
-      else
-        lists_[kept++] = list;
-    }
-    lists_.SetSize(kept);
+    std::erase_if(lists_, [&wanted](const auto& list) { return wanted(*list); });
     ++changes_;
   }
-  // Takes over the lists of `lists`, which is emptied, in the place of its own, which are deleted.
-  void Replace(CPtrArray& lists);
+  // Deletes its lists and takes over `lists`.
+  void Replace(ListVector lists) noexcept;
   void Destroy();
 
-  // Counts the lists that came and went: who asked the service meanwhile, which may let the
-  // terminal work, can tell whether what was checked before still holds.
+  // A version number, which changes when lists are added or removed: a caller that has called the
+  // service compares it to see whether its earlier checks still hold.
   unsigned Changes() const { return changes_; }
 
 private:
-  CPtrArray lists_;
   ListIndex index_;
+  ListVector lists_;
   unsigned changes_ = 0;
 };
 

@@ -2,12 +2,12 @@
 
 #include <cstring>
 
+#include "idlist/LifeWatch.h"
+#include "idlist/StorableText.h"
 #include "platform/CodePage.h"
-#include "platform/XmlDocument.h"
-#include "symbollist/LifeWatch.h"
-#include "symbollist/ListIndex.h"
-#include "symbollist/StorableText.h"
-#include "symbollist/SystemListId.h"
+#include "platform/xml/XmlDocument.h"
+#include "symbollist/ListFollower.h"
+#include "symbollist/ListIds.h"
 
 CSymbolList::CSymbolList() noexcept : info_(), flag_(0) {}
 
@@ -17,8 +17,8 @@ CSymbolList::CSymbolList(const CSymbolList& other) noexcept
 }
 
 CSymbolList::~CSymbolList() {
-  if (index_ != nullptr)
-    index_->Remove(*this);
+  if (follower_ != nullptr)
+    follower_->Remove(*this);
 }
 
 void CSymbolList::SetID(const char* id) noexcept {
@@ -26,11 +26,11 @@ void CSymbolList::SetID(const char* id) noexcept {
   const CString kept = tq::StorableText(id); // which may log, and the terminal delete the list
   if (watch.IsGone())
     return;
-  if (index_ != nullptr)
-    index_->ForgetId(*this);
+  if (follower_ != nullptr)
+    follower_->ForgetId(*this);
   tq::CopyCut(info_.ID, kept);
-  if (index_ != nullptr)
-    index_->EnterId(*this);
+  if (follower_ != nullptr)
+    follower_->EnterId(*this);
   UpdateFlag();
 }
 
@@ -39,11 +39,11 @@ void CSymbolList::SetName(const char* name) noexcept {
   const CString kept = tq::StorableText(name);
   if (watch.IsGone())
     return;
-  if (index_ != nullptr)
-    index_->ForgetName(*this);
+  if (follower_ != nullptr)
+    follower_->ForgetName(*this);
   tq::CopyCut(info_.Name, kept);
-  if (index_ != nullptr)
-    index_->EnterName(*this);
+  if (follower_ != nullptr)
+    follower_->EnterName(*this);
 }
 
 void CSymbolList::ToXml(CString& out) noexcept {

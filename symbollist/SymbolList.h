@@ -3,11 +3,12 @@
 
 #include <string>
 
+#include "idlist/IDList.h"
 #include "platform/CodePage.h"
-#include "symbollist/IDList.h"
 #include "symbollist/TQSymbolListInfo.h"
 
 namespace tq {
+class ListFollower;
 class ListIndex;
 class XmlElement;
 
@@ -70,6 +71,6 @@ private:
 
   TQSymbolListInfo info_;
   int flag_;
-  tq::ListIndex* index_ = nullptr; // that finds this list, see symbollist/ListIndex.h
-  long long place_ = 0;            // in it
+  tq::ListFollower* follower_ = nullptr; // the index that finds this list (ListIndex.h)
+  long long order_ = 0;                  // its order number there
 };

@@ -1,10 +1,7 @@
 #include "symboltable/ExchangeService.h"
 
-#include <cstring>
-
+#include "platform/Text.h"
 #include "platform/services/TQSObj.h"
-#include "symbolid/UpperText.h"
-#include "symboltable/LoginNumbers.h"
 
 namespace tq {
 namespace {

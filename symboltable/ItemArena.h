@@ -1,5 +1,5 @@
-// The memory of one table's items: one block for those that are loaded together, more blocks as
-// symbols are added later, and places of removed ones used again.
+// The memory of one table's items, in cells that are known by number: one block for the items that
+// are loaded together, smaller blocks for items that are added later. Freed cells are used again.
 #pragma once
 
 #include <cstddef>
@@ -14,22 +14,23 @@ namespace tq {
 class ItemArena {
 public:
   ItemArena() = default;
-  // With the items, which stay where they are. One that was moved from can only be assigned to.
+  // Takes the items along; they keep their addresses. A moved-from arena can only be assigned to.
   ItemArena(ItemArena&&) = default;
   ItemArena& operator=(ItemArena&&) = default;
 
-  // Gives back all memory and makes one block of `count` places. No item may be left.
+  // Frees all memory and allocates one block of `count` cells. All items must have been destroyed.
   void Reset(std::size_t count);
 
-  // A place for an item, by number. The caller constructs the item there before it takes another.
-  std::uint32_t TakePlace();
-  // The item's destructor has run, or it was never constructed; the place may be taken again.
-  void ReturnPlace(std::uint32_t number);
+  // Allocates a cell and returns its number. The caller constructs the item in it before the next
+  // Allocate.
+  std::uint32_t Allocate();
+  // Frees a cell. Its item has been destroyed, or was never constructed.
+  void Free(std::uint32_t number);
 
-  void* PlaceAt(std::uint32_t number) const {
-    return number < firstCount_ ? &first_[number] : LaterPlaceAt(number);
+  void* CellAt(std::uint32_t number) const {
+    return number < firstCount_ ? &first_[number] : LaterCellAt(number);
   }
-  CSymbolItem* At(std::uint32_t number) const { return static_cast<CSymbolItem*>(PlaceAt(number)); }
+  CSymbolItem* At(std::uint32_t number) const { return static_cast<CSymbolItem*>(CellAt(number)); }
 
   // Heap bytes held.
   std::size_t Footprint() const;
@@ -37,19 +38,19 @@ public:
 private:
   static constexpr std::uint32_t kLaterCount = 64; // items in a later block
 
-  struct alignas(CSymbolItem) Place {
+  struct alignas(CSymbolItem) Cell {
     std::byte bytes[sizeof(CSymbolItem)];
   };
-  using Block = std::unique_ptr<Place[]>;
+  using Block = std::unique_ptr<Cell[]>;
 
   static Block MakeBlock(std::size_t count);
-  void* LaterPlaceAt(std::uint32_t number) const;
+  void* LaterCellAt(std::uint32_t number) const;
 
   Block first_;
   std::uint32_t firstCount_ = 0;
   std::vector<Block> later_;
-  std::uint32_t taken_ = 0; // places that were ever taken
-  std::vector<std::uint32_t> returned_;
+  std::uint32_t used_ = 0; // cells that were ever allocated
+  std::vector<std::uint32_t> free_;
 };
 
 } // namespace tq

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
 #include "symboltable/SymbolKey.h"
 
 namespace tq {
@@ -57,7 +57,7 @@ std::shared_ptr<const ItemTexts> ItemTextReader::Shared(std::uint32_t hash) {
     recent_.resize(kRecentCount);
   std::shared_ptr<const ItemTexts>& known = recent_[hash % kRecentCount];
   if (!known || !Matches(*known)) {
-    // Characters of its own, as those just read are written over by the next symbol.
+    // Deep copies: the memory of those just read is reused for the next symbol.
     auto texts = std::make_shared<ItemTexts>();
     for (int i = 0; i < kItemTextCount; ++i)
       texts->texts[i].SetString(read_.texts[i].GetString(), read_.texts[i].GetLength());

@@ -5,8 +5,8 @@
 namespace tq {
 namespace {
 
-// Of ten slots at most eight are taken when the index is made anew: full groups are rare then.
-constexpr std::size_t kFullestTenths = 8;
+// The load factor after a rehash, in tenths. Full groups are rare up to it.
+constexpr std::size_t kLoadTenths = 8;
 constexpr std::size_t kTenths = 10;
 
 } // namespace
@@ -16,14 +16,14 @@ void KeyIndex::Reset(std::size_t count) {
   if (count == 0)
     return;
   capacity_ = count;
-  groupCount_ = count * kTenths / (kSlotCount * kFullestTenths) + 1;
+  groupCount_ = count * kTenths / (kSlotCount * kLoadTenths) + 1;
   groups_ = std::make_unique<Group[]>(groupCount_);
   codes_ = std::make_unique_for_overwrite<PackedText[]>(groupCount_ * kSlotCount);
   entries_ = std::make_unique<Entry[]>(groupCount_ * kSlotCount);
 }
 
 bool KeyIndex::HasRoom() const {
-  return size_ < capacity_ && worn_ <= groupCount_ * kSlotCount;
+  return size_ < capacity_ && tombstones_ <= groupCount_ * kSlotCount;
 }
 
 void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
@@ -31,7 +31,7 @@ void KeyIndex::Put(std::uint32_t hash, PackedText code, Entry entry) {
     Group& group = groups_[at];
     std::uint8_t* const tag = std::find(group.tags, group.tags + kSlotCount, kNoTag);
     if (tag == group.tags + kSlotCount) {
-      group.passed |= PassedBit(hash);
+      group.overflow |= OverflowBit(hash);
       continue;
     }
     *tag = TagOf(hash);
@@ -47,8 +47,8 @@ void KeyIndex::Remove(Slot slot) {
   group.tags[slot % kSlotCount] = kNoTag;
   entries_[slot] = {};
   --size_;
-  if (group.passed != 0)
-    ++worn_;
+  if (group.overflow != 0)
+    ++tombstones_;
 }
 
 } // namespace tq

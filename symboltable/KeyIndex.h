@@ -1,10 +1,10 @@
-// From a key to the node that carries it: an open-addressing table.
+// The hash table of a symbol table: from a key to the node that carries it.
 //
-// Entries stand in groups, each with one byte of the hash for every entry, so that a look-up hardly
-// ever looks at an entry that is not the right one. These bytes, the codes of the keys and what
-// stands under them lie in arrays of their own: the first stays in the processor's caches even for
-// a whole market, and of the others a look-up touches a cache line each, without waiting for one to
-// know the other.
+// Open addressing in groups of slots. A group has a tag, one byte of the hash, for each of its
+// slots, so that a look-up rarely compares a key in vain. Tags, key codes and entries are in
+// separate arrays: the tags of a whole market stay in the processor's caches, and of the two other
+// arrays a look-up loads one cache line each. Those loads are independent, so their cache misses
+// overlap.
 #pragma once
 
 #include <bit>
@@ -22,28 +22,29 @@ namespace tq {
 
 class KeyIndex {
 public:
-  // An entry's place; it is good until an entry is added or removed.
+  // The position of an entry, valid until an entry is added or removed.
   using Slot = std::uint32_t;
   static constexpr Slot kNoSlot = 0xffffffffu;
 
-  // What stands under a key.
+  // What the index holds for a key. `value` and `text` are the caller's: copies of what a look-up
+  // needs of the node, which saves touching the node's memory.
   struct Entry {
     std::uint32_t node;
-    std::int32_t value; // the caller's, at hand without the node
-    CString text = {};  // the same
+    std::int32_t value;
+    CString text = {};
   };
 
-  // Empties the index and makes room for `count` keys, so that adding them moves nothing.
+  // Empties the index and reserves room for `count` keys, so that adding them does not rehash.
   void Reset(std::size_t count);
 
-  // Fetches what Find looks at first, for callers who go on with other work.
+  // Prefetches what Find reads first, for callers who do other work before they call it.
   void Prefetch(std::uint32_t hash) const {
     if (groupCount_ != 0)
       tq::Prefetch(&groups_[GroupOf(hash)]);
   }
 
-  // The entry with that key; kNoSlot when there is none. Keys that are longer than their codes are
-  // told apart by isMatch(node).
+  // The slot of a key; kNoSlot when the index does not hold it. A key longer than its code is
+  // compared in full by isMatch(node).
   template <typename IsMatch> Slot Find(const SymbolKey& key, IsMatch isMatch) const {
     if (key.text.size() <= kCodedBytes)
       return FindCode(key.code, key.hash);
@@ -56,7 +57,7 @@ public:
   const Entry& At(Slot slot) const { return entries_[slot]; }
   Entry& At(Slot slot) { return entries_[slot]; }
 
-  // Adds a node whose key is not in the index. hashOf(node) is the hash of a node that is.
+  // Adds a key that the index does not hold. hashOf(node) returns the hash of a held node's key.
   template <typename HashOf> void Add(const SymbolKey& key, Entry entry, HashOf hashOf) {
     if (!HasRoom())
       Rebuild(hashOf);
@@ -73,21 +74,24 @@ public:
 
 private:
   static constexpr std::size_t kSlotCount = 12;
-  static constexpr std::uint8_t kNoTag = 0; // the slot is free
+  static constexpr std::uint8_t kNoTag = 0; // marks a free slot
 
   struct alignas(16) Group {
     std::uint8_t tags[kSlotCount];
-    // Which hashes went past this group when it was full, by their PassedBit. Never taken back:
-    // what they look for may still stand behind.
-    std::uint32_t passed;
+    // Overflow bits: an insertion that skips this group because it is full sets the OverflowBit of
+    // its hash. A look-up goes on to the next group only where its bit is set. Never cleared, since
+    // other keys with that bit may lie in later groups.
+    std::uint32_t overflow;
 
-    // A bit for each slot with that tag.
+    // A bit for each slot that has this tag.
     unsigned SlotsWith(std::uint8_t tag) const {
-      return EqualBytes(tags, tag) & ((1u << kSlotCount) - 1);
+      const auto* const bytes = reinterpret_cast<const std::uint8_t*>(this); // the tags come first
+      return EqualBytes(bytes, tag) & ((1u << kSlotCount) - 1);
     }
   };
+  static_assert(sizeof(Group) == 16); // what EqualBytes reads
 
-  // The upper bits of a hash choose the group, others the tag and the passed bit.
+  // The upper bits of a hash select the group, the lower ones the tag and the overflow bit.
   std::size_t GroupOf(std::uint32_t hash) const {
     return static_cast<std::size_t>(std::uint64_t{hash} * groupCount_ >> 32);
   }
@@ -99,7 +103,7 @@ private:
     const auto tag = static_cast<std::uint8_t>(hash);
     return tag == kNoTag ? 1 : tag;
   }
-  static std::uint32_t PassedBit(std::uint32_t hash) { return 1u << (hash >> 8 & 31u); }
+  static std::uint32_t OverflowBit(std::uint32_t hash) { return 1u << (hash >> 8 & 31u); }
 
   template <typename IsMatch>
   Slot Search(PackedText code, std::uint32_t hash, IsMatch isMatch) const {
@@ -111,7 +115,7 @@ private:
         if (codes_[slot] == code && isMatch(entries_[slot].node))
           return slot;
       }
-      if ((group.passed & PassedBit(hash)) == 0)
+      if ((group.overflow & OverflowBit(hash)) == 0)
         break;
     }
     return kNoSlot;
@@ -121,8 +125,8 @@ private:
 
   template <typename HashOf> void Rebuild(HashOf hashOf) {
     const KeyIndex old = std::move(*this);
-    // Half as many again: an index that grows by ones is not made anew for each of them. Where
-    // removals have only worn it out it stays as large as it was.
+    // A full index grows by half, so that adding one key at a time stays cheap. One that only has
+    // too many tombstones keeps its size.
     Reset(old.size_ < old.capacity_ ? old.capacity_ : old.size_ + old.size_ / 2 + 1);
     for (std::size_t i = 0; i < old.groupCount_ * kSlotCount; ++i)
       if (old.groups_[i / kSlotCount].tags[i % kSlotCount] != kNoTag)
@@ -134,9 +138,9 @@ private:
   std::unique_ptr<PackedText[]> codes_;
   std::unique_ptr<Entry[]> entries_;
   std::size_t groupCount_ = 0;
-  std::size_t capacity_ = 0; // keys that there is room for
+  std::size_t capacity_ = 0; // keys that can be held without a rehash
   std::size_t size_ = 0;
-  std::size_t worn_ = 0; // entries removed from groups whose passed bits have stayed
+  std::size_t tombstones_ = 0; // removals that left overflow bits behind
 };
 
 } // namespace tq

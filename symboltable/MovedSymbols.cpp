@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "platform/TextPieces.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
+#include "symbolid/UpperId.h"
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TableSlots.h"
 
 namespace tq {
 
@@ -15,11 +15,10 @@ public:
   SymbolMover(const CSymbolTableMgr& tables, const CString& from, const CString& to)
       : from_(TableOf(tables, from)), to_(TableOf(tables, to)), oldSuffix_(ViewOf(from)) {}
 
-  // Whether any symbol can move at all.
+  // Whether the tables can tell that a symbol moved.
   bool Knows() const { return from_ != nullptr && from_->IsWhole() && to_ != nullptr; }
 
-  // Where in `token` the suffix starts that is to be the new exchange's; npos when the token stays.
-  // The string of the question keeps its room from one token to the next.
+  // The position in `token` of the suffix to replace; npos when the token stays as it is.
   std::size_t SuffixToMove(std::string_view token) {
     const std::size_t dot = token.rfind('.');
     if (dot == std::string_view::npos || dot == 0 || token.find(':', 1) != std::string_view::npos ||
@@ -34,11 +33,11 @@ public:
   }
 
 private:
-  // Look-ups know a table by its name in upper case.
+  // By the upper-cased name, as look-ups find a table.
   static const CSymbolTable* TableOf(const CSymbolTableMgr& tables, CString exchName) {
     exchName.MakeUpper();
     const int slot = tables.slots_->FindName(ViewOf(exchName));
-    return slot == TableSlots::kNone ? nullptr : tables.slots_->At(slot);
+    return slot == ExchangeTables::kNone ? nullptr : tables.slots_->At(slot);
   }
   static bool IsListed(const CSymbolTable& table, std::string_view symbol) {
     return table.Find(MakeKey(symbol)) != CSymbolTable::kNoSymbol;
@@ -47,7 +46,7 @@ private:
   const CSymbolTable* from_;
   const CSymbolTable* to_;
   std::string_view oldSuffix_;
-  CString symbol_;
+  CString symbol_; // its memory is reused for each token
 };
 
 int MoveSymbols(CSymbolTableMgr& tables, CString& ids, const CString& oldExchange,
@@ -59,7 +58,7 @@ int MoveSymbols(CSymbolTableMgr& tables, CString& ids, const CString& oldExchang
     return 0;
   const std::string_view text = ViewOf(ids);
   std::string result;
-  std::size_t copied = 0; // what of the text stands in the result
+  std::size_t copied = 0; // bytes of `text` that are in `result`
   int moved = 0;
   ForEachPiece(text, [&](int, std::string_view piece) {
     const std::string_view token = Trimmed(piece);

@@ -1,14 +1,30 @@
 // Descriptions of two legs with the names that the symbol tables have for them.
 #include <optional>
 
+#include "platform/Text.h"
 #include "platform/services/tqStockFields.h"
 #include "symbolid/CombinationText.h"
 #include "symbolid/ContractCode.h"
 #include "symbolid/ContractService.h"
 #include "symbolid/OptFutID.h"
-#include "symbolid/UpperText.h"
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TablesWatch.h"
+
+namespace tq {
+
+// Tells whether tables that a caller handed in still live: the terminal may delete them while a
+// service is asked.
+class TablesWatch {
+public:
+  explicit TablesWatch(CSymbolTableMgr& tables) : tables_(*tables.slots_) {}
+
+  bool AreGone() const { return tables_->IsOwnerless(); }
+
+private:
+  ExchangeTables::Use tables_;
+};
+
+} // namespace tq
 
 namespace {
 

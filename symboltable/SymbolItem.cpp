@@ -11,8 +11,8 @@ namespace {
 
 constexpr char kNoMark = ' ';
 
-// Bits of present_: the held numbers that the service gave, and what is not held because it can be
-// told from the id.
+// Bits of present_: the numbers that the service gave, and a text that is not stored because it
+// equals a part of the id.
 enum : unsigned {
   KindBit = 1,
   BoardBit = 2,
@@ -21,10 +21,10 @@ enum : unsigned {
   TradeLotBit = 16,
   PriceScaleBit = 32,
   DecimalsBit = 64,
-  CodeIsSymbolBit = 128, // FieldExchangeCode
+  CodeIsSymbolBit = 128, // FieldExchangeCode is the symbol
 };
 
-// The bit of a field as a number, 0 for those that are not held.
+// The bit of a number field; 0 for fields that an item does not hold as a number.
 unsigned BitOf(int field) {
   switch (field) {
   case FieldTradeLot:
@@ -48,9 +48,10 @@ unsigned BitOf(int field) {
 
 } // namespace
 
-CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemPlace& place,
+CSymbolItem::CSymbolItem(const CStaticKey& key, const tq::ItemIdentity& identity,
                          tq::ItemTextReader& reader)
-    : id_(place.id), number_(place.number), keyLength_(place.keyLength), exchId_(place.exchId) {
+    : id_(identity.id), number_(identity.number), keyLength_(identity.keyLength),
+      exchId_(identity.exchId) {
   ReadNumbers(key);
   key.GetFieldString(FieldSymbolName, name_);
   mark_ = reader.ReadLetter(key, FieldMark);
@@ -98,7 +99,7 @@ void CSymbolItem::ReadNumbers(const CStaticKey& key) {
   int decimals = 0;
   if (key.GetFieldInt(FieldDecimals, decimals))
     present |= DecimalsBit;
-  // No price has more than a handful of them.
+  // Prices have a handful of decimals; the clamp is for a faulty record.
   decimals_ = static_cast<std::int16_t>(std::clamp(decimals, -0x7fff, 0x7fff));
   int exchange = exchId_;
   if (key.GetFieldInt(FieldExchangeName, exchange))

@@ -1,19 +1,18 @@
-// The attributes that an item does not hold: each answer asks the service anew, for they change
-// while the market trades.
+// The attributes that an item does not hold because they change during trading: the service is asked
+// each time.
 #include <charconv>
 #include <cmath>
 #include <limits>
 
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
 #include "symboltable/SymbolItem.h"
 
 namespace {
 
-constexpr char kNoPrice[] = "--"; // what a person reads where there is no price
+constexpr char kNoPrice[] = "--"; // shown to the user when there is no price
 
-// The number without its decimals, the nearest int for one that an int cannot hold, 0 for no
-// number.
+// The number truncated to an int; the nearest int when it is out of range, 0 for NaN.
 int CutToInt(double number) {
   constexpr double lowest = std::numeric_limits<int>::min();
   constexpr double highest = std::numeric_limits<int>::max();
@@ -24,7 +23,7 @@ int CutToInt(double number) {
   return number >= highest ? std::numeric_limits<int>::max() : static_cast<int>(number);
 }
 
-// The number that a text begins with, 0 when there is none; with a point in every locale.
+// The number at the start of a text, 0 when there is none. The decimal point is "." in every locale.
 double LeadingNumber(const CString& text) {
   std::string_view number = tq::TrimmedFront(tq::ViewOf(text));
   if (number.starts_with('+'))
@@ -34,8 +33,9 @@ double LeadingNumber(const CString& text) {
   return value;
 }
 
-// A price as a whole number of its smallest step: "12.5" with two decimals is 1250. The thousandth
-// makes up for decimal fractions that binary ones fall short of, before the rest is cut off.
+// A price as a whole number of its smallest steps: "12.5" with two decimals is 1250. Adding a
+// thousandth keeps a product such as 1.15 * 100, which is slightly below 115 in binary, from being
+// truncated to 114.
 int ScaledPrice(const CString& text, int decimals) {
   return CutToInt(LeadingNumber(text) * std::pow(10.0, decimals) + 0.001);
 }
@@ -56,7 +56,7 @@ int CSymbolItem::AskTradeCode(CString& value) const {
 
 int CSymbolItem::AskNumber(int field, int& value) const {
   value = field == FieldContractSize ? 1 : kAbsent;
-  const int decimals = decimals_; // while it is asked the terminal may take the symbol away
+  const int decimals = decimals_; // copied: the terminal may remove the symbol during the question
   CString text;
   switch (field) {
   case FieldTradingStatus:

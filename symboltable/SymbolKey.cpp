@@ -3,8 +3,7 @@
 #include <cstdlib>
 
 #include "platform/CodePage.h"
-#include "platform/LeadingInt.h"
-#include "symbolid/UpperText.h"
+#include "platform/Text.h"
 
 namespace tq {
 

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "platform/CodePage.h"
-#include "platform/TextPieces.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {

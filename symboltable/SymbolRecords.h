@@ -1,4 +1,4 @@
-// The packed symbol records in which the terminal announces changed symbols.
+// The packed records with which the terminal announces changed symbols.
 #pragma once
 
 #include <string_view>
@@ -8,19 +8,19 @@
 namespace tq {
 
 constexpr int kSymbolRecordSize = 19;
-// Records of one announcement that are looked at.
+// How many records of one announcement are used.
 constexpr int kMaxSymbolChangeItems = 10;
 
-// `count` records at `records`, which stays the caller's. Null or a negative count are no records.
+// A view of `count` records at `records`, which the caller owns. Null or a negative count: none.
 class SymbolRecords {
 public:
   SymbolRecords(const char* records, int count);
 
   int Count() const { return count_; }
-  // The symbol of a record: to its NUL, the whole record without one; cut at a whole character,
-  // blanks on either side left out.
+  // The symbol of a record, up to its NUL or the end of the record: cut at a whole character,
+  // without blanks on either side.
   std::string_view At(int index) const;
-  // All of them joined by ",", empty ones included, but for one "," at the end.
+  // All symbols, empty ones included, joined by ",". One trailing "," is dropped.
   CString Joined() const;
 
 private:

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
+#include "symbolid/UpperId.h"
 
 CSymbolTable::CSymbolTable(const CString& exchName, int exchId)
     : exchName_(exchName), exchId_(exchId), chains_(tq::kBucketCount) {}
@@ -26,14 +26,14 @@ void CSymbolTable::Clear() {
   Reserve(0);
 }
 
-// Empties the table and makes room for `count` symbols.
+// Empties index and arena and reserves room for `count` symbols.
 void CSymbolTable::Reserve(std::size_t count) {
   index_.Reset(count);
   arena_.Reset(count);
 }
 
-// The full id, in upper case. A service that leaves the suffix out gets this exchange's. 0 for no
-// id.
+// Reads the full id, in upper case; 0 when there is none. This exchange's suffix is appended when the
+// service leaves it out.
 int CSymbolTable::ReadId(const CStaticKey& key, CString& id) const {
   if (!key.GetID(id, 1) || id.IsEmpty())
     return 0;
@@ -51,13 +51,13 @@ void CSymbolTable::Insert(const CStaticKey& key, tq::ItemTextReader& reader) {
     Insert(key, id, reader);
 }
 
-// All attributes are read before a place is taken: while one is read the terminal may empty the
-// table, load it or change it.
+// All attributes are read before the table is touched: while the service is asked for one, the
+// terminal may empty, load or change the table.
 void CSymbolTable::Insert(const CStaticKey& attributes, const CString& id,
                           tq::ItemTextReader& reader) {
   CSymbolItem read = Read(attributes, id, exchId_, reader);
-  const std::uint32_t number = arena_.TakePlace();
-  Append(new (arena_.PlaceAt(number)) CSymbolItem(std::move(read), number));
+  const std::uint32_t number = arena_.Allocate();
+  Append(new (arena_.CellAt(number)) CSymbolItem(std::move(read), number));
 }
 
 CSymbolItem CSymbolTable::Read(const CStaticKey& attributes, const CString& id, int exchId,
@@ -67,7 +67,7 @@ CSymbolItem CSymbolTable::Read(const CStaticKey& attributes, const CString& id, 
   return CSymbolItem(attributes, {id, keyLength, noNumber, exchId}, reader);
 }
 
-// What the index keeps of an item.
+// What the index holds of an item.
 tq::KeyIndex::Entry CSymbolTable::EntryOf(const CSymbolItem& item) {
   tq::KeyIndex::Entry entry{item.Number(), 0, item.Id()};
   item.GetNumber(FieldTradeLot, entry.value);
@@ -92,7 +92,7 @@ void CSymbolTable::Append(CSymbolItem* item) {
 void CSymbolTable::Destroy(CSymbolItem* item) {
   const std::uint32_t number = item->Number();
   item->~CSymbolItem();
-  arena_.ReturnPlace(number);
+  arena_.Free(number);
 }
 
 void CSymbolTable::Unchain(CSymbolItem* item) {
@@ -106,27 +106,27 @@ void CSymbolTable::Unchain(CSymbolItem* item) {
     chain.tail = previous;
 }
 
-// The chain is chosen by the id as it is written, and only there is it compared without regard to
-// letter case. So "aapl" finds nothing where the chain goes by the sum of the letters, but "1234a"
-// finds "1234A" where it goes by the number. The service depends on neither; do not choose the
-// chain by the upper-cased id, or a removal takes out what it did not before.
+// The chain is chosen by the id as written; only within it is letter case ignored. So "aapl" finds
+// nothing where chains go by the sum of the characters, but "1234a" finds "1234A" where they go by
+// the number. Do not choose the chain by the upper-cased id: removals would then remove symbols that
+// they have always left.
 void CSymbolTable::Remove(std::string_view id) {
   const std::string_view asked = KeyOf(id);
   CString copy = tq::ToCString(asked);
   tq::UpperBuffer buffer;
-  // Held keys are in upper case, so the one that equals the asked key but for letter case is this.
-  const tq::UpperText upper = tq::UpperCased(copy, buffer);
+  // Stored keys are in upper case, so this is the only one that can match.
+  const tq::UpperId upper = tq::UpperCased(copy, buffer);
   const tq::SymbolKey key = tq::MakeKey(upper.text, upper.head);
   if (&ChainOf(asked) != &ChainOf(key.text))
     return;
-  const Place place = Find(key);
-  if (place == kNoSymbol)
+  const Position found = Find(key);
+  if (found == kNoSymbol)
     return;
-  CSymbolItem* const item = arena_.At(index_.At(place).node);
+  CSymbolItem* const item = arena_.At(index_.At(found).node);
   if (CSymbolItem* const next = item->LeaveSame())
-    index_.At(place) = EntryOf(*next);
+    index_.At(found) = EntryOf(*next);
   else
-    index_.Remove(place);
+    index_.Remove(found);
   Unchain(item);
   Destroy(item);
 }

@@ -1,9 +1,9 @@
 // The symbols of one exchange.
 //
-// They stand in 780 chains, whose order is what callers see: look-ups by name go chain by chain,
-// and of symbols with one key the first of the chain answers. Beside the chains an index leads from
-// a key to that first symbol, since one chain may be a sixth of an exchange; every answer is the
-// one that walking the chain would give. All calls come from the terminal's user-interface thread.
+// They are kept in 780 chains, whose order is visible to callers: look-ups by name go chain by chain,
+// and of symbols with the same key the first in the chain answers. Since a single chain may hold a
+// sixth of an exchange, a hash index maps each key to that first symbol. Invariant: every answer is
+// the one that walking the chain would give. User-interface thread only.
 #pragma once
 
 #include <cstdint>
@@ -21,8 +21,7 @@ struct BaseAttr;
 
 class CSymbolTable {
 public:
-  // `exchName` is the text after the last "." of this exchange's full ids, as the service writes
-  // it.
+  // `exchName`, as the service writes it, is the text after the last "." of the exchange's full ids.
   CSymbolTable(const CString& exchName, int exchId);
   virtual ~CSymbolTable();
   CSymbolTable(const CSymbolTable&) = delete;
@@ -33,45 +32,45 @@ public:
   bool IsAuthorized() const { return authorized_; }
   void SetAuthorized(bool authorized) { authorized_ = authorized; }
 
-  // Replaces the symbols by all that the service has of the exchange. 0, and an empty table, when
-  // it fails; an exchange without symbols is no failure.
+  // Replaces the symbols by all that the service has for the exchange. On failure 0, and the table is
+  // empty. An exchange without symbols is no failure.
   int Load();
   // Deletes all symbols.
   void Clear();
-  // Whether what the table lacks is not on the exchange: the latest loading succeeded and brought
-  // symbols, and some are left. Symbols that were added alone to an empty table do not make it
-  // whole.
+  // Whether the table is complete, so that a symbol it lacks is not on the exchange: the latest load
+  // succeeded and brought symbols, and some are left. Adding symbols to an empty table does not make
+  // it complete.
   bool IsWhole() const { return loaded_ && !index_.IsEmpty(); }
 
-  // Adds the service's records of the symbols (codes joined by ","), also of those that are there
-  // already. 0 when the service fails.
+  // Adds the service's records of the symbols (codes joined by ","), even of symbols that the table
+  // holds already. 0 when the service fails.
   int Add(const CString& symbols);
-  // Takes over the service's attributes of the symbols. Those that the table lacks are passed over.
+  // Updates the attributes of the symbols from the service. Symbols that the table lacks are skipped.
   int Update(const CString& symbols);
-  // Takes the first symbol with this id out, if there is one. Letter case does not matter to the
-  // comparison, but to the choice of the chain: see the implementation.
+  // Removes the first symbol with this id, if there is one. The comparison ignores letter case, the
+  // choice of the chain does not: see the implementation.
   void Remove(std::string_view id);
 
-  // Adds one symbol behind the others of its chain; nothing when `key` has no id.
+  // Appends one symbol to its chain. Does nothing when `key` has no id.
   void Insert(const CStaticKey& key, tq::ItemTextReader& reader);
 
   // The key of an id in this table.
   std::string_view KeyOf(std::string_view id) const { return tq::KeyOf(id, tq::ViewOf(exchName_)); }
-  // Where the symbol with this key stands, or kNoSymbol; good until a symbol is added or removed.
-  // Letter case matters: ids are held in upper case.
-  using Place = tq::KeyIndex::Slot;
-  static constexpr Place kNoSymbol = tq::KeyIndex::kNoSlot;
-  Place Find(const tq::SymbolKey& key) const {
+  // The position of the first symbol with this key, or kNoSymbol; valid until a symbol is added or
+  // removed. Letter case counts: ids are stored in upper case.
+  using Position = tq::KeyIndex::Slot;
+  static constexpr Position kNoSymbol = tq::KeyIndex::kNoSlot;
+  Position Find(const tq::SymbolKey& key) const {
     return index_.Find(key,
                        [&](std::uint32_t number) { return arena_.At(number)->Key() == key.text; });
   }
   // The same for a key that is not longer than its code.
-  Place FindCode(tq::PackedText code) const { return index_.FindCode(code, tq::HashOf(code)); }
-  // What Find found, and its full id and its trade lot (or -1), for which the item is not touched.
-  const CSymbolItem* At(Place place) const { return arena_.At(index_.At(place).node); }
-  const CString& IdAt(Place place) const { return index_.At(place).text; }
-  int TradeLotAt(Place place) const { return index_.At(place).value; }
-  // Fetches what Find looks at first, for callers who ask several tables.
+  Position FindCode(tq::PackedText code) const { return index_.FindCode(code, tq::HashOf(code)); }
+  // The symbol at a position. Its full id, and its trade lot (or -1), without touching the item.
+  const CSymbolItem* At(Position at) const { return arena_.At(index_.At(at).node); }
+  const CString& IdAt(Position at) const { return index_.At(at).text; }
+  int TradeLotAt(Position at) const { return index_.At(at).value; }
+  // Prefetches what Find reads first, for callers that search several tables.
   void Prefetch(const tq::SymbolKey& key) const { index_.Prefetch(key.hash); }
   // The symbol of an id, or null.
   const CSymbolItem* FindId(std::string_view id) const { return FindItem(tq::MakeKey(KeyOf(id))); }
@@ -93,8 +92,8 @@ private:
   };
 
   CSymbolItem* FindItem(const tq::SymbolKey& key) const {
-    const Place place = Find(key);
-    return place == kNoSymbol ? nullptr : arena_.At(index_.At(place).node);
+    const Position found = Find(key);
+    return found == kNoSymbol ? nullptr : arena_.At(index_.At(found).node);
   }
   Chain& ChainOf(std::string_view key) {
     return chains_[static_cast<std::size_t>(tq::BucketOf(key, HashMode()))];
@@ -114,7 +113,7 @@ private:
   CString exchName_;
   int exchId_;
   bool authorized_ = false;
-  bool loaded_ = false; // with symbols
+  bool loaded_ = false; // the latest load succeeded and brought symbols
   std::vector<Chain> chains_;
   tq::ItemArena arena_;
   tq::KeyIndex index_;

@@ -1,4 +1,4 @@
-// How a table takes symbols over from the service.
+// How a table reads symbols from the service.
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -13,8 +13,8 @@ int CSymbolTable::Load() {
   tq::ServiceArray<BaseAttr> symbols;
   if (!VLGetBaseAttrs2(exchId_, allSections, symbols.List(), symbols.Count(), 0, 1))
     return 0;
-  // Filled apart: while attributes are read the terminal may load this table, add to it or empty
-  // it. Of several loadings the one that ends last counts.
+  // A separate table is filled: while attributes are read, the terminal may load, change or empty
+  // this one. Of several loads the one that ends last counts.
   CSymbolTable fresh(exchName_, exchId_);
   fresh.Reserve(symbols.Records().size());
   fresh.InsertAll(symbols.Records());
@@ -25,9 +25,8 @@ int CSymbolTable::Load() {
   return 1;
 }
 
-// The ids of some hundred symbols are read before the rest of each: they are then allocated one
-// behind the other, and look-ups, which hand them out, find twice as many of them in the
-// processor's caches.
+// The ids of a batch are read before the other attributes, so that they are adjacent in memory:
+// look-ups, which return them, then find twice as many of them in the processor's caches.
 void CSymbolTable::InsertAll(std::span<const BaseAttr> records) {
   constexpr std::size_t batchSize = 128;
   std::array<CStaticKey, batchSize> keys;
@@ -72,15 +71,15 @@ int CSymbolTable::Update(const CString& symbols) {
 void CSymbolTable::UpdateOne(const CStaticKey& attributes, const CString& id,
                              tq::ItemTextReader& reader) {
   const tq::SymbolKey key = tq::MakeKey(KeyOf(tq::ViewOf(id)));
-  const Place before = Find(key);
+  const Position before = Find(key);
   if (before == kNoSymbol)
     return;
   CSymbolItem read = Read(attributes, id, At(before)->ExchId(), reader);
-  // Looked for again: while attributes are read the terminal may have taken the symbol out.
-  const Place place = Find(key);
-  if (place == kNoSymbol)
+  // Looked up again: the terminal may have removed the symbol while its attributes were read.
+  const Position found = Find(key);
+  if (found == kNoSymbol)
     return;
-  CSymbolItem* const item = arena_.At(index_.At(place).node);
+  CSymbolItem* const item = arena_.At(index_.At(found).node);
   item->TakeAttributes(std::move(read));
-  index_.At(place) = EntryOf(*item);
+  index_.At(found) = EntryOf(*item);
 }

@@ -6,28 +6,28 @@
 
 #include "platform/framework/CUIntArray.h"
 #include "symboltable/ExchangeService.h"
-#include "symboltable/TableSlots.h"
+#include "symboltable/ExchangeTables.h"
 
-CSymbolTableMgr::CSymbolTableMgr() noexcept : slots_(std::make_unique<tq::TableSlots>()) {}
+CSymbolTableMgr::CSymbolTableMgr() noexcept : slots_(std::make_unique<tq::ExchangeTables>()) {}
 
 CSymbolTableMgr::~CSymbolTableMgr() {
-  tq::TableSlots::Delete(std::move(slots_));
+  tq::ExchangeTables::Delete(std::move(slots_));
 }
 
 int CSymbolTableMgr::Init() noexcept {
-  // Forgotten, not deleted: callers hand tables over by this, and delete them through CleanALL.
+  // Tables are forgotten, not deleted, as the header says. CleanALL cannot reach them afterwards.
   slots_->Forget();
   slots_->SetDefaults({});
   return 1;
 }
 
 int CSymbolTableMgr::InitAllSymbolTable() noexcept {
-  const tq::TableSlots::Use slots(*slots_);
+  const tq::ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList exchanges;
   int result = exchanges.Result();
   int slot = 0;
   for (const ExchInfo& exchange : exchanges.Records()) {
-    if (slot == tq::TableSlots::kCount)
+    if (slot == tq::ExchangeTables::kCount)
       break;
     auto table = std::make_unique<CSymbolTable>(tq::ToCString(tq::NameOf(exchange)), exchange.id);
     if (!table->Load())
@@ -38,11 +38,11 @@ int CSymbolTableMgr::InitAllSymbolTable() noexcept {
 }
 
 int CSymbolTableMgr::InitAuthorizedExch() noexcept {
-  const tq::TableSlots::Use slots(*slots_);
-  int mask[tq::TableSlots::kCount] = {};
+  const tq::ExchangeTables::Use slots(*slots_);
+  int mask[tq::ExchangeTables::kCount] = {};
   if (!GetAuthMask(mask))
     return 0;
-  for (int slot = 0; slot < tq::TableSlots::kCount; ++slot)
+  for (int slot = 0; slot < tq::ExchangeTables::kCount; ++slot)
     if (CSymbolTable* const table = slots->At(slot))
       table->SetAuthorized(tq::CanBeEntitled(table->ExchId()) && mask[table->ExchId()] != 0);
   return 1;

@@ -10,11 +10,10 @@
 //     said. Nothing throws. A failing operation leaves the tables as they were, except that a table
 //     whose loading fails is left empty; output arguments of a failing look-up are described there.
 //     An output may be the object that an input is.
-//  4. Exchange ids are the service's numbers. Only 1 to 127 can ever be entitled.
-//  5. There are 128 slots for tables. A slot's number says nothing: a table is found by its
-//     exchange's name or id, and when several would do, the one in the lowest slot answers.
-//  6. Every symbol is held once per time that the service listed it; of equal ones the first
-//     answers.
+//  4. Exchange ids are the service's numbers. Entitlements exist for 1 to 127 only.
+//  5. There are 128 slots for tables. A table is found by its exchange's name or id, not by its slot;
+//     the lowest matching slot wins.
+//  6. A symbol is held as often as the service listed it; the first of equal ones answers.
 #pragma once
 
 #include <memory>
@@ -28,13 +27,13 @@ class CUIntArray;
 
 namespace tq {
 class SymbolMover;
-class TableSlots;
+class ExchangeTables;
 class TablesWatch;
 } // namespace tq
 
 class TQSYMBOL_API CSymbolTableMgr {
 public:
-  // No tables, no default exchanges. Asks nothing of the service.
+  // No tables, no default exchanges. Does not call the service.
   CSymbolTableMgr() noexcept;
   // CleanALL.
   virtual ~CSymbolTableMgr();
@@ -59,7 +58,7 @@ public:
   int InitAuthorizedExch() noexcept;
 
   // Takes a copy of `ids`, exchange ids in order of preference, best first, as the default
-  // exchanges. Always 1. Ids without a table are kept and passed over until such a table appears.
+  // exchanges. Always 1. Ids without a table are kept, and ignored until there is one.
   int InitDefaultExchList(CUIntArray& ids) noexcept;
 
   // Deletes all tables. The default list stays.
@@ -68,9 +67,9 @@ public:
   // Brings the set of tables in line with the service's exchange list: tables of exchanges that are
   // gone are deleted, kept tables are not reloaded, tables of new exchanges are loaded. Returns 1
   // when the end of the service's list was reached, 0 when the list cannot be read or the free
-  // slots ran out first. One call may leave a new exchange without a table: when the slot that has
-  // its number in the list is taken, the next free slot is used, and the exchanges whose numbers
-  // lie in between are passed over until the next call.
+  // slots ran out first. One call may leave a new exchange without a table: when the slot of its
+  // number in the list is taken, the next free slot is used, and the exchanges whose numbers lie in
+  // between are skipped until the next call.
   int RebuildSymbolTable() noexcept;
 
   // With `exchId` -1 the same as RebuildSymbolTable(). Otherwise reloads one table, found by
@@ -98,13 +97,13 @@ public:
   // are.
   int AddSymbols(int exchId, const char* symbols, int count) noexcept;
 
-  // Takes over the service's new attributes of these symbols. Symbols that are not in the table are
-  // passed over. An exchange without a table gets one and is loaded whole instead.
+  // Updates the attributes of these symbols from the service. Symbols that are not in the table are
+  // skipped. An exchange without a table gets one and is loaded whole instead.
   int UpdateSymbols(int exchId, const char* symbols, int count) noexcept;
 
-  // Takes each of these symbols out of the exchange's table, once each. Letter case is ignored
-  // where it does not change the chain: on exchange 1, and behind the twelfth byte elsewhere.
-  // Symbols that are not there are passed over; 0 only when the exchange has no table.
+  // Removes each of these symbols once from the exchange's table. Letter case is ignored where it
+  // does not change the chain: on exchange 1, and behind the twelfth byte elsewhere. Symbols that
+  // are not there are skipped; 0 only when the exchange has no table.
   int RemoveSymbols(int exchId, const char* symbols, int count) noexcept;
 
   // ---- Exchanges ----
@@ -197,5 +196,5 @@ private:
   // It has to know a table that says nothing from one that lacks a symbol.
   friend class tq::SymbolMover;
 
-  std::unique_ptr<tq::TableSlots> slots_; // the tables and the default exchanges
+  std::unique_ptr<tq::ExchangeTables> slots_; // the tables and the default exchanges
 };

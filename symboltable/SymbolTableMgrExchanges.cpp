@@ -1,12 +1,12 @@
 // What the symbol tables know of exchanges.
 #include <algorithm>
 
-#include "platform/LeadingInt.h"
+#include "platform/Text.h"
 #include "symboltable/ExchangeService.h"
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
-#include "symboltable/TableSlots.h"
 
-using tq::TableSlots;
+using tq::ExchangeTables;
 
 int CSymbolTableMgr::FindExchID(int exchId, CString& name) noexcept {
   return tq::ReadExchangeName(exchId, name);
@@ -16,17 +16,17 @@ int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
   if (exchName.IsEmpty())
     return 0;
   const int slot = slots_->FindName(tq::ViewOf(exchName));
-  return slot != TableSlots::kNone && slots_->At(slot)->IsAuthorized();
+  return slot != ExchangeTables::kNone && slots_->At(slot)->IsAuthorized();
 }
 
 int CSymbolTableMgr::IsSupportUJKExch() noexcept {
-  int mask[TableSlots::kCount] = {};
+  int mask[ExchangeTables::kCount] = {};
   return GetAuthMask(mask) &&
          std::ranges::all_of(tq::kFamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
 }
 
 CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
-  const TableSlots::Use slots(*slots_);
+  const ExchangeTables::Use slots(*slots_);
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
   const auto isLeftOut = [&](int exchId) {
@@ -38,11 +38,11 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
   };
   CString names;
   tq::ForEachNumber(tq::ViewOf(exchIds), [&](int position, int exchId) {
-    const int slot = isLeftOut(exchId) ? TableSlots::kNone : slots->FindId(exchId);
-    if (slot == TableSlots::kNone)
+    const int slot = isLeftOut(exchId) ? ExchangeTables::kNone : slots->FindId(exchId);
+    if (slot == ExchangeTables::kNone)
       return;
-    // By the position in the input: a first id that is left out leaves its comma behind, and
-    // callers count on that. Do not make it depend on what was written.
+    // By the position in the input: a first id that is left out leaves its comma behind, and callers
+    // rely on that. Do not make it depend on the names written so far.
     if (position > 0)
       names += ',';
     names += slots->At(slot)->ExchName();
@@ -78,7 +78,7 @@ int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName
     last = table;
     ++count;
   }
-  // Only now: it may be the symbol's own object.
+  // Assigned last: `exchName` and `symbol` may be the same object.
   if (last != nullptr)
     exchName = last->ExchName();
   return count;
@@ -108,7 +108,7 @@ int CSymbolTableMgr::MapToSymbolTableIndex(int exchId) noexcept {
 }
 
 int CSymbolTableMgr::GetAuthMask(int mask[128]) noexcept {
-  return tq::ReadEntitlements(std::span<int, TableSlots::kCount>(mask, TableSlots::kCount));
+  return tq::ReadEntitlements(std::span<int, ExchangeTables::kCount>(mask, ExchangeTables::kCount));
 }
 
 int CSymbolTableMgr::IsAuthExch(int exchId) noexcept {

@@ -2,10 +2,10 @@
 
 #include <iterator>
 
-#include "platform/ModulePath.h"
-#include "platform/XmlText.h"
+#include "platform/Module.h"
 #include "platform/services/tqCommon.h"
 #include "platform/texts/StringTable.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 namespace {

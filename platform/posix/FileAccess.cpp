@@ -1,6 +1,5 @@
 #include "platform/ReadSteps.h"
 #include "platform/SaveSteps.h"
-#include "platform/SystemFiles.h"
 #include "platform/posix/SystemPath.h"
 
 #include <cerrno>

@@ -1,8 +1,8 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
-#include "platform/XmlText.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/Storage.h"
+#include "platform/xml/XmlText.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
@@ -181,12 +181,13 @@ XmlDocument::~XmlDocument() {
 // No encoding is named: text that begins like none is UTF-8 to the parser, and a named one, though
 // the same, would cost a copy.
 XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
-  Clear();
   const MemoryWatch watch;
   state_ =
       xmlReadMemory(utf8.data(), static_cast<int>(utf8.size()), nullptr, nullptr, kParserOptions);
-  if (watch.Lacked())
+  if (watch.Lacked()) {
+    Clear();
     return LoadResult::SystemFailed;
+  }
   return state_ != nullptr ? LoadResult::Ok : LoadResult::Refused;
 }
 

@@ -1,5 +1,11 @@
 #include "platform/texts/StringTable.h"
 
+#include <string_view>
+
+#include "platform/LibraryString.h"
+#include "platform/services/tqCommon.h"
+#include "platform/xml/XmlText.h"
+
 namespace {
 
 struct Entry {
@@ -23,3 +29,14 @@ const char* tqSymbolString(unsigned id, int traditional) {
   }
   return nullptr;
 }
+
+namespace tq {
+
+CString LibraryString(unsigned id) {
+  CString text;
+  if (const char* utf8 = tqSymbolString(id, IsTraditionChinese()))
+    AssignXmlText(std::string_view(utf8), false, text);
+  return text;
+}
+
+} // namespace tq

@@ -1,8 +1,6 @@
 #include "platform/ReadSteps.h"
 #include "platform/SaveSteps.h"
-#include "platform/SystemFiles.h"
 #include "platform/win32/FileHandle.h"
-#include "platform/win32/SystemPath.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,4 +1,4 @@
-// An open file. For bodies in this folder only.
+// Files as Windows takes them: paths in UTF-16, and an open file. For bodies in this folder only.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +11,17 @@
 #include "platform/win32/WindowsObjects.h"
 
 namespace tq {
+
+// `path`, in the ANSI code page, in UTF-16. The library's own separator is the system's here.
+inline std::wstring SystemPath(const char* path) {
+  const int size = ::MultiByteToWideChar(CP_ACP, 0, path, -1, nullptr, 0);
+  if (size <= 1)
+    return {};
+  std::wstring wide(static_cast<std::size_t>(size), L'\0');
+  ::MultiByteToWideChar(CP_ACP, 0, path, -1, wide.data(), size);
+  wide.pop_back(); // the NUL
+  return wide;
+}
 
 // No program is to be kept from reading, writing or replacing a file while this library uses it.
 inline constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;

@@ -1,7 +1,6 @@
 #include "platform/SaveSteps.h"
 
 #include "platform/win32/FileHandle.h"
-#include "platform/win32/SystemPath.h"
 
 namespace tq {
 namespace {

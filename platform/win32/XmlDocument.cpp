@@ -1,9 +1,9 @@
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
-#include "platform/XmlText.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/Storage.h"
 #include "platform/win32/XmlCom.h"
+#include "platform/xml/XmlText.h"
 
 namespace tq {
 namespace {
@@ -231,15 +231,16 @@ void XmlDocument::Clear() {
 }
 
 XmlDocument::LoadResult XmlDocument::Parse(std::string_view utf8) {
-  Clear();
-  ComPtr<Dom>& document = StateOf(state_)->document;
+  ComPtr<Dom> document;
   ComText source;
   VARIANT_BOOL loaded = VARIANT_FALSE;
   if (!source.TryAssign(utf8) || !Create(document))
     return LoadResult::SystemFailed;
   const HRESULT result = document->loadXML(source.Get(), &loaded);
-  if (result == S_OK && loaded == VARIANT_TRUE)
+  if (result == S_OK && loaded == VARIANT_TRUE) {
+    StateOf(state_)->document.Reset(document.Detach());
     return LoadResult::Ok;
+  }
   return result == E_OUTOFMEMORY ? LoadResult::SystemFailed : LoadResult::Refused;
 }
 

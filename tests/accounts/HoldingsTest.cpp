@@ -84,7 +84,7 @@ TEST(Holdings, AnEmptyAccountBetweenChangesNothing) {
   EXPECT_EQ(Merge({"2330", "", "2317"}), "2330,2317");
 }
 
-// Holdings that were made so that each id is compared with all before it.
+// Ids crafted to collide, so that each one is compared with all before it.
 TEST(Holdings, NobodyCanChooseIdsThatAreSlowToMerge) {
   constexpr std::size_t kIds = 80'000;
   const auto ids = CraftedTexts(

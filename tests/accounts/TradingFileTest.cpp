@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "platform/XmlDocument.h"
 #include "platform/services/tqCommon.h"
+#include "platform/xml/XmlDocument.h"
 #include "terminal/StandIn.h"
 #include "tests/accounts/TradingRecords.h"
 #include "tests/support/StandInTest.h"

@@ -1,9 +1,7 @@
 // The searches for indicators where their window cannot be made.
 #include <gtest/gtest.h>
 
-#include "dialogs/FinIndiSearchDlg.h"
-#include "dialogs/NationalCommodityDlg.h"
-#include "dialogs/NationalOptionDlg.h"
+#include "dialogs/IndicatorSearches.h"
 #include "platform/framework/ResourceContext.h"
 #include "tests/support/StandInTest.h"
 

@@ -12,13 +12,11 @@ class GroupLoaderTest : public StandInTest {
 protected:
   std::string Load(int type = 1) {
     level.Clear();
-    arena.Clear();
-    loaded = tq::GroupLoader(arena).Load(type, level);
+    loaded = tq::GroupLoader().Load(type, level);
     return groups::Shape(level);
   }
   int Calls() { return standin::CountCalls("VLGetSubGroup"); }
 
-  tq::GroupArena arena;
   tq::GroupLevel level;
   bool loaded = false;
 };

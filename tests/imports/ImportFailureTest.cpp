@@ -105,7 +105,7 @@ TEST_F(ImportFailureTest, TheSameListsExportedAgainAreImportedThoughTheFirstFile
   EXPECT_EQ(manager.LoadOtherProductList(), 0) << "once only, this one too";
 }
 
-// What is left beside a file that could not be renamed is a document still.
+// The copy made of a file that could not be renamed is still a well-formed document.
 TEST_F(ImportFailureTest, TheMarkedCopyCanBeImportedItself) {
   WriteImport("2330.TW");
   files.renameFails = true;

@@ -86,14 +86,16 @@ TEST_F(GroupsMembersTest, SymbolsAreFoundInTypes2And7And8Only) {
 }
 
 TEST_F(GroupsMembersTest, AnyPartOfTheMemberIdsIsFound) {
-  for (const char* part : {"2330", "2330.TW", "30.T", "TW,2317", ",", "7.TW"})
+  for (const char* part : {"2330", "233", "2330.TW", "30.T", "TW,2317", ",", "7.TW"})
     EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", part), 1) << part;
-  for (const char* part : {"2881", "2330.tw", "2330.TW,2317.TW,"})
+  for (const char* part : {"2881", "2330.tw", "2330.TW,2317.TW,", "2317.TW,2330.TW"})
     EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", part), 0) << part;
 }
 
 TEST_F(GroupsMembersTest, FindingAlwaysCutsTheGroupIdBehindItsFirstComma) {
   EXPECT_EQ(manager.FindSymoblInGroupList(2, "x,AI", "2330"), 1);
+  EXPECT_EQ(manager.FindSymoblInGroupList(2, "2,ai", "2330"), 1);
+  EXPECT_EQ(manager.FindSymoblInGroupList(2, "x,y,AI", "2330"), 0);
   EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI,x", "2330"), 0);
 }
 

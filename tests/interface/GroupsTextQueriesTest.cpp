@@ -149,39 +149,4 @@ TEST_F(GroupsTextTest, AFailureForOneGroupLeavesTheOthersTheirSubGroups) {
   EXPECT_EQ(Shape(1), "TSE OTC(WAFER) ETF");
 }
 
-// --- A symbol in a group ------------------------------------------------------------------------
-
-TEST_F(GroupsTextTest, OnlyTypes2And7And8AreSearched) {
-  AddToMarket({3, "", "G3", "三", "三", {"2330.TW"}});
-  AddToMarket({8, "", "G8", "八", "八", {"2330.TW"}});
-  manager.LoadGroupList();
-  standin::ClearCalls();
-  EXPECT_EQ(manager.FindSymoblInGroupList(3, "G3", "2330.TW"), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(1, "CHIP", "2330.TW"), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(201, "PICK", "2317.TW"), 0);
-  EXPECT_EQ(Fetched(), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(8, "G8", "2330.TW"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(7, "TXOC", "TXO21000L6.TF"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "2317.TW"), 1);
-}
-
-TEST_F(GroupsTextTest, TheSearchIsForAnyPartOfTheText) {
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "233"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "30.T"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "TW,2317"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", ","), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "2330.tw"), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "2317.TW,2330.TW"), 0);
-}
-
-TEST_F(GroupsTextTest, TheSearchCutsTheGroupIdAndNeedsBothTexts) {
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "2,ai", "2330.TW"), 1);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "x,y,AI", "2330.TW"), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "", "2330.TW"), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", ""), 0);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "none", "2330.TW"), 0);
-  manager.RemoveGroupList(2);
-  EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "2330.TW"), 0);
-}
-
 } // namespace

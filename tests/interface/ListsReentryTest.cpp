@@ -47,6 +47,20 @@ TEST_F(LoadReentryTest, ASaveWhileListsAreReplacedWritesWholeLists) {
   DeleteCopies(copies);
 }
 
+// What the terminal cleared while symbols were replaced was saved: an empty file.
+TEST_F(LoadReentryTest, ListsClearedWhileIdsAreReplacedAreNotSavedAway) {
+  StartWith({"a/A/2330.TW", "b/B/2317.TW"});
+  const std::string before = ReadWorking();
+  CStringArray oldIds;
+  CStringArray newIds;
+  oldIds.Add("2330");
+  newIds.Add("2454");
+  standin::OnCall("VLGetSymbolInfos", [&] { manager.ClearSymbolList(); });
+  EXPECT_EQ(manager.ReplaceID(&oldIds, &newIds), 0);
+  standin::OnCall("VLGetSymbolInfos", {});
+  EXPECT_EQ(ReadWorking(), before);
+}
+
 // A load within a load doubled the lists.
 TEST_F(LoadReentryTest, ALoadWithinALoadHasEachListOnce) {
   StartWith({"a/A/2330.TW", "b/B/2317.TW"});

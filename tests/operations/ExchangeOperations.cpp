@@ -53,7 +53,7 @@ Table Defaults() {
        }},
       {"SetUseUserDefExch(int)",
        [](Manager& m, const Arguments& a) { m.SetUseUserDefExch(a.number); }},
-      {"IsUseUserDefExch()", [](Manager& m, const Arguments&) { m.IsUseUserDefExch(); }},
+      {"IsUseUserDefExch() const", [](Manager& m, const Arguments&) { m.IsUseUserDefExch(); }},
   };
 }
 

@@ -166,7 +166,7 @@ Table SystemLists() {
        [](Manager& m, const Arguments& a) { m.AddExtraTQInfo(a.text); }},
       {"RemoveExtraTQInfo(CString const&)",
        [](Manager& m, const Arguments& a) { m.RemoveExtraTQInfo(a.text); }},
-      {"GetExtraTQInfo()", [](Manager& m, const Arguments&) { m.GetExtraTQInfo(); }},
+      {"GetExtraTQInfo() const", [](Manager& m, const Arguments&) { m.GetExtraTQInfo(); }},
   };
 }
 

@@ -108,7 +108,7 @@ Table Symbols() {
          m.UpdateExchSymbolChange(a.recordCount, a.nulls ? nullptr : records.data(), 1,
                                   static_cast<ExchSymbolUpdateType>(1 - a.flag));
        }},
-      {"GetbCN()", [](Manager& m, const Arguments&) { m.GetbCN(); }},
+      {"GetbCN() const", [](Manager& m, const Arguments&) { m.GetbCN(); }},
       {"SetbCN(int)", [](Manager& m, const Arguments& a) { m.SetbCN(a.number); }},
   };
 }

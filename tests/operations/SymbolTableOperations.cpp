@@ -170,7 +170,7 @@ Table SymbolTableOperations() {
   for (const Table& part : {Updates(), Exchanges(), LookUps()})
     all.insert(all.end(), part.begin(), part.end());
   all.push_back(
-      {"GetSymbolTableMgr()", [](Manager& m, const Arguments&) { m.GetSymbolTableMgr(); }});
+      {"GetSymbolTableMgr() const", [](Manager& m, const Arguments&) { m.GetSymbolTableMgr(); }});
   return all;
 }
 

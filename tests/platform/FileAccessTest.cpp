@@ -1,5 +1,5 @@
 #include "platform/FileAccess.h"
-#include "platform/TextTables.h"
+#include "platform/Encoding.h"
 #include "tests/platform/TestSystem.h"
 
 #include <gtest/gtest.h>

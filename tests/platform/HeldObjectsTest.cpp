@@ -6,8 +6,8 @@
 #include <string>
 
 #include "platform/FileAccess.h"
-#include "platform/XmlDocument.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 #include "tests/platform/HookedSteps.h"
 #include "tests/platform/TestSystem.h"
 

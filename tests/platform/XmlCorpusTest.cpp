@@ -4,9 +4,9 @@
 // good/<name>.xml has <name>.expected, or one for each interface language (<name>.tw.expected,
 // <name>.cn.expected) where the text depends on it; a file without one for a language is not meant
 // for it. An expectation shows the tree, bytes that are not printable ASCII as \xHH.
-#include "platform/TextTables.h"
-#include "platform/XmlDocument.h"
+#include "platform/Encoding.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Child nodes as both DOMs count them.
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <string>
 

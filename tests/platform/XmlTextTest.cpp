@@ -1,9 +1,9 @@
 // What is decided before the DOM sees a file, and what its text becomes behind it.
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 
-#include "platform/TextTables.h"
-#include "platform/XmlDocument.h"
+#include "platform/Encoding.h"
 #include "platform/framework/CString.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// Texts that somebody made to slow a hash table down.
+// Texts crafted to collide in a hash table.
 #pragma once
 
 #include <cstddef>
@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-// `count` different texts of 16 bytes that all have one std::hash value, which is the same in every
-// process: as keys of a table that goes by it they stand in one bucket. Only texts without NUL that
-// `wanted` says true of.
+// `count` different texts of 16 bytes with the same std::hash value, which does not vary between
+// processes: in a table with that hash they share a bucket. Only texts without NUL for which
+// `wanted` returns true.
 std::vector<std::string> CraftedTexts(std::size_t count,
                                       const std::function<bool(const std::string&)>& wanted);

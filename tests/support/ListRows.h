@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "symbollist/IDList.h"
+#include "idlist/IDList.h"
 
 // The ids of the records, joined by blanks; ends in "<no record>" at a row that has none.
 inline std::string RowsOf(CIDList& list) {

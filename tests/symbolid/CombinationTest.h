@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/Clock.h"
+#include "platform/System.h"
 #include "platform/services/VLRecords.h"
 #include "symbolid/OptFutID.h"
 #include "tests/support/StandInTest.h"

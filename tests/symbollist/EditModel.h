@@ -1,4 +1,4 @@
-// The rules of editing, stated once more in the plainest way, to hold the manager against.
+// A plain model of the editing rules, which tests compare with the manager.
 #pragma once
 
 #include <set>

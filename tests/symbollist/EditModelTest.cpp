@@ -6,9 +6,8 @@
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/FileAccess.h"
-#include "platform/Guid.h"
+#include "platform/System.h"
 #include "platform/services/tqCommon.h"
-#include "symbollist/ListArray.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/symbollist/EditModel.h"
@@ -225,13 +224,14 @@ void EditModelTest::EditLists() {
     manager_->GetSymbolList(copies, 1);
     std::vector<ModelList> model = model_.lists;
     while (copies.GetSize() > 6) {
-      delete tq::ListAt(copies, 0);
+      delete static_cast<CSymbolList*>(copies[0]);
       copies.RemoveAt(0);
       model.erase(model.begin());
     }
     EXPECT_EQ(manager_->SetSymbolList(&copies), 1);
     model_.Set(model);
-    tq::DestroyLists(copies);
+    for (void* copy : copies)
+      delete static_cast<CSymbolList*>(copy);
     break;
   }
   default: {

@@ -185,7 +185,7 @@ TEST_F(KeptFiles, AFileThatCannotBeReadIsNotWrittenOver) {
   EXPECT_TRUE(known.MayWrite(path));
 }
 
-// A drive that does not answer is no drive without a file.
+// A drive that does not respond is not taken for one without the file.
 TEST_F(KeptFiles, WhereTheSystemDoesNotTellAndCannotReadNothingIsWritten) {
   files.silent = files.unreadable = true;
   EXPECT_FALSE(known.MayWrite(path));
@@ -219,7 +219,7 @@ TEST_F(KeptFiles, AFullDiskIsNotTriedUnderEveryName) {
   EXPECT_EQ(1, files.saves);
 }
 
-// With a clock that stands still the order in which copies were made decides.
+// When all copies have the same time, the order in which they were made decides.
 TEST_F(KeptFiles, TheOldestCopyGoesThoughAllAreOfOneTime) {
   files.sameTime = true;
   for (int i = 0; i < 25; ++i) {

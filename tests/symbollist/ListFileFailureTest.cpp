@@ -2,7 +2,7 @@
 #include <string>
 
 #include "platform/FileAccess.h"
-#include "platform/ModulePath.h"
+#include "platform/Module.h"
 #include "terminal/StandIn.h"
 #include "tests/interface/ManagerTest.h"
 
@@ -179,7 +179,7 @@ TEST_F(ListFileFailureTest, AHundredMegabyteFileIsNotReadAndStays) {
   EXPECT_EQ(ReadWorking().size(), file.size());
 }
 
-// One failing question for the file at a start, and an empty file took the place of all lists.
+// A single failed status query at a start replaced all lists by an empty file.
 TEST_F(ListFileFailureTest, WhereTheSystemDoesNotTellOfAFileNoneIsMade) {
   WriteWorking(OneList("0"));
   files.silent = true;
@@ -216,7 +216,7 @@ TEST_F(ListFileFailureTest, ARefusedCopyLeavesTheIndex) {
   EXPECT_EQ(index, -1);
 }
 
-// What a save wrote beyond 64 MiB no load read again.
+// A file saved beyond 64 MiB could not be loaded again.
 TEST_F(ListFileFailureTest, ListsThatWouldNotLoadAgainAreNotSaved) {
   StartOn(OneList("-1"));
   CSymbolList* list = nullptr;

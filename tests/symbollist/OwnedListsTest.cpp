@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "symbollist/StorableText.h"
+#include "idlist/StorableText.h"
 #include "tests/support/CraftedTexts.h"
 #include "tests/support/StandInTest.h"
 
@@ -23,12 +23,12 @@ class OwnedListsTest : public StandInTest {
 protected:
   CSymbolList& Add(const char* id, const char* name) {
     lists.AddLast(NewList(id, name));
-    return *tq::ListAt(lists, lists.GetUpperBound());
+    return *lists.At(lists.GetSize() - 1);
   }
 
   bool PlainHasName(const std::string& name, int skip) {
     for (int i = 0; i < lists.GetSize(); ++i) {
-      if (i != skip && tq::ListAt(lists, i)->IsSameName(name.c_str()))
+      if (i != skip && lists.At(i)->IsSameName(name.c_str()))
         return true;
     }
     return false;
@@ -36,9 +36,11 @@ protected:
 
   // Whether every answer is that of a walk through the array.
   void ExpectAnswersOfAWalk(const std::string& text) {
-    const int position = tq::FindListById(lists, text.c_str());
+    int position = 0;
+    while (position < lists.GetSize() && !lists.At(position)->IsSameID(text.c_str()))
+      ++position;
     CSymbolList* const found = lists.Find(text.c_str());
-    ASSERT_EQ(found, position < 0 ? nullptr : tq::ListAt(lists, position)) << text;
+    ASSERT_EQ(found, lists.At(position)) << text;
     if (found != nullptr) {
       ASSERT_EQ(lists.PositionOf(found), position) << text;
     }
@@ -59,7 +61,7 @@ TEST_F(OwnedListsTest, WithoutListsNothingIsFound) {
 TEST_F(OwnedListsTest, TheFirstOfSeveralWithOneIdIsFound) {
   Add("a", "One");
   CSymbolList& second = Add("A", "two");
-  EXPECT_EQ(lists.Find("A"), tq::ListAt(lists, 0));
+  EXPECT_EQ(lists.Find("A"), lists.At(0));
   lists.AddFirst(NewList("a", "front"));
   EXPECT_STREQ(lists.Find("A")->GetName(), "front");
   lists.Delete(lists.Find("a"));
@@ -123,8 +125,7 @@ TEST_F(OwnedListsTest, AnswersAreThoseOfAWalkWhateverHappens) {
   for (int step = 0; step < 2000; ++step) {
     const int size = lists.GetSize();
     CSymbolList* const one =
-        size == 0 ? nullptr
-                  : tq::ListAt(lists, static_cast<int>(random() % static_cast<unsigned>(size)));
+        size == 0 ? nullptr : lists.At(static_cast<int>(random() % static_cast<unsigned>(size)));
     const unsigned act = random() % 16;
     if (act < 3 || size == 0)
       Add(any().c_str(), any().c_str());
@@ -146,17 +147,63 @@ TEST_F(OwnedListsTest, AnswersAreThoseOfAWalkWhateverHappens) {
 
 TEST_F(OwnedListsTest, OtherListsTakeThePlaceOfAll) {
   Add("a", "One");
-  CPtrArray others;
-  others.Add(NewList("b", "Two").release());
-  others.Add(NewList("B", "Three").release());
-  lists.Replace(others);
-  EXPECT_TRUE(others.IsEmpty());
+  tq::ListVector others;
+  others.push_back(NewList("b", "Two"));
+  others.push_back(NewList("B", "Three"));
+  lists.Replace(std::move(others));
   EXPECT_EQ(lists.Find("a"), nullptr);
   EXPECT_STREQ(lists.Find("b")->GetName(), "Two");
   EXPECT_EQ(lists.PositionOf(lists.Find("b")), 0);
 }
 
-// Ids of a cloud service, say, that were made so that each look-up compares with all of them.
+TEST_F(OwnedListsTest, OutsideOfItsRangeAPositionHasNoList) {
+  Add("a", "One");
+  EXPECT_EQ(lists.At(-1), nullptr);
+  EXPECT_EQ(lists.At(1), nullptr);
+}
+
+TEST_F(OwnedListsTest, WhoIsToldByAddressNeedNotLiveAnyMore) {
+  CSymbolList* const first = &Add("a", "One");
+  CSymbolList* const second = &Add("b", "Two");
+  EXPECT_TRUE(lists.Has(first, 0));
+  EXPECT_TRUE(lists.Has(second, 0)) << "where it was is only where it is looked for first";
+  lists.Delete(first);
+  EXPECT_FALSE(lists.Has(first, 0));
+  EXPECT_TRUE(lists.Has(second, 1));
+}
+
+TEST_F(OwnedListsTest, EachProblemOfANewIdIsABit) {
+  Add("taken", "One");
+  EXPECT_EQ(lists.ProblemsOfNewId("free"), 0);
+  EXPECT_EQ(lists.ProblemsOfNewId(""), 0);
+  EXPECT_EQ(lists.ProblemsOfNewId("TAKEN"), 1);
+  EXPECT_EQ(lists.ProblemsOfNewId(std::string(36, 'x').c_str()), 0);
+  EXPECT_EQ(lists.ProblemsOfNewId(std::string(37, 'x').c_str()), 2);
+  EXPECT_EQ(lists.ProblemsOfNewId("a&b"), 4);
+  EXPECT_EQ(lists.ProblemsOfNewId((std::string(36, 'x') + "<").c_str()), 6);
+}
+
+TEST_F(OwnedListsTest, CopiesAreTheCallersAndAreComparedByPosition) {
+  Add("a", "One").Update1("2330.TW");
+  Add("b", "Two");
+  CPtrArray copies;
+  lists.AppendCopies(copies);
+  ASSERT_EQ(copies.GetSize(), 2);
+  const std::unique_ptr<CSymbolList> first(static_cast<CSymbolList*>(copies[0]));
+  const std::unique_ptr<CSymbolList> second(static_cast<CSymbolList*>(copies[1]));
+  EXPECT_TRUE(lists.HaveNamesAndContentsOf(copies));
+  second->SetID("another");
+  EXPECT_TRUE(lists.HaveNamesAndContentsOf(copies)) << "identifiers do not count";
+  second->SetName("two");
+  EXPECT_FALSE(lists.HaveNamesAndContentsOf(copies)) << "letter case counts";
+  second->SetName("Two");
+  first->Update1("2317.TW");
+  EXPECT_FALSE(lists.HaveNamesAndContentsOf(copies));
+  copies.SetSize(1);
+  EXPECT_FALSE(lists.HaveNamesAndContentsOf(copies));
+}
+
+// Ids crafted to collide, by a cloud service for example, so that a look-up compares with all.
 TEST_F(OwnedListsTest, NobodyCanChooseIdsAndNamesOfOneBucket) {
   constexpr std::size_t kTexts = 80'000;
   const auto texts = CraftedTexts(kTexts, [](const std::string& text) {

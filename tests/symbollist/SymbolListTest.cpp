@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "symbollist/SystemListId.h"
+#include "symbollist/ListIds.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 
@@ -128,6 +128,14 @@ TEST_F(SymbolListTest, AppendedElementFitsTheRoomThatWasAnnounced) {
   list.AppendXml(document);
   EXPECT_LE(document.size() - 6, list.XmlLength());
   EXPECT_EQ(document.substr(0, 12), "before<List ");
+}
+
+TEST_F(SymbolListTest, IdentifiersThatWouldComeOutAsOthersAreToldApart) {
+  EXPECT_TRUE(tq::IsKeptWhole(""));
+  EXPECT_TRUE(tq::IsKeptWhole(CString('a', 36)));
+  EXPECT_FALSE(tq::IsKeptWhole(CString('a', 37)));
+  EXPECT_FALSE(tq::IsKeptWhole("a\x01"));
+  EXPECT_FALSE(tq::IsKeptWhole("half\xA4"));
 }
 
 } // namespace

@@ -10,18 +10,18 @@
 #include "accounts/TradingService.h"
 #include "groups/GroupId.h"
 #include "groups/GroupLoader.h"
-#include "platform/ModulePath.h"
+#include "idlist/ListKind.h"
+#include "platform/Module.h"
 #include "platform/ReadSteps.h"
-#include "platform/XmlText.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/KeptCopies.h"
 #include "symbollist/KeptFiles.h"
-#include "symbollist/ListKind.h"
+#include "symbollist/ListIds.h"
 #include "symbollist/ListName.h"
-#include "symbollist/SystemListId.h"
 #include "symbollist/TQSymbolListInfo.h"
 #include "symboltable/ExchangeService.h"
+#include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolRecords.h"
-#include "symboltable/TableSlots.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ Bounds CodeBounds() {
       {"INT_MAX", INT_MAX},
       {"SymbolInfo::id", sizeof(SymbolInfo::id)},
       {"TQSymbolListInfo::ID", sizeof(TQSymbolListInfo::ID) - 1},
-      {"TableSlots::kCount", tq::TableSlots::kCount},
+      {"ExchangeTables::kCount", tq::ExchangeTables::kCount},
       {"kCloudGroupType", tq::kCloudGroupType},
       {"kDeepestLevel", tq::kDeepestLevel},
       {"kGroupIdBytes", tq::kGroupIdBytes},

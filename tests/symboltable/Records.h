@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string_view>
 
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
-#include "symbolid/UpperText.h"
 #include "symboltable/SymbolTable.h"
 #include "terminal/BaseAttrLayout.h"
 

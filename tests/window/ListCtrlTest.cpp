@@ -1,28 +1,9 @@
-// List views: tables of rows and columns.
+// List views, tables of rows and columns, as the program uses them.
 #include <climits>
 
-#include "platform/framework/CListCtrl.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/ListCtrlTest.h"
 
 namespace {
-
-constexpr int kTable = 791;
-
-class ListCtrlTest : public WindowTest {
-protected:
-  // A table of two columns with rows A, B, C and data 10, 20, 30.
-  void InTable(const std::function<void(User&, TestDialog&, CListCtrl)>& script) {
-    InDialog([&](User& user, TestDialog& dialog) {
-      CListCtrl table(dialog, kTable);
-      table.AddColumn("Code", 60);
-      table.AddColumn("Name", 0);
-      int data = 0;
-      for (const char* text : {"A", "B", "C"})
-        table.SetItemData(table.AddRow(text), data += 10);
-      script(user, dialog, table);
-    });
-  }
-};
 
 TEST_F(ListCtrlTest, ANewTableIsEmpty) {
   InDialog([](User&, TestDialog& dialog) {
@@ -165,93 +146,6 @@ TEST_F(ListCtrlTest, SettingDoesNotNotify) {
   });
 }
 
-TEST_F(ListCtrlTest, AClickTellsOnceOfAChangedSelection) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    EXPECT_TRUE(user.ClickRow(kTable, 1));
-    EXPECT_EQ(dialog.Take(), Log{"791 selection"});
-    EXPECT_TRUE(user.ClickRow(kTable, 2)); // two rows change, one notice
-    EXPECT_EQ(dialog.Take(), Log{"791 selection"});
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{2});
-    EXPECT_TRUE(user.ClickRow(kTable, 2)); // nothing changes
-    EXPECT_EQ(dialog.Take(), Log());
-    EXPECT_TRUE(table.HasFocus());
-    EXPECT_FALSE(user.ClickRow(kTable, 3));
-  });
-}
-
-TEST_F(ListCtrlTest, ADoubleClickNamesItsRow) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    table.SetStyles(CListCtrl::FullRowSelect);
-    EXPECT_TRUE(user.DoubleClick(kTable, 1));
-    EXPECT_EQ(dialog.Take(), (Log{"791 selection", "791 double 1"}));
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
-    EXPECT_TRUE(user.DoubleClick(kTable, 1));
-    EXPECT_EQ(dialog.Take(), Log{"791 double 1"});
-  });
-}
-
-TEST_F(ListCtrlTest, ADoubleClickBesideTheRows) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    table.SetCurSel(1);
-    EXPECT_TRUE(user.DoubleClick(kTable, -1));
-    EXPECT_EQ(dialog.Take(), (Log{"791 selection", "791 double -1"}));
-    EXPECT_EQ(table.GetSelectedCount(), 0);
-  });
-}
-
-TEST_F(ListCtrlTest, ADoubleClickThatEndsTheDialog) {
-  TestDialog dialog(101);
-  dialog.onNotify = [&](int, const ListNotice& notice) {
-    if (notice.kind == ListNotice::Kind::DoubleClicked)
-      dialog.EndDialog(1);
-  };
-  const int code = RunDialog(dialog, [&](User& user) {
-    CListCtrl table(dialog, kTable);
-    table.AddColumn("x", 0);
-    table.AddRow("x");
-    user.DoubleClick(kTable, 0);
-  });
-  EXPECT_EQ(code, 1);
-}
-
-TEST_F(ListCtrlTest, ClicksWithControlAndShift) {
-  InTable([](User& user, TestDialog&, CListCtrl table) {
-    table.AddRow("D");
-    user.ClickRow(kTable, 1);
-    user.ClickRow(kTable, 3, Modifier::Control);
-    EXPECT_EQ(user.SelectedRows(kTable), (std::vector<int>{1, 3}));
-    user.ClickRow(kTable, 1, Modifier::Control);
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{3});
-    user.ClickRow(kTable, 0);
-    user.ClickRow(kTable, 2, Modifier::Shift);
-    EXPECT_EQ(user.SelectedRows(kTable), (std::vector<int>{0, 1, 2}));
-  });
-}
-
-TEST_F(ListCtrlTest, ADoubleClickWithControlLeavesSeveralSelected) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl) {
-    user.ClickRow(kTable, 0);
-    dialog.Take();
-    EXPECT_TRUE(user.DoubleClick(kTable, 2, Modifier::Control));
-    EXPECT_EQ(dialog.log.back(), "791 double 2");
-    EXPECT_EQ(user.SelectedRows(kTable), (std::vector<int>{0, 2}));
-  });
-}
-
-TEST_F(ListCtrlTest, KeysMoveTheSelection) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    table.SetCurSel(0);
-    table.SetFocus();
-    user.Press(Key::Down);
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
-    user.Press(Key::End);
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{2});
-    user.Press(Key::Home);
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{0});
-    EXPECT_EQ(dialog.log, Log(3, "791 selection"));
-  });
-}
-
 TEST_F(ListCtrlTest, StylesAreKept) {
   InTable([](User&, TestDialog&, CListCtrl table) {
     for (const unsigned styles : {1U, 2U, 4U, 7U, 0U, 3U}) {
@@ -260,68 +154,6 @@ TEST_F(ListCtrlTest, StylesAreKept) {
     }
     table.SetHoverTime(10);
     EXPECT_EQ(table.GetHoverTime(), 10U);
-  });
-}
-
-TEST_F(ListCtrlTest, HoveringSelectsWhereItIsOn) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    EXPECT_FALSE(user.Hover(kTable, 1));
-    EXPECT_EQ(table.GetCurSel(), -1);
-    table.SetStyles(CListCtrl::HoverSelect | CListCtrl::FullRowSelect);
-    table.SetHoverTime(10);
-    EXPECT_TRUE(user.Hover(kTable, 1));
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
-    EXPECT_TRUE(user.Hover(kTable, 2));
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{2});
-    EXPECT_EQ(dialog.log, Log(2, "791 selection"));
-  });
-}
-
-TEST_F(ListCtrlTest, TheMouseRestsForTheHoverTime) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    EXPECT_EQ(table.GetHoverTime(), 0U);
-    table.SetStyles(CListCtrl::HoverSelect | CListCtrl::FullRowSelect);
-    table.SetHoverTime(300);
-    dialog.SetTimer(1, 100);
-    EXPECT_TRUE(user.Hover(kTable, 1));
-    ASSERT_GE(dialog.log.size(), 2U);
-    EXPECT_EQ(dialog.log.front(), "timer 1"); // some time went by before
-    EXPECT_EQ(dialog.log.back(), "791 selection");
-    EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
-    dialog.KillTimer(1);
-    table.SetHoverTime(0);
-    EXPECT_EQ(table.GetHoverTime(), 0U);
-  });
-}
-
-TEST_F(ListCtrlTest, ADisabledTableTakesNoClick) {
-  InTable([](User& user, TestDialog& dialog, CListCtrl table) {
-    table.EnableWindow(false);
-    EXPECT_FALSE(user.ClickRow(kTable, 1));
-    EXPECT_FALSE(user.DoubleClick(kTable, 1));
-    EXPECT_FALSE(user.Hover(kTable, 1));
-    EXPECT_EQ(dialog.log, Log());
-    EXPECT_EQ(table.GetCurSel(), -1);
-  });
-}
-
-TEST_F(ListCtrlTest, TenThousandRows) {
-  InTable([](User& user, TestDialog&, CListCtrl table) {
-    table.DeleteAllRows();
-    {
-      const CRedrawLock lock(table);
-      for (int i = 0; i < 10000; ++i) {
-        const int row = table.AddRow(std::to_string(i).c_str());
-        table.SetItemData(row, i);
-        table.SetCellText(row, 1, "name");
-      }
-    }
-    EXPECT_EQ(table.GetRowCount(), 10000);
-    EXPECT_EQ(table.GetCellText(9999, 0), "9999");
-    EXPECT_TRUE(user.ClickRow(kTable, 9999));
-    EXPECT_EQ(table.GetItemData(table.GetCurSel()), 9999);
-    table.DeleteAllRows();
-    EXPECT_EQ(table.GetRowCount(), 0);
   });
 }
 

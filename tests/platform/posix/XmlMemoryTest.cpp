@@ -1,6 +1,6 @@
 // A document is loaded whole or not at all when memory runs out at any moment of its load: a part
 // of the user's lists must never pass for all of them.
-#include "platform/XmlDocument.h"
+#include "platform/xml/XmlDocument.h"
 
 #include <cstdlib>
 #include <cstring>

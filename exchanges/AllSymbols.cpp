@@ -1,0 +1,92 @@
+#include "exchanges/AllSymbols.h"
+
+#include <cstring>
+#include <new>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "exchanges/DefaultExchanges.h"
+#include "platform/ServiceArray.h"
+#include "symboltable/ExchangeService.h"
+
+namespace tq {
+namespace {
+
+// All symbols of the exchanges, in that order. `complete` is cleared when an exchange could not be
+// read.
+std::vector<ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, bool& complete) {
+  constexpr int kAllSections = -1;
+  std::vector<ServiceArray<SymbolInfo>> lists;
+  lists.reserve(static_cast<size_t>(exchanges.GetSize()));
+  for (const unsigned exchange : exchanges) {
+    ServiceArray<SymbolInfo> list;
+    if (VLGetSymbolInfos2(static_cast<int>(exchange), kAllSections, list.List(), list.Count(), 0) ==
+        0)
+      complete = false;
+    else if (!list.Records().empty())
+      lists.push_back(std::move(list));
+  }
+  return lists;
+}
+
+// Null without memory: there are hundreds of bytes for each symbol of a market, in one piece.
+std::unique_ptr<SymbolInfo[]> RoomFor(size_t count) {
+  return std::unique_ptr<SymbolInfo[]>(new (std::nothrow) SymbolInfo[count]);
+}
+
+} // namespace
+
+void AllSymbols::Build(const CUIntArray& defaultExchanges) {
+  CUIntArray exchanges;
+  {
+    const ExchangeList list;
+    if (list.Result() == 0)
+      return;
+    for (const ExchInfo& record : list.Records())
+      exchanges.Add(static_cast<unsigned>(record.id));
+  }
+  MoveDefaultsForward(exchanges, defaultExchanges);
+  bool complete = true;
+  const std::vector<ServiceArray<SymbolInfo>> lists = ReadSymbols(exchanges, complete);
+  // A buffer that lacks an exchange is better than none, but not than the whole one of before.
+  if (!complete && infos_ != nullptr)
+    return;
+  size_t total = 0;
+  for (const auto& list : lists)
+    total += list.Records().size();
+  Clear();
+  if (total == 0)
+    return;
+  infos_ = RoomFor(total);
+  if (infos_ == nullptr)
+    return;
+  for (const auto& list : lists) {
+    const std::span<const SymbolInfo> records = list.Records();
+    std::memcpy(&infos_[static_cast<size_t>(count_)], records.data(), records.size_bytes());
+    count_ += static_cast<int>(records.size());
+  }
+}
+
+void AllSymbols::Clear() {
+  infos_.reset();
+  count_ = 0;
+}
+
+int AllSymbols::Copy(SymbolInfo** out, int* count) const {
+  if (out == nullptr || count == nullptr || IsEmpty())
+    return 0;
+  std::unique_ptr<SymbolInfo[]> copy = RoomFor(static_cast<size_t>(count_));
+  if (copy == nullptr)
+    return 0;
+  std::memcpy(copy.get(), infos_.get(), static_cast<size_t>(count_) * sizeof(SymbolInfo));
+  *out = copy.release();
+  *count = count_;
+  return 1;
+}
+
+void AllSymbols::Free(SymbolInfo* infos) {
+  const std::unique_ptr<SymbolInfo[]> released(infos);
+}
+
+} // namespace tq

@@ -1,0 +1,28 @@
+// Text that can be stored in the library's files and read back: the names, identifiers and id
+// strings of lists.
+//
+// The list file is not escaped, so a half character or a control byte in one name would make the
+// next load refuse the whole file, and with it every list of the user. Such bytes are removed when
+// text enters a list, here and nowhere else. Apostrophe, "&" and "<" are not removed: names are
+// screened for them where users enter them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/framework/CString.h"
+
+namespace tq {
+
+// Whether the list file can hold every byte of `text`: whole characters of the process's code page,
+// and of the control bytes only tab, line feed and carriage return.
+bool IsStorable(const CString& text);
+
+// `text` without the bytes that the file cannot hold, with a line in the log when there were some.
+// Without such bytes the string is shared, not copied.
+CString StorableText(const CString& text);
+
+// Appends the same to `document`, without a line in the log: for files that are rewritten often.
+void AppendStorable(std::string_view text, std::string& document);
+
+} // namespace tq

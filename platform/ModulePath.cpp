@@ -1,9 +1,0 @@
-#include "platform/ModulePath.h"
-
-namespace tq {
-
-std::string OwnModuleDirectory() {
-  return DirectoryOf(OwnModulePath());
-}
-
-} // namespace tq

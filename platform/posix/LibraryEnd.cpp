@@ -1,9 +1,0 @@
-#include "platform/LibraryEnd.h"
-
-namespace tq {
-
-bool ProcessIsEnding() {
-  return false;
-}
-
-} // namespace tq

@@ -1,0 +1,25 @@
+#include "platform/System.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+
+#include <cstring>
+
+namespace tq {
+
+int SystemLocalYear() {
+  SYSTEMTIME local;
+  ::GetLocalTime(&local);
+  return local.wYear;
+}
+
+bool SystemGuid(Guid& guid) {
+  static_assert(sizeof(Guid) == sizeof(GUID));
+  GUID made;
+  const HRESULT result = ::CoCreateGuid(&made);
+  std::memcpy(&guid, &made, sizeof guid);
+  return SUCCEEDED(result);
+}
+
+} // namespace tq

@@ -1,0 +1,98 @@
+// The user's watch lists: the lists in memory, which of them is shown first, and the list file.
+//
+// Operations are those of CTQSymbolListMgr with the same effects on the file, the log and the
+// terminal; manager/TQSymbolListMgr.h says for each what it takes and returns. The symbol-data
+// service, the log and TQSCall may let the terminal call any of them from within another one.
+#pragma once
+
+#include "platform/framework/CMapStringToString.h"
+#include "platform/framework/CPtrArray.h"
+#include "platform/framework/CString.h"
+#include "platform/framework/CStringArray.h"
+#include "symbollist/KeptFiles.h"
+#include "symbollist/OwnedLists.h"
+#include "symbollist/SymbolChanges.h"
+
+namespace tq {
+
+class UserLists {
+public:
+  // No lists, default index 0, no data directory, system lists not wanted.
+  explicit UserLists(RenameMoved rename) : rename_(std::move(rename)) {}
+
+  const OwnedLists& Lists() const { return lists_; }
+  CSymbolList* Find(const char* id) const { return lists_.Find(id); }
+  // The list shown first, as an index that nothing holds within the lists; negative for none.
+  int DefaultIndex() const { return defaultIndex_; }
+  void SetDefaultIndex(int index) { defaultIndex_ = index; }
+  bool HasDefault() const { return defaultIndex_ >= 0 && !lists_.IsEmpty(); }
+  void Clear() { lists_.Destroy(); }
+
+  // --- The list file -----------------------------------------------------------------------------
+
+  const CString& Directory() const { return directory_; }
+  void SetDirectory(const CString& directory) { directory_ = directory; }
+  // Joined as it stands: the directory carries no trailing backslash. Empty without a directory,
+  // for the bare name would be a file in the root of the drive.
+  CString PathOf(const char* name) const;
+
+  // Begins anew: no lists, and no file of which they could be.
+  void Reset();
+  // Writes an empty list file where the directory has none.
+  void CreateMissingFile();
+  int Load();
+  int Save();
+  int Backup();
+  int Restore();
+  int SaveEmpty();
+  int SaveTo(const CString& path);
+  int LoadFrom(const CString& path);
+  // Load, then the system lists that the file lacks, where Init was told so.
+  void LoadWithSystemLists();
+
+  // --- Whole lists -------------------------------------------------------------------------------
+
+  int Add(const CString& id, const CString& name, const CString& symbols, bool append,
+          bool overwrite);
+  // Puts a new list in, which is not saved. Where the terminal added one of that id while the
+  // symbols were resolved, that one gets the symbols.
+  void Put(const CString& id, const CString& name, const CString& symbols, bool append);
+  void PutCopy(CSymbolList& source, bool append);
+  void Replace(const CPtrArray& lists);
+  int Delete(const CString& id);
+  int ReplaceIds(const CStringArray& oldIds, const CStringArray& newIds);
+  // A name that no list has, as AdjustFileName finds it.
+  CString FreeName(const CString& name) const;
+  // After lists were added: without a default list the first one is it.
+  void EnsureDefault() { defaultIndex_ = defaultIndex_ == -1 ? 0 : defaultIndex_; }
+
+  // Puts a text into a list as an entry of its own.
+  int InsertEntry(const CString& id, int position, const CString& text, bool before, bool heading);
+
+  // --- System lists ------------------------------------------------------------------------------
+
+  // Whether loading another file adds them.
+  void WantSystemLists(bool wanted) { systemListsWanted_ = wanted; }
+  // Takes their names over and adds the lists that are missing. `names` may be null: then the names
+  // stay.
+  void StartSystemLists(const CStringArray* names);
+  void AddSystemLists(const CStringArray* names);
+  int UpdateSystemList(const CString& id, const CString& name, const CString& symbols,
+                       int& nameChanged);
+  int UpdateSystemList(int index, const CString& symbols, bool replace);
+  void UpdateSystemLists(const CMapStringToString& symbols, const CMapStringToString* names);
+
+private:
+  void Insert(std::unique_ptr<CSymbolList> list, bool append);
+  bool AddNew(const CString& id, const CString& name, const CString& symbols, bool append);
+
+  RenameMoved rename_;
+  OwnedLists lists_;
+  int defaultIndex_ = 0;
+  CString directory_;
+  KeptFiles keptFiles_;
+  bool systemListsWanted_ = false;
+  CStringArray systemListNames_;
+};
+
+} // namespace tq
