@@ -27,7 +27,7 @@ target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wc
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+if(TQ_PRECOMPILED AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # Lets the compiler cache see past a precompiled header.
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
 endif()

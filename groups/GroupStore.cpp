@@ -61,6 +61,7 @@ GroupStore::Manager GroupStore::MakeLoaded(int type) const {
 int GroupStore::LoadAll() {
   Clear();
   std::vector<Manager> loaded;
+  loaded.reserve(std::size(kFullLoad));
   for (const int type : kFullLoad)
     loaded.push_back(MakeLoaded(type));
   Clear(); // of what the terminal loaded meanwhile
