@@ -37,9 +37,7 @@ void ExitUnless(bool expected) {
 }
 
 void Own(const std::string& path) {
-  if (::geteuid() == 0) {
-    ASSERT_EQ(0, ::chown(path.c_str(), kNobody, kNobody));
-  }
+  ASSERT_TRUE(::geteuid() != 0 || ::chown(path.c_str(), kNobody, kNobody) == 0);
 }
 
 // The test's directories lie in one that only their owner may enter.
@@ -256,8 +254,7 @@ TEST(PosixSave, APipeThatSomebodyReadsUnderTheTemporaryNameGetsNoByte) {
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-// Symptom: a file of the user's, or the list file, was overwritten through a hard link under the
-// temporary name.
+// Symptom: a file of the user's was overwritten through a hard link under the temporary name.
 TEST(PosixSave, ASecondNameUnderTheTemporaryNameIsNotWrittenThrough) {
   const TestDirectory directory("data");
   directory.Write(kName, "old");
