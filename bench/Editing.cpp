@@ -36,7 +36,7 @@ off_t SizeOf(const std::string& path) {
   return size;
 }
 
-// What a save cannot do without.
+// The least that a save takes.
 void WriteAndFlush(const std::string& path, const std::string& bytes) {
   unlink(path.c_str());
   const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL, 0666);
@@ -45,7 +45,7 @@ void WriteAndFlush(const std::string& path, const std::string& bytes) {
   close(file);
 }
 
-// Adding a list in front of `lists` others and deleting it again: two saves, against two writes.
+// Adds a list in front of `lists` others and deletes it again: two saves, compared with two writes.
 void MeasureWholeLists(Report& report, const std::string& directory, std::size_t lists) {
   WriteLists(directory, lists, "GONE.XX");
   CTQSymbolListMgr manager;
@@ -70,8 +70,8 @@ void MeasureWholeLists(Report& report, const std::string& directory, std::size_t
     report.Wrong("adding and deleting");
 }
 
-// Inserting into and deleting from a list of `symbols` ids, which is then resolved again, against
-// the service's answer for the same ids; and swapping, which asks nobody.
+// Inserts into and deletes from a list of `symbols` ids, which resolves the list again, compared
+// with the service's answer for the same ids. Swapping asks no service.
 void MeasureEntries(Report& report, const std::vector<std::string>& ids, std::size_t symbols,
                     CTQSymbolListMgr& manager) {
   std::string value;
@@ -123,7 +123,7 @@ void MeasureQueries(Report& report, CTQSymbolListMgr& manager) {
     report.Wrong("queries");
 }
 
-// The service's answers for every exchange, put behind each other: one copy of all bytes.
+// The service's answers for all exchanges, one behind the other: a single copy of all bytes.
 std::size_t CopyAllSymbols() {
   ExchInfo* exchanges = nullptr;
   int exchangeCount = 0;

@@ -1,4 +1,4 @@
-// Editing, and what has to be done again when exchanges change.
+// Editing lists, and the work that changed exchanges cause.
 #pragma once
 
 #include <string>
@@ -8,13 +8,13 @@
 
 namespace bench {
 
-// Adding and deleting in front of 10, 1,000 and 100,000 lists, entry edits of lists as long, and
-// the queries of a list. `market` is the one that the services have at the moment. Files in
-// `directory`, which exists, are deleted at the end. `quick` leaves the largest out.
+// Adds and deletes in front of 10, 1,000 and 100,000 lists, edits entries of lists as long, and
+// queries a list. `market` is what the services currently serve. `directory` must exist; files made
+// in it are deleted. `quick` leaves out the largest size.
 void MeasureEditing(Report& report, const standin::Market& market, const std::string& directory,
                     bool quick);
 
-// Building the buffer of all symbols of the market that the services have.
+// Builds the buffer of all symbols of the market that the services currently serve.
 void MeasureSorting(Report& report, std::size_t repetitions);
 
 } // namespace bench

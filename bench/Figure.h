@@ -10,16 +10,14 @@ namespace bench {
 // Processor time of this thread since its start, in seconds.
 double ProcessorSeconds();
 
-// Processor time that `work` takes: what it takes on a machine that has nothing else to do. For
-// work that waits for nothing; a busy machine would stretch the longer half of a comparison more
-// than the other.
+// Processor time that `work` takes, for work that never waits: other programs do not stretch it.
 template <typename Work> double Computing(Work work) {
   const double start = ProcessorSeconds();
   work();
   return ProcessorSeconds() - start;
 }
 
-// Time by the clock that `work` takes. For work that waits for the disk.
+// Wall-clock time that `work` takes, for work that waits for the disk.
 template <typename Work> double Elapsed(Work work) {
   const auto start = std::chrono::steady_clock::now();
   work();
@@ -37,9 +35,9 @@ struct Figure {
 
 Figure Summarise(const std::vector<double>& library, const std::vector<double>& peer);
 
-// Calls `library` and `peer` in turns, each of which does the work once and returns its seconds, so
-// that both see the same machine: what slows one repetition slows both of its halves. A first turn,
-// which warms caches and pages, is not counted.
+// Calls `library` and `peer` in turns; each does the work once and returns its seconds. Both see
+// the same machine: what slows a repetition slows both halves of it. A first turn, which warms
+// caches and pages, is not counted.
 template <typename Library, typename Peer>
 Figure Compare(std::size_t repetitions, Library library, Peer peer) {
   library();

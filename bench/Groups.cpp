@@ -30,7 +30,7 @@ std::vector<int> Types() {
   return types;
 }
 
-// `count` groups of one type, with or without sub-groups, in the shapes that a service gives them.
+// `count` groups of one type, with or without sub-groups.
 void AddGroups(standin::Market& market, int type, int count, int subGroups) {
   for (int i = 0; i < count; ++i) {
     const std::string id = "G" + std::to_string(100'000 + i);
@@ -43,7 +43,8 @@ void AddGroups(standin::Market& market, int type, int count, int subGroups) {
   }
 }
 
-// What a load cannot do without: the service's records, level by level. Returns how many.
+// The least that a load takes: receiving the service's records, level by level. Returns their
+// number.
 std::size_t ReceiveGroups(int type, const char* parent) {
   GroupInfo* records = nullptr;
   int count = 0;
@@ -95,7 +96,7 @@ void MeasureLoading(Report& report, const std::string& what, int groups, int sub
     report.Wrong(what);
 }
 
-// The records of a type as a plain search goes through them.
+// The records of a type for a plain scan.
 struct Tree {
   struct Node {
     GroupInfo info;
@@ -132,7 +133,7 @@ Tree ReadTree(int type) {
   return tree;
 }
 
-// Ids from all over the tree, some in small letters, and a few that no group has.
+// Ids from all over the tree, some in lower case, and a few unknown ones.
 std::vector<std::string> MakeIds(const Tree& tree, std::size_t count) {
   std::mt19937 random(40);
   std::vector<std::string> ids;

@@ -13,7 +13,7 @@ std::size_t allocations = 0;
 
 } // namespace
 
-// The C library's own, under the names that it keeps for those who put something in front.
+// The C library's own functions, under the names that it provides for programs that replace malloc.
 extern "C" {
 void* __libc_malloc(std::size_t size) noexcept;
 void* __libc_calloc(std::size_t count, std::size_t size) noexcept;

@@ -1,5 +1,5 @@
-// What the process takes from the heap. The program puts its own malloc in front of the C
-// library's, which counts and hands on; library and peer are counted alike.
+// Heap use of the process. The program replaces malloc by one that counts and forwards; library and
+// peer are counted alike.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@ namespace bench {
 // Allocations and reallocations since the start.
 std::size_t Allocations();
 
-// Bytes in use, what the allocator needs to keep track of them included.
+// Bytes in use, including the allocator's overhead.
 std::size_t HeapInUse();
 
 } // namespace bench

@@ -18,7 +18,7 @@ constexpr int kUserLists = 1;
 
 // --- Files ---------------------------------------------------------------------------------------
 
-// Loads a file that is `text`; it is refused, or has no list.
+// Loads a file with this text; it must be refused or have no list.
 double LoadText(const std::string& directory, const std::string& text, bool& right) {
   const std::string path = directory + "/SymbolList.xml";
   std::ofstream(path, std::ios::binary) << text;
@@ -44,7 +44,7 @@ void MeasureFiles(Report& report, const std::string& directory, const Sizes& siz
   });
 }
 
-// The ids are unknown in front, so that the list needs its index from the first record on.
+// The unknown id comes first, so the list needs its index for every record.
 void MeasureRows(Report& report, const Sizes& sizes) {
   Measure(report, "rows of a list behind an unknown id", sizes, [](std::size_t size, bool& right) {
     standin::Market market = OneExchange();
@@ -63,8 +63,8 @@ void MeasureRows(Report& report, const Sizes& sizes) {
 
 // --- Entries and texts ---------------------------------------------------------------------------
 
-// One insert in the middle of a list that has `size` entries, for each entry: the list is resolved
-// again, so this is what is to stay the same. With what the service takes of it.
+// One insert in the middle of a list of `size` entries, per entry: the whole list is resolved
+// again, so time per entry should be constant. Also the service's share of it.
 void MeasureInserts(Report& report, const Sizes& sizes) {
   standin::Market market = OneExchange();
   std::string value;
@@ -97,7 +97,7 @@ void MeasureInserts(Report& report, const Sizes& sizes) {
   });
 }
 
-// Pairs that double a text, up to and beyond what a list may have, for each byte of the file.
+// Pairs that double a text up to and beyond the bound, per byte of the file.
 void MeasureDoubling(Report& report, const std::string& directory, const Sizes& pairs) {
   Sizes bytes;
   for (const std::size_t count : pairs)

@@ -1,5 +1,5 @@
-// What a file, a service or a terminal may give the library to make it slow: the time of each item
-// at three sizes, which stays the same where time grows with what was given and no faster.
+// Input from files, services or the terminal that is meant to make the library slow: the time per
+// item at three sizes, which is constant as long as the work is linear.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace bench {
 
-// `directory` exists; the files that are made in it are deleted.
+// `directory` must exist; files made in it are deleted.
 void MeasureHostile(Report& report, const std::string& directory, bool quick);
 
 } // namespace bench

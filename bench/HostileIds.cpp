@@ -26,14 +26,14 @@ std::vector<std::string> PlainIds(std::size_t count) {
   return ids;
 }
 
-// Ids of one std::hash value, which a list and the holdings of an account can have.
+// Ids with the same std::hash value, as lists and an account's holdings may have.
 std::vector<std::string> CraftedIds(std::size_t count) {
   const auto isLead = [](unsigned char byte) { return byte >= 0xA1 && byte <= 0xF9; };
   const auto isTrail = [](unsigned char byte) {
     return (byte >= 0x40 && byte <= 0x7E) || (byte >= 0xA1 && byte <= 0xFE);
   };
   return CraftedTexts(count, [&](const std::string& text) {
-    for (std::size_t i = 8; i < text.size(); i += 2) { // number in front, characters behind
+    for (std::size_t i = 8; i < text.size(); i += 2) { // the number first, then characters
       if (!isLead(static_cast<unsigned char>(text[i])) ||
           !isTrail(static_cast<unsigned char>(text[i + 1])))
         return false;
@@ -42,7 +42,7 @@ std::vector<std::string> CraftedIds(std::size_t count) {
   });
 }
 
-// Sets each list twice: added, then found.
+// Sets each list twice: the first call adds it, the second finds it.
 double SetLists(const std::vector<std::string>& ids, bool& right) {
   CTQSymbolListMgr manager;
   const double seconds = Computing([&] {
@@ -66,7 +66,7 @@ standin::Market Accounts(std::size_t count, const std::vector<std::string>& held
   return market;
 }
 
-// What a login asks of the proxy.
+// The questions that a login asks of the proxy.
 void AskForAccounts() {
   const int count = TQSGetTSAccountCount(kSystem);
   for (int i = 0; i < count; ++i) {
@@ -78,8 +78,8 @@ void AskForAccounts() {
   }
 }
 
-// Ids of 15 bytes that have one value of the two steps of MixWords, which the index of symbols and
-// groups would go by if it had no secret.
+// Ids of 15 bytes that collide after two steps of MixWords, the hash of symbols and groups without
+// the secret of the process.
 std::vector<std::string> MixedIds(std::size_t count) {
   std::vector<std::string> ids;
   for (std::uint64_t number = 10'000'000; ids.size() < count; ++number) {

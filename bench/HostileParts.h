@@ -1,4 +1,4 @@
-// What the figures of Hostile.h are made of.
+// The parts of Hostile.h.
 #pragma once
 
 #include <cstddef>
@@ -12,19 +12,19 @@
 namespace bench {
 
 using Sizes = std::vector<std::size_t>;
-// Does the work for a size and returns its seconds; `right` is set to false for a wrong answer.
+// Does the work for a size and returns its seconds; clears `right` on a wrong answer.
 using Work = std::function<double(std::size_t size, bool& right)>;
 
-// Shows the median of three runs at each size, for each item.
+// Shows the median of three runs at each size, per item.
 void Measure(Report& report, const std::string& what, const Sizes& sizes, const Work& work);
 
-// A market of one exchange, XX, without symbols; and one of its symbols.
+// A market of one exchange, XX, without symbols; and a symbol for it.
 standin::Market OneExchange();
 standin::Instrument Stock(const std::string& code);
 
-// Lists set and added one by one, by ids as they are and by crafted ones.
+// Lists that are set and added one by one, with plain and with crafted ids.
 void MeasureLists(Report& report, const Sizes& sizes);
-// Accounts at a login. Holdings and groups by crafted ids.
+// Accounts at a login; holdings and groups with crafted ids.
 void MeasureAccounts(Report& report, const Sizes& sizes);
 void MeasureHoldings(Report& report, const Sizes& sizes);
 void MeasureGroupIds(Report& report, const Sizes& sizes);

@@ -20,7 +20,7 @@ constexpr double kGoalLoading = 1.5;
 constexpr double kGoalSaving = 1.2;
 constexpr int kUserLists = 1;
 
-// One file, as the library writes it, and the id strings in it.
+// A file as the library writes it, and its id strings.
 struct ListFile {
   std::string bytes;
   std::vector<std::string> values;
@@ -63,7 +63,7 @@ bool HoldsAllRows(CTQSymbolListMgr& manager, ListFileSize size) {
   return static_cast<std::size_t>(lists) == size.lists && rows == size.lists * size.symbols;
 }
 
-// Parsing the same bytes, and the service's answers to the same id strings.
+// Parses the same bytes and asks the service for the same id strings.
 bool ParseAndAsk(const ListFile& file) {
   xmlDoc* const document = xmlReadMemory(file.bytes.data(), static_cast<int>(file.bytes.size()),
                                          nullptr, nullptr, XML_PARSE_NONET);

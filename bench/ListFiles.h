@@ -14,8 +14,8 @@ struct ListFileSize {
   std::size_t symbols; // of each list
 };
 
-// `market` is the one that the services have at the moment; the ids are its. `directory` exists;
-// the files that are made in it are deleted.
+// `market` is what the services currently serve; the ids are taken from it. `directory` must exist;
+// files made in it are deleted.
 void MeasureListFiles(Report& report, const standin::Market& market, ListFileSize size,
                       const std::string& directory, std::size_t repetitions);
 

@@ -16,7 +16,7 @@ namespace {
 constexpr double kGoalOverStd = 1.0;
 constexpr double kGoalOverFlat = 1.5;
 
-// Each of the following runs all of its queries once and returns how many were answered.
+// Each of these runs all its queries once and returns the number of answers.
 
 std::size_t LibraryTexts(CSymbolTableMgr& tables, const std::vector<CString>& ids) {
   const CString noExchange;
@@ -36,7 +36,7 @@ std::size_t LibraryLots(CSymbolTableMgr& tables, const std::vector<CString>& ids
   return found;
 }
 
-// A map hands its text over as the library does: into a string of the caller's.
+// A map copies its text into the caller's string, as the library does.
 template <typename Map> std::size_t MapTexts(const Map& map, const std::vector<std::string>& ids) {
   std::string value;
   std::size_t found = 0;
@@ -50,7 +50,7 @@ template <typename Map> std::size_t MapTexts(const Map& map, const std::vector<s
   return found;
 }
 
-// For a number the text need not be handed over.
+// For a number no text is copied.
 template <typename Map> std::size_t MapHits(const Map& map, const std::vector<std::string>& ids) {
   std::size_t found = 0;
   for (const std::string& id : ids) {
@@ -60,8 +60,8 @@ template <typename Map> std::size_t MapHits(const Map& map, const std::vector<st
   return found;
 }
 
-// What the library does with a bare code: it asks every default exchange, and answers when exactly
-// one of them has the code.
+// How the library looks up a bare code: it asks every default exchange and answers if exactly one
+// has the code.
 template <typename Map>
 std::size_t MapBare(const Map& map, const std::vector<std::string>& codes,
                     const std::vector<std::string>& suffixes) {

@@ -1,4 +1,4 @@
-// Look-ups of symbols over hash maps that hold the same text.
+// Symbol look-ups compared with hash maps of the same texts.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace bench {
 
-// `market` is the one that the services have at the moment.
+// `market` is what the services currently serve.
 void MeasureLookUps(Report& report, const standin::Market& market, std::size_t repetitions);
 
 } // namespace bench

@@ -1,4 +1,4 @@
-// The hash maps that look-ups are held against.
+// The hash maps that look-ups are compared with.
 #pragma once
 
 #include <boost/unordered/unordered_flat_map.hpp>
@@ -11,7 +11,7 @@ namespace bench {
 
 struct TextHash {
   using is_transparent = void;
-  using is_avalanching = void; // the flat map then takes the hash as it is
+  using is_avalanching = void; // tells the flat map not to mix the hash again
   std::size_t operator()(std::string_view text) const noexcept {
     return std::hash<std::string_view>{}(text);
   }

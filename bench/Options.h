@@ -1,4 +1,4 @@
-// What the program is told on its command line.
+// The command line of the program.
 #pragma once
 
 #include <string>
@@ -6,10 +6,10 @@
 namespace bench {
 
 struct Options {
-  std::string listings;  // a real market's listing file; empty: that universe is left out
+  std::string listings;  // a real market's listing file; empty: not measured
   std::string directory; // where list files are written; empty: beside the program
-  bool hostile = false;  // only what is meant to make the library slow
-  bool quick = false; // small universes and few repetitions: shows that it runs, says nothing else
+  bool hostile = false;  // only the part that is meant to make the library slow
+  bool quick = false;    // small universes, few repetitions: only shows that everything runs
 };
 
 bool ParseOptions(int argc, char** argv, Options& options, std::string& error);

@@ -9,11 +9,10 @@
 namespace bench {
 namespace {
 
-// No code of a universe begins with it.
+// No code of a universe begins with this.
 constexpr char kUnusedLetter = '#';
 
-// In memory in the order in which they are asked, so that reading a query costs neither side a
-// cache miss.
+// Stored in the order of the queries, so that reading a query causes no cache miss on either side.
 Query MakeQuery(std::vector<std::string> texts) {
   constexpr unsigned kSeed = 20;
   std::shuffle(texts.begin(), texts.end(), std::mt19937(kSeed));

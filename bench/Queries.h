@@ -1,4 +1,4 @@
-// What is looked up: every symbol of a market once, in random order, the same order for all.
+// The queries: every symbol of a market once, in the same random order for library and peers.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 
 namespace bench {
 
-// The same texts for the library and for a peer.
+// The same texts for the library and a peer.
 struct Query {
   std::vector<CString> ids;
   std::vector<std::string> texts;
@@ -18,9 +18,9 @@ struct Query {
 struct Queries {
   Query full;                        // full ids of all symbols
   Query bare;                        // bare codes of the symbols of the default exchanges
-  Query missing;                     // full ids that no exchange has
+  Query missing;                     // full ids that no exchange lists
   std::vector<int> defaults;         // the default exchanges' ids
-  std::vector<std::string> suffixes; // "." and the name of each
+  std::vector<std::string> suffixes; // "." and the name of each of them
 };
 
 Queries MakeQueries(const standin::Market& market);

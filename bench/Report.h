@@ -1,4 +1,4 @@
-// The table that the program prints: one row for each figure, with what it is to reach beside it.
+// The printed table: one row for each figure, with its goal.
 #pragma once
 
 #include <cstddef>
@@ -9,28 +9,29 @@
 
 namespace bench {
 
-// Instead of a goal: the figure is shown and not judged.
+// In place of a goal: the figure is shown and not judged.
 inline constexpr double kNoGoal = -1;
 
 class Report {
 public:
-  // Opens a part of the table.
+  // Begins a part of the table.
   void Section(const std::string& title);
-  // Library over peer, at most `goal`. `operations` is how many a repetition did, for the times.
+  // Library over peer, with a goal of at most `goal`. `operations` is the number in a repetition,
+  // for the times shown.
   void Ratio(const std::string& what, const Figure& figure, double goal,
              std::size_t operations = 1);
-  // A plain number, at most `goal`.
+  // A plain number, with a goal of at most `goal`.
   void Number(const std::string& what, double value, const std::string& unit, double goal);
-  // Opens a part of the table with rows of Growth.
+  // Begins a part of the table for rows of Growth.
   void GrowthSection(const std::string& title);
-  // Seconds of each item at three sizes, and how many times those of the first size the last one
-  // has: 1 when time grows as the size does.
+  // Seconds per item at three sizes, and the last of them over the first: 1 when the work is
+  // linear.
   void Growth(const std::string& what, const std::vector<std::size_t>& sizes,
               const std::vector<double>& each);
-  // A wrong answer: its figures say nothing. The program ends with a failure.
+  // Marks a wrong answer: the figures are void, and the program ends with a failure.
   void Wrong(const std::string& what);
 
-  // Prints how many figures reached their goal. Returns the program's exit status.
+  // Prints how many figures reach their goals. Returns the exit status of the program.
   int Finish() const;
 
 private:

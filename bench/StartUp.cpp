@@ -15,12 +15,13 @@ namespace {
 constexpr double kGoalRatio = 1.5;
 constexpr double kGoalBytes = 256;
 
-// Without a data directory, so that no file is read or written.
+// Without a data directory no file is read or written.
 bool InitManager(CTQSymbolListMgr& manager) {
   return manager.Init("", 0, 1, 0, nullptr, 0, 0) != 0;
 }
 
-// Calls visit(key) for each of the service's records that sets a key up, and returns their number.
+// Calls visit(key) for each record of the service that can be set up as a key, and returns their
+// number.
 template <typename Visit> std::size_t ForEachRecord(Visit visit) {
   std::size_t usable = 0;
   ExchInfo* exchanges = nullptr;
@@ -43,12 +44,12 @@ template <typename Visit> std::size_t ForEachRecord(Visit visit) {
   return usable;
 }
 
-// What a start-up cannot do without: the service's records, each set up once.
+// The least that a start-up takes: receiving the service's records and setting each up once.
 std::size_t ReceiveRecords() {
   return ForEachRecord([](const CStaticKey&) {});
 }
 
-// The same, and every attribute that a table holds read once, into room that is there already.
+// The same, and reading each attribute that a table keeps into memory that is already allocated.
 std::size_t ReadRecords() {
   constexpr int kTexts[] = {FieldSymbolName, FieldMark,        FieldLegExchange,
                             FieldIndustry,   FieldUnderlying,  FieldContractMonth,
@@ -67,9 +68,9 @@ std::size_t ReadRecords() {
   });
 }
 
-// A start-up happens once in a process. So each is measured in a process of its own, where memory
-// comes from the system and not from what an earlier repetition left behind. Negative when `work`
-// returned false or the process failed.
+// A start-up happens once in a process, so each is measured in a new process, whose memory comes
+// from the system and not from an earlier repetition. Negative when `work` returns false or the
+// process fails.
 template <typename Work> double InOwnProcess(Work work) {
   int ends[2];
   if (pipe(ends) != 0)
@@ -100,7 +101,7 @@ void MeasureTime(Report& report, std::size_t symbols, std::size_t repetitions) {
   };
   const auto library = [&] {
     return checked(InOwnProcess([] {
-      auto* manager = new CTQSymbolListMgr; // the process ends before it does
+      auto* manager = new CTQSymbolListMgr; // never deleted: the process ends first
       return InitManager(*manager);
     }));
   };
@@ -116,7 +117,7 @@ void MeasureTime(Report& report, std::size_t symbols, std::size_t repetitions) {
     report.Wrong("Init");
 }
 
-// What the tables hold once the service's arrays are released.
+// What the tables hold after the service's arrays are released.
 void MeasureMemory(Report& report, std::size_t symbols) {
   const std::size_t before = HeapInUse();
   CSymbolTableMgr tables;

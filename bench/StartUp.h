@@ -1,4 +1,4 @@
-// Start-up: the library's initialisation over only receiving what it is made from.
+// Start-up: initialising the library compared with only receiving its input.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,7 @@
 
 namespace bench {
 
-// On the market that the services have at the moment, of `symbols` symbols.
+// On the market that the services currently serve, which has `symbols` symbols.
 void MeasureStartUp(Report& report, std::size_t symbols, std::size_t repetitions);
 
 } // namespace bench

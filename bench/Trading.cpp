@@ -20,8 +20,8 @@ constexpr char kSystem[] = "T";
 
 using IdSet = boost::unordered_flat_set<std::string_view, TextHash, std::equal_to<>>;
 
-// One trading system. The accounts know no exchange, so that a login does not wait for symbol
-// records; merging never asks for them.
+// One trading system. Its accounts have no exchange, so that a login resolves no symbols; merging
+// never does.
 standin::Market MakeAccounts(const std::vector<std::string>& ids, std::size_t accounts,
                              std::size_t positions) {
   constexpr unsigned kSeed = 33;
@@ -38,7 +38,7 @@ standin::Market MakeAccounts(const std::vector<std::string>& ids, std::size_t ac
   return market;
 }
 
-// The same with a library's hash set.
+// The same with a standard hash set.
 std::string Merge(const standin::TradingSystem& system) {
   IdSet seen;
   std::string merged;

@@ -57,7 +57,7 @@ standin::Instrument FromLine(const Line& line, int exchId) {
   return instrument;
 }
 
-// Three shapes of codes. Each has the whole of `number` in it, so no two are equal.
+// Three shapes of codes. Each contains the whole `number`, so all are different.
 standin::Instrument Generated(unsigned number, int exchId) {
   constexpr unsigned kFive = 100000;
   standin::Instrument instrument;

@@ -14,13 +14,12 @@ struct Universe {
   standin::Market market;
 };
 
-// A real market's listing file: UTF-8, tab-separated, a first line of column names, then one line
-// for each listing with exchange, code, name, type and industry. False with a reason when it cannot
-// be read.
+// A listing file: UTF-8, tab-separated, with a line of column names and then a line for each
+// listing with exchange, code, name, type and industry. False with a reason when it cannot be read.
 bool ReadListings(const std::string& path, Universe& universe, std::string& error);
 
-// `count` symbols, spread evenly over 20 exchanges of which three are the user's default ones:
-// shares, warrants and options by the shape of their codes, each code once in the whole market.
+// `count` symbols, spread evenly over 20 exchanges, three of which are default exchanges. By the
+// shape of their codes they are shares, warrants and options; each code is unique in the market.
 Universe GenerateUniverse(std::size_t count);
 
 // Full ids ("2330.TW") in the service's order.

@@ -1,5 +1,5 @@
-// Measures the library against what the same work costs elsewhere and prints one table of ratios.
-// docs/benchmarks.md says what stands behind each row.
+// Compares the library with peers that do the same work and prints one table of ratios.
+// docs/benchmarks.md explains every row.
 #include <cstdio>
 #include <filesystem>
 #include <string>

@@ -11,7 +11,7 @@
 namespace tq {
 namespace {
 
-// "changed", in Big5 on every system: whoever reads the logs looks for these bytes.
+// "changed", in Big5 on every system: readers of the logs look for these bytes.
 #define TQ_CHANGED " \xA7\xF3\xB0\xCA SymbolList!!"
 
 struct ChangeLines {
@@ -35,8 +35,8 @@ void Report(const char* line, long code, const char* reason) {
   Notify(code, reason);
 }
 
-// By position: lists that changed places count as renamed, as the terminal's pages go by position
-// too.
+// Compares by position, since the terminal's pages refer to lists by position: lists that swapped
+// places count as renamed.
 bool NamesDiffer(const WorkingCopy& stored, const WorkingCopy& copy) {
   if (stored.Count() != copy.Count())
     return false;
@@ -94,7 +94,7 @@ void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) 
   if (!manager.IsModifyList(&lists, copy.DefaultIndex()))
     return;
   const bool nameChanged = NamesDiffer(WorkingCopy(manager, kUserLists), copy);
-  manager.SetDefaultIndex(copy.DefaultIndex()); // brought into range by what follows
+  manager.SetDefaultIndex(copy.DefaultIndex()); // SetSymbolList brings it into range
   StoreAndSave(manager, lists);
   copy.Clear();
   ReportChange(kListLines, kNotifyUserLists, manager.GetSymbolListCount(kUserLists) != countBefore,
@@ -117,7 +117,7 @@ void CommitCloudLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBef
 void CommitAddedSymbols(CTQSymbolListMgr& manager, WorkingCopy& copy) {
   if (StoreIfModified(manager, copy))
     Report(kSymbolAddLine, kNotifySymbols, "");
-  // In every case: the terminal draws its pages anew when this dialog has closed, changed or not.
+  // Always: the terminal redraws its pages when this dialog has closed, changed or not.
   Notify(kNotifyUserLists, "");
 }
 

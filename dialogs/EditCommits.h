@@ -1,8 +1,8 @@
-// What happens to a working copy when its dialog has closed: comparing it with what is stored,
-// storing, saving, a line in the log, and telling the terminal. Dialogs write to the manager's
-// lists nowhere else.
+// Commits a working copy after its dialog has closed: compares it with the stored lists, stores and
+// saves it, writes a line in the log, and notifies the terminal. Dialogs change the manager's lists
+// nowhere else.
 //
-// A save that fails shows its message and is told to the terminal all the same, for the lists in
+// A failed save shows its message, and the terminal is notified all the same, because the lists in
 // memory have changed. The log lines name the operation that opened the dialog; their text is Big5,
 // byte for byte, whatever the terminal's language.
 #pragma once
@@ -14,33 +14,32 @@ class CTQSymbolListMgr;
 namespace tq {
 
 // The list editor (DoSymbolListUI). `countBefore` is the number of user lists when it was opened.
-// Nothing happens when the copy does not differ. Otherwise the terminal gets code 40 with
-// "ListCntChange" when the number of lists is another one now, else "ListNameChange" when one of
-// them has another name than the one that stood in its place, else "". The copy is empty
-// afterwards.
+// Does nothing when the copy does not differ. Otherwise sends code 40 with "ListCntChange" if the
+// number of lists has changed, else "ListNameChange" if a name at any position has changed, else
+// "". Empties the copy.
 void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore);
 
-// The cloud list editor (DoCloudSymbolListUI): the same with the cloud lists and code 41. Nothing
-// is saved; each list goes into the cloud map as well.
+// The cloud list editor (DoCloudSymbolListUI): the same for the cloud lists, with code 41. Nothing
+// is saved; each list is also put into the cloud map.
 void CommitCloudLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore);
 
-// Adding symbols to a list (DoSymbolAddUI): a change is stored, saved and told with code 4. Code 40
-// is told in every case.
+// Adding symbols to a list (DoSymbolAddUI): a change is stored, saved and sent with code 4. Code 40
+// is always sent.
 void CommitAddedSymbols(CTQSymbolListMgr& manager, WorkingCopy& copy);
 
-// Adding one symbol to lists (DoGroupSymbolAdd): a change is stored, saved and told with code 40.
+// Adding one symbol to lists (DoGroupSymbolAdd): a change is stored, saved and sent with code 40.
 void CommitSymbolAddedToLists(CTQSymbolListMgr& manager, WorkingCopy& copy);
 
-// The content editor on one list (DoGroupListUI): stores the edited list in the place of the one
-// with its identifier and saves, without telling the terminal. False, and nothing happens, when
-// there is no such list or it is the same.
+// The content editor of one list (DoGroupListUI): replaces the list with the same identifier and
+// saves, without notifying the terminal. Returns false and does nothing when there is no such list
+// or it is unchanged.
 bool CommitEditedList(CTQSymbolListMgr& manager, const CSymbolList& edited);
 
-// The same with a cloud list (DoCloudGroupListUI): stored in the cloud lists and in the cloud map;
-// then the cloud groups are loaded anew. Nothing is saved.
+// The same for a cloud list (DoCloudGroupListUI), which is put into the cloud lists and the cloud
+// map; then the cloud groups are reloaded. Nothing is saved.
 bool CommitEditedCloudList(CTQSymbolListMgr& manager, const CSymbolList& edited);
 
-// The selection dialog (DoSelectUI) has changed lists itself: the log line, and code 40.
+// The selection dialog (DoSelectUI) changes lists itself: writes the log line and sends code 40.
 void ReportChangedBySelection();
 
 } // namespace tq

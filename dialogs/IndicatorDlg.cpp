@@ -10,7 +10,7 @@
 namespace tq {
 namespace {
 
-constexpr int kRegions = 761; // the search for commodities has none: all regions are meant
+constexpr int kRegions = 761; // absent in the search for commodities, which shows all regions
 constexpr int kCategories = 762;
 constexpr int kList = 781;
 
@@ -20,7 +20,7 @@ constexpr unsigned kAllCategories = 48202;
 
 constexpr unsigned kHoverMilliseconds = 10;
 
-// The number of the region or category that is chosen.
+// The number of the chosen region or category.
 int ChoiceOf(const CComboBox& combo) {
   return std::max(combo.GetCurSel(), IndicatorTable::kAll);
 }
@@ -53,8 +53,8 @@ bool IndicatorDlg::OnInitDialog() {
   return true;
 }
 
-// Tables begin with the region that their users ask for most. A row that the terminal asks for is
-// to be seen.
+// Tables begin with the region that users ask for most. A row that the terminal asks for must be
+// visible.
 int IndicatorDlg::StartRegion(int input) const {
   if (input != IndicatorTable::kNoRow)
     return table_.RegionOf(input);
@@ -108,7 +108,7 @@ void IndicatorDlg::SelectRow(int row) {
   }
 }
 
-// Enter chooses nothing: the dialog would close as if a row had been double-clicked.
+// Enter chooses nothing: closing with OK would look like a double-click.
 void IndicatorDlg::OnOK() {}
 
 void IndicatorDlg::OnCommand(int id, ControlEvent event) {

@@ -1,8 +1,8 @@
-// The search for an indicator: a list of what the stock library knows, narrowed down by region and
-// category. It opens on the first region of the table. A double-click on a row chooses it and
-// closes the dialog; whichever other way it closes, nothing was chosen. Three dialogs derive from
-// this one. They differ in template, title of the list and table; the template for commodities has
-// no box of regions, and shows those of all.
+// The search for an indicator: a list of the stock library's indicators, filtered by region and
+// category. It opens on the first region of the table. A double-click chooses a row and closes the
+// dialog; closing it in any other way chooses nothing. The three dialogs derived from this class
+// differ in template, list title and table; the template for commodities has no box of regions and
+// shows all of them.
 #pragma once
 
 #include <optional>
@@ -12,13 +12,13 @@
 
 namespace tq {
 
-// Texts that the dialog was opened with: codes or names.
+// The texts that the dialog is opened with: codes or names.
 using IndicatorInputs = std::vector<CString>;
 
 class IndicatorDlg : public CDialog {
 public:
-  // Runs the dialog and returns its end code. The texts of the row are written when one was chosen,
-  // and not touched otherwise; a null `market` is not wanted.
+  // Runs the dialog and returns its end code. The outputs are written only when a row was chosen;
+  // `market` may be null.
   int Search(CString& name, CString& code, CString* market = nullptr);
 
 protected:
@@ -27,8 +27,7 @@ protected:
     unsigned columnTitle; // an entry of the string table
     InfoType table;
   };
-  // The row that the first of the inputs means is selected at the start, in its own region; when
-  // there is none, that of the next, and so on.
+  // The first input that names a row selects it initially, in the row's own region.
   IndicatorDlg(const Kind& kind, const CWnd& parent, IndicatorInputs inputs);
 
   bool OnInitDialog() override;

@@ -6,14 +6,14 @@
 namespace tq {
 namespace {
 
-// Terminals ask for this text: do not translate it.
+// Terminals compare with this text: do not translate it.
 constexpr char kNoName[] = "Undefined";
 
 CString ColumnOf(const CStringArray& columns, int column) {
   return column < columns.GetSize() ? columns[column] : CString();
 }
 
-// Gives each new text the next number.
+// Numbers each new text consecutively.
 class Numbering {
 public:
   explicit Numbering(CStringArray& texts) : texts_(texts) {}
@@ -47,7 +47,8 @@ IndicatorTable::IndicatorTable(const CPtrArray& rows) : rows_(static_cast<size_t
 }
 
 IndicatorTable IndicatorTable::Read(InfoType type) {
-  // The rows are copied at once: the terminal may ask for another table while the search is open.
+  // The rows are copied at once because the terminal may ask for another table while the search is
+  // open.
   CPtrArray rows;
   return CStockKey::GetInfoArray(type, rows) != 0 ? IndicatorTable(rows) : IndicatorTable();
 }

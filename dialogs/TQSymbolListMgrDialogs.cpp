@@ -1,5 +1,5 @@
-// The operations that open dialogs. Each puts the library's resources in force while it runs, and
-// converts the terminal's window handle.
+// The operations that open dialogs. Each one activates the library's resources while it runs, and
+// wraps the terminal's window handle.
 #include "dialogs/IndicatorSearches.h"
 #include "dialogs/resources/DialogTable.h"
 #include "manager/TQSymbolListMgr.h"

@@ -4,8 +4,9 @@
 
 namespace {
 
-// The logging library is held by this one: on Windows by its import, on POSIX by the names that it
-// was asked for. When this library alone goes, all threads run and the logger can be destroyed.
+// This library keeps the logging library loaded: on Windows by its import, on POSIX by the symbols
+// that it resolved. While only this library is unloaded, all threads run, and the logger can be
+// destroyed.
 const tq::LibraryApp<CTqSymbolApp> theApp;
 
 } // namespace

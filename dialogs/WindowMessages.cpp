@@ -16,7 +16,7 @@ constexpr const char* kNames[kTerminalMessages] = {"KORVANT_Msg",
                                                    "KORVANT_QuotePaneSignalUI",
                                                    "KORVANT_DDE"};
 
-// Made when the library is loaded.
+// Registered when the library is loaded.
 const struct Numbers {
   Numbers() {
     for (int i = 0; i < kTerminalMessages; ++i)

@@ -1,17 +1,16 @@
-// The window messages by which the terminal's libraries know each other. Every library of the
-// terminal registers all of them when it is loaded, whether or not it uses them: so their numbers
-// exist, and are the same, before the first window is there. This library's dialogs send none of
-// them: they talk to the terminal through TQSCall alone.
+// The window messages that the terminal's libraries share. Each library registers all of them when
+// it is loaded, even if it uses none, so that the numbers exist before the first window does. This
+// library's dialogs send none of them: they notify the terminal through TQSCall alone.
 #pragma once
 
 namespace tq {
 
-// Positions in the table; the names are known outside of the library, do not change.
+// Positions in the table. The names are public: do not change them.
 enum class TerminalMessage {
   General,         // "KORVANT_Msg"
   Posted,          // "KORVANT_PostMsg"
   AlertGrid,       // "KORVANT_AlertGrid"
-  AlertListGroup,  // "KORVANT_AlertListGrou": cut short so when it was introduced
+  AlertListGroup,  // "KORVANT_AlertListGrou": cut short when it was introduced
   AlertHistory,    // "KORVANT_AlertHistDlg"
   SymbolAlerts,    // "KORVANT_SymbolAlertMgr"
   MatchGrid,       // "KORVANT_TSMatchGrid"
@@ -22,7 +21,7 @@ enum class TerminalMessage {
 inline constexpr int kTerminalMessages = 10;
 
 const char* TerminalMessageName(TerminalMessage message);
-// The number under which it was registered when the library was loaded.
+// The number that was registered for it when the library was loaded.
 unsigned TerminalMessageNumber(TerminalMessage message);
 
 } // namespace tq

@@ -1,4 +1,4 @@
-// The lists that a dialog edits: copies of the manager's, which nobody else sees until they are
+// The lists that a dialog edits: copies of the manager's, invisible to others until they are
 // committed.
 #pragma once
 

@@ -1,5 +1,5 @@
-// Services that fail, or answer what no service should: arrays of no size or less, records whose
-// texts do not end, groups that hold themselves. Until the services are reset.
+// Services that fail or answer what no service should: arrays of size zero or less, texts without a
+// NUL, groups that contain themselves. In force until the services are reset.
 #pragma once
 
 #include <cstring>
@@ -38,7 +38,7 @@ inline constexpr std::array kServices = {"VLGetExch",
                                          "tqShowDllMessage",
                                          "tqStockGetFieldString"};
 
-// Records that are one text each, as long as the record: of the input, or without an end.
+// Records of arbitrary bytes, whose texts may lack a NUL.
 template <typename Record> std::vector<Record> OddRecords(SequenceReader& input) {
   std::vector<Record> records(1 + input.Byte() % 3);
   for (Record& record : records) {
@@ -49,7 +49,7 @@ template <typename Record> std::vector<Record> OddRecords(SequenceReader& input)
   return records;
 }
 
-// What an answer of so many records claims; never more than there are.
+// The claimed count for an answer of so many records; never more than there are.
 inline int ClaimFor(SequenceReader& input, std::size_t size) {
   const int count = static_cast<int>(size);
   return input.One(std::array{count, count - 1, 0, -1, kLeast});
@@ -82,14 +82,14 @@ inline void AnswerOddSymbols(SequenceReader& input) {
   standin::AnswerMembers(1, "CHIP", std::move(symbols), count);
 }
 
-// Takes all orders to fail back.
+// Withdraws all orders to fail.
 inline void StopFailing() {
   for (const char* service : kServices)
     standin::FailCall(service, 0);
 }
 
-// Makes one change for the worse, or for the better, or none; `refuse` becomes whether files can be
-// written no more.
+// Makes one change for the worse or for the better, or none. Sets `refuse` if files can no longer
+// be written.
 inline void ChangeServices(SequenceReader& input, bool& refuse) {
   switch (input.Byte() % 16) {
   case 1:

@@ -1,4 +1,4 @@
-// libFuzzer's way into IdStringInput.h.
+// libFuzzer's entry to IdStringInput.h.
 #include "fuzz/IdStringInput.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// Any bytes as the id string of a list: how it is split, what is asked of the service, and the rows
-// that come of it. What the text means is worked out here once more, the plain way.
+// Any bytes as the id string of a list: how it is split, what the service is asked for, and which
+// rows result. The expected result is computed here a second time, in the plainest way.
 #pragma once
 
 #include <cstring>
@@ -75,8 +75,8 @@ inline std::string CheckSplitting(std::string_view ids) {
   return "";
 }
 
-// The rows in order must each be that of a later token than the row before: a heading's, or the one
-// whose id the record bears. The service reads an id up to a NUL, and so does this.
+// In order, each row must belong to a later token than the row before: a heading, or a record with
+// the token's id. The service reads an id up to a NUL, and so does this check.
 inline std::string CheckRows(CIDList& list) {
   const CStringArray& tokens = list.GetTokens();
   const int rows = list.GetCount();
@@ -119,7 +119,7 @@ inline std::string CheckList(const CString& text) {
   return CheckRows(copy);
 }
 
-// The service's own records, handed back to a list.
+// Gives the service's own records back to a list.
 inline std::string CheckAdopting(const CString& ids) {
   SymbolInfo* records = nullptr;
   int count = 0;

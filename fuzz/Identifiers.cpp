@@ -1,4 +1,4 @@
-// libFuzzer's way into IdentifiersInput.h.
+// libFuzzer's entry to IdentifiersInput.h.
 #include "fuzz/IdentifiersInput.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// Any bytes as an identifier that a person or a settings file may hold: a typed combination, a
-// list's identity in both text forms, an id with its kind.
+// Any bytes as an identifier from a person or a settings file: a typed combination, an identity of
+// a list in both text forms, an id with its kind.
 #pragma once
 
 #include <string>
@@ -27,9 +27,9 @@ inline bool HasPlainStrike(const CString& code) {
   return true;
 }
 
-// What passes a check is one of the forms that the exchange takes, so the same without a check must
-// come out alike (strikes of digits given: "100.0" is a number, but not taken for one there), and
-// the legs can be described.
+// A text that passes the check is in a form that the exchange takes. So the result without a check
+// must be the same (for strikes in digits; "100.0" is a number that the check does not accept), and
+// its legs can be described.
 inline std::string CheckSeparated(const CString& text) {
   COptFutID id;
   CString legs[4] = {"-", "-", "-", "-"};
@@ -54,7 +54,7 @@ inline std::string CheckSeparated(const CString& text) {
              : "a good combination has no description";
 }
 
-// Descriptions of whatever stands on both sides of the first blank.
+// The descriptions of the texts on both sides of the first blank.
 inline std::string CheckMerged(std::string_view bytes) {
   const std::size_t blank = bytes.find(' ');
   const CString id1 = WholeText(bytes.substr(0, blank));
@@ -74,8 +74,8 @@ inline std::string CheckMerged(std::string_view bytes) {
   return "";
 }
 
-// A valid identity, written and read, is the same. Type 0 is written as another, type 4 with a
-// label.
+// A valid identity that is written and read again is the same. Type 0 is written as another type,
+// type 4 with a label.
 inline std::string CheckListID(const CString& text) {
   CListID list;
   CListID again;
@@ -112,7 +112,7 @@ inline std::string CheckConverted(const CString& text) {
 
 inline std::string CheckIdentifiers(const unsigned char* data, std::size_t size) {
   const std::string_view bytes = Begin(data, size);
-  // Identities are read from settings, which have no NULs; combinations may be anything.
+  // Identities come from settings, which hold no NUL; combinations may be any bytes.
   const CString text(std::string(bytes).c_str());
   std::string broken = CheckSeparated(WholeText(bytes));
   if (broken.empty())

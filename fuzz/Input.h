@@ -1,8 +1,8 @@
-// What the inputs of all fuzzers have in common. A fuzzer feeds them bytes that it makes up; the
-// unit tests feed them the checked-in ones, on every platform.
+// What the inputs of all fuzzers share. A fuzzer generates bytes; the unit tests replay the
+// checked-in ones on every platform.
 //
 // The first byte of an input chooses the interface language (bit 0 set: Traditional Chinese), the
-// rest is what is fuzzed. A check returns what does not hold, in words, or an empty text.
+// rest is the fuzzed input. A check returns the broken property in words, or an empty text.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@
 
 namespace fuzz {
 
-// A few symbols for the ids of inputs to hit.
+// A few symbols that the ids of an input can name.
 inline standin::Market SmallMarket() {
   standin::Market market;
   market.exchanges = {{1, "TW", "TW", "TW"}, {2, "TE", "TE", "TE"}, {10, "NYSE", "NYSE", "NYSE"}};
@@ -30,22 +30,21 @@ inline standin::Market SmallMarket() {
   return market;
 }
 
-// To be called before the first input: puts the stand-in services into the state that inputs
-// expect.
+// Call this before the first input: it sets the stand-in services up as the inputs expect them.
 inline void PrepareServices() {
   standin::Reset();
   standin::RecordCalls(false);
   standin::SetMarket(SmallMarket());
 }
 
-// Sets the interface language and returns the bytes behind the first.
+// Sets the interface language and returns the remaining bytes.
 inline std::string_view Begin(const unsigned char* data, std::size_t size) {
   standin::SetTraditional(size > 0 && (data[0] & 1) != 0);
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   return bytes.substr(size > 0 ? 1 : 0);
 }
 
-// What the services must not have seen when an input is done with.
+// What the services must not have seen after an input.
 inline std::string EndOfServices() {
   if (standin::OutstandingArrays() != 0)
     return "a service's array was not released";

@@ -1,4 +1,4 @@
-// libFuzzer's way into ListFileInput.h.
+// libFuzzer's entry to ListFileInput.h.
 #include "fuzz/ListFileInput.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// Any bytes as a list file: loading them must end well, and what the manager saves then must be
-// loaded as the same lists and saved as the same bytes.
+// Any bytes as a list file: loading must end well, and what the manager saves afterwards must load
+// as the same lists and save as the same bytes.
 #pragma once
 
 #include <cstring>
@@ -15,21 +15,21 @@ namespace fuzz {
 inline constexpr int kUserLists = 1;
 inline constexpr const char* kDirectory = "memory";
 
-// A list as it is in memory, whatever its identifier: several may bear one.
+// A list in memory. Several may have the same identifier.
 struct ListState {
   std::string id, name, ids;
   int rows = 0;
   bool operator==(const ListState&) const = default;
 };
 
-// Nothing is escaped on saving, so these do not survive it, nor do line ends and tabs, which a file
-// can hold as character references only.
+// Saving escapes nothing, so these characters do not survive it. Nor do line ends and tabs, which a
+// file can hold only as character references.
 inline bool SurvivesSaving(const std::string& text) {
   return text.find_first_of("'&<\t\n\r") == std::string::npos;
 }
 
-// The lists by position; GetSymbolList finds the first of an identifier, so a list behind another
-// of the same one is told by its name alone.
+// The lists by position. GetSymbolList finds only the first list of an identifier, so later ones
+// are known by name alone.
 inline std::string ReadLists(CTQSymbolListMgr& manager, std::vector<ListState>& states) {
   const int count = manager.GetSymbolListCount(kUserLists);
   for (int i = 0; i < count; ++i) {

@@ -1,4 +1,4 @@
-// A file system in memory, so that no fuzzer touches the disk: the list file, and copies of it.
+// A file system in memory for the list file and its copies, so that no fuzzer touches the disk.
 #pragma once
 
 #include <map>
@@ -9,7 +9,7 @@
 
 namespace fuzz {
 
-// Takes the place of the library's files while it lives.
+// Replaces the library's files during its lifetime.
 class MemoryFiles : public tq::FileAccess {
 public:
   explicit MemoryFiles(std::string bytes)

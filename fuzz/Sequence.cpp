@@ -1,4 +1,4 @@
-// libFuzzer's way into SequenceInput.h.
+// libFuzzer's entry to SequenceInput.h.
 #include "fuzz/SequenceInput.h"
 
 #include <cstdio>
@@ -6,7 +6,7 @@
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
   operations::PrepareServices();
-  standin::FailAlways("TQLog::storage"); // once for all: no fuzzer writes to the disk
+  standin::FailAlways("TQLog::storage"); // no fuzzer writes log files
   const operations::Subject first;
   return 0;
 }

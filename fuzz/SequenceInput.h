@@ -1,6 +1,6 @@
-// Any bytes as a sequence of operations of the interface, each with arguments of its own, services
-// that turn hostile on the way, and operations called from within services: whatever comes, the
-// lists are whole in the end, and what is saved loads again as the same lists.
+// Any bytes as a sequence of operations of the interface with their arguments, services that turn
+// hostile on the way, and operations called from within services. In the end the lists must be
+// whole, and what is saved must load again as the same lists.
 #pragma once
 
 #include <string>
@@ -46,7 +46,7 @@ private:
     callsToNested_ = before;
   }
 
-  // The terminal handles a message in the call that the step before it chose.
+  // The terminal handles a message inside the service call that the previous step chose.
   void OnCall() {
     if (depth_ == 0 || depth_ > kDeepest || callsToNested_ == 0 || --callsToNested_ != 0 ||
         input_.IsDone() || steps_ >= kMostSteps)

@@ -1,5 +1,5 @@
-// Bytes as choices: which operation, with which arguments. Behind the end of the input everything
-// is zero, the plainest choice.
+// Reads bytes as choices of operations and arguments. Past the end of the input every byte is zero,
+// the plainest choice.
 #pragma once
 
 #include <array>
@@ -26,7 +26,7 @@ public:
     at_ += raw.size();
     return raw;
   }
-  // One of the choices, or what stands in the input; may have NULs and anything else.
+  // One of the given texts, or text from the input, which may hold any bytes.
   template <std::size_t N> CString Text(const std::array<const char*, N>& choices) {
     const unsigned choice = Byte();
     if (choice < 0x80)

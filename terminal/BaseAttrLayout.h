@@ -1,5 +1,5 @@
-// What the stand-in VLProxy writes into a BaseAttr and the stand-in tqStock reads out of it. To
-// everybody else these bytes are the service's own.
+// The layout of a BaseAttr, which the stand-in VLProxy writes and the stand-in tqStock reads. To
+// everybody else these bytes are private to the service.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@ namespace standin {
 
 #pragma pack(push, 1)
 
-// The beginning of a BaseAttr; the bytes behind it stay zero.
+// The beginning of a BaseAttr; the remaining bytes are zero.
 struct BaseAttrHead {
   short exchId;          // the exchange's number
   char code[20];         // bare code
@@ -23,7 +23,7 @@ struct BaseAttrHead {
   short board;           // field 111
   short legExchId;       // field 113 as a number
   char unused[5];        //
-  short usable;          // 0: refused by CStaticKey::Setup
+  short usable;          // 0: CStaticKey::Setup refuses the record
   char exchangeCode[20]; // field 184
   char legExchName[20];  // field 113 as text
   char industry[32];     // field 155

@@ -1,4 +1,4 @@
-// The library's dialog templates and strings, as the entry operations put them in force:
+// The library's dialog templates and strings. The entry operations activate them by:
 //   tq::ResourceContext context(tq::LibraryResources());
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace tq {
 
-// In the terminal's interface language of this moment.
+// In the current interface language of the terminal.
 Resources LibraryResources();
 
 } // namespace tq

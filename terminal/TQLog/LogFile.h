@@ -1,4 +1,4 @@
-// What a logger needs of the file system. Paths are in the process's ANSI code page and joined by
+// The file system as a logger needs it. Paths are in the process's ANSI code page, joined by
 // backslashes.
 #pragma once
 
@@ -8,8 +8,8 @@
 
 namespace standin {
 
-// Opens a file of the directory for appending text lines that end in a bare line feed; the last
-// level of the directory is created when missing. Null when it cannot be opened.
+// Opens a file of the directory for appending text lines that end in LF. Creates the last level of
+// the directory if it is missing. Null on failure.
 std::FILE* OpenLogFile(const std::string& directory, const std::string& name);
 
 // Local time.

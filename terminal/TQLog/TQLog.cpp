@@ -26,7 +26,7 @@ Logger& Self(void* impl) {
   return *static_cast<Logger*>(impl);
 }
 
-// strftime's text of the moment.
+// The result of strftime for the moment.
 std::string TimeText(const char* format) {
   char text[32];
   const std::tm now = Now();

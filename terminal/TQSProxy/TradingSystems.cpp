@@ -29,7 +29,7 @@ const std::vector<TQS_ACCOUNTINFO>& Accounts(const char* tsId) {
       static_cast<std::size_t>(system - CurrentMarket().tradingSystems.data()));
 }
 
-// One of the records by the caller's index; false when there is no such record.
+// The record at the caller's index; false when there is none.
 template <class T> int GetRecord(const std::vector<T>& records, int index, T* record) {
   if (index < 0 || static_cast<std::size_t>(index) >= records.size())
     return 0;
@@ -37,7 +37,7 @@ template <class T> int GetRecord(const std::vector<T>& records, int index, T* re
   return 1;
 }
 
-// Whether a test put the system in the market's place: such a one is available.
+// Whether a test has replaced the system's record; the system is then available.
 bool IsAnswered(std::string_view tsId) {
   if (const Answer<TQS_TSINFO>* answer = AnsweredTradingSystems())
     for (const TQS_TSINFO& info : answer->records)

@@ -1,4 +1,4 @@
-// How an operation of VLProxy hands out an array.
+// How the operations of VLProxy hand out arrays.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +11,7 @@
 
 namespace standin {
 
-// Checks and empties the outputs; false when one is missing.
+// Checks and clears the outputs; false when one is missing.
 template <class T> bool ClearOutputs(T** list, int* count) {
   if (list)
     *list = nullptr;
@@ -41,7 +41,7 @@ template <class T> int HandOutCopy(std::span<const T> records, T** list, int* co
   return 1;
 }
 
-// Hands out what a test put in the market's place, with the count and the result that it wants.
+// Hands out the array, count and result that a test has set in place of the market's.
 template <class T> int HandOutAnswer(const Answer<T>& answer, T** list, int* count) {
   if (!HandOutCopy(std::span<const T>(answer.records), list, count))
     return 0;

@@ -1,4 +1,4 @@
-// VLProxy: contracts and what is known of them besides.
+// VLProxy: contracts and their extended attributes.
 #include <algorithm>
 #include <cstring>
 #include <span>
@@ -28,7 +28,7 @@ std::size_t FindContract(int exchId, const char* code) {
 
 } // namespace
 
-// The stand-in's own ids are the full ones.
+// The stand-in's own ids are full ids.
 int VLGetZUID(int exchId, const char* code, char* zuid) {
   const bool proceed = Begin("VLGetZUID", exchId, code);
   if (!proceed || !code || !zuid)

@@ -1,4 +1,4 @@
-// VLProxy: exchanges and what they list.
+// VLProxy: exchanges and their listings.
 #include <span>
 
 #include "platform/services/VLProxy.h"
@@ -10,10 +10,10 @@ using namespace standin;
 
 namespace {
 
-// The one section that the stand-in's exchanges have: all of it.
+// The stand-in's exchanges have a single section, which is everything.
 constexpr int kWholeExchange = -1;
 
-// What a call for (exchId, subId) is about; null when the exchange is not listed.
+// The exchange of a call for (exchId, subId); null when it is not listed.
 const ListingRange* Section(int exchId, int subId) {
   static constexpr ListingRange kNothing;
   const ListingRange* range = CurrentListings().OfExchange(exchId);

@@ -1,4 +1,4 @@
-// VLProxy: search by what a user types.
+// VLProxy: searches for what a user types.
 #include <vector>
 
 #include "platform/services/VLProxy.h"
@@ -17,7 +17,7 @@ char Fold(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// `start` is ASCII or part of a text that is not; codes are ASCII, so bytes may be compared.
+// Codes are ASCII, so comparing bytes is right even when `start` is not.
 bool BeginsWith(std::string_view code, std::string_view start) {
   if (start.size() > code.size())
     return false;
@@ -29,7 +29,7 @@ bool BeginsWith(std::string_view code, std::string_view start) {
 
 struct Wanted {
   std::string_view text; // as the service got it
-  std::string name;      // the same in UTF-8, in which no character holds a part of another
+  std::string name;      // the same in UTF-8, where no character contains part of another
   bool simplifiedToo;
 };
 

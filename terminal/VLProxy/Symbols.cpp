@@ -9,8 +9,8 @@ using namespace standin;
 
 namespace {
 
-// Hands out as many records as there are ids, of which the known ones are filled: the block is
-// sized before the ids are looked up, so each is looked up once.
+// The block has as many records as there are ids, and the known ones are filled. It is sized before
+// the ids are looked up, so each is looked up once.
 template <class T, class Find, class Write>
 int HandOutKnown(const char* ids, T** list, int* count, Find find, Write write) {
   if (!HandOut(CountTokens(ids), list, count))

@@ -1,4 +1,4 @@
-// Texts of ids joined by ",". Empty tokens are passed over.
+// Texts of ids joined by ",". Empty tokens are skipped.
 #pragma once
 
 #include <string_view>

@@ -19,8 +19,8 @@ public:
   AccountRows(TableFile& file, std::vector<TradingSystem>& systems)
       : file_(file), systems_(systems) {}
 
-  // Adds the account of one line, and its trading system with the first of its lines. False after
-  // refusing the line.
+  // Adds the account of a line, and its trading system with the system's first line. Refuses a bad
+  // line and returns false.
   bool Add(const TableFile::Row& row);
 
 private:

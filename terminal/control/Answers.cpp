@@ -27,7 +27,7 @@ Answers& TheAnswers() {
   return answers;
 }
 
-// Every call of the services asks, so without answers it must cost nothing.
+// Every service call asks for answers, so without any this must cost nothing.
 template <class T>
 const Answer<T>* FindAnswer(const ByGroup<T>& answers, int type, std::string_view group) {
   if (answers.empty())

@@ -1,4 +1,4 @@
-// Answers that a test puts in the place of what the market says.
+// Answers that a test sets in place of the market's.
 #pragma once
 
 #include <cstddef>
@@ -13,11 +13,11 @@ namespace standin {
 
 template <class T> struct Answer {
   std::vector<T> records;
-  int count = 0;  // what the service claims
-  int result = 1; // 0: it fails with the array
+  int count = 0;  // as the service claims
+  int result = 1; // 0: the call fails and hands out the array all the same
 };
 
-// Null: no answer was given, the market's holds. Texts are compared as they are.
+// Null when there is no such answer. Texts are compared byte by byte.
 TQSTANDIN_API const Answer<GroupInfo>* AnsweredGroups(int type, std::string_view parent);
 TQSTANDIN_API const Answer<SymbolInfo>* AnsweredMembers(int type, std::string_view group);
 TQSTANDIN_API const Answer<SymbolInfo>* AnsweredSymbols(int exchId);

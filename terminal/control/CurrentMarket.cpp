@@ -1,4 +1,4 @@
-// The market behind the services.
+// The market that the services serve.
 #include "terminal/control/GroupRecords.h"
 #include "terminal/control/Listings.h"
 #include "terminal/control/Parts.h"
@@ -54,7 +54,7 @@ const TradingRecords& CurrentTradingRecords() {
   return TheCurrent().trading;
 }
 
-// The proxy's records hold neither holdings nor the state, so nothing else has to follow a change.
+// The proxy's records contain neither holdings nor status, so they need no update.
 bool SetHoldings(std::string_view tsId, std::string_view accountId, int type,
                  std::string_view holdings) {
   const TradingSystem* system = FindSystem(tsId);

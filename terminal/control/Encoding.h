@@ -1,9 +1,9 @@
-// Code pages of the stand-in terminal. Its records carry both interface languages side by side, so
-// here the code page goes by the language asked for, not by the language of the moment.
+// The code pages of the stand-in terminal. Its records hold both interface languages, so the code
+// page here follows the language asked for and not the current one.
 //
-// Elsewhere Traditional is code page 950 and Simplified 936. On Windows both are the process's ANSI
-// code page: a process has only one. Characters are as wide in either, so a text of any language
-// may be cut with tq::CopyCut.
+// On Linux Traditional is code page 950 and Simplified 936. On Windows both are the ANSI code page
+// of the process, which has only one. Characters are equally wide in either, so a text of any
+// language may be cut with tq::CopyCut.
 #pragma once
 
 #include <string>
@@ -13,14 +13,14 @@ namespace standin {
 
 enum class Language { Traditional, Simplified };
 
-// UTF-8 to the language's code page. What the code page lacks, and each byte that is no UTF-8,
-// becomes "?".
+// UTF-8 to the language's code page. Characters that the code page lacks, and bytes that are no
+// UTF-8, become "?".
 std::string Encode(std::string_view utf8, Language language);
-// The code page's text as UTF-8; each character that it does not know becomes "?", or on Windows a
-// private one.
+// From the language's code page to UTF-8. Unknown characters become "?", on Windows perhaps private
+// ones.
 std::string Decode(std::string_view text, Language language);
 
-// The language that the process starts in.
+// The initial language of the process.
 Language StartLanguage();
 
 } // namespace standin

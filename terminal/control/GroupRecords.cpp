@@ -13,8 +13,8 @@ constexpr int kMostType = 201;
 constexpr std::size_t kTypeDigits = 3;
 constexpr std::size_t kLongestId = sizeof(GroupInfo::szID) - 1;
 
-// A type and an id as one text for an index. The type is spelt in digits because an index ignores
-// letter case, byte by byte.
+// A type and an id as one key of an index. The type is in digits because the index ignores letter
+// case byte by byte.
 class Key {
 public:
   Key(int type, std::string_view id) {
@@ -27,7 +27,7 @@ public:
     size_ = kTypeDigits + id.size();
   }
 
-  // Empty, and so never found, when no group can have the type or the id.
+  // Empty, which is never found, when no group can have the type or the id.
   operator std::string_view() const { return {text_, size_}; }
 
 private:
@@ -35,7 +35,7 @@ private:
   std::size_t size_ = 0;
 };
 
-// What a record has room for.
+// The text as far as a record has room for it.
 std::string_view CutId(const std::string& id) {
   return std::string_view(id).substr(0, kLongestId);
 }
@@ -48,7 +48,7 @@ void GroupRecords::Build(const Market& market, const Listings& listings) {
   BuildMembers(market, listings);
 }
 
-// A stable counting sort: the market lists groups in any order of types and parents.
+// A stable counting sort: the market may list groups in any order of types and parents.
 void GroupRecords::OrderByParent(const Market& market) {
   ranges_.clear();
   rangeOfParent_.Reset(market.groups.size());

@@ -1,6 +1,5 @@
-// The market's groups as the symbol-data service hands them out: records built once, when the
-// market is set, with those of one parent behind one another, so that a call is a look-up and a
-// copy.
+// The market's groups as the symbol-data service hands them out. The records are built once, when
+// the market is set, with those of one parent in sequence, so that a call is a look-up and a copy.
 #pragma once
 
 #include <cstddef>
@@ -22,13 +21,14 @@ public:
   // Groups of a type outside 1 to 201 are not served.
   void Build(const Market& market, const Listings& listings);
 
-  // The groups under `parent` (empty: of the first level), in the market's order and the interface
+  // The groups under `parent` (empty: the first level) in the market's order and in the interface
   // language. ASCII letter case is ignored here and in Find.
   std::span<const GroupInfo> Under(int type, std::string_view parent) const;
 
   // The first group of a type with an id, on whatever level.
   std::size_t Find(int type, std::string_view id) const;
-  // Where a found group's members stand in the listings, those that the market lists.
+  // Where the members of a found group are among the listings; ids that the market does not list
+  // are left out.
   std::span<const std::uint32_t> Members(std::size_t position) const;
 
 private:
@@ -43,7 +43,7 @@ private:
   IdIndex rangeOfParent_;
   IdIndex positionOfGroup_;
   std::vector<std::uint32_t> members_;
-  std::vector<std::size_t> memberEnds_; // by a record's position; it begins where the last one ends
+  std::vector<std::size_t> memberEnds_; // where each record's range ends and the next begins
 };
 
 // The current market's.

@@ -36,8 +36,8 @@ bool GroupRows::Add(const TableFile::Row& row) {
   return true;
 }
 
-// The tree has two levels. The service knows a parent by its id alone, so a sub-group that shared
-// the id of a group above would be one too, and the tree without an end.
+// The tree has two levels. The service knows a parent by id alone, so a sub-group with the id of a
+// top-level group would have the same sub-groups, and the tree would not end.
 bool GroupRows::CheckPlace(const Group& group) {
   const std::string key = Key(group, group.id);
   const bool top = group.parent.empty();

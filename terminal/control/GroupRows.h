@@ -16,7 +16,7 @@ public:
 
   GroupRows(TableFile& file, std::vector<Group>& groups) : file_(file), groups_(groups) {}
 
-  // Adds the group of one line. False after refusing the line.
+  // Adds the group of a line. Refuses a bad line and returns false.
   bool Add(const TableFile::Row& row);
 
 private:
@@ -24,7 +24,7 @@ private:
 
   TableFile& file_;
   std::vector<Group>& groups_;
-  std::set<std::string> tops_; // type and id of the groups of the first level
+  std::set<std::string> tops_; // type and id of the top-level groups
   std::set<std::string> subs_; // type and id of the sub-groups
   std::set<std::string> seen_; // type, parent and id of all
 };

@@ -10,8 +10,8 @@ constexpr std::uint64_t EachByte(std::uint64_t value) {
   return value * 0x0101010101010101u;
 }
 
-// Lower-cases the ASCII letters among eight bytes at once: bit 7 of each sum tells whether the byte
-// reached the bound, and stands two places above the bit that makes a letter small.
+// Lower-cases the ASCII letters among eight bytes at once: bit 7 of each sum tells whether a byte
+// has reached the bound; shifted right by two it is the bit that makes a letter lower-case.
 std::uint64_t FoldCase(std::uint64_t bytes) {
   const std::uint64_t low = bytes & EachByte(0x7F);
   const std::uint64_t fromA = low + EachByte(0x80 - 'A');

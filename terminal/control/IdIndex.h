@@ -1,6 +1,6 @@
-// From a full symbol id to a position. Ids are ASCII and compared ignoring case, so folding a byte
-// never touches half of a double-byte character of an indexed id, and a text that holds one is not
-// found.
+// A hash table from full symbol ids to positions. Ids are ASCII and compared ignoring case, so
+// folding a byte never changes half of a double-byte character of an indexed id; a text with such a
+// character is not found.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ public:
 
   // Empties the index and makes room for `count` ids.
   void Reset(std::size_t count);
-  // An id that is in already keeps its first position; an empty one, or one of more than 24 bytes,
-  // stays out.
+  // An id that is already in the index keeps its first position. Empty ids and ids of more than 24
+  // bytes are not indexed.
   void Add(std::string_view id, std::size_t position);
   std::size_t Find(std::string_view id) const;
 
@@ -33,10 +33,10 @@ private:
   };
 
   static bool MakeKey(std::string_view id, Key& key);
-  // The slot that holds the key or, with all zeros in it, the one that would take it.
+  // The slot with the key or, if there is none, the free slot for it.
   std::size_t Probe(const Key& key) const;
 
-  std::vector<Slot> slots_; // a power of two, at most half of them taken
+  std::vector<Slot> slots_; // the size is a power of two, and at most half are taken
 };
 
 } // namespace standin

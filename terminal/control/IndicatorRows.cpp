@@ -10,7 +10,7 @@ namespace {
 constexpr std::string_view kNone = "-";
 constexpr std::size_t kLongestCode = 31;
 
-// A text is there in both languages or in neither.
+// A text exists in both languages or in none.
 bool IsPair(std::string_view traditional, std::string_view simplified) {
   return !traditional.empty() && !simplified.empty() &&
          (traditional == kNone) == (simplified == kNone);

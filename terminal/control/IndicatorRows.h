@@ -18,7 +18,7 @@ public:
   IndicatorRows(TableFile& file, std::vector<Indicator>& indicators)
       : file_(file), indicators_(indicators) {}
 
-  // Adds the row of one line. False after refusing the line.
+  // Adds the row of a line. Refuses a bad line and returns false.
   bool Add(const TableFile::Row& row);
 
 private:

@@ -10,7 +10,7 @@ namespace standin {
 
 using InfoRows = std::vector<std::vector<std::string>>;
 
-// The rows of one table in the language of the moment, bytes: what SetIndicators says, else the
+// The rows of a table in the current language, as bytes: those of SetIndicators or else of the
 // market.
 TQSTANDIN_API InfoRows InfoRowsOf(int type);
 

@@ -26,7 +26,7 @@ void Listings::BuildExchanges(const Market& market) {
   }
 }
 
-// A stable counting sort: the market lists instruments in any order of exchanges.
+// A stable counting sort: the market may list instruments in any order of exchanges.
 void Listings::OrderByExchange(const Market& market) {
   ranges_.clear();
   for (const Exchange& exchange : market.exchanges)

@@ -1,5 +1,5 @@
-// The market as the services hand it out: records built once, when the market is set, so that a
-// call is a look-up and a copy.
+// The market as the services hand it out. The records are built once, when the market is set, so
+// that a call is a look-up and a copy.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,8 @@
 
 namespace standin {
 
-// A listing is known by its position: exchange by exchange in the service's order, within one in
-// the market's.
+// A listing is identified by its position: exchanges in the service's order, and the listings of an
+// exchange in the market's order.
 struct ListingRange {
   std::size_t first = 0;
   std::size_t count = 0;
@@ -28,21 +28,21 @@ public:
   void Build(const Market& market);
 
   const std::vector<ExchInfo>& Exchanges() const { return exchanges_; }
-  // The listings of an exchange; null when the market does not list the exchange.
+  // The listings of an exchange; null for an exchange that the market does not list.
   const ListingRange* OfExchange(int exchId) const;
   std::size_t Count() const { return heads_.size(); }
 
-  // By full id, and by exchange number and bare code; ASCII letter case ignored.
+  // By full id, or by exchange number and bare code, ignoring ASCII letter case.
   std::size_t FindId(std::string_view id) const;
   std::size_t FindCode(int exchId, std::string_view code) const;
-  // By full id, else by bare code on the first exchange that lists it.
+  // By full id or else by bare code on the first exchange that lists it.
   std::size_t FindIdOrCode(std::string_view text) const;
 
-  // The records in the interface language, by position; they lie behind one another.
+  // The records by position, in sequence and in the interface language.
   const SymbolInfo* Infos() const;
-  // Writes the record of one listing over the beginning of a zero-filled one.
+  // Writes the record of a listing over the beginning of a zero-filled one.
   void Write(std::size_t position, BaseAttr& record) const;
-  // Where the listing stands in the market's instruments.
+  // The position of the listing among the market's instruments.
   std::size_t Source(std::size_t position) const { return sources_[position]; }
 
 private:

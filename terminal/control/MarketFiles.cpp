@@ -100,7 +100,7 @@ bool SetUserValue(TableFile& file, const TableFile::Row& row, Market& market) {
 
 enum class Presence { Required, Optional };
 
-// Opens the file and gives each of its records to `add`, until one is refused.
+// Opens the file and calls `add` with each of its records until one is refused.
 template <class Add>
 bool ReadFile(TableFile& file, const std::string& directory, Presence presence, Add add) {
   if (!file.Open(directory))

@@ -15,7 +15,7 @@ bool SplitIds(std::string_view text, std::vector<std::string>& ids) {
       return true;
     text.remove_prefix(comma + 1);
   }
-  return ids.empty(); // otherwise the text ended in a comma
+  return ids.empty(); // otherwise the text ends in a comma
 }
 
 std::string FoldedId(std::string_view id) {

@@ -1,4 +1,4 @@
-// What the fields of the market files have in common.
+// What the fields of all market files have in common.
 #pragma once
 
 #include <algorithm>
@@ -20,22 +20,23 @@ inline bool IsPlainId(std::string_view text, std::size_t longest) {
   return !text.empty() && text.size() <= longest && IsPlain(text);
 }
 
-// Whether a name takes at most `size` bytes in either language. No code page makes a text longer
-// than it is in UTF-8.
+// Whether a name takes at most `size` bytes in either language. No text is longer in a code page
+// than in UTF-8.
 inline bool Fits(std::string_view name, std::size_t size) {
   return name.size() <= size || (Encode(name, Language::Traditional).size() <= size &&
                                  Encode(name, Language::Simplified).size() <= size);
 }
 
-// A field in which "-" says that there is nothing.
+// The text of a field, in which "-" means none.
 inline std::string OptionalText(std::string_view field) {
   return field == "-" ? std::string() : std::string(field);
 }
 
-// Symbol ids joined by "," into `ids`; false when one is empty or no id.
+// Splits symbol ids joined by ","; false when one is empty or not an id.
 bool SplitIds(std::string_view text, std::vector<std::string>& ids);
 
-// ASCII letters made small: ids that differ in letter case only are the same to the services.
+// The text with its ASCII letters in lower case. To the services, ids that differ only in letter
+// case are the same.
 std::string FoldedId(std::string_view id);
 
 } // namespace standin

@@ -1,4 +1,4 @@
-// The parts of the stand-in's state that Reset puts back, each kept in the file that owns it.
+// How Reset restores the parts of the stand-in's state, each of which is in the file that owns it.
 #pragma once
 
 namespace standin {

@@ -35,7 +35,7 @@ void SetKind(const std::string& kind, BaseAttrHead& head) {
   }
 }
 
-// What the market says of an instrument beyond the members that every instrument has.
+// What the market knows about an instrument beyond the members that every instrument has.
 void SetField(const FieldValue& given, BaseAttrHead& head) {
   const std::string text = ToAnsi(given.value);
   const int number = std::atoi(text.c_str());
@@ -67,7 +67,7 @@ void SetField(const FieldValue& given, BaseAttrHead& head) {
   case FieldExpiryDate:
     head.expiryDate = number;
     break;
-  default: // trading data: tqStock asks the market itself
+  default: // trading data: tqStock asks the market
     break;
   }
 }

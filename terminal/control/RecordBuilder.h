@@ -1,4 +1,4 @@
-// From one instrument of a market to the service's records of it. Names are not filled: they go by
+// Makes the service's records of an instrument of the market, without names, which depend on the
 // language.
 #pragma once
 

@@ -16,7 +16,7 @@ struct Reports {
   std::vector<Message> messages;
   std::vector<Notification> notifications;
   int answer = kButtonOk;
-  std::deque<int> inTurn; // the answers before that one
+  std::deque<int> inTurn; // used before that one
 };
 
 Reports& TheReports() {
@@ -24,7 +24,7 @@ Reports& TheReports() {
   return reports;
 }
 
-// Loggers outlive a Reset: they are objects of the library.
+// Loggers survive a Reset: the library owns them.
 int loggersAlive = 0;
 
 // Services are asked from several threads in some tests.

@@ -33,7 +33,7 @@ Script& TheScript() {
   return script;
 }
 
-// One call of what a countdown is for: true when it is the one that has to fail.
+// Counts one call; true when it is the one that must fail.
 bool CountDown(Script& script, std::string_view operation) {
   const auto found = script.countdowns.find(operation);
   if (found == script.countdowns.end() || --found->second > 0)
@@ -42,7 +42,7 @@ bool CountDown(Script& script, std::string_view operation) {
   return true;
 }
 
-// To be called whenever an order came or went.
+// Must be called whenever an order is added or withdrawn.
 void NoteOrders() {
   failuresOrdered = !TheScript().countdowns.empty() || !TheScript().always.empty();
   actionsOrdered = !TheScript().actions.empty() || TheScript().watch != nullptr;
@@ -68,7 +68,7 @@ void Record(std::string_view operation, std::string arguments) {
 
 bool CountAgainstOrders(std::string_view operation) {
   Script& script = TheScript();
-  // Both countdowns see the call, whichever of them strikes.
+  // Both countdowns count the call even if one of them already fails it.
   const bool one = CountDown(script, operation);
   const bool every = CountDown(script, kEveryOperation);
   NoteOrders();
@@ -103,14 +103,14 @@ void OnEachCall(CallWatch watch) {
 }
 
 void RunAction(std::string_view operation) {
-  // Held, since it may take itself back.
+  // A copy, since the action may withdraw itself.
   if (const std::shared_ptr<const CallWatch> watch = TheScript().watch)
     (*watch)(operation);
   Action* const action = FindAction(operation);
   if (action == nullptr || action->running)
     return;
   action->running = true;
-  // A copy, and found again afterwards: the action may take itself back.
+  // A copy, looked up again afterwards: the action may withdraw itself.
   const std::function<void()> run = action->run;
   run();
   if (Action* const after = FindAction(operation))

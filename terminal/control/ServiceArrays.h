@@ -1,6 +1,6 @@
-// The arrays that the stand-in symbol-data service hands out and the texts of the trading-system
-// proxy, each known by its address until it is released, so that a caller who forgets one, releases
-// one twice, or gives it to the wrong service, is found out.
+// The arrays of the stand-in symbol-data service and the texts of the trading-system proxy. Each is
+// tracked by its address until it is released, so that leaks, double releases and releases to the
+// wrong service are found.
 #pragma once
 
 #include <cstddef>
@@ -10,20 +10,20 @@
 
 namespace standin {
 
-// A zero-filled block of `count` records of `size` bytes. Null when `count` is 0 or memory is
-// short.
+// A zero-filled block of `count` records of `size` bytes. Null when `count` is 0 or memory runs
+// out.
 TQSTANDIN_API void* NewArray(std::size_t count, std::size_t size);
-// Null is allowed. Anything that NewArray did not return, or that was released before, is counted
-// as a bad release and left alone.
+// Null is allowed. Anything that NewArray did not return, or that was already released, is counted
+// as a bad release and otherwise ignored.
 TQSTANDIN_API void ReleaseArray(void* array);
 
 template <class T> T* NewArray(std::size_t count) {
   return static_cast<T*>(NewArray(count, sizeof(T)));
 }
 
-// A NUL-terminated copy, an empty one too. Null when memory is short.
+// A NUL-terminated copy, also of an empty text. Null when memory runs out.
 TQSTANDIN_API char* NewText(std::string_view text);
-// The same as ReleaseArray, for what NewText returned.
+// The same as ReleaseArray for texts of NewText.
 TQSTANDIN_API void ReleaseText(void* text);
 
 } // namespace standin

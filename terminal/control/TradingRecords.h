@@ -1,5 +1,5 @@
-// The market's trading systems as the proxy hands them out: records built once, when the market is
-// set.
+// The market's trading systems as the proxy hands them out. The records are built once, when the
+// market is set.
 #pragma once
 
 #include <string>
@@ -18,7 +18,8 @@ public:
   // In the interface language, in the order of the market's systems and of their accounts.
   const std::vector<TQS_TSINFO>& Systems() const;
   const std::vector<TQS_ACCOUNTINFO>& Accounts(std::size_t system) const;
-  // The position of a system's first account of that type and id, ASCII letter case ignored; -1.
+  // The position of the system's first account with that type and id, ignoring ASCII letter case,
+  // or -1.
   int AccountOf(std::size_t system, int type, std::string_view id) const;
 
 private:
@@ -36,8 +37,8 @@ private:
 // The current market's.
 TQSTANDIN_API const TradingRecords& CurrentTradingRecords();
 
-// A trading system of the current market and an account of it, ASCII letter case of the ids
-// ignored; null for an unknown one.
+// A trading system of the current market and an account of it, ignoring the ASCII letter case of
+// ids; null for an unknown one.
 TQSTANDIN_API const TradingSystem* FindSystem(std::string_view tsId);
 TQSTANDIN_API const TradingAccount* FindAccount(std::string_view tsId, std::string_view accountId,
                                                 int type);

@@ -3,10 +3,10 @@
 namespace standin {
 namespace {
 
-// What the first byte of a character says: how many bytes follow, and in which range the second
-// lies (which rules out overlong forms, surrogates and what is beyond the last character).
+// What the first byte of a character determines: how many bytes follow, and the range of the second
+// one (which excludes overlong forms, surrogates and everything past the last character).
 struct Lead {
-  int trailing; // -1: no first byte
+  int trailing; // -1: not a first byte
   unsigned char least;
   unsigned char most;
 };

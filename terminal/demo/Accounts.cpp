@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kTradingLists = 6;
 
-// A list of an account has the kind of account and its id for an id.
+// The id of an account's list is the kind of the account followed by its id.
 std::string ListIdOf(const standin::TradingAccount& account) {
   return std::to_string(account.type) + account.id;
 }
@@ -35,7 +35,7 @@ void LogIn(CTQSymbolListMgr& manager, const standin::TradingSystem& system, Step
   PrintListRows(manager, kTradingLists, 0);
 }
 
-// The first symbol of the market that is not among the ids; empty when all are.
+// The first symbol of the market that is not among the ids; empty when there is none.
 std::string NewSymbol(const std::string& ids) {
   std::string symbol;
   for (size_t i = 0; i == 0 || !symbol.empty(); ++i) {
@@ -46,7 +46,7 @@ std::string NewSymbol(const std::string& ids) {
   return symbol;
 }
 
-// The first account of the market, which has one when it has a trading system, buys a stock.
+// The first account of the market buys a stock. A trading system has at least one account.
 void Fill(CTQSymbolListMgr& manager, Steps& steps) {
   const standin::TradingSystem& system = standin::CurrentMarket().tradingSystems.front();
   const standin::TradingAccount& account = system.accounts.front();

@@ -7,8 +7,8 @@
 
 namespace demo {
 
-// Logs in to every trading system of the market, then fills an order: shows the lists that come of
-// it. False, with `error` in one line, when something was not there that should be.
+// Logs in to every trading system of the market, then fills an order, and shows the resulting
+// lists. False, with `error` in one line, when something that should be there is missing.
 bool ShowAccounts(CTQSymbolListMgr& manager, std::string& error);
 
 } // namespace demo

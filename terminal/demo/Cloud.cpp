@@ -13,8 +13,8 @@ namespace {
 constexpr int kCloudType = 201;
 constexpr int kCloudLists = 8;
 
-// The group that the list is for: the first sub-group among the market's cloud groups, or else the
-// first of them.
+// The group for the list: the first sub-group among the market's cloud groups, or else the first
+// cloud group.
 std::string GroupForList() {
   std::string first;
   for (const standin::Group& group : standin::CurrentMarket().groups) {

@@ -1,4 +1,4 @@
-// Lists that come from the broker's server.
+// Lists from the broker's server.
 #pragma once
 
 #include <string>
@@ -7,8 +7,8 @@
 
 namespace demo {
 
-// Pushes a list in, twice, and shows it as a cloud group and as a list of kind 8. False, with
-// `error` in one line, when something was not there that should be.
+// Pushes a list twice and shows it as a cloud group and as a list of kind 8. False, with `error` in
+// one line, when something that should be there is missing.
 bool ShowCloud(CTQSymbolListMgr& manager, std::string& error);
 
 } // namespace demo

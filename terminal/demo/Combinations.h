@@ -3,7 +3,8 @@
 
 namespace demo {
 
-// A table of typed combinations: split into legs and named, or refused with the reason.
+// Prints a table of typed combinations: split into legs with descriptions, or refused with the
+// reason.
 void PrintCombinations();
 
 } // namespace demo

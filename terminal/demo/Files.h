@@ -1,4 +1,4 @@
-// The few looks at files that the demo takes for itself, to check what the library did to them.
+// File access of the demo's own, to check what the library wrote.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ bool IsDirectory(const std::string& path);
 
 enum class ReadResult { Read, Missing, Unreadable };
 
-// All bytes of a file. `bytes` is emptied when there are none to be had.
+// Reads all bytes of a file. Empties `bytes` when that fails.
 ReadResult ReadFile(const std::string& path, std::string& bytes);
 
 bool WriteFile(const std::string& path, const std::string& bytes);

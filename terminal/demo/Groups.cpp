@@ -19,7 +19,7 @@ int MemberCalls() {
   return standin::CountCalls("VLGetGroupSymbol");
 }
 
-// The names of the members, as many as the line has room for.
+// The names of the members, as many as fit into the line.
 std::string MemberNames(CTQSymbolListMgr& manager, void* handle, int members) {
   std::string names;
   for (int i = 0; i < members && CellWidth(names) <= kMembersCells; ++i) {
@@ -30,7 +30,7 @@ std::string MemberNames(CTQSymbolListMgr& manager, void* handle, int members) {
   return FittedList(names, ' ', kMembersCells);
 }
 
-// What a tree view shows: the groups, and of those that have sub-groups only these.
+// The groups of a tree view. A group with sub-groups is represented by these alone.
 class Tree {
 public:
   explicit Tree(CTQSymbolListMgr& manager) : manager_(manager) {}
@@ -52,7 +52,7 @@ public:
     }
   }
 
-  // Asks every opened group for its members once more.
+  // Asks every opened group for its members a second time.
   void CountAgain() {
     for (void* handle : opened_)
       manager_.GetGroupSymbolCount(handle);
@@ -74,7 +74,7 @@ private:
     }
   }
 
-  // With its members when it is opened.
+  // With its members once it is opened.
   void PrintGroup(const std::string& type, const char* indent, const GroupInfo& info,
                   void* opened) {
     const std::string name = Fitted(indent + standin::FromAnsi(info.szName), kNameCells - 1);

@@ -5,8 +5,8 @@
 
 namespace demo {
 
-// Every group of every type but the cloud groups, with the number of its members. Says how often
-// the service was asked for members: when a group is opened, and not before.
+// Shows every group of every type but the cloud groups with the number of its members, and how
+// often the service was asked for members: only when a group is opened.
 void ShowGroups(CTQSymbolListMgr& manager);
 
 } // namespace demo

@@ -14,8 +14,7 @@ namespace {
 
 constexpr int kUserLists = 1;
 
-// What the older product's lists hold. The second is empty: it is passed over, and its number with
-// it.
+// The lists of the older product. The second is empty: it is skipped together with its number.
 std::vector<std::string> Lists() {
   return {SomeSymbols(0, 3), "", SomeSymbols(3, 2)};
 }

@@ -1,4 +1,4 @@
-// Lists of an older product, brought along by a user who moves to this terminal.
+// Lists of an older product, for a user who moves to this terminal.
 #pragma once
 
 #include <string>
@@ -7,12 +7,12 @@
 
 namespace demo {
 
-// Puts the older product's file into the directory, for the next start to find. False when it
-// cannot be written.
+// Writes the older product's file into the directory, where the next start finds it. False when
+// that fails.
 bool WriteImportFile(const std::string& directory);
 
-// Shows what the start made of it: `listsBefore` is the number of lists that the user had without
-// them. False, with `error` in one line, when the import did not do what it should.
+// Shows the result of the import; `listsBefore` is the number of user lists without it. False, with
+// `error` in one line, when the import failed.
 bool ShowImport(CTQSymbolListMgr& manager, const std::string& directory, int listsBefore,
                 std::string& error);
 

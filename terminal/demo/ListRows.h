@@ -1,12 +1,12 @@
-// Lists in one line each.
+// Lists, one line each.
 #pragma once
 
 #include "manager/TQSymbolListMgr.h"
 
 namespace demo {
 
-// The lists of a kind from one position on: identifier, name, number of symbols, and as many ids as
-// the line has room for. Returns how many there are.
+// Prints the lists of a kind from a position on: identifier, name, number of symbols, and as many
+// ids as fit into the line. Returns their number.
 int PrintListRows(CTQSymbolListMgr& manager, int kind, int first);
 
 // One such line. A negative number is not shown.

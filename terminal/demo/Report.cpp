@@ -19,7 +19,7 @@ void PrintRow(const std::string& number, const std::string& first, const std::st
               second.empty() ? first.c_str() : Padded(first, kNameCells).c_str(), second.c_str());
 }
 
-// The tokens carry what the records leave out: unknown ids and the text of headings.
+// The tokens hold what the records lack: unknown ids and the texts of headings.
 int PrintRows(CSymbolList& list) {
   const int count = list.GetCount();
   const CStringArray& tokens = list.GetTokens();

@@ -1,4 +1,4 @@
-// What the demo shows of the library's state, as UTF-8 on standard output.
+// The library's state, printed as UTF-8 on standard output.
 #pragma once
 
 #include "manager/TQSymbolListMgr.h"
@@ -6,14 +6,15 @@
 
 namespace demo {
 
-// One line for each exchange: its symbols that the library's tables resolve, and the entitlement.
+// A line for each exchange: the number of symbols that the library's tables resolve, and the
+// entitlement.
 void PrintExchanges(CSymbolTableMgr& tables, bool traditional);
 
-// The buffer of all symbols: how many there are, and its exchanges in their order, by number.
+// The buffer of all symbols: their number, and its exchanges in order.
 void PrintAllSymbols(CTQSymbolListMgr& manager);
 
-// Every list of the user with its rows: symbols with their names, headings, and ids that no
-// exchange knows (kept in the list, shown without a row number).
+// Every list of the user with its rows: symbols with names, headings, and unknown ids, which stay
+// in the list but have no row number.
 void PrintLists(CTQSymbolListMgr& manager);
 
 } // namespace demo

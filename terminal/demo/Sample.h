@@ -1,4 +1,4 @@
-// Symbols for a session's lists: whatever the market has, which may be the user's own.
+// Symbols for the lists of a session, from any market.
 #pragma once
 
 #include <string>

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kUserLists = 1;
 
-// How many lists the file of the directory has before the import adds to them; -1 when no manager
+// The number of lists in the directory's file before the import adds to them; -1 when no manager
 // can be started on it.
 int CountLists(const std::string& directory) {
   CTQSymbolListMgr manager;

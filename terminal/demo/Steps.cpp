@@ -29,7 +29,7 @@ void Steps::Note(const std::string& text) {
   std::printf("  %s\n", text.c_str());
 }
 
-// A notification that is repeated, once for each list that changed, is shown once with its number.
+// A notification that repeats, once for each changed list, is shown once with its number.
 std::string Steps::Told() {
   std::string told;
   std::string last;

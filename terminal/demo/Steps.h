@@ -1,4 +1,4 @@
-// The steps of a session: what is done, what came of it, what the terminal was told.
+// The steps of a session: the action, its result, and what the terminal was told.
 #pragma once
 
 #include <cstddef>
@@ -8,16 +8,16 @@
 
 namespace demo {
 
-// Prints what happens and remembers the first step that went wrong.
+// Prints the steps and remembers the first failure.
 class Steps {
 public:
   Steps();
 
-  // One line: the step, its result, and the notifications that came since the step before.
+  // Prints one line: the step, its result, and the notifications since the previous step.
   void Step(const std::string& what, int result);
   void Note(const std::string& text);
 
-  // Why the session failed, in one line; empty while all is well.
+  // Why the session failed, in one line; empty without a failure.
   const std::string& Error() const { return error_; }
 
 private:
@@ -27,7 +27,7 @@ private:
   std::string error_;
 };
 
-// The text of the interface language, as the library takes it. In UTF-8.
+// The text in the interface language, as the library takes it. In UTF-8.
 CString InLanguage(const char* traditional, const char* simplified);
 
 } // namespace demo

@@ -5,8 +5,8 @@
 namespace demo {
 namespace {
 
-// The first code points of wide characters: CJK and full-width forms begin here. Good enough for
-// the names of this market; a terminal's own table is finer.
+// Wide characters begin about here: CJK and full-width forms. Good enough for the names of this
+// market; a terminal's own table is finer.
 constexpr unsigned kFirstWide = 0x2E80;
 
 unsigned CodePoint(std::string_view text, size_t& at) {
@@ -18,7 +18,7 @@ unsigned CodePoint(std::string_view text, size_t& at) {
   return point;
 }
 
-// The bytes of the characters at the start that fit, of one at least.
+// The number of leading bytes that fit, at least one character.
 size_t FittingBytes(std::string_view text, int cells) {
   size_t fitting = 0;
   for (size_t at = 0; at < text.size();) {

@@ -1,4 +1,4 @@
-// Text columns on a UTF-8 terminal, where a Chinese character is two cells wide.
+// Text columns for a UTF-8 terminal, where a Chinese character is two cells wide.
 #pragma once
 
 #include <string>
@@ -6,22 +6,21 @@
 
 namespace demo {
 
-// Terminal cells that the text takes.
+// The number of terminal cells of the text.
 int CellWidth(std::string_view utf8);
 
-// The text, filled up with blanks to `cells`; longer text is left as it is.
+// The text, padded with blanks to `cells`; longer text is unchanged.
 std::string Padded(std::string_view utf8, int cells);
 std::string PaddedLeft(std::string_view utf8, int cells);
 
-// The text, cut at a whole character and ended by ".." when it takes more than `cells`.
+// The text, cut at a whole character and ended by ".." if it is wider than `cells`.
 std::string Fitted(std::string_view utf8, int cells);
-// The same for entries with a separator between them: cut behind one, unless the first entry is too
+// The same for entries with separators: cut behind a separator, unless the first entry alone is too
 // wide.
 std::string FittedList(std::string_view utf8, char separator, int cells);
 
-// The text over as many lines as it takes, none of them wider than `cells`: broken at blanks and
-// behind commas, or anywhere in a word that is wider by itself. Every line begins with `indent`,
-// all but the first with four blanks more.
+// The text in lines of at most `cells`, broken at blanks and behind commas, or anywhere in a word
+// that is too wide. Every line begins with `indent`, all but the first with four more blanks.
 std::string Wrapped(std::string_view utf8, int cells, std::string_view indent);
 
 } // namespace demo

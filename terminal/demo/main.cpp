@@ -1,6 +1,6 @@
-// A terminal's start-up and shut-down, as far as the watch lists go, on the stand-in services:
-// loads a market, starts the library on a data directory, shows what it resolved, saves, and
-// compares the list file with what it was.
+// A terminal's start and end as far as watch lists are concerned, on the stand-in services: loads a
+// market, starts the library on a data directory, shows what it resolved, saves, and compares the
+// list file with the original.
 #include <cstdio>
 #include <string>
 

@@ -15,8 +15,8 @@ bool IsAscii(std::string_view text) {
   return true;
 }
 
-// How far to step over what cannot be converted: one character, so that the trail of a user-defined
-// one is not taken for a letter or a lead byte.
+// The length of what cannot be converted: one whole character, so that the second byte of a
+// user-defined character is not taken for a letter or a lead byte.
 std::size_t Utf8Width(std::string_view rest) {
   std::size_t width = 1;
   while (width < rest.size() && (static_cast<unsigned char>(rest[width]) & 0xC0) == 0x80)
@@ -54,7 +54,7 @@ public:
 private:
   bool Usable() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
 
-  // Converts as much as goes and takes it off `text`.
+  // Converts as much as possible and removes it from `text`.
   void ConvertRun(std::string_view& text, std::string& result) {
     if (!Usable())
       return;

@@ -12,9 +12,9 @@ bool IsDirectory(const std::string& path) {
   return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-// The backslash that joins the directory's last level becomes a slash. Which one that is cannot be
-// told from the bytes, since a path here may be in any encoding and a character may end in that
-// byte: it is the last one that has a directory in front of it.
+// Turns the backslash in front of the directory's last level into a slash. A path may be in any
+// encoding, and a character may end in that byte, so the last backslash counts only when the text in
+// front of it is an existing directory.
 std::string SystemPath(const std::string& directory) {
   const std::size_t join = directory.rfind('\\');
   if (join == std::string::npos || IsDirectory(directory) ||

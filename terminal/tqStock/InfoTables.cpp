@@ -12,8 +12,8 @@ using namespace standin;
 
 namespace {
 
-// Those of the latest call. Each is an allocation of its own and gone with the next call, so that a
-// caller who kept one is found out.
+// The rows of the latest call. Each is a separate allocation that the next call frees, so that
+// callers who keep one are found.
 using Rows = std::vector<std::unique_ptr<CStringArray>>;
 
 Rows& TheRows() {

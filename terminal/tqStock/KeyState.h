@@ -1,4 +1,4 @@
-// What a key object keeps in its state bytes.
+// The contents of a key object's state bytes.
 #pragma once
 
 #include <new>
@@ -10,11 +10,11 @@ namespace standin {
 
 struct KeyState {
   const BaseAttr* record = nullptr; // the caller's, set by Setup
-  int tradeExchId = 0;              // set by SetUpTrade, with
-  char tradeCode[20] = {};          // a bare code; empty: not set up
+  int tradeExchId = 0;              // set by SetUpTrade together with
+  char tradeCode[20] = {};          // the bare code; empty: not set up
 };
 
-// What the service wrote into the record. All of its members are packed, so any address is aligned.
+// The service's layout of the record. All members are packed, so any address is aligned.
 inline const BaseAttrHead& Head(const BaseAttr& record) {
   return *reinterpret_cast<const BaseAttrHead*>(&record);
 }

@@ -1,4 +1,4 @@
-// tqStock: the attributes that stand in a symbol's record.
+// tqStock: the attributes in a symbol's record.
 #include <algorithm>
 #include <cstring>
 #include <limits>
@@ -22,7 +22,7 @@ const KeyState& StateOf(const unsigned char* bytes) {
   return *std::launder(reinterpret_cast<const KeyState*>(bytes));
 }
 
-// Ten to the power of the decimals, the greatest power that an int holds for more.
+// Ten to the power of `decimals`, limited to what an int holds.
 int PriceScale(int decimals) {
   constexpr int kMostDecimals = std::numeric_limits<int>::digits10;
   int scale = 1;
@@ -62,7 +62,7 @@ bool NumberField(const BaseAttrHead& head, int field, int& value) {
   }
 }
 
-// A text member of the record; null for fields that are none.
+// The text member of a field in the record; null for other fields.
 const char* TextField(const BaseAttrHead& head, int field) {
   switch (field) {
   case FieldSymbolName:
@@ -87,7 +87,8 @@ const char* TextField(const BaseAttrHead& head, int field) {
 }
 
 void FullId(const BaseAttrHead& head, CString& id) {
-  // A code and an exchange name, each with its NUL, for which the full id has "." and NUL.
+  // Room for a code and an exchange name with a NUL each, which is enough for the full id with "."
+  // and NUL.
   char text[sizeof head.code + sizeof head.exchName];
   const std::size_t length = std::strlen(head.code);
   std::memcpy(text, head.code, length);

@@ -8,8 +8,8 @@ using namespace standin;
 
 namespace {
 
-// The value of the first "key=value" that has the key; empty when there is none. Neither ";" nor
-// "=" is ever the second byte of a character.
+// The value of the first "key=value" with that key; empty when there is none. Neither ";" nor "="
+// is ever the second byte of a character.
 std::string_view FindValue(std::string_view text, std::string_view key) {
   while (!text.empty()) {
     const std::size_t end = text.find(';');

@@ -1,4 +1,4 @@
-// tqStock: the attributes that only trading data has. The stand-in's trading data is its market.
+// tqStock: the attributes that only trading data has. The stand-in takes them from its market.
 #include "terminal/tqStock/TradeFields.h"
 
 #include <optional>
@@ -34,7 +34,7 @@ std::optional<std::string> IfSaid(const std::string& text) {
   return text.empty() ? std::nullopt : std::optional(text);
 }
 
-// UTF-8. The market knows one price, yesterday's; what it does not know stays unanswered.
+// UTF-8. The market knows one price, yesterday's; unknown fields are not answered.
 std::optional<std::string> TradeField(const Instrument& instrument, int field) {
   if (const FieldValue* given = Given(instrument, field))
     return given->value;

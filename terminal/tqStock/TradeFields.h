@@ -5,7 +5,7 @@
 
 namespace standin {
 
-// False, with `value` as it was, for an unknown symbol and for what trading data does not tell.
+// False, with `value` unchanged, for unknown symbols and fields.
 bool ReadTradeField(int field, int exchId, const char* code, CString& value);
 
 } // namespace standin

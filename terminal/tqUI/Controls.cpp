@@ -1,4 +1,4 @@
-// tqUI: the terminal's controls, which are the window layer's with something done already.
+// tqUI: the terminal's controls, which are controls of the window layer with defaults.
 #include "platform/services/tqUI.h"
 
 CTQIconButton::CTQIconButton(const CWnd& dialog, int id, ButtonIcon icon) : CButton(dialog, id) {

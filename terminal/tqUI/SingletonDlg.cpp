@@ -1,4 +1,4 @@
-// tqUI: one dialog of a family at a time.
+// tqUI: dialogs of which one per key runs at a time.
 #include <algorithm>
 #include <vector>
 
@@ -21,7 +21,7 @@ std::vector<Run>& Runs() {
   return runs;
 }
 
-// Null when none of the family runs.
+// Null when no dialog of the key runs.
 const CDialog* InnermostOf(const CString& key) {
   const auto found = std::find_if(Runs().rbegin(), Runs().rend(),
                                   [&key](const Run& run) { return run.key.Compare(key) == 0; });

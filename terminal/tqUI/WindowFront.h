@@ -1,11 +1,11 @@
-// Brings a window in front of the others.
+// Brings a window to the front.
 #pragma once
 
 #include "platform/framework/WindowTypes.h"
 
 namespace standin {
 
-// Windows in memory have no front.
+// Windows in memory have no order; nothing happens.
 void BringToFront(WindowHandle window);
 
 } // namespace standin

@@ -1,5 +1,5 @@
-// Opens one of the library's dialogs as a terminal would, on the stand-in services, and prints what
-// was chosen. Where there are no windows the dialog closes by itself.
+// Opens one of the library's dialogs on the stand-in services, as a terminal would, and prints the
+// choice. Without a window system the dialog closes by itself.
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -31,7 +31,7 @@ bool ParseOptions(int argc, char** argv, Options& options) {
   return !options.market.empty() && !options.dialog.empty();
 }
 
-// The dialog's end code; -2 for a dialog that the library does not have.
+// The dialog's end code; -2 for an unknown dialog.
 int Open(const std::string& dialog, CString& first, CString& second, CString& third) {
   if (dialog == "economic")
     return CTQSymbolListMgr::DoSearchFinIndi(nullptr, "", first, second);

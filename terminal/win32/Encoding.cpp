@@ -7,8 +7,8 @@ namespace {
 
 constexpr UINT kTraditionalCodePage = 950;
 
-// A character beyond the first 65536 is two units here and would become two question marks. No
-// ANSI code page has any of them.
+// Characters beyond the first 65536 are two units here and would become two question marks. No ANSI
+// code page has any of them.
 void JoinSurrogates(std::wstring& wide) {
   std::size_t kept = 0;
   for (const wchar_t unit : wide)
@@ -26,7 +26,7 @@ std::string Convert(std::string_view text, UINT from, UINT to) {
   MultiByteToWideChar(from, 0, text.data(), length, wide.data(), wideLength);
   if (to != CP_UTF8)
     JoinSurrogates(wide);
-  // UTF-8 allows neither of the last two arguments nor any flag.
+  // For UTF-8 the last two arguments and the flags must be zero.
   const bool toUtf8 = to == CP_UTF8;
   const DWORD flags = toUtf8 ? 0 : WC_NO_BEST_FIT_CHARS;
   const char* unknown = toUtf8 ? nullptr : "?";

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-// Where another program has the foreground, the system lets the window's button flash instead.
+// When another program is in the foreground, the system flashes the window's button instead.
 void standin::BringToFront(WindowHandle window) {
   ::ShowWindow(window, SW_SHOW);
   ::BringWindowToTop(window);

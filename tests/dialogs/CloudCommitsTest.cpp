@@ -1,4 +1,4 @@
-// The same for the editors of cloud lists.
+// What is stored, logged and told when a working copy of cloud lists is committed.
 #include "tests/dialogs/EditCommitsTest.h"
 
 namespace {
@@ -43,7 +43,7 @@ TEST_F(EditCommits, CloudReasonsAreThoseOfTheUsersLists) {
 TEST_F(EditCommits, MovedSymbolsOfCloudListsAreRenamedInTheMapToo) {
   StartCloud();
   tq::WorkingCopy copy(manager, kCloudLists);
-  copy.At(0).Update1("6488.TW"); // which went over to TE
+  copy.At(0).Update1("6488.TW"); // which has moved to TE
   tq::CommitCloudLists(manager, copy, 2);
   EXPECT_EQ(CloudShape(), "VORNG0101/one/6488.TE|PICK/two/2317.TW");
   EXPECT_NE(std::string(manager.GetCloudeList()).find("Value='6488.TE'"), std::string::npos);

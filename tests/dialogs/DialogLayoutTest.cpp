@@ -1,5 +1,5 @@
-// Where the controls of each dialog template stand: nothing overlaps or is cut in either language,
-// and tab goes through them as one reads. Everything is in dialog units.
+// The layout of each dialog template: nothing overlaps or is cut off in either language, and the
+// Tab key follows the reading order. All measures are dialog units.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,9 +13,9 @@ using tq::ControlKind;
 using tq::TemplateRow;
 
 constexpr int kMargin = 7;       // to the border of the dialog
-constexpr int kGap = 4;          // the least between two controls
+constexpr int kGap = 4;          // the least distance between two controls
 constexpr int kLeastButton = 50; // width of a button with a text
-constexpr int kLeastIcon = 20;   // width of one with a picture, and of anything else
+constexpr int kLeastIcon = 20;   // width of any other control, icon buttons included
 constexpr int kButtonHeight = 14;
 constexpr int kEditPadding = 2; // above and below its line, border included
 
@@ -25,7 +25,7 @@ bool IsHidden(const TemplateRow& row) {
 
 class DialogLayout : public testing::TestWithParam<Template> {
 protected:
-  // Those that are seen when the dialog opens.
+  // The controls that are visible when the dialog opens.
   static Controls Shown() {
     Controls shown;
     for (const TemplateRow& row : GetParam().controls) {
@@ -62,7 +62,7 @@ TEST_P(DialogLayout, KeepsControlsApart) {
   }
 }
 
-// An editor of names waits inside the list box over whose rows it is laid.
+// The editor of names is hidden inside the list box over whose rows it is laid.
 TEST_P(DialogLayout, HidesOnlyAnEditInAListBox) {
   for (const TemplateRow& row : GetParam().controls) {
     if (!IsHidden(row))
@@ -75,8 +75,8 @@ TEST_P(DialogLayout, HidesOnlyAnEditInAListBox) {
   }
 }
 
-// From left to right in a row of controls, row by row downwards; and where columns stand side by
-// side, down one and then the next.
+// Left to right in a row of controls, and row by row downwards; columns that stand side by side one
+// after the other.
 TEST_P(DialogLayout, TabsAsOneReads) {
   const Controls shown = Shown();
   for (size_t i = 0; i < shown.size(); ++i) {
@@ -98,7 +98,7 @@ TEST_P(DialogLayout, HasRoomForItsTexts) {
   }
 }
 
-// The least height that a control can be used with.
+// The least usable height of a control.
 int LeastHeight(const TemplateRow& row) {
   switch (row.kind) {
   case ControlKind::Button:
@@ -106,7 +106,7 @@ int LeastHeight(const TemplateRow& row) {
   case ControlKind::Edit:
     return kLineHeight + 2 * kEditPadding;
   case ControlKind::ComboBox:
-    return 5 * kClosedCombo; // several entries drop down
+    return 5 * kClosedCombo; // room for several entries when it drops down
   case ControlKind::ListBox:
   case ControlKind::ListView:
     return 10 * kLineHeight;
@@ -147,7 +147,7 @@ TEST_P(DialogLayout, HasOneDefaultButtonAtMost) {
   EXPECT_LE(defaults, 1);
 }
 
-// A label's access key goes to the control behind it, so there has to be one that takes it.
+// A label's access key goes to the control behind it, so there must be one that can have the focus.
 TEST_P(DialogLayout, PutsEachLabelInFrontOfAField) {
   const Controls& controls = GetParam().controls;
   for (size_t i = 0; i < controls.size(); ++i) {

@@ -1,5 +1,4 @@
-// What stands in each dialog template: the ids, kinds and texts that the dialogs go by. Where it
-// stands is DialogLayoutTest's subject.
+// The contents of each dialog template: ids, kinds and texts. DialogLayoutTest checks the layout.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -26,7 +25,7 @@ protected:
   }
 };
 
-// Labels have no id: they are told apart by their texts.
+// Labels have no id and are identified by their texts.
 bool IsFor(const tq::TemplateRow& row, const Expected& expected) {
   return row.kind == expected.kind && row.id == expected.id &&
          (row.id != 0 || Text(row.traditional) == expected.traditional);
@@ -78,7 +77,7 @@ TEST(DialogTable, HasEachTemplateOnceAndNoOthers) {
   EXPECT_EQ(ids, expected);
 }
 
-// A run has one code page, so it looks at the texts of its own language.
+// A process has one code page, so each run checks the texts of its own language.
 TEST(DialogTable, TextsExistInTheCodePage) {
   const tq::Resources resources = tq::LibraryResources();
   int texts = 0;

@@ -1,5 +1,5 @@
-// A manager with lists and cloud lists of which working copies are committed, and what happened then
-// as text.
+// A manager whose lists and cloud lists have working copies to be committed, and the effects as
+// text.
 #pragma once
 
 #include "dialogs/EditCommits.h"
@@ -18,8 +18,7 @@ inline constexpr int kUserLists = 1;
 inline constexpr int kCloudLists = 8;
 inline constexpr char kChanged[] = " \xA7\xF3\xB0\xCA SymbolList!!";
 
-// Notes each save among the calls of the services, so that their order can be seen, and refuses
-// when told.
+// Counts saves, notes how many notifications came before each, and fails on request.
 class NotedSaves : public tq::FileAccessWrapper {
 public:
   NotedSaves() : FileAccessWrapper(tq::Files()), before_(tq::SetFiles(this)) {}
@@ -58,8 +57,8 @@ protected:
     files.saves = 0;
   }
 
-  // All that happened since Mark: "saves 1; told 40:ListCntChange; log <line>". Lines of other
-  // levels and of the groups' own changes are left out.
+  // All effects since Mark: "saves 1; told 40:ListCntChange; log <line>". Leaves out lines of other
+  // levels and lines about groups.
   std::string Happened() {
     std::string text = "saves " + std::to_string(files.saves);
     for (std::size_t i = told_; i < standin::Notifications().size(); ++i)

@@ -1,4 +1,4 @@
-// The controls that each dialog goes by.
+// The expected controls of each dialog.
 #pragma once
 
 #include <vector>

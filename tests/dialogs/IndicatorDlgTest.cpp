@@ -1,4 +1,4 @@
-// The searches for indicators where their window cannot be made.
+// The searches for indicators when their windows cannot be created.
 #include <gtest/gtest.h>
 
 #include "dialogs/IndicatorSearches.h"

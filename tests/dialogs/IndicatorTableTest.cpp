@@ -1,4 +1,4 @@
-// What a search for indicators shows and gives, without a window.
+// The contents and results of a search for indicators, without a window.
 #include "dialogs/IndicatorTable.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ private:
 };
 
 IndicatorTable Table(Rows rows) {
-  return IndicatorTable(InfoRows(rows).pointers); // the rows are gone when this returns
+  return IndicatorTable(InfoRows(rows).pointers); // the rows are freed when this returns
 }
 
 IndicatorTable Sample() {
@@ -125,7 +125,7 @@ std::string Titles(const IndicatorTable& table, const Numbers& rows) {
   return all;
 }
 
-// Symptom: two rows of one name could not be told apart.
+// Symptom: two rows of the same name looked the same.
 TEST(IndicatorTable, NamesThatStandTwiceInWhatIsShownCarryTheirRegion) {
   const IndicatorTable table =
       Table({{"R1", "C", "A", "N"}, {"R2", "C", "B", "N"}, {"R2", "C", "C", "M"}});

@@ -1,8 +1,7 @@
-// The places and texts of a template's controls in numbers, which are dialog units.
+// Positions and text widths of a template's controls, in dialog units.
 //
-// The rule of thumb for the width of a text in the dialogs' font, whose letters are half as wide as
-// high: 8 for a full-width character, 4 for an ASCII one. A "&" marks the next letter and takes no
-// room.
+// Text widths are a rule of thumb for the dialogs' font, whose letters are half as wide as high: 8
+// for a full-width character, 4 for an ASCII one. A "&" marks the next letter and has no width.
 #pragma once
 
 #include "tests/dialogs/Templates.h"
@@ -15,7 +14,7 @@ constexpr int kHalfWidth = 4;
 constexpr int kLineHeight = 8;
 constexpr int kButtonPadding = 4; // at each side of its text
 constexpr int kClosedCombo = 14;  // a template gives the height of the open one
-constexpr int kCaptionParts = 24; // of the title's line: close button and borders
+constexpr int kCaptionParts = 24; // in the title bar: close button and borders
 
 struct Box {
   int left, top, right, bottom;
@@ -26,7 +25,7 @@ inline Box Place(const TemplateRow& row) {
   return {row.x, row.y, row.x + row.width, row.y + height};
 }
 
-// Whether there are fewer than `gap` units between the two, both ways.
+// Whether the boxes are less than `gap` units apart in both directions.
 inline bool AreCloser(const Box& one, const Box& other, int gap) {
   return one.left < other.right + gap && other.left < one.right + gap &&
          one.top < other.bottom + gap && other.top < one.bottom + gap;

@@ -1,4 +1,4 @@
-// The editor of names lies in front of the list: the mouse reaches it.
+// The editor of names is in front of the list, so the mouse reaches it.
 #include <gtest/gtest.h>
 
 #include "platform/framework/CEdit.h"
@@ -9,7 +9,7 @@ namespace {
 
 class NameEditor : public testing::TestWithParam<int> {};
 
-// A click on the editor reached the list behind which it stood in the template, and selected a row.
+// Symptom: the editor stood behind the list in the template, so a click on it selected a row.
 TEST_P(NameEditor, TakesTheClickOnTheRowThatItLiesOver) {
   const tq::ResourceContext context(tq::LibraryResources());
   CDialog dialog(static_cast<unsigned>(GetParam()));
@@ -18,7 +18,7 @@ TEST_P(NameEditor, TakesTheClickOnTheRowThatItLiesOver) {
     for (const char* name : {"A", "B", "C"})
       lists.AddString(name);
     lists.SetCurSel(1);
-    EXPECT_TRUE(user.HasFocus(781)); // the hidden editor in front is passed over
+    EXPECT_TRUE(user.HasFocus(781)); // the hidden editor in front is skipped
     CEdit editor(dialog, 741);
     ASSERT_TRUE(editor.PlaceOverRow(lists, 2));
     EXPECT_FALSE(user.ClickRow(781, 2));

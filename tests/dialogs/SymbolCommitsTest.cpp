@@ -1,4 +1,5 @@
-// The same for the dialogs that add symbols, edit one list or select lists.
+// What is stored, saved, logged and told after dialogs that add symbols, edit one list or select
+// lists.
 #include "tests/dialogs/EditCommitsTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The library's dialog templates, as tests walk through them.
+// The library's dialog templates for tests to walk through.
 #pragma once
 
 #include <string>

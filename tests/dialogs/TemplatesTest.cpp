@@ -1,4 +1,4 @@
-// The library's dialog templates, as each system makes windows of them.
+// The library's dialog templates as each system creates windows from them.
 #include "dialogs/resources/DialogTable.h"
 #include "platform/services/tqCommon.h"
 #include "terminal/StandIn.h"

@@ -1,4 +1,4 @@
-// What the library does when it is unloaded. tests/unload does it with the library itself.
+// What the library does when it is unloaded. tests/unload checks it with the real library.
 #include "dialogs/TqSymbolApp.h"
 
 #include "platform/Log.h"
@@ -29,7 +29,7 @@ TEST_F(TqSymbolApp, ThereIsNothingToPrepareAtTheStart) {
   EXPECT_TRUE(app.InitInstance());
 }
 
-// A terminal may keep a manager in an object of static storage, which goes after the library's own.
+// A terminal may keep a manager in a static object that is destroyed after the library's own.
 TEST_F(TqSymbolApp, AManagerThatOutlivesTheLoggerWritesNoLines) {
   StartWithoutTables();
   CTqSymbolApp().ExitInstance();

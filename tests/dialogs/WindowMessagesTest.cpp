@@ -53,7 +53,7 @@ TEST(WindowMessagesTable, AllNumbersDiffer) {
   EXPECT_EQ(numbers.size(), static_cast<size_t>(tq::kTerminalMessages));
 }
 
-// The name was cut short once, and terminals ask for it so.
+// The name was once cut short, and terminals use it that way.
 TEST(WindowMessagesTable, TheNameThatWasCutShortIsNotMended) {
   EXPECT_NE(tq::TerminalMessageNumber(TerminalMessage::AlertListGroup),
             tq::RegisterMessage("KORVANT_AlertListGroup"));

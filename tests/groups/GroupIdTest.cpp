@@ -1,4 +1,4 @@
-// Ids of groups: folding, cutting at the comma, records that the service did not terminate.
+// Ids of groups: folding, cutting at the comma, records without a NUL.
 #include "groups/GroupId.h"
 
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ TEST(GroupIdTest, LongerThanARecordIsNoId) {
   EXPECT_FALSE(tq::FoldId("12345678901234567", folded));
 }
 
-// The second byte of a double-byte character may be a letter, which has no case there.
+// The second byte of a double-byte character may look like a letter but has no case.
 TEST(GroupIdTest, TrailBytesKeepTheirCase) {
   EXPECT_FALSE(SameId("\xA4\x61", "\xA4\x41"));
   EXPECT_TRUE(SameId("\xA4\x61x", "\xA4\x61X"));
@@ -93,7 +93,7 @@ TEST(GroupIdTest, TextsThatEndAreLeftByteForByte) {
   EXPECT_EQ(std::memcmp(&info, &before, sizeof(info)), 0);
 }
 
-// Ids that have one hash wherever it is made by two steps of MixWords without a secret.
+// Ids that would collide if their hash were two steps of MixWords without a secret.
 TEST(GroupIdTest, NobodyCanChooseIdsOfOneHash) {
   constexpr std::size_t kIds = 80'000;
   std::set<std::uint32_t> hashes;

@@ -1,4 +1,4 @@
-// A level of groups at random against a plain array of ids, in which many ids occur more than once.
+// A level of groups at random against a plain array of ids, many of which occur more than once.
 #include "groups/GroupLevel.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +25,7 @@ protected:
   std::size_t Random(std::size_t below) { return random_() % below; }
   std::string AnyId() { return (Random(2) == 0 ? "g" : "G") + std::to_string(Random(different)); }
 
-  // As many groups as make the level build an index, or fewer.
+  // Some levels are large enough for an index, others are not.
   void FillAtRandom() {
     different = 1 + Random(40);
     ids.clear();
@@ -94,7 +94,7 @@ TEST_F(GroupLevelTest, FindsTheFirstGroupOfAnIdBetweenAllChanges) {
   }
 }
 
-// The second removal of an id takes the second group that has it.
+// The second removal of an id removes the second group with it.
 TEST_F(GroupLevelTest, RemovesAsManyGroupsOfAnIdAsItIsGivenTimes) {
   level.Assign({{Record(1, "a", "1"), Record(1, "b", "2"), Record(1, "A", "3"), Record(1, "a", "4"),
                  Record(1, "c", "5")}});
@@ -127,7 +127,7 @@ TEST_F(GroupLevelTest, AReplacedGroupHasNothingOfTheOldOne) {
   EXPECT_EQ(groups::Shape(level), "A/new b/2");
 }
 
-// The list takes over the sub-groups that were there, and those that come later are its own.
+// The list takes over existing sub-groups; later ones are added to the list.
 TEST_F(GroupLevelTest, AListOwnsTheSubGroups) {
   level.Assign({{Record(1, "a", "1")}});
   level.MakeSubsAt(0).Append(Record(1, "s", "S"));

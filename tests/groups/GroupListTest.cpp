@@ -1,5 +1,4 @@
-// One group: its members, fetched when they are first asked for, its lines in the log, its
-// sub-groups.
+// One group: its lazily fetched members, its lines in the log, its sub-groups.
 #include "groups/GroupList.h"
 
 #include "platform/Log.h"
@@ -120,7 +119,7 @@ TEST_F(GroupListTest, Update3ResolvesTheIdsAgainAndIsLogged) {
   EXPECT_EQ(standin::LogLines().back().level, 64);
 }
 
-// A line shows what is there; it fetches nothing.
+// Writing a line fetches no members.
 TEST_F(GroupListTest, Update3OfAListWithoutIdsAsksNothing) {
   EXPECT_EQ(list.Update3(), 1);
   EXPECT_EQ(LastLine(), "CGroupList::Update3 GroupName=Semi, Symbols=");

@@ -1,4 +1,4 @@
-// Reading the tree from the service, sound and broken.
+// Reading the tree from a sound and from a broken service.
 #include "groups/GroupLoader.h"
 
 #include "tests/groups/GroupRecords.h"
@@ -151,8 +151,7 @@ TEST_F(GroupLoaderTest, AHundredThousandGroupsThatNameThemselves) {
     ASSERT_EQ(level.SubCountAt(i), 1);
 }
 
-// A thousand groups of which each has all as sub-groups: a tree of a thousand to the power of its
-// depth.
+// A thousand groups that each have all of them as sub-groups.
 TEST_F(GroupLoaderTest, GroupsThatAllNameOneAnotherEndAtTheMostGroups) {
   std::vector<GroupInfo> records;
   for (int i = 0; i < 1000; ++i)

@@ -1,5 +1,5 @@
-// Look-ups by id through the indexes against plain scans of the tree, at random: ids that occur
-// often, in either letter case, at both levels.
+// Look-ups by id against plain scans of the tree, at random: ids occur often, in either letter
+// case, on both levels.
 #include <optional>
 #include <random>
 
@@ -16,7 +16,7 @@ bool SameNoCase(const std::string& left, const std::string& right) {
   return CString(left.c_str()).CompareNoCase(right.c_str()) == 0;
 }
 
-// The tree as the scans see it: places are (group, sub), sub -1 for the group itself.
+// A place in the scanned tree; sub is -1 for the group itself.
 struct Place {
   int group = -1;
   int sub = -1;
@@ -176,7 +176,7 @@ TEST_F(GroupLookUpTest, HandlesSurviveWhatHappensToOtherGroups) {
   Answer(1, "", top);
   Answer(1, "g50", {Record(1, "s1", "S1"), Record(1, "s2", "S2"), Record(1, "s3", "S3")});
   manager.Load();
-  CGroupList* const sub = manager.FindAnywhere("s2"); // before the group that it belongs to
+  CGroupList* const sub = manager.FindAnywhere("s2"); // asked for before its group
   CGroupList* const group = manager.Find("g50");
   const std::vector<CGroupSet> sets = {Set(1, "g1", ""), Set(1, "g2", ""), Set(1, "g99", "")};
   tq::RemoveGroups(manager, {&sets[0], &sets[1]});

@@ -1,5 +1,4 @@
-// What the manager's groups are to answer, said again in the plainest way: vectors, copies and
-// scans.
+// The expected behaviour of the manager's groups in the plainest form: vectors, copies and scans.
 #pragma once
 
 #include <map>
@@ -18,8 +17,8 @@ struct Group {
   std::string name;
   int hasSub = 0;
   std::vector<Group> subs;
-  std::string ids;        // members, once they were fetched
-  void* handle = nullptr; // once the manager gave one
+  std::string ids;        // members, once fetched
+  void* handle = nullptr; // once the manager has given one
 };
 
 struct Manager {
@@ -27,7 +26,7 @@ struct Manager {
   std::vector<Group> groups;
 };
 
-// What the service answers at the moment.
+// The current answers of the service.
 struct Service {
   std::map<std::pair<int, std::string>, std::vector<GroupInfo>> groups;
   std::map<std::pair<int, std::string>, std::vector<std::string>> members;
@@ -49,7 +48,7 @@ public:
   int IndexOf(int type) const;
   bool AnyLoaded() const { return !indexes.empty(); }
   bool IsLoaded(int type) const { return indexes.count(type) != 0; }
-  // Null too for a position behind the array.
+  // Also null for a position past the end.
   Manager* Loaded(int type);
 
   Group* FindHandle(int type, const std::string& id);

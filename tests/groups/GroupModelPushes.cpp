@@ -58,7 +58,7 @@ bool Erase(std::vector<Group>& groups, const std::string& id) {
   return true;
 }
 
-// One push at each manager; returns whether one of them changed something.
+// Applies a push to each manager; returns whether one of them changed.
 template <typename Push>
 int Each(std::vector<Manager>& managers, const std::vector<CGroupSet>& sets, Push push) {
   int changed = 0;
@@ -70,7 +70,7 @@ int Each(std::vector<Manager>& managers, const std::vector<CGroupSet>& sets, Pus
   return changed;
 }
 
-// One push at each group that a set names.
+// Applies a push to each group that a set names.
 template <typename Push>
 int EachGroup(std::vector<Manager>& managers, const std::vector<CGroupSet>& sets, Push push) {
   return Each(managers, sets, [&](Manager& manager, const std::vector<CGroupSet>& selection) {

@@ -1,5 +1,5 @@
-// Random groups, step by step against the model: loading, adding and removing types, pushes, and
-// every question, by id and by handle.
+// Random operations on groups, each compared with the model: loading, adding and removing types,
+// pushes, and all queries by id and by handle.
 #include <algorithm>
 
 #include "manager/TQSymbolListMgr.h"
@@ -158,7 +158,7 @@ void GroupModelTest::AskForHandle() {
   expected->handle = handle;
 }
 
-// A group of which a handle was given and that is still there.
+// A group that still exists and whose handle was given out.
 Group* GroupModelTest::AnyKnownHandle() {
   if (model.managers.empty())
     return nullptr;

@@ -1,4 +1,4 @@
-// What a test has the service answer for groups, record by record.
+// Raw records of groups and members for the stand-in service.
 #pragma once
 
 #include <cstring>
@@ -12,7 +12,7 @@
 
 namespace groups {
 
-// Text as it stands, cut at the field's last byte.
+// Copies the texts byte by byte, cut to their fields.
 inline GroupInfo Record(int type, const std::string& id, const std::string& name, int hasSub = 0) {
   GroupInfo info = {};
   info.nType = static_cast<short>(type);

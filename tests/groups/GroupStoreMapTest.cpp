@@ -1,4 +1,4 @@
-// The map from types to positions: what makes it stale, and what goes by it all the same.
+// The map from types to positions: what makes it stale, and what does not depend on it.
 #include "tests/groups/GroupStoreTest.h"
 
 namespace {
@@ -12,7 +12,7 @@ TEST_F(GroupStoreTest, AddingATypeAgainPutsASecondManagerBehindTheFirst) {
   EXPECT_EQ(store.IndexOf(8), 8);
   EXPECT_EQ(GroupOf(8), "g8");
   EXPECT_EQ(store.IndexOf(201), kLast + 1);
-  // The first of the two is reloaded and removed, which the map does not show.
+  // The first of the two is reloaded and removed; the map leads to the second.
   Answer(7, "", {Record(7, "third", "Third")});
   EXPECT_EQ(store.Load(7), 1);
   EXPECT_EQ(GroupOf(7), "second");
@@ -28,7 +28,7 @@ TEST_F(GroupStoreTest, BothManagersOfATypeTakeAPush) {
   EXPECT_EQ(store.Push({Set(7, "G7", "Pushed")}, tq::UpdateGroupNames), 1);
   EXPECT_STREQ(store.Loaded(7)->GetAt(0)->GetInfo().szName, "Pushed");
   store.Remove(7);
-  store.Add(3); // in front, so that the map leads to the manager that is left
+  store.Add(3); // in front, so that the map leads to the remaining manager
   EXPECT_EQ(store.Push({Set(7, "g7", "Again")}, tq::UpdateGroupNames), 1);
 }
 
@@ -74,7 +74,7 @@ TEST_F(GroupStoreTest, SearchesForSymbolsPastTheArrayFindNothing) {
   EXPECT_EQ(store.HoldsText(8, "g8", "2330"), 0);
 }
 
-// What loads, removes and pushes looks at the managers, so it reaches the right ones all the same.
+// Loading, removing and pushing search the array and do not use the map.
 TEST_F(GroupStoreTest, AStaleMapDoesNotMisleadReloadingRemovingAndPushing) {
   store.LoadAll();
   store.Remove(7);
@@ -94,12 +94,12 @@ TEST_F(GroupStoreTest, AddingMovesStalePositionsToo) {
   EXPECT_EQ(store.Add(7), 1);
   EXPECT_EQ(store.IndexOf(7), 6);
   EXPECT_EQ(GroupOf(7), "g7");
-  EXPECT_EQ(store.IndexOf(8), 8); // was 7, is one too far still
+  EXPECT_EQ(store.IndexOf(8), 8); // was 7, and is still one too far
   EXPECT_EQ(GroupOf(8), "g9");
   EXPECT_EQ(store.IndexOf(6), 5);
 }
 
-// A stale position moved although the new type stood behind all others.
+// Symptom: a stale position moved although the new type stood behind all others.
 TEST_F(GroupStoreTest, ATypeBehindAllOthersMovesNoPositionStaleOrNot) {
   store.Add(1);
   store.Add(101);
@@ -111,12 +111,12 @@ TEST_F(GroupStoreTest, ATypeBehindAllOthersMovesNoPositionStaleOrNot) {
   EXPECT_EQ(GroupOf(150), "g150");
 }
 
-// One in front of another moves every position from there on, those of smaller types too.
+// A type in front of another moves every position from there on, those of smaller types too.
 TEST_F(GroupStoreTest, ATypeInFrontOfAnotherMovesEveryPositionFromThereOn) {
   store.Add(1);
   store.Add(5);
   store.Add(101);
-  store.Remove(1); // 5 answers under 1, 101 under 2, where nothing is
+  store.Remove(1); // 5 now leads to 101, and 101 past the end
   EXPECT_EQ(store.Add(50), 1);
   EXPECT_EQ(store.IndexOf(50), 1);
   EXPECT_EQ(store.IndexOf(5), 2);

@@ -73,7 +73,7 @@ TEST_F(GroupStoreTest, LoadingATypeThatIsNotThereAddsIt) {
   EXPECT_EQ(store.Load(50), 1);
   EXPECT_EQ(GroupOf(50), "g50");
   EXPECT_EQ(store.Load(200), 1);
-  EXPECT_EQ(store.Load(201), 0); // only a full load makes the cloud groups
+  EXPECT_EQ(store.Load(201), 0); // only a full load creates the cloud groups
   EXPECT_EQ(refreshes, 0);
 }
 

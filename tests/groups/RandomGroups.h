@@ -1,4 +1,4 @@
-// Groups, members, ids and pushes at random: what the service answers, and the model with it.
+// Random groups, members, ids and pushes, for both the service and the model.
 #pragma once
 
 #include <iterator>
@@ -40,14 +40,14 @@ protected:
       records.push_back(groups::Record(type, Id(), Name(), withSubs && Random(2) == 0));
     for (GroupInfo& record : records)
       if (record.szID[0] == '\0')
-        record.bHasSubGroup = 0; // they would be the first level again
+        record.bHasSubGroup = 0; // an empty id would ask for the first level again
     return records;
   }
   void Answer(int type, const std::string& parent, const std::vector<GroupInfo>& records) {
     groups::Answer(type, parent, records);
     model.service.groups[{type, parent}] = records;
   }
-  // Other groups and members for every type; groups that were fetched before keep theirs.
+  // New groups and members for every type; what was fetched before stays.
   void ChangeService() {
     for (const int type : {1, 2, 7, 8, 21, 50, 101, 200, 201}) {
       const std::vector<GroupInfo> top = Records(type, 30, true);

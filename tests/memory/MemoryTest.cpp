@@ -1,4 +1,4 @@
-// When memory runs out, an operation ends well or the process is stopped. Whichever it is, and at
+// When memory runs out, an operation ends well or the process is stopped. In either case, at
 // whatever moment, the user's lists are on the disk.
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ std::string ListId(int number) {
   return "{list-" + std::to_string(number) + "}";
 }
 
-// Some 250 kilobytes.
+// About 250 kilobytes.
 std::string UserLists() {
   std::string text = "<?xml version='1.0' encoding='utf-8' ?>\n<Result>\n"
                      "<SymbolList DefaultIdx='0'>\n";
@@ -43,7 +43,7 @@ protected:
     WriteWorking(lists_);
   }
 
-  // What a terminal does in a morning.
+  // A typical sequence of a terminal's operations.
   void WorkOn(int initSymbolTables) {
     manager.Init(directory.Path().c_str(), 0, initSymbolTables, 0, nullptr, 0, 1);
     manager.AddSymbolList("{new}", 0, "new", "2330.TW,2317.TW", 1, 0);
@@ -60,7 +60,7 @@ protected:
     manager.AddSymbolList("{newer}", 0, "newer", "1101.TW", 1, 0);
   }
 
-  // Every list of the user's is in the file, or in the copy that was kept beside it.
+  // Whether every user list is in the file or in its copy.
   void ExpectNothingLost() {
     EXPECT_TRUE(HoldsAll(ReadWorking()) || HoldsAll(directory.Read("SymbolList_Kept.xml")));
   }
@@ -71,7 +71,7 @@ protected:
     WriteWorking(lists_);
   }
 
-  // Counts how the runs ended, so that a test sees that both ends were met.
+  // Counts the endings, so that a test can check that both occurred.
   void Note(Ending ending) {
     EXPECT_NE(ending, Ending::Thrown);
     EXPECT_NE(ending, Ending::Crashed);
@@ -111,7 +111,7 @@ TEST_F(MemoryTest, NothingIsLostWhicheverAllocationFails) {
   EXPECT_GT(stopped_, 100);
 }
 
-// The lists are too large for the memory that is left, and the terminal lives on.
+// The lists need more memory than is left, and the terminal goes on.
 TEST_F(MemoryTest, AFileThatDoesNotFitIsKeptBeforeASave) {
   constexpr std::size_t kFileSize = 24 * kKilobyte * kKilobyte;
   const std::size_t end = lists_.rfind("</SymbolList>");

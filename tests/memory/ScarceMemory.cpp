@@ -49,7 +49,7 @@ void LimitAddressSpace(std::size_t bytes) {
   ::setrlimit(RLIMIT_AS, &limit);
 }
 
-// What a child says when it is stopped is expected.
+// Messages of a child that is stopped are expected.
 void Silence() {
   const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
   ::dup2(nowhere, STDERR_FILENO);
@@ -108,7 +108,7 @@ long CountAllocations(const Work& work) {
   return result;
 }
 
-// The library and everything else in this program take their memory from here.
+// The library and everything else in this program allocate through these.
 void* operator new(std::size_t size) {
   return AllocateOrThrow(size);
 }

@@ -1,25 +1,25 @@
-// Ways for memory to run out, in a process of its own.
+// Runs work in a child process that runs out of memory.
 #pragma once
 
 #include <functional>
 #include <string>
 
-// How a child process ended that had too little memory.
+// How the child process ended.
 enum class Ending {
-  Done,    // it came to its end
+  Done,    // returned
   Stopped, // aborted, as tq::OutOfMemory and std::terminate do
-  Thrown,  // an exception left the operations
-  Crashed, // any other way
+  Thrown,  // an exception left an operation
+  Crashed, // anything else
 };
 
 using Work = std::function<void()>;
 
-// Does the work in a child whose address space may grow by `bytes` and no more.
+// Runs the work in a child whose address space may grow by at most `bytes`.
 Ending RunWithin(std::size_t bytes, const Work& work);
 
-// Does it in a child in which allocation number `number`, from 0, by operator new fails: all that
-// follow too, or none of them (`once`). Done also when there were fewer: see CountAllocations.
+// Runs the work in a child where allocation `number` (from 0) by operator new fails, and all later
+// ones too unless `once`. Also Done when there are fewer allocations: see CountAllocations.
 Ending RunWithout(long number, bool once, const Work& work);
 
-// How many allocations by operator new the work makes.
+// The number of allocations by operator new that the work makes.
 long CountAllocations(const Work& work);

@@ -1,5 +1,5 @@
-// Whether the table of operations has all that the library exports for its manager, and whether
-// they reach every service: what is not called is not tried.
+// The table of operations must contain every exported operation of the manager and reach every
+// service.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace {
 
 using Names = std::set<std::string>;
 
-// Relative to the root of the tree, where tests are run.
+// Relative to the root of the source tree, where tests run.
 std::vector<std::string> LinesOf(const std::string& path) {
   std::vector<std::string> lines;
   std::ifstream file(path);
@@ -44,7 +44,7 @@ std::vector<std::string> ExportsOf(const std::string& name) {
   return signatures;
 }
 
-// What a header declares behind "protected:", which nobody outside can call.
+// Members that a header declares behind "protected:".
 Names HiddenIn(const std::string& header) {
   Names names;
   bool hidden = false;
@@ -87,8 +87,9 @@ TEST(OperationsTable, HasNothingTwice) {
   EXPECT_EQ(SignaturesInTable().size(), All().size());
 }
 
-// Constructors, destructors and the choice of a level do nothing that a terminal could wait for,
-// the language is only a setting, and the log is opened once (see OpeningTheLog).
+// Left out: constructors, destructors and the choice of a log level, which a terminal never waits
+// for; the language, which is only a setting; and opening the log, which happens once (see
+// OpeningTheLog).
 bool CanBeWatched(const std::string& service) {
   return service.find("Log::TQLog") == service.npos && service.find('~') == service.npos &&
          service.find("Key::CStaticKey") == service.npos &&

@@ -1,11 +1,11 @@
-// The working copy that a dialog would hand to the manager.
+// A working copy as a dialog would hand it to the manager.
 #pragma once
 
 #include "tests/operations/Operations.h"
 
 namespace operations {
 
-// Copies of the lists of the arguments' kind and one more list, freed in the end.
+// Copies of the lists of the arguments' kind and one more list, freed at the end.
 class CopiesOfLists {
 public:
   CopiesOfLists(CTQSymbolListMgr& manager, const Arguments& arguments) : nothing_(arguments.nulls) {

@@ -1,11 +1,11 @@
-// Which cell it was, when the sanitizer ends the process in the middle of one.
+// Names the current test case when a sanitizer ends the process.
 #pragma once
 
 #include <string>
 
 namespace operations {
 
-// While it lives a crash is reported with this text, where a sanitizer reports it.
+// During its lifetime a sanitizer's crash report shows this text.
 class CrashNote {
 public:
   explicit CrashNote(const std::string& text);
@@ -14,8 +14,7 @@ public:
   CrashNote& operator=(const CrashNote&) = delete;
 };
 
-// Fails the test when memory is lost that nothing points to any more; without the sanitizer's
-// leak detector it does nothing, for the process's end would not tell either.
+// Fails the test when memory has leaked. Without the sanitizer's leak detector it does nothing.
 void ExpectNoLeak();
 
 } // namespace operations

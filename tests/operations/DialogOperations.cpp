@@ -1,4 +1,4 @@
-// The dialogs. Somebody has to answer them: see EndDialogs in Subject.h.
+// The dialogs. Something must end them: see EndDialogs in Subject.h.
 #include "tests/operations/Operations.h"
 
 namespace operations {

@@ -1,4 +1,4 @@
-// Default exchanges, the order of exchanges, all symbols, lots, symbols that move.
+// Default exchanges, the order of exchanges, all symbols, lots, moved symbols.
 #include "tests/operations/Operations.h"
 
 namespace operations {
@@ -91,7 +91,7 @@ Table Order() {
          m.GetSymbolList(a.id, &list, a.kind);
          if (list != nullptr)
            list->Update1(a.symbols);
-         m.GetSymbolList(a.id, &list, a.kind); // while it was set it may have gone
+         m.GetSymbolList(a.id, &list, a.kind); // it may have been deleted meanwhile
          m.ReplaceSymbolListExchID(list, a.exchange, "TE");
        }},
   };

@@ -1,4 +1,4 @@
-// Groups: loading, questions, pushes.
+// Groups: loading, queries, pushes.
 #include "tests/operations/Operations.h"
 
 namespace operations {

@@ -1,4 +1,4 @@
-// What holds of a manager whatever was called.
+// The invariants of a manager.
 #include <cstring>
 #include <vector>
 
@@ -17,7 +17,7 @@ struct ListState {
   bool operator==(const ListState&) const = default;
 };
 
-// Nothing is escaped on saving: these a terminal has to keep out.
+// Saving escapes nothing, so a terminal has to keep these out.
 bool SurvivesSaving(const std::string& text) {
   return text.find_first_of("'&<\t\n\r") == std::string::npos;
 }
@@ -158,7 +158,7 @@ std::string BrokenAnswers(CTQSymbolListMgr& manager) {
   return broken;
 }
 
-// Into a file of its own: what is probed of the other ones stays.
+// In a separate file, so that the other files stay as they were for later checks.
 std::string BrokenSave(CTQSymbolListMgr& manager, MemoryDisk& disk) {
   const std::vector<ListState> lists = UserLists(manager);
   disk.Refuse(false);

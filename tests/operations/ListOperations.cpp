@@ -23,7 +23,7 @@ void Init(Manager& m, const Arguments& a) {
          a.flag);
 }
 
-// The manager's own list as the source, which an operation from within may delete.
+// The manager's own list as the source, which a nested operation may delete.
 void AddOwnList(Manager& m, const Arguments& a) {
   CSymbolList* list = nullptr;
   m.GetSymbolList(a.id, &list, a.kind);

@@ -1,4 +1,4 @@
-// A data directory in memory, in the place of the library's files while it lives.
+// A data directory in memory that replaces the library's files during its lifetime.
 #pragma once
 
 #include <map>

@@ -1,6 +1,5 @@
-// What a terminal does with a list of the manager's that it was handed, and the other exported
-// classes as far as they ask the services or the manager. A list is fetched for each call, since
-// one from within may delete it.
+// Operations on a list of the manager's, and on other exported classes as far as they ask the
+// services or the manager. The list is fetched for each call, since a nested one may delete it.
 #include "symbolid/ListID.h"
 #include "symbolid/OptFutID.h"
 #include "tests/operations/Operations.h"

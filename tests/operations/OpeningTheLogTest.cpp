@@ -1,4 +1,4 @@
-// The first start of the process opens the log, once: what the matrix cannot try again and again.
+// The first start of the process opens the log, once, so the matrix cannot repeat it.
 #include <gtest/gtest.h>
 
 #include "platform/Log.h"

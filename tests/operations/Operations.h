@@ -1,6 +1,6 @@
-// Every operation that a terminal can call on a live manager, as a table: the re-entrancy matrix
-// calls each from within each, the fuzzer makes up sequences of them. Free of GoogleTest, since the
-// fuzzer is.
+// A table of all operations that a terminal can call on a live manager. The re-entrancy matrix
+// calls each from within each other one, the fuzzer generates sequences of them. Without
+// GoogleTest, since the fuzzer has none.
 #pragma once
 
 #include <string>
@@ -10,8 +10,8 @@
 
 namespace operations {
 
-// What the operations are called with, each taking what it needs. The ones of the start mean what
-// Populate (Subject.h) puts there.
+// The arguments of all operations, each of which uses some. The defaults name what Populate
+// (Subject.h) creates.
 struct Arguments {
   CString directory = "memory";
   CString id = "a";                                      // of a list
@@ -29,23 +29,23 @@ struct Arguments {
   int number = 0;
   int other = 1;
   int flag = 1;
-  bool nulls = false; // every pointer that may be null is
+  bool nulls = false; // pass null for every pointer that may be null
 
   const char* Text(const CString& chosen) const { return nulls ? nullptr : chosen.GetString(); }
-  // The records with the bytes that `recordCount` asks for.
+  // The records, padded to the length that `recordCount` requires.
   std::string Records() const;
 };
 
 struct Operation {
-  // As tests/exports/tqSymbol.linux.txt has it, without the class.
+  // As in tests/exports/tqSymbol.linux.txt, without the class.
   const char* signature;
   void (*run)(CTQSymbolListMgr& manager, const Arguments& arguments);
 };
 
 using Table = std::vector<Operation>;
 
-// Of CTQSymbolListMgr: what is exported, what is inline, and the dialogs, which the modal handler
-// has to answer (see EndDialogs in Subject.h).
+// Those of CTQSymbolListMgr: exported ones, inline ones, and the dialogs, which the modal handler
+// must end (see EndDialogs in Subject.h).
 Table ListOperations();
 Table QueryOperations();
 Table ExchangeOperations();
@@ -53,18 +53,18 @@ Table GroupOperations();
 Table CloudOperations();
 Table TradingOperations();
 Table DialogOperations();
-// All of those.
+// All of these.
 const Table& ManagerOperations();
-// Of the CSymbolTableMgr that the manager has, none when it has none; and of a list of the
+// Those of the manager's CSymbolTableMgr, which do nothing without one; and those of a list of the
 // manager's and its copies.
 Table SymbolTableOperations();
 Table OneListOperations();
-// All there are.
+// All operations.
 const Table& All();
 
-// Whether it only asks, by its name.
+// Whether it is a query, judging by its name.
 bool IsQuestion(const Operation& operation);
-// The name of one for a test: letters and digits, another one for each overload.
+// Its name for a test: letters and digits, different for each overload.
 std::string NameOf(const Table& table, std::size_t index);
 
 } // namespace operations

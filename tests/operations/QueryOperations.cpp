@@ -1,4 +1,4 @@
-// What is asked of the lists, and of single symbols.
+// Queries about lists and single symbols.
 #include "tests/operations/Operations.h"
 
 namespace operations {

@@ -1,7 +1,7 @@
 // The terminal handles messages while a service works, and may call any operation of the library
-// from there. Here each does so from within each service call of each other one: whatever the two
-// are, nothing freed is used, nothing leaks, nothing hangs, lists stay whole and are saved whole,
-// and what neither of the two takes away is there afterwards.
+// from there. Here every operation runs within service calls of every other one. Whatever the two
+// are, nothing freed is used, nothing leaks or hangs, lists stay whole and are saved whole, and
+// what neither of the two removes is still there afterwards.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -22,9 +22,9 @@ namespace {
 // How often each service was called.
 using Counts = std::map<std::string, int>;
 
-// What an operation is called with in the matrix.
+// The arguments of the operations in the matrix.
 enum class Aim {
-  Known, // lists, groups and symbols that are there
+  Known, // existing lists, groups and symbols
   Other, // cloud lists, another group type, other flags; and no file can be written
 };
 
@@ -53,7 +53,7 @@ void Call(Subject& subject, std::size_t operation, Aim aim) {
   All()[operation].run(subject.Manager(), ArgumentsFor(aim));
 }
 
-// Runs an operation with `watch` at each call of a service that it makes.
+// Runs an operation and calls `watch` in each service call that it makes.
 void RunWatched(Subject& subject, std::size_t operation, Aim aim, standin::CallWatch watch) {
   subject.Disk().Refuse(aim == Aim::Other);
   standin::OnEachCall(std::move(watch));
@@ -70,7 +70,7 @@ Counts CountCalls(std::size_t operation, Aim aim) {
   return counts;
 }
 
-// What is called from within: one operation, or some of those that only ask.
+// The operations called from within: a single one, or several queries.
 struct Inner {
   std::vector<std::size_t> operations;
 
@@ -123,15 +123,15 @@ void CallTwice(Subject& subject, const Cell& cell) {
   CallInner(subject, cell);
 }
 
-// Which calls of a service have the inner operations run within them: ever fewer, for attributes
-// are read dozens of times for each symbol.
+// The calls of a service within which inner operations run: ever fewer, because attributes are read
+// dozens of times for each symbol.
 bool IsChosen(int call) {
   return call == 1 || call == 2 || call == 5 || call == 16 || call == 64;
 }
 
-// All pairs of operations with all services would take minutes. Each pair is tried in one service
-// of the outer one and with one aim, in turn and another one in each language, unless the
-// environment variable TQ_WHOLE_MATRIX asks for all.
+// All pairs of operations with all services would take minutes. So each pair is tried in one
+// service of the outer operation and with one aim, which vary from pair to pair and with the
+// language, unless the environment variable TQ_WHOLE_MATRIX asks for all.
 bool IsTried(std::size_t outer, std::size_t inner, std::size_t place, std::size_t places) {
   static const bool kAll = std::getenv("TQ_WHOLE_MATRIX") != nullptr;
   const std::size_t turn = outer + inner + (IsTraditionChinese() != 0 ? 0 : 1);
@@ -157,7 +157,7 @@ protected:
 
   enum class Order { OuterAlone, InnerAlone, OuterFirst, InnerFirst };
 
-  // After, kept where only one of the two operations matters.
+  // The state afterwards, cached for pairs where only one of the two operations matters.
   static Probes Left(const Cell& cell, Order order) {
     static std::map<std::tuple<Order, std::size_t, Aim>, Probes> kept;
     if (order != Order::OuterAlone && order != Order::InnerAlone)
@@ -168,7 +168,8 @@ protected:
                                : kept[{order, alone, cell.aim}] = After(cell, order);
   }
 
-  // What is left when nothing is nested. The inner one comes twice, as it may within.
+  // The state after the operations run in sequence. The inner one runs twice, as it may when
+  // nested.
   static Probes After(const Cell& cell, Order order) {
     Subject subject;
     if (order == Order::InnerAlone || order == Order::InnerFirst)
@@ -180,7 +181,7 @@ protected:
     return subject.Probe();
   }
 
-  // What is left after the two one behind the other, in either order, must be left.
+  // What remains after both in sequence, in either order, must remain after nesting.
   static void ExpectNothingLost(const Cell& cell, Probes left) {
     Probes lost = ~left;
     for (const Order order :
@@ -192,9 +193,9 @@ protected:
           << "lost: " << NameOfProbe(bit);
   }
 
-  // In the midst of a start the manager's lists are not loaded yet. A terminal that clears them
-  // then has the import of older lists save without them; and an account list whose identifier is
-  // to be held against the user's lists finds none of them.
+  // During a start the manager's lists are not loaded yet. If the terminal clears them then, the
+  // import of older lists saves without them, and an account list whose identifier is compared with
+  // those of the user's lists finds none.
   static std::string MeantLoss(const Cell& cell) {
     if (NameOf(All(), cell.outer) != "Init")
       return "";
@@ -218,7 +219,7 @@ protected:
     EXPECT_EQ(standin::BadReleases(), 0);
   }
 
-  // The services that the outer operation calls, with the aim with which it does.
+  // The services that the outer operation calls with its aim.
   static std::vector<std::pair<std::string, Aim>> Places(std::size_t outer) {
     std::vector<std::pair<std::string, Aim>> places;
     for (const Aim aim : {Aim::Known, Aim::Other})

@@ -1,5 +1,5 @@
-// A manager that has something of everything, on files in memory and a market of its own, and what
-// must hold of it whatever was called.
+// A manager that has some of everything, on files in memory and a market of its own, and the
+// invariants that must hold whatever is called.
 #pragma once
 
 #include <bitset>
@@ -12,17 +12,17 @@
 
 namespace operations {
 
-// Three exchanges with a few symbols (6488 went over from TW to TE), groups of the types 1, 2, 7
-// and 201, two trading systems, and a row for each dialog.
+// Three exchanges with a few symbols (6488 has moved from TW to TE), groups of the types 1, 2, 7
+// and 201, two trading systems, and an info row for each dialog.
 standin::Market SmallestMarket();
-// Puts that market behind the services, and ends each dialog as soon as it opens.
+// Makes the services serve that market, and ends each dialog as soon as it opens.
 void PrepareServices();
 
-// What is there after Populate and that no operation aims at: the lists called z of each kind, in
-// memory and in the file, other groups, tables of symbols, default exchanges. An operation may take
-// one away (it clears all lists, say); two may not lose one that each of them leaves alone.
+// What Populate creates and no operation aims at: the list z of each kind in memory and in the
+// file, other groups, symbol tables, default exchanges. An operation may remove some of it (by
+// clearing all lists, say); two operations that each leave it alone must leave it together.
 using Probes = std::bitset<32>;
-// What a bit is about.
+// The meaning of each bit.
 const char* NameOfProbe(std::size_t bit);
 
 class Subject {
@@ -38,7 +38,7 @@ public:
   void End() { manager_.reset(); }
 
   Probes Probe();
-  // What does not hold of lists, rows, groups, tables or the saved file, in words; else empty.
+  // The broken invariant of lists, rows, groups, tables or the saved file in words; else empty.
   std::string Broken();
 
 private:
@@ -46,8 +46,8 @@ private:
   std::unique_ptr<CTQSymbolListMgr> manager_;
 };
 
-// Broken() for any manager: of its lists, of what saving and loading again makes of them, and of
-// everything else that can be asked.
+// Broken() for any manager: checks its lists, the result of saving and loading them again, and all
+// queries.
 std::string BrokenLists(CTQSymbolListMgr& manager);
 std::string BrokenSave(CTQSymbolListMgr& manager, MemoryDisk& disk);
 std::string BrokenAnswers(CTQSymbolListMgr& manager);

@@ -1,4 +1,4 @@
-// The manager's symbol tables. They are fetched for each call: one from within may make new ones.
+// The manager's symbol tables. They are fetched for each call, since a nested one may replace them.
 #include "symboltable/SymbolTableMgr.h"
 
 #include "platform/services/tqStock.h"
@@ -24,13 +24,13 @@ void LookUpNumbers(Manager& m, const Arguments& a, int field) {
   With(m, [&](CSymbolTableMgr& t) { t.LookUpSymbolGetInt(field, a.text, a.exchange, number); });
 }
 
-// What the tables hold, what they ask for as text, and what is asked of trading data.
+// What the tables hold, what they request as text, and what trading data answers.
 constexpr int kFields[] = {FieldSymbolId,       FieldSymbolName, FieldExchangeName,
                            FieldReferencePrice, FieldTradeCode,  FieldContractSize};
 
 Table LifeCycle() {
   return {
-      // Init alone forgets tables that are there, for good.
+      // Init alone drops existing tables for good.
       {"CSymbolTableMgr::Init()",
        [](Manager& m, const Arguments&) {
          With(m, [](CSymbolTableMgr& t) { t.CleanALL(); });

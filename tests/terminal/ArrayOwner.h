@@ -1,4 +1,4 @@
-// Holds an array that VLProxy handed out until the end of the block.
+// Owns an array of VLProxy until the end of the block.
 #pragma once
 
 #include <string>

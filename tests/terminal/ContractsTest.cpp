@@ -19,7 +19,7 @@ protected:
     standin::SetMarket(market);
   }
 
-  // The id, or "none" when the buffer is as it was.
+  // The id, or "none" when the buffer is unchanged.
   static std::string Zuid(int exchId, const char* code) {
     char zuid[20] = "before";
     if (VLGetZUID(exchId, code, zuid))

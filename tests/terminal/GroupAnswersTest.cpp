@@ -1,4 +1,4 @@
-// Raw records in the place of what the market says of groups.
+// Raw records that replace the market's groups.
 #include <cstring>
 
 #include "tests/terminal/GroupServiceTest.h"

@@ -1,5 +1,5 @@
-// The stand-in VLProxy: groups. Numbers of packed records are compared inside EXPECT_TRUE: the
-// other macros would bind references to them, and they are not aligned.
+// The stand-in VLProxy: groups. Numbers of packed records are compared inside EXPECT_TRUE because
+// the other macros would bind references to them, which are misaligned.
 #include <cstring>
 
 #include "platform/services/tqCommon.h"
@@ -85,7 +85,7 @@ TEST_F(GroupService, GroupsOfATypeThatNoServiceHasAreNotServed) {
   EXPECT_EQ(GroupIds(groups), "C");
 }
 
-// The letters of a type's number must not be taken for letters of an id.
+// Digits of a type must not be taken for letters of an id.
 TEST_F(GroupService, TypesThatDifferByALettersCaseBitAreApart) {
   standin::Market market;
   market.groups = {{65, "", "A", "", "", {}}, {97, "", "B", "", "", {}}};

@@ -1,4 +1,4 @@
-// tqStock's info tables: rows, columns, languages, and whose they are.
+// tqStock's info tables: rows, columns, languages, ownership.
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/services/tqCommon.h"

@@ -14,7 +14,7 @@ protected:
     return logger->storage(directory.c_str(), "base", "TQ", daily, true);
   }
 
-  const TempDir temp; // outlives the logger, whose open file would keep it
+  const TempDir temp; // outlives the logger, which keeps its file open
   std::unique_ptr<TQLog> logger = std::make_unique<TQLog>();
 };
 

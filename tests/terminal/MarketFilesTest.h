@@ -1,4 +1,4 @@
-// A market directory with the two files that have to be there, for tests of what LoadMarket takes.
+// A market directory with the two required files, for tests of LoadMarket.
 #pragma once
 
 #include <string>
@@ -35,7 +35,7 @@ struct BadFile {
   const char* what;
   const char* file;
   std::string text;
-  const char* error; // how it begins
+  const char* error; // its beginning
 };
 
 inline void ExpectRefusal(const BadFile& bad) {

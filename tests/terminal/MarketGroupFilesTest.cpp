@@ -43,7 +43,7 @@ TEST_F(MarketFiles, ReadsAccountsOfEachSystem) {
   EXPECT_EQ(market.tradingSystems[1].accounts[0].holdings, "");
 }
 
-// A member or holding that the sample market does not list would be left out without a word.
+// Otherwise a member or holding that the sample market does not list would be left out silently.
 TEST_F(MarketFiles, TheSampleMarketListsWhatItsGroupsAndAccountsName) {
   standin::Reset();
   ASSERT_TRUE(standin::LoadMarket("data/market", market, error)) << error;
@@ -63,7 +63,7 @@ TEST_F(MarketFiles, TheSampleMarketListsWhatItsGroupsAndAccountsName) {
       check(account.holdings);
 }
 
-// One group, and one account: a record with the fields that matter to a case.
+// A group and an account with the fields that matter to a case.
 std::string Group(const std::string& place, const std::string& members = "-") {
   return kGroups + place + "\tn\tn\t" + members + "\n";
 }

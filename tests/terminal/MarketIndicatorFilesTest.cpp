@@ -65,7 +65,7 @@ TEST_F(MarketFiles, TheSampleMarketHasTheTablesThatAreSearched) {
   EXPECT_GT(withMarket, 20);
 }
 
-// A run has one code page, so it looks at the texts of its own language.
+// A process has one code page, so each run checks the texts of its own language.
 TEST_F(MarketFiles, TheSampleIndicatorsExistInTheCodePage) {
   ASSERT_TRUE(standin::LoadMarket("data/market", market, error)) << error;
   const bool traditional = IsTraditionChinese() != 0;

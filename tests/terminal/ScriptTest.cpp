@@ -1,4 +1,4 @@
-// The stand-in's means of testing: ordered failures, recorded calls, counted arrays.
+// The stand-in's controls for tests: ordered failures, recorded calls, counted arrays.
 #include "platform/framework/CString.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/tqStock.h"
@@ -61,7 +61,7 @@ TEST_F(ScriptTest, EveryOperationRunsItsActionOnceACall) {
     int runs = 0;
     standin::OnCall(operation.name, [&] {
       ++runs;
-      operation.call(); // an action does not run inside of itself
+      operation.call(); // an action does not run inside itself
     });
     operation.call();
     EXPECT_EQ(runs, 1);

@@ -6,9 +6,8 @@
 
 struct Operation {
   const char* name;
-  std::function<int()> call; // one that succeeds unless it is ordered to fail
+  std::function<int()> call; // succeeds unless ordered to fail
 };
 
-// The calls are good for GroupMarket() with the trading systems of TradingMarket() and a full menu
-// key.
+// The calls expect GroupMarket() with the trading systems of TradingMarket() and a full menu key.
 std::vector<Operation> Operations();

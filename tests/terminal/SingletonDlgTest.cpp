@@ -1,5 +1,5 @@
-// tqUI's rule for dialogs of one key: which of them run, and what the others get. And the
-// terminal's way of running a dialog.
+// tqUI's rule that one dialog per key runs: which ones run, and what the others return. And
+// tqDoModal.
 #include <functional>
 
 #include "dialogs/resources/DialogTable.h"
@@ -14,7 +14,7 @@ constexpr unsigned kTemplate = 1003;
 constexpr unsigned kNoTemplate = 4711;
 constexpr int kEndCode = 77;
 
-// Does what it is told while it runs, and ends.
+// Runs the given script while it is up, and ends.
 class Family : public CSingletonDlg {
 public:
   explicit Family(const char* key, const CWnd* parent = nullptr, unsigned templateId = kTemplate)
@@ -46,7 +46,7 @@ protected:
     return standin::Calls().back().operation + "(" + standin::Calls().back().arguments + ")";
   }
 
-  // What a dialog gets that is run while another one of the key is up.
+  // The result of a dialog that is run while another one of its key is up.
   static int RunBeside(const char* up, const char* key) {
     Family first(up), second(key);
     int code = 0;

@@ -64,7 +64,7 @@ TEST_F(StockAttributes, AKeyAnswersTheFieldsOfItsRecord) {
   EXPECT_EQ(Number(FieldPriceScale), 100);
 }
 
-// Symptom: from ten decimals on the scale ran over.
+// Symptom: ten or more decimals overflowed the scale.
 TEST_F(StockAttributes, ThePriceScaleStopsAtTheGreatestPowerOfTen) {
   const struct {
     int decimals;

@@ -1,4 +1,4 @@
-// What a test puts in the place of the market's symbols and extended attributes.
+// Raw records that replace the market's symbols and extended attributes.
 #include <cstring>
 #include <vector>
 

@@ -1,4 +1,4 @@
-// The stand-in VLProxy: names in two languages, and the search for them.
+// The stand-in VLProxy: names in two languages, and searching for them.
 #include "platform/services/tqCommon.h"
 #include "tests/support/StandInTest.h"
 #include "tests/terminal/ArrayOwner.h"
@@ -44,7 +44,7 @@ TEST_F(SymbolNames, ResetGoesBackToTheLanguageOfTheStart) {
 }
 
 TEST_F(SymbolNames, AreInTheCodePageOfTheLanguage) {
-  // What a code page of the other language makes of the name is not asked for here.
+  // The name in a code page of the other language is not checked here.
   const bool traditional = IsTraditionChinese() != 0;
   EXPECT_EQ(NameOf("1436.TW"),
             traditional ? "\xB3\x5C\xA5\x5C\xBB\x5C" : "\xD0\xED\xB9\xA6\xB8\xC7");
@@ -74,7 +74,7 @@ TEST_F(SymbolNames, ConvertThereAndBack) {
   EXPECT_EQ(standin::FromAnsi(""), "");
 }
 
-// Its second byte is an "@", which must not show up as one.
+// Its second byte is "@", which a search must not find.
 TEST_F(SymbolNames, AUserDefinedCharacterIsOneCharacterToo) {
   const std::string text = standin::FromAnsi("\xFA\x40"
                                              "B");
@@ -119,7 +119,7 @@ TEST_F(SymbolNames, SearchCanBeLimitedToOneExchange) {
 }
 
 TEST_F(SymbolNames, SearchDoesNotTakeHalvesOfCharactersForAMatch) {
-  // The second byte of the first character and the first of the second.
+  // The second byte of a character with the first byte of the next.
   const std::string halves = NameOf("1436.TW").substr(1, 2);
   Infos infos;
   ASSERT_NE(VLFindSymbol(halves.c_str(), &infos.list, &infos.count, 0, 0, -1), 0);

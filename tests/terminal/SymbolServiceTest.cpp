@@ -1,5 +1,5 @@
 // The stand-in VLProxy: exchanges and records. Numbers of packed records are compared inside
-// EXPECT_TRUE: the other macros would bind references to them, and they are not aligned.
+// EXPECT_TRUE because the other macros would bind references to them, which are misaligned.
 #include <cstring>
 
 #include "tests/support/StandInTest.h"
@@ -75,7 +75,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Request{"2330, 2330.TW,2330.TW ,2330.,.TW", ""}, Request{"", ""},
                     Request{"NOSUCH.TW", ""}, Request{":", ""},
                     Request{"1234567890123456789012345678901234567890.TW", ""},
-                    // A double-byte character whose second byte is a small letter of an id.
+                    // A double-byte character whose second byte looks like a lower-case letter of
+                    // an id.
                     Request{"\xB3\x74"
                             "30.TW",
                             ""}));

@@ -1,5 +1,5 @@
-// What tests do to the trading-system proxy: texts counted, calls recorded, raw records and a new
-// market in the place of the one before.
+// The trading-system proxy under tests: counted texts, recorded calls, raw records, and a market
+// that replaces another.
 #include <cstring>
 
 #include "platform/services/VLProxy.h"
@@ -33,7 +33,7 @@ TEST_F(TradingService, ATextGivenToTheOtherServiceOrReleasedTwiceIsABadRelease) 
   EXPECT_EQ(standin::BadReleases(), 3);
   VLFree(exchanges);
   EXPECT_EQ(standin::OutstandingArrays(), 0);
-  standin::Reset(); // the fixture holds the test to what it released
+  standin::Reset(); // the fixture checks what was released
 }
 
 TEST_F(TradingService, CallsAreRecorded) {

@@ -1,6 +1,6 @@
 // The stand-in TQSProxy: trading systems, accounts, holdings. Numbers of packed records are
-// compared inside EXPECT_TRUE: the other macros would bind references to them, and they are not
-// aligned.
+// compared inside EXPECT_TRUE because the other macros would bind references to them, which are
+// misaligned.
 #include <cstring>
 
 #include "tests/terminal/TradingServiceTest.h"

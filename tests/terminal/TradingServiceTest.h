@@ -14,7 +14,7 @@ protected:
   TradingService() { standin::SetMarket(TradingMarket()); }
 };
 
-// What an account holds, "(failed)" when the call fails; released.
+// The holdings of an account, released; "(failed)" when the call fails.
 inline std::string Holdings(const char* tsId, const char* accountId, TqsAccType type) {
   char* text = nullptr;
   if (TQSGetTSAccountHolding(tsId, accountId, type, &text) == 0)

@@ -1,4 +1,4 @@
-// The logger goes with the library: it was made by code that is no longer there.
+// The logger is destroyed with the library, whose code created it.
 #include <gtest/gtest.h>
 
 #include "terminal/StandIn.h"

@@ -1,11 +1,11 @@
-// The caret row of lists, what is scrolled to, and what the program selects.
+// The caret row of lists, scrolling, and selecting by the program.
 #include "tests/window/ListsTest.h"
 
 namespace {
 
 class CaretTest : public ListsTest {};
 
-// On Windows it kept its number, so that a row was inserted in the wrong place.
+// Symptom: on Windows the caret kept its number, so that a row was inserted in the wrong place.
 TEST_F(CaretTest, TheCaretStaysWithItsRow) {
   InLists(5, [](User& user, TestDialog& dialog) {
     for (const int id : {kSingle, kMulti}) {
@@ -60,7 +60,7 @@ TEST_F(CaretTest, TheCaretOfASelectedRowStaysWithIt) {
   });
 }
 
-// On Windows the program's selecting moved the caret.
+// Symptom: on Windows selecting by the program moved the caret.
 TEST_F(CaretTest, SelectingLeavesTheCaretAndTheScrolling) {
   InLists(100, [](User& user, TestDialog& dialog) {
     CListBox box(dialog, kMulti);
@@ -117,7 +117,7 @@ TEST_F(CaretTest, TheCaretOfATableStaysWithItsRow) {
   InLists(5, [](User& user, TestDialog& dialog) {
     CListCtrl table(dialog, kTable);
     table.SetFocus();
-    table.InsertRow(0, "front"); // the caret was on row 0, and is on row 1
+    table.InsertRow(0, "front"); // the caret moves from row 0 to row 1
     user.Press(Key::Down);
     EXPECT_EQ(user.SelectedRows(kTable), Picked{1});
     table.SetCurSel(3);
@@ -137,7 +137,7 @@ TEST_F(CaretTest, ACaretThatIsPutSomewhereIsScrolledTo) {
     EXPECT_TRUE(user.IsInSight(kMulti, 80));
     box.EnsureVisible(10);
     EXPECT_TRUE(user.IsInSight(kMulti, 10));
-    EXPECT_TRUE(user.IsInSight(kMulti, 11)); // as little as needed: row 10 is the first
+    EXPECT_TRUE(user.IsInSight(kMulti, 11)); // scrolls as little as needed: row 10 is the first
     EXPECT_FALSE(user.IsInSight(kMulti, 9));
     box.EnsureVisible(11);
     EXPECT_TRUE(user.IsInSight(kMulti, 10));
@@ -164,7 +164,7 @@ TEST_F(CaretTest, InsertingInFrontOfAnUnseenCaretScrollsNothing) {
   });
 }
 
-// With the mouse: Shift selects from there, also when rows came in front.
+// With the mouse: Shift selects from the caret, also when rows were inserted in front.
 TEST_F(CaretTest, TheRowThatShiftSelectsFromStaysTheSame) {
   InLists(6, [](User& user, TestDialog& dialog) {
     CListCtrl table(dialog, kTable);

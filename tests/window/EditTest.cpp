@@ -116,7 +116,7 @@ TEST_F(EditTest, TheLimitIsInBytes) {
     edit.SetFocus();
     user.Type(Utf8(TrickyText()));
     EXPECT_EQ(edit.GetText(), TrickyText().Left(4));
-    EXPECT_EQ(dialog.Take().size(), 2U); // what is refused is no change
+    EXPECT_EQ(dialog.Take().size(), 2U); // refused input is no change
     user.Type("xy");
     EXPECT_EQ(edit.GetText(), TrickyText().Left(4) + "x");
   });
@@ -129,7 +129,7 @@ TEST_F(EditTest, SixtyFourLettersAndNoMore) {
     user.Type(std::string(70, 'a'));
     EXPECT_EQ(edit.GetText().GetLength(), 64);
     edit.SelectAll();
-    user.Type("b"); // there is room again in the place of what was selected
+    user.Type("b"); // replacing the selection makes room again
     EXPECT_EQ(user.Text(kEdit), "b");
   });
 }
@@ -183,7 +183,7 @@ TEST_F(EditTest, ADisabledOrHiddenEditTakesNoTyping) {
 
 TEST_F(EditTest, TypingNeedsTheFocus) {
   InEdit([](User& user, TestDialog&, CEdit) {
-    EXPECT_FALSE(user.Type("x")); // a button has it
+    EXPECT_FALSE(user.Type("x")); // a button has the focus
     EXPECT_EQ(user.Text(kEdit), "");
   });
 }

@@ -1,4 +1,4 @@
-// Where the focus goes: controls that keep it, that lose it to no one, and the way of the Tab key.
+// The focus: controls that keep it, controls that lose it, and the Tab key.
 #include "platform/framework/CEdit.h"
 #include "platform/framework/CListCtrl.h"
 #include "tests/window/WindowTest.h"
@@ -7,7 +7,7 @@ namespace {
 
 class FocusTest : public WindowTest {
 protected:
-  // Edit 741 has the focus, and takes it back when it is lost as long as `keeps` is true.
+  // Edit 741 has the focus, and takes it back whenever it loses it while `keeps` is true.
   void InKeepingEdit(const std::function<void(User&, TestDialog&, bool& keeps)>& script) {
     InDialog([&](User& user, TestDialog& dialog) {
       bool keeps = true;
@@ -26,7 +26,7 @@ protected:
   }
 };
 
-// On Windows the button was clicked all the same, and the row was selected.
+// Symptom: on Windows the button was clicked all the same, and the row was selected.
 TEST_F(FocusTest, AClickThatAnEditorTakesTheFocusBackFromHasNoEffect) {
   InKeepingEdit([](User& user, TestDialog& dialog, bool& keeps) {
     EXPECT_TRUE(user.Click(801));
@@ -94,7 +94,7 @@ TEST_F(FocusTest, AHandlerThatEndsTheDialogTakesTheClicksEffect) {
   EXPECT_EQ(dialog.log, (Log{"init", "741 left"}));
 }
 
-// A disabled control kept the focus: keys went nowhere.
+// Symptom: a disabled control kept the focus, and keys had no effect.
 TEST_F(FocusTest, AControlThatIsDisabledOrHiddenPassesTheFocusOn) {
   InDialog([](User& user, TestDialog& dialog) {
     CEdit(dialog, 742).SetText("abc");
@@ -109,7 +109,7 @@ TEST_F(FocusTest, AControlThatIsDisabledOrHiddenPassesTheFocusOn) {
     EXPECT_TRUE(user.HasFocus(761));
     CWnd(dialog, 741).EnableWindow();
     EXPECT_TRUE(user.HasFocus(761));
-    CWnd(dialog, 801).EnableWindow(false); // had it not
+    CWnd(dialog, 801).EnableWindow(false); // did not have it
     EXPECT_TRUE(user.HasFocus(761));
     EXPECT_EQ(dialog.log, Log());
   });
@@ -144,7 +144,7 @@ TEST_F(FocusTest, WhenNoControlCanTakeItNoneHasTheFocus) {
   });
 }
 
-// Behind another dialog the focus stays what it was to be: it is there when that one has ended.
+// A focus that is set while the dialog is behind another one is there when that one has ended.
 TEST_F(FocusTest, TheFocusOfAnOuterDialogIsChangedBehindTheInnerOne) {
   InDialog([](User& user, TestDialog& dialog) {
     TestDialog inner(101, &dialog);
@@ -192,7 +192,7 @@ TEST_F(FocusTest, TabPassesOverWhatIsDisabledOrHiddenInBothDirections) {
   });
 }
 
-// The button that was clicked last stayed the one that Enter clicks.
+// Symptom: Enter clicked the button that was clicked last.
 TEST_F(FocusTest, TheDefaultButtonIsTheTemplatesAgainWhenTheFocusLeavesAButton) {
   InDialog([](User& user, TestDialog& dialog) {
     EXPECT_TRUE(user.Click(801));
@@ -208,11 +208,11 @@ TEST_F(FocusTest, TheDefaultButtonIsTheTemplatesAgainWhenTheFocusLeavesAButton) 
     EXPECT_EQ(dialog.Take(), Log{"802 clicked"});
     CWnd(dialog, 802).Show(false);
     user.Press(Key::Enter);
-    EXPECT_EQ(dialog.Take(), Log{"802 clicked"}); // hidden, it is still the default
+    EXPECT_EQ(dialog.Take(), Log{"802 clicked"}); // still the default although it is hidden
   });
 }
 
-// A control that was given as the parent was itself disabled in place of its dialog.
+// Symptom: a control given as the parent was disabled in place of its dialog.
 TEST_F(FocusTest, AControlAsTheParentStandsForItsDialog) {
   InDialog([](User& user, TestDialog& dialog) {
     const CWnd button(dialog, 801);

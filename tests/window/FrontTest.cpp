@@ -1,4 +1,4 @@
-// Who lies in front gets the mouse.
+// Overlapping controls: the one in front gets the mouse.
 #include "platform/framework/CEdit.h"
 #include "tests/window/WindowTest.h"
 
@@ -18,7 +18,8 @@ protected:
   }
 };
 
-// The editor of names stood behind its list in the template: a click on it selected a row.
+// Symptom: the editor of names stood behind its list in the template, so a click on it selected a
+// row.
 TEST_F(FrontTest, AnEditThatStandsBeforeItsListTakesTheClickOnItsRow) {
   InOverlaps([](User& user, TestDialog& dialog) {
     EXPECT_TRUE(CEdit(dialog, 741).PlaceOverRow(CListBox(dialog, 781), 1));

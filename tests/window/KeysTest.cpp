@@ -1,5 +1,5 @@
-// Keys with Shift, Control and Alt, the letters of buttons and labels, and what the dialog hears
-// first.
+// Keys with Shift, Control and Alt, access keys of buttons and labels, and the keys that the dialog
+// hears first.
 #include "platform/framework/CEdit.h"
 #include "platform/framework/CListBox.h"
 #include "tests/window/WindowTest.h"
@@ -23,7 +23,7 @@ TEST_F(KeysTest, AltAndItsLetterClickAButton) {
     EXPECT_TRUE(user.HasFocus(801));
     user.PressLetter('a');
     EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
-    user.PressLetter('1'); // two ampersands in front of the A are one that is shown
+    user.PressLetter('1'); // a double ampersand is a shown one and marks no letter
     EXPECT_EQ(dialog.Take(), Log{"804 clicked"});
     CListBox(dialog, 781).SetFocus();
     user.PressLetter('A');
@@ -87,7 +87,7 @@ TEST_F(KeysTest, WhereAButtonHasTheFocusTheLetterAloneIsEnough) {
   });
 }
 
-// As an editor of a list hears them: what renames, deletes, selects all, and moves rows.
+// As the editor of a list uses them: keys that rename, delete, select all, and move rows.
 TEST_F(KeysTest, TheDialogHearsKeysAndWhatIsHeld) {
   InDialog([](User& user, TestDialog& dialog) {
     CListBox box(dialog, 782);

@@ -72,7 +72,7 @@ TEST_F(ListBoxTest, SelectingAndClearing) {
     EXPECT_EQ(box.GetCurSel(), -1);
     EXPECT_EQ(box.GetSelCount(), 0);
     EXPECT_TRUE(box.SelectRow(1));
-    EXPECT_TRUE(box.SelectRow(0, false)); // was not selected: nothing changes
+    EXPECT_TRUE(box.SelectRow(0, false)); // was not selected, so nothing changes
     EXPECT_EQ(box.GetCurSel(), 1);
     EXPECT_TRUE(box.SelectRow(1, false));
     EXPECT_EQ(box.GetCurSel(), -1);

@@ -11,7 +11,7 @@ TEST_F(ListBoxTest, AClickSelectsAndTells) {
     EXPECT_EQ(dialog.Take(), Log{"781 selection"});
     EXPECT_EQ(seen, 1);
     EXPECT_TRUE(box.HasFocus());
-    EXPECT_TRUE(user.ClickRow(kBox, 1)); // the selected row tells again
+    EXPECT_TRUE(user.ClickRow(kBox, 1)); // a click on the selected row notifies again
     EXPECT_EQ(dialog.Take(), Log{"781 selection"});
     EXPECT_FALSE(user.ClickRow(kBox, 3));
     EXPECT_EQ(dialog.Take(), Log());
@@ -50,7 +50,7 @@ TEST_F(ListBoxTest, ADisabledBoxTakesNoClick) {
     EXPECT_FALSE(user.DoubleClick(kBox, 1));
     EXPECT_EQ(box.GetCurSel(), -1);
     EXPECT_EQ(dialog.log, Log());
-    EXPECT_TRUE(box.SetCurSel(1)); // the program may
+    EXPECT_TRUE(box.SetCurSel(1)); // the program may select
     EXPECT_EQ(box.GetCurSel(), 1);
   });
 }

@@ -13,7 +13,7 @@ TEST_F(ListCtrlTest, ANewTableIsEmpty) {
     EXPECT_EQ(table.GetCurSel(), -1);
     EXPECT_EQ(table.GetSelectedCount(), 0);
     EXPECT_EQ(table.GetStyles(), 0U);
-    EXPECT_EQ(table.AddRow("x"), -1); // no column, no row
+    EXPECT_EQ(table.AddRow("x"), -1); // no rows without columns
     EXPECT_EQ(table.GetRowCount(), 0);
   });
 }

@@ -7,7 +7,7 @@ TEST_F(ListCtrlTest, AClickTellsOnceOfAChangedSelection) {
   InTable([](User& user, TestDialog& dialog, CListCtrl table) {
     EXPECT_TRUE(user.ClickRow(kTable, 1));
     EXPECT_EQ(dialog.Take(), Log{"791 selection"});
-    EXPECT_TRUE(user.ClickRow(kTable, 2)); // two rows change, one notice
+    EXPECT_TRUE(user.ClickRow(kTable, 2)); // two rows change, one event
     EXPECT_EQ(dialog.Take(), Log{"791 selection"});
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{2});
     EXPECT_TRUE(user.ClickRow(kTable, 2)); // nothing changes
@@ -112,7 +112,7 @@ TEST_F(ListCtrlTest, TheMouseRestsForTheHoverTime) {
     dialog.SetTimer(1, 100);
     EXPECT_TRUE(user.Hover(kTable, 1));
     ASSERT_GE(dialog.log.size(), 2U);
-    EXPECT_EQ(dialog.log.front(), "timer 1"); // some time went by before
+    EXPECT_EQ(dialog.log.front(), "timer 1"); // time passed before the selection
     EXPECT_EQ(dialog.log.back(), "791 selection");
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
     dialog.KillTimer(1);

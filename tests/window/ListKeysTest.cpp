@@ -5,7 +5,7 @@ namespace {
 
 class ListKeysTest : public ListsTest {};
 
-// The first Down went past the first row, depending on the kind of list and of window.
+// Symptom: in some kinds of lists and windows the first Down skipped the first row.
 TEST_F(ListKeysTest, TheFirstArrowKeySelectsTheCaretRow) {
   for (const Key key : {Key::Up, Key::Down}) {
     InLists(3, [key](User& user, TestDialog& dialog) {
@@ -111,7 +111,7 @@ TEST_F(ListKeysTest, ControlAndSpaceTurnTheCaretRowAround) {
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_EQ(dialog.Take(), Log(2, Told(id))) << id;
     }
-    // Of one selection there is nothing to turn around.
+    // A list of a single selection has nothing to toggle.
     user.ClickRow(kSingle, 1);
     dialog.Take();
     user.Press(Key::Space, Modifier::Control);
@@ -200,7 +200,7 @@ TEST_F(ListKeysTest, PagesAndEndsAreScrolledTo) {
   });
 }
 
-// A double-click on the empty part of a list box was told as one on a row.
+// Symptom: a double-click beside the rows of a list box was notified as one on a row.
 TEST_F(ListKeysTest, BesideTheRowsOfAListBoxThereIsNothing) {
   InLists(3, [](User& user, TestDialog& dialog) {
     for (const int id : {kSingle, kMulti}) {
@@ -235,7 +235,7 @@ TEST_F(ListKeysTest, AComboBoxKnowsPagesAndNoSpace) {
     dialog.Take();
     user.Press(Key::Down);
     user.Press(Key::PageDown);
-    EXPECT_EQ(dialog.log, Log()); // there was nothing further to choose
+    EXPECT_EQ(dialog.log, Log()); // there is no further row
     combo.DeleteString(29);
     user.Press(Key::Down);
     EXPECT_EQ(combo.GetCurSel(), 0);

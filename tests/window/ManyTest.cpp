@@ -1,4 +1,4 @@
-// Opening and closing again and again gives everything back.
+// Repeated opening and closing releases everything.
 #include "platform/framework/CButton.h"
 #include "platform/framework/CComboBox.h"
 #include "platform/framework/CListBox.h"
@@ -10,7 +10,7 @@ namespace {
 
 class ManyTest : public WindowTest {};
 
-// Uses what takes memory or objects of the system: rows, a tooltip, an icon, a timer, a message.
+// Uses memory and objects of the system: rows, a tooltip, an icon, a timer, a message.
 void OpenAndClose() {
   TestDialog dialog;
   dialog.onItemLook = [](int, int, ItemLook& look) { look.bold = true; };
@@ -26,7 +26,7 @@ void OpenAndClose() {
     dialog.Post(CWnd::kFirstMessage);
   };
   const int code = RunDialog(dialog, [&](User& user) {
-    actions::Settle(); // has the rows drawn where they are
+    actions::Settle(); // draws the rows
     dialog.Post(CWnd::kFirstMessage);
     EXPECT_TRUE(user.IsUp());
     dialog.EndDialog(3);
@@ -35,7 +35,7 @@ void OpenAndClose() {
 }
 
 TEST_F(ManyTest, NothingIsLeftBehind) {
-  for (int i = 0; i < 3; ++i) // what is made once and kept
+  for (int i = 0; i < 3; ++i) // allocates what is made once and kept
     OpenAndClose();
   const size_t before = WindowResources();
   for (int i = 0; i < ManyRuns(); ++i)

@@ -1,4 +1,4 @@
-// Templates in both languages, and whose resources are in force.
+// Templates in both languages, and the scope of a resource context.
 #include "platform/framework/CButton.h"
 #include "platform/framework/CComboBox.h"
 #include "platform/framework/CEdit.h"
@@ -105,7 +105,7 @@ TEST_F(TemplateTest, TheLanguageIsThatOfTheContext) {
     TestDialog dialog(101);
     std::string title;
     In(dialog, [&](User& user) { title = user.Title(); });
-    EXPECT_EQ(title, "小"); // the one word that both code pages and both languages have
+    EXPECT_EQ(title, "小"); // a text that both code pages and both languages share
     TestDialog other(103);
     In(other, [&](User& user) { title = user.Title(); });
     EXPECT_EQ(title, "空");

@@ -1,18 +1,18 @@
-// What of the test program depends on the system.
+// The system-dependent parts of the test program.
 #pragma once
 
 #include <cstddef>
 
-// The module that carries the test program's DIALOG resources.
+// The module with the test program's DIALOG resources.
 void* TestModule();
-// One that carries none.
+// A module without any.
 void* ModuleWithoutDialogs();
 
-// How much of what the window system gives out is in use: a number that grows with every window or
-// drawing object that is not given back.
+// The number of window system objects in use, which grows with every window or drawing object that
+// is not released.
 size_t WindowResources();
-// By how much that number may differ without anything being lost.
+// How much that number may vary without a leak.
 size_t ResourceSlack();
 
-// Rounds of opening and closing: a real window takes its time.
+// Rounds of opening and closing; real windows take longer.
 int ManyRuns();

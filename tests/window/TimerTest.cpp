@@ -15,7 +15,7 @@ TEST_F(TimerTest, ATimerComesAgainUntilItIsKilled) {
     EXPECT_TRUE(user.WaitFor([&] { return dialog.log.size() == 3; }));
     EXPECT_EQ(dialog.Take(), (Log{"timer 7", "timer 7", "timer 7"}));
     EXPECT_FALSE(dialog.KillTimer(7));
-    // Another one is heard, the killed one is not.
+    // A killed timer is not heard, another one still is.
     dialog.onTimer = nullptr;
     EXPECT_TRUE(dialog.SetTimer(8, 20));
     EXPECT_TRUE(user.WaitFor([&] { return dialog.log.size() == 2; }));
@@ -77,7 +77,7 @@ TEST_F(TimerTest, TimersAreKilledAndSetFromWithinTheirHandlers) {
     dialog.onTimer = [&](unsigned id) {
       EXPECT_TRUE(dialog.KillTimer(id));
       EXPECT_FALSE(dialog.KillTimer(id));
-      dialog.KillTimer(3); // is due as well, and is not heard
+      dialog.KillTimer(3); // due as well, but not heard
       if (id == 1) {
         dialog.SetTimer(1, 1);
         dialog.SetTimer(2, 30);
@@ -100,8 +100,8 @@ TEST_F(TimerTest, OutsideOfARunThereAreNoTimers) {
   EXPECT_FALSE(dialog.KillTimer(1));
 }
 
-// The first search of a search dialog: a timer shows the wait cursor and posts a message once,
-// whose handler does the work; the next tick stops the timer.
+// As a search dialog does at first: a timer shows the wait cursor and posts one message, whose
+// handler does the work; the next tick stops the timer.
 TEST_F(TimerTest, ATimerThatPostsAMessageOnceAndStops) {
   TestDialog dialog;
   bool posted = false;

@@ -1,4 +1,4 @@
-// Tables that ask for their cells.
+// Tables that ask their dialog for cells.
 #include <climits>
 
 #include "platform/framework/CListCtrl.h"
@@ -92,7 +92,7 @@ TEST_F(VirtualListTest, AnotherNumberOfRowsStartsAnew) {
     table.SetFocus();
     user.Press(Key::Down);
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{0});
-    EXPECT_TRUE(table.SetVirtualRows(900)); // the same number too
+    EXPECT_TRUE(table.SetVirtualRows(900)); // also resets with the same number
     EXPECT_EQ(table.GetSelectedCount(), 0);
     table.DeleteAllRows();
     EXPECT_EQ(table.GetRowCount(), 0);

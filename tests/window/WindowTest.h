@@ -1,5 +1,5 @@
-// What the window tests share: a dialog that writes down what it hears, and the fixture that puts
-// the test program's templates in force.
+// Shared by the window tests: a dialog that records its events, and a fixture that activates the
+// test program's templates.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,12 +13,12 @@
 #include "terminal/StandIn.h"
 #include "tests/support/User.h"
 
-// The test program's templates, in the stand-in's language of this moment.
+// The test program's templates in the stand-in's current language.
 tq::Resources TestResources();
 
-// 許功蓋 in Traditional Chinese, whose trail bytes are all a backslash in code page 950; in Simplified
-// Chinese three characters whose trail bytes are a backslash and bars in 936. As bytes of the code
-// page.
+// In Traditional Chinese 許功蓋, whose second bytes are all a backslash in code page 950; in
+// Simplified Chinese three characters whose second bytes are a backslash and bars in 936. As bytes
+// of the code page.
 CString TrickyText();
 inline CString Ansi(const char* utf8) {
   return CString(standin::ToAnsi(utf8).c_str());
@@ -35,19 +35,18 @@ public:
       : CDialog(templateId, parent) {}
 
   Log log;
-  // Called after the line is written; null: nothing more. OnOK and OnCancel end the dialog without
-  // one.
+  // Called after the event is recorded; may be null. Without one, OnOK and OnCancel end the dialog.
   std::function<void()> onInit, onOk, onCancel;
   std::function<void(int, ControlEvent)> onCommand;
   std::function<void(int, const ListNotice&)> onNotify;
   std::function<void(unsigned)> onTimer;
   std::function<intptr_t(unsigned, intptr_t, intptr_t)> onMessage;
-  std::function<bool(int, Key, Held)> onKey; // written down only where one is set
+  std::function<bool(int, Key, Held)> onKey; // keys are recorded only if this is set
   std::function<void(int, int, ItemLook&)> onItemLook;
   std::function<CString(int, int, int)> onCellText;
   bool focusFirst = true;
 
-  // What was written since the last time.
+  // Returns what was recorded since the last call.
   Log Take();
 
 protected:
@@ -68,9 +67,9 @@ protected:
   WindowTest();
   ~WindowTest() override;
 
-  // Runs the dialog with the script, which ends by cancelling it.
+  // Runs the dialog with the script and then cancels it.
   void In(TestDialog& dialog, const UserScript& script);
-  // The same on a new dialog of template 100.
+  // The same for a new dialog of template 100.
   void InDialog(const std::function<void(User&, TestDialog&)>& script);
 
 private:

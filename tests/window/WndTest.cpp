@@ -1,4 +1,4 @@
-// What all windows have: texts, enabling, showing, focus and keys, tooltips, the cursor.
+// Common to all windows: texts, enabling, showing, focus and keys, tooltips, the cursor.
 #include "platform/framework/CComboBox.h"
 #include "platform/framework/CListBox.h"
 #include "platform/framework/CListCtrl.h"
@@ -17,7 +17,7 @@ TEST_F(WndTest, ControlsAreFoundByTheirId) {
     EXPECT_TRUE(CWnd(dialog, 741).IsWindow());
     EXPECT_EQ(CWnd(dialog, 741).GetDlgCtrlID(), 741);
     EXPECT_FALSE(CWnd(dialog, 4711).IsWindow());
-    EXPECT_FALSE(CWnd(dialog, 0).IsWindow()); // labels that nobody asks for
+    EXPECT_FALSE(CWnd(dialog, 0).IsWindow()); // labels without an id
     EXPECT_EQ(CWnd(CWnd(dialog, 741), 741).GetSafeHwnd(), nullptr);
   });
 }
@@ -77,7 +77,7 @@ TEST_F(WndTest, SuspendingDrawingShowsAndHidesNothing) {
         EXPECT_EQ(user.IsVisible(id), visible) << id;
       }
       EXPECT_EQ(user.IsVisible(id), visible) << id;
-      CWnd(dialog, id).SetRedraw(true); // without a false before it
+      CWnd(dialog, id).SetRedraw(true); // without an earlier false
       EXPECT_EQ(user.IsVisible(id), visible) << id;
     }
     {
@@ -131,7 +131,7 @@ TEST_F(WndTest, TabGoesThroughTheControlsInOrder) {
   });
 }
 
-// Where nothing is selected yet. Lists of several selections have a caret of the system's own.
+// While nothing is selected. In lists of several selections the caret is the system's own.
 TEST_F(WndTest, TheFirstArrowKeyInAListSelectsTheFirstRow) {
   for (const Key key : {Key::Down, Key::Up}) {
     InDialog([key](User& user, TestDialog& dialog) {
@@ -200,8 +200,8 @@ TEST_F(WndTest, KeysOfADialogWithoutFocus) {
   EXPECT_EQ(dialog.log, (Log{"init", "key 0 1", "cancel"}));
 }
 
-// As an editor over a row does: Enter takes the text over, Escape gives it up, and the dialog
-// stays.
+// As an editor over a row does: Enter takes over the text, Escape discards it, and the dialog stays
+// open.
 TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
   InDialog([](User& user, TestDialog& dialog) {
     dialog.onKey = [](int id, Key key, Held) {

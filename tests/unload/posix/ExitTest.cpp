@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kLooked = 10; // the loggers alive are added
+constexpr int kLooked = 10; // plus the number of live loggers
 
 void ExitWithLoggers() {
   std::_Exit(kLooked + standin::LoggersAlive());
@@ -24,13 +24,13 @@ void StartAndExit(const char* directory) {
   std::exit(0);
 }
 
-// Registered in front of what the library registers when it is loaded, so it is called behind it.
+// Registered before anything of the library, so it is called after it.
 void LookWhenTheLibraryHasEnded(const char* directory) {
   std::atexit(ExitWithLoggers);
   StartAndExit(directory);
 }
 
-// A service makes what it lives on when it is used first, which may be after the library came.
+// A service may allocate its state on first use, after the library is loaded.
 void LookWhenTheServiceEnds(const char* directory) {
   standin::OnCall("TQLog::storage", [] { std::atexit(ExitWithLoggers); });
   StartAndExit(directory);
@@ -42,7 +42,7 @@ TEST(Exit, TheLoggerIsDestroyedWhenTheProcessEnds) {
               testing::ExitedWithCode(kLooked), "");
 }
 
-// The logger was destroyed when all that the log service had made was gone.
+// Symptom: the logger was destroyed after the log service's own state.
 TEST(Exit, TheLoggerIsDestroyedBeforeItsServiceEnds) {
   const TempDir directory;
   EXPECT_EXIT(LookWhenTheServiceEnds(directory.Path().c_str()), testing::ExitedWithCode(kLooked),

@@ -18,7 +18,7 @@ bool UnloadModule() {
   return dlclose(module) == 0 && dlopen("libtqSymbol.so.1", RTLD_NOW | RTLD_NOLOAD) == nullptr;
 }
 
-// For all to see, as a terminal's services are.
+// With global symbols, like a terminal's services.
 bool LoadLogService() {
   logService = dlopen(TQ_LOG_SERVICE, RTLD_NOW | RTLD_GLOBAL);
   return logService != nullptr;

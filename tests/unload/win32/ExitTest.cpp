@@ -1,5 +1,5 @@
-// A process that ends with the library loaded. Its other threads have been stopped wherever they
-// were when the libraries are told.
+// A process that ends with the library loaded. When the libraries are notified, its other threads
+// have already been stopped, wherever they were.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -9,8 +9,8 @@
 #include "tests/support/TempDir.h"
 #include "tests/unload/Module.h"
 
-// Of a library that comes with the program, so that it ends behind those that the program loads:
-// has the process end with 10 and the number of loggers alive by then.
+// In a library that the program is linked to and that is therefore notified after those that it
+// loads: makes the process end with 10 plus the number of live loggers.
 extern "C" TQ_IMPORT void LookAtTheEnd();
 
 namespace {
@@ -23,7 +23,8 @@ void StartAndExit(const char* directory) {
   std::exit(0);
 }
 
-// The end of a process called the log service, whose lock a stopped thread may hold for ever.
+// Symptom: at the end of the process the log service was called, whose lock a stopped thread may
+// hold for ever.
 TEST(Exit, TheLogServiceIsNotCalledWhenTheProcessEnds) {
   const TempDir directory;
   EXPECT_EXIT(StartAndExit(directory.Path().c_str()), testing::ExitedWithCode(11), "");

@@ -1,4 +1,4 @@
-// What only windows in memory do.
+// Only for windows in memory.
 #include "platform/headless/UserInput.h"
 #include "tests/window/WindowTest.h"
 

@@ -1,4 +1,4 @@
-// What only real windows can do, or have done to them.
+// Only for real windows.
 #include "tests/window/WindowTest.h"
 
 #include <windows.h>
@@ -31,7 +31,7 @@ LRESULT CALLBACK OwnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
   return ::DefWindowProcW(window, message, wParam, lParam);
 }
 
-// The run's loop slept on: a message that is sent from another thread does not wake it.
+// Symptom: the run's loop slept on, because a message sent from another thread does not wake it.
 TEST_F(NativeTest, ADialogWhoseOwnerIsDestroyedByASentMessageReturns) {
   constexpr DWORD kTooLong = 5000;
   const HWND owner = ::CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9,
@@ -46,7 +46,7 @@ TEST_F(NativeTest, ADialogWhoseOwnerIsDestroyedByASentMessageReturns) {
   const int code = RunDialog(dialog, [&](User& user) {
     user.LeaveUp();
     other = std::thread([&] {
-      ::Sleep(100); // the loop waits by now
+      ::Sleep(100); // the loop is waiting by now
       ::SendMessageW(owner, kDestroyYourself, 0, 0);
       woken = ::WaitForSingleObject(returned, kTooLong) == WAIT_OBJECT_0;
       ::PostThreadMessageW(thread, WM_NULL, 0, 0);
@@ -60,7 +60,7 @@ TEST_F(NativeTest, ADialogWhoseOwnerIsDestroyedByASentMessageReturns) {
   EXPECT_EQ(dialog.log, Log{"init"});
 }
 
-// What the program changes makes no event, and the dialog that a handler opened meanwhile heard
+// Changes by the program make no event. Symptom: a dialog that a handler opened meanwhile heard
 // none either.
 TEST_F(NativeTest, ADialogThatOpensWhileARowIsDrawnHearsItsUser) {
   InDialog([](User&, TestDialog& dialog) {
@@ -101,7 +101,7 @@ TEST_F(NativeTest, TheProgramsEndEndsTheDialogAndIsPassedOn) {
   EXPECT_EQ(message.wParam, 5U);
 }
 
-// A parent is the terminal's own window, or a control in it.
+// The parent is the terminal's own window or a control in it.
 TEST_F(NativeTest, AForeignParentIsDisabledWhileTheDialogIsUp) {
   const HWND top = ::CreateWindowExW(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 90,
                                      90, nullptr, nullptr, nullptr, nullptr);
@@ -196,7 +196,7 @@ HWND TipsOf(const CDialog& dialog) {
   return tips;
 }
 
-// As the tip window asks for it when the mouse rests.
+// As the tip window asks when the mouse rests.
 std::string TipUnderTheMouse(const CDialog& dialog, HWND box, int row) {
   RECT place{};
   ::SendMessageW(box, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));

@@ -15,9 +15,9 @@ void* ModuleWithoutDialogs() {
 
 namespace {
 
-// Handles are numbered, and a number is used again when its object is gone. So of more new objects
-// than there can be numbers to use again, the highest number tells how many objects there are.
-// (Wine answers 0 to GetGuiResources.)
+// Handles have numbers that are reused after an object is freed. After creating more objects than
+// there can be reusable numbers, the highest number tells how many objects exist. (Wine's
+// GetGuiResources returns 0.)
 constexpr int kNewObjects = 200;
 
 size_t NumberOf(HANDLE handle) {
@@ -56,7 +56,7 @@ int ManyRuns() {
 }
 
 size_t ResourceSlack() {
-  return 100; // handle numbers are not given out strictly in order
+  return 100; // handle numbers are not strictly in order
 }
 
 size_t WindowResources() {
