@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "cloud/CloudMap.h"
-#include "symbollist/SymbolChanges.h"
 #include "symbollist/OwnedLists.h"
+#include "symbollist/SymbolChanges.h"
 
 class CGroupMgr;
 

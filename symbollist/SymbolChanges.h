@@ -26,8 +26,8 @@ std::unique_ptr<CSymbolList> CopyMoved(CSymbolList& source, const RenameMoved& r
 // The same for each of `sources`, CSymbolList pointers of which a null one is passed over.
 ListVector CopyAllMoved(const CPtrArray& sources, const RenameMoved& rename);
 
-// Appends the symbols of an announcement (symboltable/SymbolRecords.h), in upper case, to `symbols`.
-// Logs a line when there are more than are looked at.
+// Appends the symbols of an announcement (symboltable/SymbolRecords.h), in upper case, to
+// `symbols`. Logs a line when there are more than are looked at.
 void ReadChangedSymbols(const char* records, int count, CStringArray& symbols);
 
 // Resolves again every list that holds one of the symbols, with or without its exchange.

@@ -7,8 +7,8 @@
 
 namespace {
 
-// Fails each test that asked for the interface language, its fixture included: one that does not ask
-// need not run in every language.
+// Fails each test that asked for the interface language, its fixture included: one that does not
+// ask need not run in every language.
 class LanguageGuard : public testing::EmptyTestEventListener {
 public:
   void OnTestStart(const testing::TestInfo&) override { before_ = standin::LanguageQuestions(); }
