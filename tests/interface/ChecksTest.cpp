@@ -104,7 +104,7 @@ TEST_F(ChecksTest, ParameterTextIsTakenApartFieldByField) {
   before = "left alone";
   CTQSymbolListMgr::CutStringAndGetParamBefore(text, ',', before);
   EXPECT_STREQ(before, "left alone");
-  text = "\xA4\x7C|x"; // a trail byte that equals the separator
+  text = "\xA4\x7C|x"; // the second byte of the character equals the separator
   CTQSymbolListMgr::CutStringAndGetParamBefore(text, '|', before);
   EXPECT_STREQ(before, "\xA4\x7C");
   EXPECT_STREQ(text, "x");

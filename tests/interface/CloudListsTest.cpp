@@ -1,4 +1,4 @@
-// The cloud lists: the map, the lists of kind 8, the cloud groups that follow the map.
+// The cloud lists: the map, the lists of kind 8, and the cloud groups that follow the map.
 #include <string>
 
 #include "tests/interface/GroupsTest.h"
@@ -32,7 +32,7 @@ protected:
   }
   std::string Cloud() { return std::string(manager.GetCloudeList()); }
 
-  // What the terminal was told since the last question: "41:" or "4:ListNameChange".
+  // The notifications since the last call: "41:" or "4:ListNameChange".
   std::string Told() {
     std::string told;
     for (; told_ < standin::Notifications().size(); ++told_) {
@@ -199,7 +199,7 @@ TEST_F(CloudLists, ReplacingTakesCopiesAndMovesSymbolsInBoth) {
   CSymbolList moved;
   moved.SetID("A");
   moved.SetName("one");
-  moved.Update1("6488.TW,2330.TW"); // 6488 is on TE and not on TW any more
+  moved.Update1("6488.TW,2330.TW"); // 6488 has moved from TW to TE
   CPtrArray lists;
   lists.Add(&moved);
   EXPECT_EQ(manager.SetCloudSymbolList(&lists, kCloudLists), 1);
@@ -280,7 +280,7 @@ TEST_F(CloudLists, OtherGroupTypesDoNotFollowTheMap) {
 
 TEST_F(CloudLists, AFullLoadRefreshesTheCloudGroups) {
   manager.UpdateCloudSymbolList("PICK", "picked", "1101.TW");
-  manager.UpdateGroup(kCloudType, nullptr); // which loads all types
+  manager.UpdateGroup(kCloudType, nullptr); // loads all types
   EXPECT_EQ(MembersOf(Handle(kCloudType, "PICK")), "1101.TW");
 }
 

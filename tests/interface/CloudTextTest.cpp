@@ -1,4 +1,4 @@
-// Cloud lists sentence by sentence: the map, the lists of kind 8, the groups that follow the map.
+// Cloud lists in detail: the map, the lists of kind 8, and the groups that follow the map.
 #include "tests/interface/GroupsTest.h"
 
 namespace {

@@ -152,8 +152,8 @@ TEST_F(EditListsTest, DefaultIndexAfterADeletion) {
   } rows[] = {
       {1, 0, 0, -1}, // the only list
       {3, 2, 2, 1},  // the default one, the last
-      {3, 1, 1, 1},  // the default one: the next becomes it
-      {3, 2, 0, 2},  // one in front: the number stays, and so means another list
+      {3, 1, 1, 1},  // the default one: the next list becomes the default
+      {3, 2, 0, 2},  // one in front: the index stays and now means another list
       {3, 0, 2, 0},  // one behind
       {3, 7, 2, 7},  // a default beyond the lists
   };

@@ -9,7 +9,7 @@
 
 class EditTest : public ManagerTest {
 protected:
-  // Starts with symbol tables; the notifications of the start do not count.
+  // Starts with symbol tables and discards the notifications of the start.
   void StartWith(const std::vector<std::string>& lists) {
     std::string file = std::string("<?xml version='1.0' encoding='") +
                        (IsTraditionChinese() ? "big5" : "gb2312") +
@@ -55,7 +55,7 @@ protected:
     return index;
   }
 
-  // The rows' ids of a list, joined by blanks.
+  // The ids of a list's rows, joined by blanks.
   std::string Rows(const char* id) {
     std::string rows;
     for (int i = 0; i < manager.GetTQSymbolCount(id, 1); ++i) {
@@ -68,7 +68,7 @@ protected:
 
   void ExpectNotNotified() { EXPECT_EQ(standin::Notifications().size(), notified_); }
 
-  // Since the start the terminal was told so many times, the last time this.
+  // Expects that many notifications since the start, the last one as given.
   void ExpectNotified(size_t count, long code, const char* reason) {
     ASSERT_EQ(standin::Notifications().size(), notified_ + count);
     EXPECT_EQ(standin::Notifications().back().target, "");

@@ -1,5 +1,5 @@
-// What an operation of the manager does beside its answer: which file it writes, which lines go to
-// the log and what the terminal is told. docs/notifications.md has the same table.
+// The side effects of each operation of the manager: files written, lines in the log,
+// notifications. docs/notifications.md has the same table.
 #include <string>
 #include <vector>
 
@@ -9,9 +9,8 @@
 
 namespace {
 
-// The state that an operation works on: user lists a and b, the six system lists, a cloud list PICK
-// that is also a group of type 201, and the trading system T1 with account 9801, which has logged
-// in.
+// The initial state: user lists a and b, the six system lists, a cloud list PICK that is also a
+// group of type 201, and the trading system T1 with account 9801, logged in.
 class Effects : public GroupsTest {
 protected:
   Effects() {
@@ -32,8 +31,9 @@ protected:
     logged_ = standin::LogLines().size();
   }
 
-  // The files written, lines and notifications since the start: "SymbolList.xml | 64 Add SymbolList
-  // | 40 ".
+  // Files, lines and notifications since the start: "SymbolList.xml
+  // 64 Add SymbolList
+  // 40 ".
   std::string Seen() const {
     std::string files;
     for (const char* file : kFiles) {
@@ -72,13 +72,13 @@ protected:
 private:
   static constexpr const char* kFiles[] = {"SymbolList.xml", "SymbolList_Backup.xml", "TSList.xml"};
 
-  // A document that the library reads and would write in another form.
+  // A document that the library reads but would write differently.
   static std::string Marked(const std::string& file) {
     return Document("<List ID='" + file + "' Name='N' Value='2330.TW'/>") + "\n";
   }
 
-  // The marks were written by another program, as the library sees it, and a save keeps them first.
-  // The line that says so does not belong to the operation.
+  // The file now counts as written by another program, so a save keeps a copy first. The line about
+  // the copy is not the operation's own.
   static bool TellsOfMark(const std::string& line) {
     return line.starts_with("List file ") && line.find(" is kept as ") != std::string::npos;
   }
@@ -87,7 +87,7 @@ private:
   size_t logged_ = 0;
 };
 
-// --- Operations that need no more than a line ----------------------------------------------------
+// --- Operations that only need a line ------------------------------------------------------------
 
 struct Operation {
   const char* name;
@@ -304,7 +304,7 @@ TEST_F(Effects, OfMoreChangesThanCountAreALine) {
                     "MaxSymbolChangeItems = 10 | ");
 }
 
-// The save that fails shows its message; what else is said does not depend on it.
+// The failed save shows its message; everything else is as for a save that succeeds.
 TEST_F(Effects, OfAnAddWhoseSaveFailsAreTheLineAndTheNotification) {
   directory.Remove();
   EXPECT_EQ(manager.AddSymbolList("c", 0, "C", "1101.TW", 1, 0), 1);

@@ -21,7 +21,7 @@ protected:
     market.defaults = defaults;
     standin::SetMarket(market);
   }
-  // The exchanges of the buffer of all symbols, each once, in order.
+  // The distinct exchanges of the buffer of all symbols, in order.
   std::string Order() {
     SymbolInfo* all = nullptr;
     int count = 0;
@@ -37,7 +37,7 @@ protected:
   }
 };
 
-// A market of exchanges 1, 2, 3 ... named A, B, C ..., one symbol on each.
+// A market of exchanges 1, 2, 3 ... named A, B, C ..., with one symbol each.
 standin::Market LetterMarket(int exchanges, const char* defaults) {
   standin::Market market;
   for (int i = 0; i < exchanges; ++i) {
@@ -204,7 +204,7 @@ TEST_F(ExchangesTest, AnExchangeThatFailsAtTheStartIsLeftOut) {
   EXPECT_EQ(Order(), "1,3");
 }
 
-// Symptom: an array that came with a failure or a count that is not above 0 was written over, and
+// Symptom: an array that came with a failure, or with a count not above 0, was overwritten and
 // leaked.
 TEST_F(ExchangesTest, ArraysThatComeWithAFailureOrWithoutACountAreReleased) {
   standin::SetMarket(LetterMarket(5, "1,2,3,4,5"));

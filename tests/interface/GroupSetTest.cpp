@@ -1,4 +1,4 @@
-// The value in which the terminal pushes groups.
+// The value type in which the terminal pushes groups.
 #include "groups/GroupSet.h"
 
 #include <gtest/gtest.h>

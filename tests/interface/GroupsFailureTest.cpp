@@ -1,4 +1,4 @@
-// Groups while the service fails or answers nonsense.
+// Groups while the service fails or returns nonsense.
 #include <cstring>
 
 #include "tests/interface/GroupsTest.h"
@@ -7,7 +7,7 @@ namespace {
 
 class GroupsFailureTest : public GroupsTest {
 protected:
-  // Everything that the manager answers about the sample groups.
+  // All answers of the manager about the sample groups.
   std::string Everything() {
     std::string all;
     for (const int type : {1, 2, 7, 201}) {
@@ -21,8 +21,8 @@ protected:
   }
 };
 
-// Each call of a full load fails, one at a time: the group or type that it was for is empty,
-// everything else is there, nothing leaks, and the next load is whole.
+// Each call of a full load fails in turn: only the group or type that it was for is empty, nothing
+// leaks, and the next load is complete.
 TEST_F(GroupsFailureTest, EveryCallOfAFullLoadFailingOnceIsSurvived) {
   ASSERT_EQ(manager.LoadGroupList(), 1);
   std::vector<std::string> calls;

@@ -34,7 +34,7 @@ TEST_F(GroupsMembersTest, SymbolsByIdAreOnlySubGroups) {
   EXPECT_EQ(manager.GetGroupSymbolCount(1, "chip"), 2);
   EXPECT_EQ(manager.GetGroupSymbolInfo(1, "chip", 1, &record), 1);
   EXPECT_STREQ(record.id, "2454.TW");
-  EXPECT_EQ(manager.GetGroupSymbolCount(1, "ETF"), 0); // has a member, but is no sub-group
+  EXPECT_EQ(manager.GetGroupSymbolCount(1, "ETF"), 0); // has a member, but is not a sub-group
   EXPECT_EQ(manager.GetGroupSymbolInfo(1, "ETF", 0, &record), 0);
   EXPECT_EQ(manager.GetGroupSymbolCount(1, "none"), 0);
   EXPECT_EQ(manager.GetGroupSymbolCount(50, "CHIP"), 0);
@@ -79,7 +79,7 @@ TEST_F(GroupsMembersTest, SymbolsAreFoundInTypes2And7And8Only) {
   EXPECT_EQ(manager.FindSymoblInGroupList(3, "G3", "2330.TW"), 0);
   EXPECT_EQ(manager.FindSymoblInGroupList(1, "CHIP", "2330.TW"), 0);
   EXPECT_EQ(manager.FindSymoblInGroupList(201, "PICK", "2317.TW"), 0);
-  EXPECT_EQ(Fetched(), 0); // without looking
+  EXPECT_EQ(Fetched(), 0); // no member was fetched
   EXPECT_EQ(manager.FindSymoblInGroupList(8, "G8", "2330.TW"), 1);
   EXPECT_EQ(manager.FindSymoblInGroupList(2, "AI", "2330.TW"), 1);
   EXPECT_EQ(manager.FindSymoblInGroupList(7, "txoc", "TXO21000L6.TF"), 1);

@@ -52,7 +52,7 @@ TEST_F(GroupsPushesTest, AddingAnExistingIdReplacesInPlaceAndAddsNoOther) {
   EXPECT_EQ(Handle(1, "WAFER"), nullptr);
 }
 
-// The rule holds for each type by itself.
+// The rule holds for each type separately.
 TEST_F(GroupsPushesTest, AReplacementInOneTypeDoesNotKeepAnotherFromAdding) {
   manager.AddGroup({Set(1, "TSE", "Mine"), Set(2, "new", "New"), Set(1, "new", "New")});
   EXPECT_EQ(Shape(1), "TSE OTC(WAFER) ETF");
@@ -92,7 +92,7 @@ TEST_F(GroupsPushesTest, TextsThatDoNotFitAreCut) {
   EXPECT_STREQ(info.szID, "1234567890123456");
   EXPECT_EQ(std::string(info.szName), name.substr(0, 47));
   EXPECT_EQ(SubShape(1, "1234567890123456"), "(abcdefghijklmnop)");
-  // The longer text is the id of no group: it is compared whole.
+  // Ids are compared whole, so the longer text is no group's id.
   EXPECT_EQ(manager.UpdateGroup({Set(1, "12345678901234567", "y")}), 0);
   EXPECT_EQ(Handle(1, "12345678901234567"), nullptr);
 }

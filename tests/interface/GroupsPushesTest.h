@@ -1,4 +1,4 @@
-// A manager with the group market's groups, to push others into.
+// A manager with the groups of the group market, to push others into.
 #pragma once
 
 #include "tests/interface/GroupsTest.h"
@@ -18,7 +18,7 @@ protected:
     return info;
   }
 
-  int asked = 0; // calls that the test itself caused
+  int asked = 0; // calls made by the test itself
 };
 
 // The groups of type 1 before any push.

@@ -1,4 +1,4 @@
-// What is asked about groups: by type and id, and by handle.
+// Queries about groups, by type and id and by handle.
 #include "tests/interface/GroupsTest.h"
 
 namespace {
@@ -27,7 +27,7 @@ TEST_F(GroupsQueriesTest, CountWithHandleIsThatOfItsSubGroups) {
   EXPECT_EQ(manager.GetGroupCount(1, Handle(1, "CHIP")), 0);
 }
 
-// The handle says which group is meant; the type has only to be loaded.
+// The handle names the group; the type only has to be loaded.
 TEST_F(GroupsQueriesTest, AHandleIsAnsweredUnderAnyLoadedTypeAndNoOther) {
   void* const tse = Handle(1, "TSE");
   GroupInfo info = {};
@@ -36,7 +36,7 @@ TEST_F(GroupsQueriesTest, AHandleIsAnsweredUnderAnyLoadedTypeAndNoOther) {
   EXPECT_EQ(manager.GetGroupInfo(2, tse, 0, &info), 1);
   EXPECT_STREQ(info.szID, "CHIP");
   EXPECT_EQ(manager.GetGroupInfo(50, tse, 0, &info), 0);
-  manager.RemoveGroupList(6); // type 201 now stands behind the array, and is loaded all the same
+  manager.RemoveGroupList(6); // type 201 is now past the end, but still counts as loaded
   EXPECT_EQ(manager.GetGroupCount(201, tse), 2);
   EXPECT_EQ(manager.GetGroupInfo(201, tse, 1, &info), 1);
 }
@@ -187,7 +187,7 @@ TEST_F(GroupsQueriesTest, NameByIdIsThatOfTheFirstWithExactlyThatId) {
   AddToMarket({3, "B", "s", "小", "小", {}});
   AddToMarket({3, "B", "s", "小二", "小二", {}});
   manager.LoadGroupList(3);
-  for (int i = 0; i < 10; ++i) { // plain searches first, then the index
+  for (int i = 0; i < 10; ++i) { // the first look-up builds the index, later ones use it
     EXPECT_EQ(SubName(3, "s"), "小");
     EXPECT_EQ(SubName(3, "S"), "大");
     EXPECT_EQ(standin::FromAnsi(NameOf(Handle(3, "s"))), "大");

@@ -1,5 +1,5 @@
 // The terminal handles messages while the symbol-data service works, and calls the library from
-// there: groups are loaded, removed, pushed and asked for from within each call of the service.
+// there: groups are loaded, removed, pushed and queried within each call of the service.
 #include <functional>
 #include <memory>
 
@@ -24,7 +24,7 @@ protected:
     });
   }
 
-  // Types, sub-groups, members: whatever walks through all that is there.
+  // Walks through all types, sub-groups and members.
   void AskForEverything() {
     for (const int type : {1, 2, 7, 50, 101, 201}) {
       Shape(type);
@@ -39,7 +39,7 @@ protected:
     manager.FindSymoblInGroupList(2, "AI", "2330");
   }
 
-  // What the terminal may do from within a call.
+  // The terminal's operations within a call.
   std::vector<Operation> Calls() {
     return {
         {"loads all", [this] { manager.LoadGroupList(); }},
@@ -83,8 +83,8 @@ protected:
     };
   }
 
-  // Runs `work` once for each call of the service operation that it makes and each of Calls(),
-  // which is done from within it.
+  // Runs `work` once for each pair of a call that it makes to the service operation and an
+  // operation of Calls(), which runs within that call.
   void ReenterAtEach(const std::string& operation, const std::function<void()>& work,
                      const std::function<void()>& check) {
     manager.LoadGroupList();
@@ -182,7 +182,7 @@ TEST_F(GroupsReentryTest, MembersThatArriveTwiceAreThereOnce) {
   EXPECT_EQ(MembersOf(chip), "2330.TW,2454.TW");
 }
 
-// The service's answer, on its way since before, took the place of the cloud list.
+// Symptom: the service's answer, requested before, replaced the cloud list's members.
 TEST_F(GroupsReentryTest, MembersOfACloudListThatComeMeanwhileStay) {
   void* const chip = Handle(1, "CHIP");
   manager.UpdateCloudSymbolList("CHIP", "mine", "1101.TW");

@@ -9,13 +9,13 @@ TEST_F(GroupsSubPushesTest, AddedSubGroupsStandAtTheEnd) {
   EXPECT_EQ(manager.AddSubGroup({Set(1, "tse", "", {{"b", "B"}, {"a", "A"}})}), 1);
   EXPECT_EQ(Shape(1), "TSE(CHIP CEM b a) OTC(WAFER) ETF");
   EXPECT_EQ(NameById("b"), "B");
-  EXPECT_NE(NameById("TSE"), ""); // the set's name is not the group's
+  EXPECT_NE(NameById("TSE"), ""); // the set's name is not applied to the group
 }
 
 TEST_F(GroupsSubPushesTest, AGroupWithoutSubGroupsGetsSome) {
   EXPECT_EQ(manager.AddSubGroup({Set(1, "ETF", "", {{"s", "S"}})}), 1);
   EXPECT_EQ(Shape(1), "TSE(CHIP CEM) OTC(WAFER) ETF(s)");
-  EXPECT_EQ(static_cast<int>(InfoOf(2).bHasSubGroup), 0); // the record stays the service's
+  EXPECT_EQ(static_cast<int>(InfoOf(2).bHasSubGroup), 0); // the record is still the service's
 }
 
 TEST_F(GroupsSubPushesTest, SubGroupsOfAnUnknownGroupAreNotAdded) {
@@ -32,12 +32,12 @@ TEST_F(GroupsSubPushesTest, AddingAnExistingSubGroupReplacesItAndAddsNoOther) {
 }
 
 TEST_F(GroupsSubPushesTest, TheLastSetThatNamesAGroupDecidesWhetherAnyIsAdded) {
-  // The last one replaces: nothing is added, though the first one replaced nothing.
+  // The last set replaces, so nothing is added, although the first set replaced nothing.
   manager.AddSubGroup({Set(1, "OTC", "", {{"new", "New"}}), Set(1, "TSE", "", {{"CHIP", "Mine"}}),
                        Set(1, "none", "", {{"s", "S"}})});
   EXPECT_EQ(Shape(1), kLoaded);
   EXPECT_EQ(NameById("CHIP"), "Mine");
-  // The last one replaces nothing: it is added, and so is what else replaces nothing.
+  // The last set replaces nothing, so every set that replaces nothing is added.
   manager.AddSubGroup({Set(1, "TSE", "", {{"CEM", "Yours"}, {"no", "No"}}),
                        Set(1, "ETF", "", {{"e", "E"}}), Set(1, "OTC", "", {{"o", "O"}})});
   EXPECT_EQ(Shape(1), "TSE(CHIP CEM) OTC(WAFER o) ETF(e)");

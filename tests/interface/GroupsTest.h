@@ -33,7 +33,7 @@ protected:
     CString ids;
     return manager.GetGroupListIDs(handle, ids) != 0 ? std::string(ids) : "none";
   }
-  // The ids of a type's groups, with those of their sub-groups behind them: "TSE(CHIP CEM) OTC".
+  // The ids of a type's groups, each followed by its sub-groups: "TSE(CHIP CEM) OTC".
   std::string Shape(int type) {
     std::string shape;
     for (int i = 0; i < manager.GetGroupCount(type, nullptr); ++i) {

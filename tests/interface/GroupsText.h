@@ -1,4 +1,4 @@
-// A manager with groups, and what it says of them as text.
+// A manager with groups, and its answers as text.
 #pragma once
 
 #include <cstring>

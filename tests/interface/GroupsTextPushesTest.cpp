@@ -1,4 +1,4 @@
-// Pushed groups sentence by sentence: what replaces, what is added, and what is passed over.
+// Pushed groups in detail: what is replaced, added or ignored.
 #include "tests/interface/GroupsTest.h"
 
 namespace {

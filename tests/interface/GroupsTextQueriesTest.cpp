@@ -1,4 +1,4 @@
-// Groups: queries, and a symbol in a group.
+// Groups: queries in detail.
 #include "tests/interface/GroupsText.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// Which types of groups there are: loading, adding, updating and removing them.
+// The types of groups: loading, adding, updating and removing them.
 #include "tests/interface/GroupsTest.h"
 
 namespace {
@@ -148,7 +148,7 @@ TEST_F(GroupsTypesTest, UpdateOfAnythingElseReloadsEverything) {
   }
 }
 
-// Deliberate: terminals rely on the positions that they were told until the next full load.
+// Deliberate: terminals use the positions that they were given until the next full load.
 TEST_F(GroupsTypesTest, TypesBehindARemovedOneAnswerForTheirRightNeighbour) {
   manager.LoadGroupList();
   EXPECT_EQ(manager.RemoveGroupList(6), 1);
@@ -182,7 +182,7 @@ TEST_F(GroupsTypesTest, APositionBehindTheArrayIsAMissForEveryQuestion) {
   EXPECT_EQ(manager.GetGroupSymbolInfo(201, "VORNG0101", 0, &record), 0);
 }
 
-// Pushes and reloads look at the types themselves, not at the positions.
+// Pushes and reloads search the array and do not use the positions.
 TEST_F(GroupsTypesTest, PushesReachTheRightTypeAfterARemoval) {
   manager.LoadGroupList();
   manager.RemoveGroupList(6);
@@ -192,7 +192,7 @@ TEST_F(GroupsTypesTest, PushesReachTheRightTypeAfterARemoval) {
   EXPECT_EQ(Shape(101), "VORNG01(VORNG0101 VORNG0102 VORNG0103) PICK");
 }
 
-// GetGroupIdx(101) was 2: a type that is added behind all others moves none.
+// Symptom: GetGroupIdx(101) was 2. A type added behind all others moves none.
 TEST_F(GroupsTypesTest, ATypeBehindAllOthersMovesNoPosition) {
   manager.AddNewGroup(1);
   manager.AddNewGroup(101);

@@ -1,4 +1,4 @@
-// Nothing of the operating system stays open behind the manager's operations.
+// The manager's operations leave no handle of the operating system open.
 #include "tests/support/HeldObjects.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 
 namespace {
 
-// The log is opened by the first start of the process and stays.
+// The first start of the process opens the log, which stays open.
 class HeldByLists : public EditTest {
 protected:
   HeldByLists() {

@@ -39,7 +39,7 @@ TEST_F(ImportTest, ASecondCallOrStartImportsNothing) {
   EXPECT_EQ(Shape(), "");
 }
 
-// A user who exports the same lists again, or puts the same file there again, got nothing.
+// Symptom: exporting the same lists again, or putting the same file back, imported nothing.
 TEST_F(ImportTest, TheSameListsExportedAgainAreImportedAgain) {
   const std::string file = File("<L><IDs>2330.TW</IDs></L>");
   WriteImport(file);
@@ -57,8 +57,7 @@ TEST_F(ImportTest, TheSameListsExportedAgainAreImportedAgain) {
   EXPECT_EQ(Shape(), "eOrvel 1/eOrvel 1/2330.TW");
 }
 
-// The lists are on the disk before the file is renamed, so this is what a process leaves that is
-// killed in between.
+// The lists are saved before the file is renamed, so a process killed in between leaves this.
 TEST_F(ImportTest, AStartThatEndedBeforeTheRenameIsMadeGoodByTheNext) {
   const std::string file = File("<L><IDs>2330.TW</IDs></L><L><IDs>2317.TW</IDs></L>");
   WriteImport(file);

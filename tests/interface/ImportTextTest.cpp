@@ -1,4 +1,4 @@
-// The import of an older product's lists and the extra texts, sentence by sentence.
+// The import of an older product's lists and the extra texts, in detail.
 #include "tests/interface/EditTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The searches for indicators: what choosing a row gives.
+// The searches for indicators: the outputs of a chosen row.
 #include "tests/interface/IndicatorTest.h"
 
 #include "platform/framework/CPtrArray.h"
@@ -74,8 +74,7 @@ TEST_F(IndicatorChoice, AClickSelectsAndChoosesNothing) {
   EXPECT_EQ(Outputs(), untouched);
 }
 
-// The rows of the stock library are gone with its next call, which the terminal may make at any
-// time.
+// The stock library frees its rows at the next call, which the terminal may make at any time.
 TEST_F(IndicatorChoice, AnotherTableReadMeanwhileChangesNothing) {
   SearchEconomic([](User& user) {
     CPtrArray rows;
@@ -107,7 +106,7 @@ TEST_F(IndicatorChoice, TenThousandRowsAreShownNarrowedDownAndChosen) {
   SearchFuture(
       [](User& user) {
         EXPECT_EQ(user.Rows(kRegions).size(), 101u);
-        EXPECT_EQ(user.Rows(kList).size(), 100u); // those of R99
+        EXPECT_EQ(user.Rows(kList).size(), 100u); // the rows of R99
         EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{99});
         EXPECT_TRUE(user.Select(kRegions, "R42"));
         EXPECT_EQ(user.Rows(kList).size(), 100u);

@@ -1,5 +1,5 @@
-// The searches for indicators: closing them without a choice, the row they open on, and what the
-// terminal does to them from outside.
+// The searches for indicators: closing without a choice, the initial row, and what the terminal
+// does from outside.
 #include "platform/framework/CListCtrl.h"
 #include "platform/framework/ResourceContext.h"
 #include "tests/interface/IndicatorTest.h"
@@ -11,7 +11,7 @@ protected:
   ~IndicatorSearchClose() override { CTQSymbolListMgr::m_bDoModal = 0; }
 };
 
-// The three searches, for what holds for each of them.
+// The three searches, for what they have in common.
 struct Search {
   const char* name;
   int (*open)(CString& name, CString& code, CString& market);
@@ -63,7 +63,7 @@ TEST_P(AnyIndicatorSearch, TheTitleBarCancels) {
   EXPECT_EQ(Outputs(), untouched);
 }
 
-// It would close the dialog as a choice does, but without one.
+// The dialog would close as after a choice.
 TEST_P(AnyIndicatorSearch, EnterDoesNothing) {
   EXPECT_EQ(Open([](User& user) {
               EXPECT_TRUE(user.ClickRow(kList, 0));
@@ -144,7 +144,7 @@ TEST_F(IndicatorSearchClose, WithoutAnInputNoRowIsSelected) {
 
 TEST_F(IndicatorSearchClose, TheRowWithTheCodeIsSelected) {
   SearchEconomic(ExpectSelected({1}), "twexp");
-  SearchFuture(ExpectSelected({0}), "ES"); // the first of its region, which the search opens on
+  SearchFuture(ExpectSelected({0}), "ES"); // the first row of its region, on which the search opens
 }
 
 TEST_F(IndicatorSearchClose, TheRowWithTheNameIsSelected) {
@@ -171,7 +171,7 @@ TEST_F(IndicatorSearchClose, TheRowThatIsSelectedAtTheStartIsNotChosen) {
 
 int endedResult = 0;
 
-// Ends the dialog from outside, or when that is refused as its user.
+// Ends the dialog from outside or, if that is refused, as its user.
 void EndFromOutside(CDialog& dialog) {
   endedResult = CTQSymbolListMgr::EndDomodal(dialog.GetSafeHwnd(), 7);
   if (endedResult == 0)
@@ -243,7 +243,7 @@ const char* TerminalString(unsigned, int) {
   return "the terminal's";
 }
 
-// What the terminal has in force itself.
+// The terminal's own resources.
 tq::Resources TerminalResources() {
   tq::Resources resources;
   resources.string = TerminalString;

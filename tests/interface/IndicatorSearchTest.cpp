@@ -1,4 +1,4 @@
-// The searches for indicators: what they show, and how they are narrowed down.
+// The searches for indicators: their contents, and how choices filter them.
 #include "tests/interface/IndicatorTest.h"
 
 namespace {
@@ -200,7 +200,7 @@ TEST_F(IndicatorSearch, ATableWithoutRegionsOpensOnAllOfThem) {
 
 // --- Rows of one name ----------------------------------------------------------------------------
 
-// Symptom: under all regions the list showed "失業率" twice, and nobody could tell whose was whose.
+// Symptom: under all regions the list showed "失業率" twice, and the two could not be told apart.
 TEST_F(IndicatorSearch, RowsOfOneNameShowTheirRegions) {
   ServeRowsOfOneName(InfoEconomicIndicators);
   SearchEconomic([](User& user) {

@@ -1,4 +1,4 @@
-// The searches for indicators, opened as a terminal opens them, on tables of a few rows.
+// The searches for indicators, opened as a terminal does, on tables of a few rows.
 #pragma once
 
 #include <string>

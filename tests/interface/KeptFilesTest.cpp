@@ -1,5 +1,5 @@
-// Lists that are on the disk and not in memory are never lost: a save that would write over them
-// keeps a copy first.
+// Lists that are on the disk and not in memory are never lost: a save that would overwrite them
+// makes a copy first.
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -31,7 +31,7 @@ protected:
   int Add(const char* name) { return manager.AddSymbolList("", 0, name, "2317.TW", 1, 0); }
   bool Saved(const std::string& name) { return ReadWorking().find(name) != std::string::npos; }
 
-  // Names of the copies in the directory, joined by blanks.
+  // The names of the copies in the directory, joined by blanks.
   std::string Copies() const {
     std::string copies;
     for (const std::string& name : directory.Names()) {
@@ -43,7 +43,7 @@ protected:
   static std::string LastLine() {
     return standin::LogLines().empty() ? "" : standin::LogLines().back().text;
   }
-  // The last line of level 64 that speaks of a copy.
+  // The last line of level 64 about a copy.
   static std::string KeptLine() {
     const auto lines = standin::LogLines();
     for (auto line = lines.rbegin(); line != lines.rend(); ++line) {
@@ -58,8 +58,8 @@ protected:
   }
 };
 
-// The symbol-data service was down at the start, the manager had no lists, and the list that the
-// user added took the place of all lists in the file.
+// Symptom: the symbol-data service was down at the start, the manager had no lists, and the list
+// that the user added replaced all lists in the file.
 TEST_F(KeptFilesTest, AStartThatFailsAtTheTablesDoesNotCostTheListsOfTheFile) {
   for (const char* operation : {"VLGetExch", "VLGetBaseAttrs2", "TQSGetUserInfo"}) {
     SCOPED_TRACE(operation);
@@ -80,8 +80,8 @@ TEST_F(KeptFilesTest, AStartThatFailsAtTheTablesDoesNotCostTheListsOfTheFile) {
   ExpectLine("SymbolList_Kept2.xml", "the lists in memory do not come from it");
 }
 
-// The same on a manager that had read the file before: its lists are gone from memory with the
-// second Init.
+// The same for a manager that has read the file before: the second Init removes its lists from
+// memory.
 TEST_F(KeptFilesTest, AFailingStartOfALiveManagerDoesNotCostThemEither) {
   WriteWorking(TwoLists());
   ASSERT_EQ(StartWithTables(), 1);
@@ -92,7 +92,7 @@ TEST_F(KeptFilesTest, AFailingStartOfALiveManagerDoesNotCostThemEither) {
   EXPECT_EQ(directory.Read(kCopy), TwoLists());
 }
 
-// One stray apostrophe kept all lists from loading, and the next save wrote the file over.
+// Symptom: one stray apostrophe kept all lists from loading, and the next save overwrote the file.
 TEST_F(KeptFilesTest, AFileThatCannotBeLoadedIsKept) {
   const struct {
     std::string file;
@@ -147,7 +147,7 @@ TEST_F(KeptFilesTest, TwoManagersOfOneDirectoryKeepEachOthersLists) {
   EXPECT_EQ(directory.Read(kCopy), mine);
 }
 
-// A file that was only written anew with the bytes it had is one that was read.
+// A file that was rewritten with the same bytes counts as read.
 TEST_F(KeptFilesTest, TheSameBytesUnderALaterTimeAreKnown) {
   WriteWorking(TwoLists());
   StartWithoutTables();
@@ -158,7 +158,7 @@ TEST_F(KeptFilesTest, TheSameBytesUnderALaterTimeAreKnown) {
 }
 
 TEST_F(KeptFilesTest, NothingIsKeptOfFilesThatWereReadOrHoldNoList) {
-  StartWithoutTables(); // makes an empty one
+  StartWithoutTables(); // makes an empty file
   EXPECT_EQ(Add("one"), 1);
   EXPECT_EQ(manager.LoadSymbolList(), 1);
   EXPECT_EQ(Add("two"), 1);
@@ -193,8 +193,8 @@ TEST_F(KeptFilesTest, ADirectoryThatTheManagerGoesOverToIsReadFirst) {
   EXPECT_EQ(other.Read(kCopy), "damaged");
 }
 
-// Restoring a backup that is not there, or damaged, empties the manager; the working file's lists
-// are then nowhere but in the file.
+// Restoring a missing or damaged backup empties the manager; the working file's lists are then only
+// in the file.
 TEST_F(KeptFilesTest, ARestoreThatFailsDoesNotCostTheWorkingFile) {
   WriteWorking(TwoLists());
   StartWithoutTables();
@@ -204,7 +204,7 @@ TEST_F(KeptFilesTest, ARestoreThatFailsDoesNotCostTheWorkingFile) {
   EXPECT_EQ(directory.Read(kCopy), TwoLists());
 }
 
-// A backup without lists is restored by writing the working file over at once.
+// Restoring a backup without lists overwrites the working file at once.
 TEST_F(KeptFilesTest, ARestoreOfNothingKeepsTheWorkingFile) {
   WriteWorking(TwoLists());
   WriteBackup(File("", "-1"));
@@ -257,7 +257,7 @@ TEST_F(KeptFilesTest, BytesThatAreKeptAlreadyAreNotKeptAgain) {
   EXPECT_EQ(Copies(), "SymbolList_Kept.xml SymbolList_Kept1.xml");
 }
 
-// A name with "&" can be read and is written as it stands, and then nothing is read any more.
+// A name with "&" can be read but is written unescaped, and the file can then no longer be read.
 TEST_F(KeptFilesTest, AFileThatCannotBeWrittenBackIsKept) {
   const struct {
     const char* list;
@@ -305,7 +305,7 @@ TEST_F(KeptFilesTest, TextThatTheCodePageLacksIsKept) {
   EXPECT_EQ(directory.Read(kCopy), file);
 }
 
-// The copy is of the file as it is when it is written over, not as it was when it was loaded.
+// The copy is of the file as it is when it is overwritten, not as it was when it was loaded.
 TEST_F(KeptFilesTest, TheBytesOfTheMomentAreKept) {
   WriteWorking("damaged");
   StartWithoutTables();
@@ -322,7 +322,7 @@ TEST_F(KeptFilesTest, WhatBearsACopysNameAndIsNoFileIsPassedOver) {
   EXPECT_EQ(directory.Read("SymbolList_Kept1.xml"), "damaged");
 }
 
-// A copy that cannot be made: the file that would be lost stays, and so do the lists in memory.
+// When the copy cannot be made, the file stays, and so do the lists in memory.
 TEST_F(KeptFilesTest, WithoutACopyTheSaveIsRefused) {
   for (int copy = 0; copy <= 9; ++copy)
     directory.MakeDirectory("SymbolList_Kept" + (copy > 0 ? std::to_string(copy) : "") + ".xml");

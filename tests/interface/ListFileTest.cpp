@@ -41,7 +41,7 @@ TEST_F(ListFileTest, SavingWhatWasLoadedGivesTheSameBytes) {
 }
 
 TEST_F(ListFileTest, EverySavedDoubleByteCharacterComesBackAsItsBytes) {
-  // All pairs that both code pages have, and so twins and user-defined characters among them.
+  // All pairs of bytes that both code pages have, including twins and user-defined characters.
   std::vector<std::string> elements;
   for (int lead = 0x81; lead <= 0xFE; ++lead) {
     std::string name;
@@ -269,7 +269,7 @@ TEST_F(ListFileTest, TheOtherLanguagesFileIsReadByItsDeclaredEncoding) {
   EXPECT_EQ(std::string(info.Name), ours);
 }
 
-// Both operations could not be called: they were private.
+// Symptom: both operations were private and could not be called.
 TEST_F(ListFileTest, AnyFileIsSavedAndLoadedByItsPath) {
   WriteWorking(File(1, {kSystem, kUser}));
   StartWithoutTables();

@@ -1,4 +1,4 @@
-// The text forms of CListID at their edges: what is cut where, what falls back, what is emptied.
+// The text forms of CListID at their limits: what is cut, replaced by a default, or emptied.
 #include "symbolid/ListID.h"
 #include "tests/interface/EditTest.h"
 
@@ -26,7 +26,7 @@ protected:
     return std::to_string(id.GetType()) + "|" + id.GetID().GetString() + "|" +
            id.GetName().GetString() + "|" + id.GetSymbolList().GetString();
   }
-  // The same after reading.
+  // The same after reading it back.
   std::string Short(const char* text) {
     Read(text);
     return All();

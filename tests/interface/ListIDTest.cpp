@@ -1,4 +1,4 @@
-// CListID: identities of symbol sources, as values and as groups.
+// CListID: identities of symbol sources as values and as groups.
 #include "symbolid/ListID.h"
 
 #include <memory>
@@ -96,7 +96,7 @@ TEST(ListID, TheBaseReachesTheSameObject) {
   EXPECT_EQ(std::string(base.GetOrgID()) + std::to_string(base.GetOrgType()), "O6");
 }
 
-// A terminal's own identity, which answers for the texts with a mark in front.
+// A terminal's own class, whose texts have a mark in front.
 struct MarkedListID : CListID {
   CString ToString() const override { return "*" + CListID::ToString(); }
 };

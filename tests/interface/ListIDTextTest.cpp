@@ -1,4 +1,4 @@
-// CListID: the text forms, which terminals store.
+// CListID: its text forms, which terminals store.
 #include <string>
 
 #include "platform/services/tqCommon.h"
@@ -51,7 +51,7 @@ TEST_F(ListIDText, IsTypeCommaId) {
 TEST_F(ListIDText, TypeZeroIsWrittenAsOne) {
   EXPECT_STREQ(Make(0, "X").ToString(), "1,X");
   EXPECT_STREQ(CListID().ToString(), "1,");
-  EXPECT_STREQ(Make(0, "X", "N", "S").ToStringForList(), "1,X"); // but is no user list
+  EXPECT_STREQ(Make(0, "X", "N", "S").ToStringForList(), "1,X"); // but it is no user list
 }
 
 TEST_F(ListIDText, AllSymbolsAreWrittenByTheirLabel) {
@@ -83,12 +83,12 @@ TEST_F(ListIDText, IsReadByTheFirstCharacterAndFromTheThird) {
 TEST_F(ListIDText, OtherTextsBecomeTypeOneWithoutIdAndAreNotValid) {
   for (const char* text : {"", "ABC", ",A", "12,A", "1", "1;A", "\xB3\x5C,A", " 1,A", "33", "3;A"})
     EXPECT_EQ(Read(text), "0 1|||") << text;
-  // The digits of types that need no id, and of none.
+  // The digits of types that need no id, and digits of no type.
   for (const char* text : {"0", "4", "5", "9", "x", " ", "-"})
     EXPECT_EQ(Read(text), "0 1|||") << text;
 }
 
-// Symptom: "3", a group whose id was lost, came back as a user list.
+// Symptom: "3", a group whose id was lost, was read as a user list.
 TEST_F(ListIDText, ADigitAloneKeepsATypeThatNeedsAnIdAndIsNotValid) {
   const Case cases[] = {
       {"1", "0 1|||"}, {"2", "0 2|||"}, {"3", "0 3|||"}, {"7", "0 7|||"}, {"8", "0 8|||"}};

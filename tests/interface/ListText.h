@@ -1,4 +1,4 @@
-// What the tests of lists and their file share: rows, tokens and files as text.
+// Shared by the tests of lists and their file: rows, tokens and files as text.
 #pragma once
 
 #include <string>

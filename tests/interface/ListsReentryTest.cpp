@@ -1,5 +1,5 @@
-// The terminal handles messages while a service works, and calls the manager from there: what comes
-// of a save within a load and the like. All operations within all others: tests/operations.
+// The terminal handles messages while a service works, and calls the manager from there: a save
+// within a load and the like. tests/operations has all pairs of operations.
 #include <string>
 #include <vector>
 
@@ -10,7 +10,7 @@ namespace {
 
 class LoadReentryTest : public EditTest {};
 
-// A save from within a load wrote those of the lists that had been read so far.
+// Symptom: a save from within a load wrote only the lists read so far.
 TEST_F(LoadReentryTest, ASaveWithinALoadWritesWholeLists) {
   StartWith({"a/A/2330.TW", "b/B/2317.TW", "c/C/2454.TW"});
   const std::string shape = Shape();
@@ -27,7 +27,7 @@ TEST_F(LoadReentryTest, ASaveWithinALoadWritesWholeLists) {
   EXPECT_EQ(Shape(), shape);
 }
 
-// So did one from within the commit of a dialog's working copy.
+// Symptom: so did a save from within the commit of a working copy.
 TEST_F(LoadReentryTest, ASaveWhileListsAreReplacedWritesWholeLists) {
   StartWith({"a/A/6488.TW", "b/B/2317.TW"});
   CPtrArray copies;
@@ -61,7 +61,7 @@ TEST_F(LoadReentryTest, ListsClearedWhileIdsAreReplacedAreNotSavedAway) {
   EXPECT_EQ(ReadWorking(), before);
 }
 
-// A load within a load doubled the lists.
+// Symptom: a load within a load doubled the lists.
 TEST_F(LoadReentryTest, ALoadWithinALoadHasEachListOnce) {
   StartWith({"a/A/2330.TW", "b/B/2317.TW"});
   const std::string shape = Shape();
@@ -80,7 +80,7 @@ TEST_F(LoadReentryTest, AFileThatCannotBeReadLeavesNoListsAndTheDefaultIndex) {
   EXPECT_EQ(DefaultIndex(), 7);
 }
 
-// A start had no lists while it built its symbol tables, and a save from there wrote that.
+// Symptom: a start had no lists while it built its symbol tables, and a save from there wrote none.
 TEST_F(LoadReentryTest, ASaveWithinAStartWritesTheLists) {
   StartWith({"a/A/2330.TW", "b/B/2317.TW"});
   const std::string shape = Shape();
@@ -93,7 +93,8 @@ TEST_F(LoadReentryTest, ASaveWithinAStartWritesTheLists) {
   }
 }
 
-// The line about the copy was written before the save, which then wrote what was there before it.
+// Symptom: the line about the copy was written before the save, which then wrote the state from
+// before the line.
 TEST_F(LoadReentryTest, WhatIsSavedWhileACopyIsLoggedStays) {
   StartWith({"a/A/2330.TW"});
   WriteWorking("<?xml version='1.0' ?><Result><SymbolList DefaultIdx='0'><List ID='x' Name='X' "

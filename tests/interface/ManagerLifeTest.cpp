@@ -1,4 +1,4 @@
-// The manager's life: Init, its order and its failures, the default index, clearing.
+// The manager's life cycle: Init, its order and its failures, the default index, clearing.
 #include <string>
 #include <vector>
 
@@ -87,13 +87,13 @@ TEST_F(ManagerLifeTest, AFailingInitOnALiveManagerLeavesNoLists) {
   EXPECT_EQ(manager.GetSymbolListCount(1), 0);
 }
 
-// Each service call of a start, one at a time, fails; nothing leaks, nothing is written but what a
-// start may write, and the next start is whole.
+// Each service call of a start fails in turn: nothing leaks, only files that a start may write are
+// written, and the next start is complete.
 TEST_F(ManagerLifeTest, EveryServiceCallOfInitFailingOnceIsSurvived) {
   WriteWorking(TwoLists());
   standin::ClearCalls();
   ASSERT_EQ(StartWithTables(), 1);
-  std::vector<std::string> calls; // of one start; the stand-in's own record goes on growing
+  std::vector<std::string> calls; // of one start; the stand-in's own record keeps growing
   for (const standin::Call& call : standin::Calls())
     calls.push_back(call.operation);
   ASSERT_GT(calls.size(), 5u);
@@ -104,7 +104,7 @@ TEST_F(ManagerLifeTest, EveryServiceCallOfInitFailingOnceIsSurvived) {
     const int result = StartWithTables();
     EXPECT_EQ(manager.GetSymbolListCount(1), result == 0 ? 0 : 2);
     EXPECT_EQ(ReadWorking(), file);
-    // The exchange records that go with the default exchanges are kept, nothing else is.
+    // Of what the service returned, only the exchange records of the default exchanges are kept.
     EXPECT_LE(standin::OutstandingArrays(), 1);
     standin::FailCall("*", 0);
     ASSERT_EQ(StartWithTables(), 1);
@@ -186,7 +186,7 @@ TEST_F(ManagerLifeTest, ClearingLeavesFileAndIndex) {
     return std::vector<int>{manager.GetSymbolListCount(kUser), manager.GetSymbolListCount(kTrading),
                             manager.GetSymbolListCount(kCloud)};
   };
-  ASSERT_EQ(counts(), (std::vector<int>{2, 1, 1})); // of trading accounts: that of all holdings
+  ASSERT_EQ(counts(), (std::vector<int>{2, 1, 1})); // trading accounts: the list of all holdings
   manager.ClearSymbolList();
   EXPECT_EQ(counts(), (std::vector<int>{0, 1, 1}));
   manager.ClearTSSymbolList();

@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int kUserLists = 1;
-constexpr char kMoved[] = "6488.TE,2330.TW"; // 6488 is on TE and not on TW any more
+constexpr char kMoved[] = "6488.TE,2330.TW"; // 6488 has moved from TW to TE
 
 class MovedCopiesTest : public ManagerTest {
 protected:
@@ -56,7 +56,7 @@ TEST_F(MovedCopiesTest, AFailedQuestionIsTriedAgainByEach) {
   EXPECT_EQ(standin::CountCalls("VLGetSymbolInfos"), 3);
 }
 
-// The source may be the manager's own list, which the terminal deletes while it asks the service.
+// The source may be the manager's own list, which the terminal deletes within a service call.
 TEST_F(MovedCopiesTest, TheCopyOutlivesItsSource) {
   auto gone = std::make_unique<CSymbolList>(source);
   standin::OnCall("VLGetSymbolInfos", [&] { gone.reset(); });

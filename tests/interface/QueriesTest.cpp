@@ -1,4 +1,4 @@
-// Looking at the lists.
+// Queries about lists.
 #include <cstring>
 #include <string>
 
@@ -77,7 +77,7 @@ TEST_F(QueriesTest, NamesAreFoundByIdIgnoringLetterCase) {
   EXPECT_EQ(manager.GetTQSymbolListName(nullptr, name, 1), 0);
 }
 
-// Symptom: the name of the list before stood in the caller's text, as if the unknown one bore it.
+// Symptom: the caller's text kept the name of the previous list, as if it were the unknown list's.
 TEST_F(QueriesTest, TheNameOfAnUnknownListIsEmpty) {
   StartWith({"a/A/2330.TW"});
   for (const int kind : {-1, 0, 1, 2, 6, 8, 201}) {
@@ -178,7 +178,7 @@ TEST_F(QueriesTest, AllSymbolsAreHandedOutAsACopy) {
   CTQSymbolListMgr::FreeSymbolInfos(nullptr);
 }
 
-// This program has the library's runtime, as terminals have that came before FreeSymbolInfos.
+// Terminals built before FreeSymbolInfos share the library's runtime, as this program does.
 TEST_F(QueriesTest, HostsOfTheSameRuntimeMayDeleteTheCopyThemselves) {
   StartWith({});
   SymbolInfo* all = nullptr;

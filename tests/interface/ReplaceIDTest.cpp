@@ -56,8 +56,8 @@ TEST_F(WholeListsTest, ReplacingNothingNeitherSavesNorTells) {
   ExpectNotNotified();
 }
 
-// Each pair doubles a text of two bytes: after 28 the list had 536 MB, after a few more the process
-// ended.
+// Symptom: each pair doubles a text of two bytes; after 28 pairs the list had 536 MB, and a few
+// more ended the process.
 TEST_F(WholeListsTest, ReplacingThatNoFileCouldHoldIsRefused) {
   StartWith({"b/B/2330.TW,aa", "a/A/aa"});
   const std::string working = ReadWorking();
@@ -84,7 +84,7 @@ TEST_F(WholeListsTest, ReplacingIsBoundedForAllListsTogether) {
   CStringArray to;
   from.Add("aaaaaaaa"); // to 3 MiB
   to.Add(CString('b', 3 << 20));
-  from.Add("b"); // 8 times that fits into the file, three times that does not
+  from.Add("b"); // eight times that fits into the file, three lists of it do not
   to.Add("cccccccc");
   EXPECT_EQ(manager.ReplaceID(&from, &to), 0);
   EXPECT_EQ(Shape(), "a/A/aaaaaaaa|b/B/aaaaaaaa|c/C/aaaaaaaa");

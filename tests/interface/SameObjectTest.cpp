@@ -1,5 +1,5 @@
-// The manager's operations with one object as input and output, as terminals write them:
-// GetSymbolListName(text, text, 1). The answer is the one that two objects would get.
+// Operations with one object as input and output, as terminals write them: GetSymbolListName(text,
+// text, 1). The result is the same as with two objects.
 #include <cstring>
 #include <string>
 
@@ -85,7 +85,7 @@ std::string NameOf(const testing::TestParamInfo<Operation>& tested) {
 
 INSTANTIATE_TEST_SUITE_P(Of, SameObject, testing::ValuesIn(kOperations), NameOf);
 
-// --- Records whose own text is the question ------------------------------------------------------
+// --- Records that contain the text asked for -----------------------------------------------------
 
 using SameRecord = SameObject;
 
@@ -119,7 +119,7 @@ TEST_F(SameOutput, OfAListsTextsTheSymbolsStand) {
   EXPECT_STREQ(text, "2330.TW,GONE.TW,2317.TW");
 }
 
-// Symptom: the field and what is behind it got mixed, "A,BC" became "".
+// Symptom: the field and the rest were mixed up: "A,BC" became "".
 TEST_F(SameOutput, OfAParameterStringWhatIsBehindTheFieldStands) {
   CString text = "A,BC";
   CTQSymbolListMgr::CutStringAndGetParamBefore(text, ',', text);

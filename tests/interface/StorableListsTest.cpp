@@ -1,5 +1,6 @@
-// Names and symbols that end in half a character, or hold bytes that are none, were saved as they
-// were, and the next load refused the whole file: every list was lost.
+// Symptom: names and symbols with half a character at the end, or with bytes that are no
+// characters, were saved as they were; the next load refused the whole file, and every list was
+// lost.
 #include <string>
 
 #include "terminal/StandIn.h"
@@ -11,7 +12,7 @@ class StorableListsTest : public EditTest {
 protected:
   void SetUp() override { StartWith({"a/Kept/2330.TW"}); }
 
-  // What stands in memory survives a save and a load.
+  // The lists in memory survive a save and a load.
   void ExpectComesBack() {
     ASSERT_EQ(manager.SaveSymbolList(), 1);
     const std::string before = Shape();
@@ -105,8 +106,7 @@ TEST_F(StorableListsTest, CloudLists) {
                "<Cloud><List ID='d' Name='D' Value='2330.TW' Flag='0'/>\n</Cloud>");
 }
 
-// Everything at once, byte by byte: whatever stands in a name or a symbol string, what was saved is
-// read.
+// Every byte in turn in a name and in a symbol string: the saved file can be read.
 TEST_F(StorableListsTest, EveryByteInNameAndSymbols) {
   for (int byte = 1; byte < 256; ++byte) {
     if (byte == '\'' || byte == '&' || byte == '<' || byte == '\n' || byte == '\r' || byte == '\t')

@@ -1,4 +1,4 @@
-// The string table as a terminal without resources asks for it.
+// The string table for a terminal without resources.
 #include "platform/texts/StringTable.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ constexpr unsigned kLast = 48102;
 constexpr unsigned kFirstOwn = 48201;
 constexpr unsigned kLastOwn = 48202;
 
-// The numbers between the first and the last that have no entry.
+// The numbers in between that have no entry.
 bool IsGap(unsigned id) {
   return id == 48024 || id == 48040 || (id > 48050 && id < 48065) || (id > 48065 && id < 48100);
 }
@@ -38,7 +38,7 @@ std::string Text(unsigned id, int traditional) {
   return text == nullptr ? "" : text;
 }
 
-// The directives of a format, in order: "%s%d".
+// The conversion specifiers of a format, in order: "%s%d".
 std::string Directives(const std::string& text) {
   std::string directives;
   for (size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at + 1))

@@ -9,7 +9,7 @@ namespace {
 class SymbolTablesFailureTest : public SymbolTablesTest,
                                 public testing::WithParamInterface<const char*> {
 protected:
-  // All that asks the services, once.
+  // Calls everything that asks the services, once.
   void UseAll() {
     tables.InitAllSymbolTable();
     tables.InitAuthorizedExch();

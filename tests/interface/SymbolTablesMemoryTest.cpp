@@ -1,4 +1,4 @@
-// What look-ups cost in memory: nothing.
+// Look-ups allocate no memory.
 #include "platform/framework/Storage.h"
 #include "tests/interface/SymbolTablesTest.h"
 

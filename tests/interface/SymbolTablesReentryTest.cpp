@@ -36,7 +36,7 @@ const Inner kInner[] = {
     {"Defaults", [](OpenTables& tables) { tables.SetDefaults({2}); }},
 };
 
-// An operation of the services, and what the terminal does each time it is asked.
+// A service operation, and what the terminal does within each of its calls.
 class SymbolTablesReentryTest : public SymbolTablesTest,
                                 public testing::WithParamInterface<std::tuple<const char*, Inner>> {
 protected:
@@ -46,7 +46,7 @@ protected:
   void Disarm() { standin::OnCall(std::get<0>(GetParam()), nullptr); }
 };
 
-// Symptom: freed tables were written to, and symbols that one of two loadings had put in leaked.
+// Symptom: freed tables were written to, and symbols of one of two loads leaked.
 TEST_P(SymbolTablesReentryTest, NothingFreedIsUsedAndNothingLeaks) {
   const std::function<void()> outer[] = {
       [this] { tables.InitAllSymbolTable(); },
@@ -114,7 +114,7 @@ TEST_F(SymbolTablesReentry, AnExchangeThatTwoCallsAddHasOneTable) {
   tables.CleanALL();
 }
 
-// Symptom: the terminal started the library anew, which makes new tables, while the old ones were
+// Symptom: the terminal started the library again, which makes new tables, while the old ones were
 // asking.
 TEST_F(SymbolTablesReentry, TablesMayBeDeletedWhileTheyAsk) {
   for (const char* operation : {"VLGetExch", "VLGetBaseAttrs2", "TQSGetUserInfo"}) {

@@ -1,5 +1,5 @@
-// The symbol tables' look-ups with one object as input and output. The answer is the one that two
-// objects would get.
+// Look-ups of the symbol tables with one object as input and output. The result is the same as with
+// two objects.
 #include "tests/interface/SymbolTablesTest.h"
 
 namespace {
@@ -11,8 +11,8 @@ struct LookUp {
 };
 
 const LookUp kLookUps[] = {
-    // Symptom: the first exchange's name was looked for on the others, so that a symbol of two
-    // default exchanges counted as one of a single exchange.
+    // Symptom: the first exchange's name was looked up on the others, so that a symbol of two
+    // default exchanges counted as unique.
     {"GetDefaultExchange", "7777",
      [](OpenTables& tables, const CString& symbol, CString& exchName) {
        return tables.GetDefaultExchange(symbol, exchName);

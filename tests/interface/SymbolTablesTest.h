@@ -1,5 +1,4 @@
-// The symbol tables on the stand-in's small market, with the operations that derived classes may
-// use.
+// Symbol tables on the stand-in's small market, including the operations for derived classes.
 #pragma once
 
 #include <cstring>
@@ -44,7 +43,7 @@ protected:
 
   // All tables of the market, with exchanges 1 and 2 as defaults.
   void Start() {
-    tables.CleanALL(); // Init would forget the tables of an earlier start
+    tables.CleanALL(); // Init would leak the tables of an earlier start
     ASSERT_EQ(tables.Init(), 1);
     ASSERT_EQ(tables.InitAllSymbolTable(), 1);
     ASSERT_EQ(tables.SetDefaults({1, 2}), 1);

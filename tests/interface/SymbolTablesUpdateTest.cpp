@@ -198,7 +198,7 @@ TEST_F(SymbolTablesUpdateTest, RemovalNeedsATable) {
 }
 
 TEST_F(SymbolTablesUpdateTest, ManySymbolsOfOneChainAreRemovedInTime) {
-  // Twelve zeros in front of each put all of them in one chain; they are removed from its end.
+  // Twelve leading zeros put all of them into one chain; they are removed from its end.
   constexpr int count = 20000;
   constexpr int firstNumber = 100000;
   const auto code = [](int i) { return "000000000000" + std::to_string(firstNumber + i); };

@@ -1,4 +1,4 @@
-// Single symbols: typed texts, lots, changes, and symbols that went over to another exchange.
+// Single symbols: typed texts, lots, changes, and symbols that move to another exchange.
 #include <cstring>
 #include <initializer_list>
 #include <string>
@@ -28,8 +28,7 @@ protected:
     manager.ReplaceSymbolListExchID(text, "TW", "TE");
     return text.GetString();
   }
-  // Loads the lists anew, saves them, and expects the ids of list a to stand in the file as they
-  // did.
+  // Reloads the lists, saves them, and expects the ids of list a in the file to be unchanged.
   void ExpectKeptInTheFile(const char* ids) {
     ASSERT_EQ(manager.LoadSymbolList(), 1);
     EXPECT_EQ(Shape(), std::string("a/A/") + ids);
@@ -41,7 +40,7 @@ protected:
     EXPECT_NE(file.find(value, first + 1), std::string::npos) << file;
     EXPECT_EQ(file.find(".TE"), std::string::npos) << file;
   }
-  // Takes the symbols of an exchange, or the exchange itself, out of the market.
+  // Removes the symbols of an exchange, or the exchange itself, from the market.
   static void Drop(int exchId, bool exchangeToo) {
     standin::Market market = standin::CurrentMarket();
     std::erase_if(market.instruments,
@@ -122,7 +121,7 @@ TEST_F(SymbolsTest, CallersExchangeRecordsNameTheExchanges) {
   EXPECT_EQ(manager.GetSymbolInfo("DIS", records, 2, nullptr), 0);
 }
 
-// Symptom: a caller who left an exchange out of its records got the symbol from there all the same.
+// Symptom: the symbol was found on an exchange that the caller's records left out.
 TEST_F(SymbolsTest, CallersExchangeRecordsAreTheOnlyOnes) {
   StartWith({});
   ExchInfo records[2] = {};
@@ -223,8 +222,7 @@ TEST_F(SymbolsTest, RenamingTouchesNothingElseOfTheString) {
 }
 
 // Symptom: "7777.TW" of a saved list became "7777.TE", another instrument, at the next load, and
-// the next save wrote it: every symbol of a table of TW that could not be loaded counted as gone
-// over.
+// the next save wrote it. Every symbol of a table of TW that failed to load counted as moved.
 TEST_F(SymbolsTest, ATableThatFailedToLoadIsNoProofThatASymbolMoved) {
   StartWith({"a/A/7777.TW,2330.TW"});
   standin::FailCall("VLGetBaseAttrs2", 1);
@@ -232,7 +230,7 @@ TEST_F(SymbolsTest, ATableThatFailedToLoadIsNoProofThatASymbolMoved) {
   ExpectKeptInTheFile("7777.TW,2330.TW");
 }
 
-// Symptom: the same, once the terminal announced a new symbol of the exchange whose table had
+// Symptom: the same once the terminal announced a new symbol of the exchange whose table had
 // failed.
 TEST_F(SymbolsTest, NorIsOneThatHasOnlyWhatWasAddedAfterTheFailure) {
   StartWith({"a/A/7777.TW,6488.TW"});
@@ -240,13 +238,12 @@ TEST_F(SymbolsTest, NorIsOneThatHasOnlyWhatWasAddedAfterTheFailure) {
   EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", kTw), 0);
   EXPECT_EQ(manager.GetSymbolTableMgr()->AddSymbols(kTw, Packed({"2330.TW"}).c_str(), 1), 1);
   ExpectKeptInTheFile("7777.TW,6488.TW");
-  // Loaded whole it says again what moved.
+  // After a complete load it again tells what has moved.
   EXPECT_EQ(manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", kTw), 1);
   EXPECT_EQ(Moved("7777.TW,6488.TW"), "7777.TW,6488.TE");
 }
 
-// Symptom: the same when the service lists the exchange without symbols, as before the market's day
-// begins.
+// Symptom: the same when the service lists the exchange without symbols, as before the trading day.
 TEST_F(SymbolsTest, NorIsATableThatCameEmpty) {
   Drop(kTw, false);
   StartWith({"a/A/7777.TW,6488.TW"});
@@ -260,7 +257,7 @@ TEST_F(SymbolsTest, NorIsAMissingTable) {
   ExpectKeptInTheFile("7777.TW,6488.TW");
 }
 
-// Symptom: the same after the last symbol of the exchange was taken out.
+// Symptom: the same after the last symbol of the exchange was removed.
 TEST_F(SymbolsTest, NorIsATableThatHasLostAllItsSymbols) {
   StartWith({"a/A/7777.TW,6488.TE"});
   standin::Market market = standin::CurrentMarket();
@@ -284,7 +281,7 @@ TEST_F(SymbolsTest, ASymbolWithBlanksAroundItMovesAndKeepsThem) {
   EXPECT_EQ(Moved("2330.TW, 6488.TW ,\t5483.tw"), "2330.TW, 6488.TE ,\t5483.TE");
 }
 
-// Symptom: three renamed ids were reported as 3.
+// Symptom: three renamed ids returned 3.
 TEST_F(SymbolsTest, RenamingATextSaysOnlyWhetherItChanged) {
   StartWith({});
   CString ids = "6488.TW,5483.TW,8069.TW";

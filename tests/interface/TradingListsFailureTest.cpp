@@ -1,5 +1,5 @@
-// Each service call of a login and of a change of holdings fails once: what is left is consistent,
-// nothing leaks, and the next call puts everything right.
+// Each service call of a login and of a change of holdings fails once: the remaining state is
+// consistent, nothing leaks, and the next call restores everything.
 #include <set>
 
 #include "tests/interface/TradingTest.h"
@@ -8,7 +8,7 @@ namespace {
 
 class TradingListsFailureTest : public TradingTest {
 protected:
-  // The calls of `work`, by name.
+  // The names of the calls that `work` makes.
   template <typename Work> std::vector<std::string> CallsOf(Work work) {
     standin::ClearCalls();
     work();
@@ -18,7 +18,8 @@ protected:
     return calls;
   }
 
-  // Ids once each, all holdings among them, and every list's rows among its symbols.
+  // Expects unique ids, the list of all holdings among them, and the rows of every list among its
+  // symbols.
   void ExpectConsistent() {
     std::set<std::string> ids;
     for (int i = 0; i < manager.GetSymbolListCount(6); ++i) {
@@ -123,7 +124,7 @@ TEST_F(TradingListsFailureTest, EachOperationFailingAlwaysIsSurvived) {
   }
 }
 
-// A login took a minute while the proxy claimed two billion systems or accounts.
+// Symptom: a login took a minute when the proxy claimed two billion systems or accounts.
 TEST_F(TradingListsFailureTest, ClaimsBeyondAllReasonAreNotFollowed) {
   constexpr int kClaimed = 1'000'000;
   constexpr int kAnswered = 200'000;

@@ -1,4 +1,4 @@
-// An account's holdings changed; and asking for holdings.
+// Changes of an account's holdings, and queries of holdings.
 #include "tests/interface/TradingTest.h"
 
 namespace {
@@ -162,7 +162,7 @@ TEST_F(TradingListsHoldingsTest, TheListOfATypeMergesItsAccounts) {
   StartAndLogIn();
   EXPECT_EQ(Lists("T1", kStocks), "1 2330.TW,2317.TW,2454.TW");
   EXPECT_EQ(Lists("T1", kFutures), "1 TXFL6.TF");
-  // What a type without accounts holds was the text of the question before.
+  // Symptom: a type without accounts returned the text of the previous query.
   EXPECT_EQ(Lists("T1", static_cast<TqsAccType>(3)), "1 ");
   EXPECT_EQ(Lists("T2", kStocks), "0 (untouched)");
   EXPECT_EQ(Lists("", kStocks), "0 (untouched)");

@@ -63,7 +63,8 @@ TEST_F(TradingListsLifeTest, TheFileGoesOverToTheOtherDirectory) {
   EXPECT_NE(other.Read("TSList.xml").find("'T2'"), std::string::npos);
 }
 
-// A second start dropped the table and the lists, and holdings that changed later were never shown.
+// Symptom: a second start dropped the table and the lists, and later changes of holdings were never
+// shown.
 TEST_F(TradingListsLifeTest, AnotherStartKeepsTableAndLists) {
   Start();
   manager.UpdateTSLogin("T1");
@@ -105,8 +106,7 @@ TEST_F(TradingListsLifeTest, AStartWithoutTradingListsLeavesWhatIsThereAsItIs) {
   EXPECT_EQ(TradingFile(), file);
 }
 
-// Once they are wanted again the table is where it was left, so that the next change of holdings is
-// shown.
+// When they are wanted again the table is as before, so the next change of holdings is shown.
 TEST_F(TradingListsLifeTest, AThirdStartThatWantsTradingListsAgainHasThem) {
   Start();
   manager.UpdateTSLogin("T1");

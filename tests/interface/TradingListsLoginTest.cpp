@@ -1,4 +1,4 @@
-// A login is complete: the account lists of the trading system, and all holdings.
+// A login makes the account lists of the trading system and the list of all holdings.
 #include "tests/interface/TradingTest.h"
 
 namespace {
@@ -208,7 +208,7 @@ TEST_F(TradingListsLoginTest, ThousandsOfAccounts) {
   }
 }
 
-// A list's id has room for 36 bytes: an account that needs more is in the table, the file and all
+// A list's id has at most 36 bytes. An account that needs more is in the table, the file and all
 // holdings, but has no list.
 TEST_F(TradingListsLoginTest, AnAccountWhoseListIdWouldBeTooLongHasNoList) {
   Start();

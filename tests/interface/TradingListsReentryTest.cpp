@@ -1,5 +1,5 @@
-// The terminal handles messages while the trading-system proxy works or is told, and calls the
-// library from there: logins, changes of holdings, removed lists and starts from within each call.
+// The terminal handles messages while the trading-system proxy works or it is notified, and calls
+// the library from there: logins, changes of holdings, removed lists and starts within each call.
 #include <functional>
 #include <memory>
 #include <set>
@@ -24,7 +24,7 @@ protected:
     return manager.Init(directory.Path().c_str(), 0, 0, 0, nullptr, 0, tradingLists);
   }
 
-  // What the terminal may do from within a call.
+  // The terminal's operations within a call.
   std::vector<Operation> Calls() {
     return {
         {"logs in to T1", [this] { manager.UpdateTSLogin("T1"); }},
@@ -58,8 +58,9 @@ protected:
     }
   }
 
-  // Runs `work` once for each call of the operation that it makes and each of Calls(), which is
-  // done from within it. Whatever came of that, the next login puts the lists of T1 right.
+  // Runs `work` once for each pair of a call that it makes to the operation and an operation of
+  // Calls(), which runs within that call. Whatever results, the next login restores the lists of
+  // T1.
   void ReenterAtEach(const std::string& operation, const std::function<void()>& work) {
     Prepare();
     standin::ClearCalls();
@@ -113,8 +114,7 @@ TEST_F(TradingListsReentryTest, AListThatIsAddedTwiceIsThereOnce) {
   EXPECT_EQ(Symbols("x"), "2330.TW");
 }
 
-// Accounts of a login that came in between kept their lists though the one that went on has them
-// not.
+// Symptom: accounts of a nested login kept their lists although the outer login no longer has them.
 TEST_F(TradingListsReentryTest, TheLoginThatEndsLastSaysWhichAccountsHaveLists) {
   Start();
   AtCall("TQSGetTSAccountCount", 1, [this] {
@@ -127,7 +127,8 @@ TEST_F(TradingListsReentryTest, TheLoginThatEndsLastSaysWhichAccountsHaveLists) 
   EXPECT_EQ(Shape(), "ALLMYSTOCKLISTS/" + AllHoldings() + "/2454.TW|19802/9802-*/2454.TW");
 }
 
-// The login went on with what it had read, and showed what the account held before.
+// Symptom: the outer login went on with what it had read, and showed the account's earlier
+// holdings.
 TEST_F(TradingListsReentryTest, HoldingsThatChangeWhileALoginTellsAreShown) {
   Start();
   manager.UpdateTSLogin("T1");

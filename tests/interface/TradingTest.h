@@ -32,7 +32,7 @@ protected:
     return market;
   }
 
-  // With trading lists. What the start told and asked does not count.
+  // Starts with trading lists and discards the calls and notifications of the start.
   void Start() {
     ASSERT_EQ(manager.Init(directory.Path().c_str(), 0, 0, 0, nullptr, 0, 1), 1);
     ForgetCalls();
@@ -47,7 +47,8 @@ protected:
     notified_ = standin::Notifications().size();
   }
 
-  // Since then: "40 TSSymbolList|4 TSSymbolList".
+  // The notifications since then: "40 TSSymbolList
+  // 4 TSSymbolList".
   std::string Notified() const {
     std::string told;
     for (size_t i = notified_; i < standin::Notifications().size(); ++i) {
@@ -89,7 +90,7 @@ protected:
   static std::string Broker(const char* first) {
     return standin::ToAnsi(std::string(first) + (IsTraditionChinese() ? "證券" : "证券"));
   }
-  // The list of all holdings and one for each account of T1, as the market has them.
+  // The list of all holdings and a list for each account of T1, as in the market.
   static std::string AfterLoginOfT1() {
     return "ALLMYSTOCKLISTS/" + AllHoldings() +
            "/2330.TW,2317.TW,2454.TW,TXFL6.TF|19801/9801-*/2330.TW,2317.TW|"

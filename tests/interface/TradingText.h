@@ -1,4 +1,4 @@
-// A manager with lists from trading accounts, and what it says of them as text.
+// A manager with lists from trading accounts, and its answers as text.
 #pragma once
 
 #include <cstring>

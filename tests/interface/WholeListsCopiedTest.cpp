@@ -1,4 +1,4 @@
-// Whole lists that the terminal puts in as copies: one more, or in the place of all.
+// Whole lists that the terminal hands in to be copied: a single one, or all of them.
 #include "tests/interface/WholeListsTest.h"
 
 namespace {

@@ -9,7 +9,7 @@ using namespace listtext;
 
 class WholeListsTest : public EditTest {
 protected:
-  // The file, the line and the notification of a change that is all of that.
+  // Expects one line and one notification, and nothing else.
   void ExpectTold(size_t lines, const char* line) {
     ASSERT_EQ(standin::LogLines().size(), lines + 1);
     EXPECT_EQ(standin::LogLines().back().level, 64);

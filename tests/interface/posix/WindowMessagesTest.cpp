@@ -1,4 +1,4 @@
-// Numbers are given in the order of asking, which shows what was there when the program started.
+// Numbers are assigned in the order of registration, which shows what was registered at load time.
 #include <gtest/gtest.h>
 
 #include "manager/TQSymbolListMgr.h"
@@ -7,7 +7,7 @@
 namespace {
 
 TEST(WindowMessages, AreRegisteredWhenTheLibraryIsLoaded) {
-  const CTQSymbolListMgr manager; // keeps the library from being left out by the linker
+  const CTQSymbolListMgr manager; // makes the linker keep the library
   const unsigned later = tq::RegisterMessage("TQTEST_Later");
   for (const char* name :
        {"KORVANT_Msg", "KORVANT_PostMsg", "KORVANT_AlertGrid", "KORVANT_AlertListGrou",

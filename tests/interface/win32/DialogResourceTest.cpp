@@ -1,5 +1,4 @@
-// The DLL's dialog resources, byte by byte as the system reads them, against the templates that
-// they are made from.
+// The DLL's dialog resources, read byte by byte, compared with the templates they are made from.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -21,7 +20,7 @@ constexpr TemplateRow kRows[] = {
     // clang-format on
 };
 
-constexpr WORD kExtended = 0xFFFF; // what DIALOGEX has where DIALOG has half of its style
+constexpr WORD kExtended = 0xFFFF; // marks DIALOGEX, where DIALOG has half of its style
 constexpr WORD kFontSize = 9;
 
 std::wstring ClassOf(ControlKind kind) {
@@ -121,7 +120,7 @@ protected:
     EXPECT_EQ(_wcsicmp(reader.TakeText().c_str(), ClassOf(row.kind).c_str()),
               0); // letter case is ignored
     EXPECT_EQ(reader.TakeText(), Text(row));
-    EXPECT_EQ(reader.Take<WORD>(), 0); // data of the control's own
+    EXPECT_EQ(reader.Take<WORD>(), 0); // no creation data
   }
 };
 
@@ -164,7 +163,7 @@ BOOL CALLBACK CountName(HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR coun
   return TRUE;
 }
 
-// A template that the table lacks would be another one than the tests look at.
+// Otherwise a template that is missing in the table would not be tested.
 TEST(DialogResources, AreThoseOfTheTableInTwoLanguages) {
   int resources = 0, dialogs = 0;
   EnumResourceNamesW(Library(), MAKEINTRESOURCEW(5), CountName,

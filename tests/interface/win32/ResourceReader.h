@@ -1,4 +1,4 @@
-// Takes a resource apart.
+// Parses a resource.
 #pragma once
 
 #include <algorithm>
@@ -6,7 +6,7 @@
 
 #include "tests/interface/win32/Resource.h"
 
-// Reads a resource from its beginning; behind the end everything is 0.
+// Reads a resource from its beginning; past the end everything is 0.
 class ResourceReader {
 public:
   explicit ResourceReader(const Resource& resource) : at_(resource.bytes), left_(resource.size) {}
@@ -32,7 +32,7 @@ public:
     Skip(over == 0 ? 0 : std::min(sizeof(DWORD) - over, left_));
   }
 
-  // All was there, and nothing is left but the filling up to a double word.
+  // Everything was read, except for the padding to a double word.
   bool IsAtEnd() const { return !failed_ && left_ < sizeof(DWORD); }
 
 private:

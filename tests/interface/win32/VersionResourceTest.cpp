@@ -1,4 +1,4 @@
-// What the system tells of the DLL's version.
+// The version information of the DLL.
 #include <gtest/gtest.h>
 
 #include <vector>
