@@ -11,8 +11,8 @@ namespace tq {
 class GroupLevel;
 }
 
-// Members are fetched lazily and kept. An empty group, or one for which the service failed, asks the
-// service again at the next call.
+// Members are fetched lazily and kept. An empty group, or one for which the service failed, asks
+// the service again at the next call.
 class CGroupList : public CIDList, public std::enable_shared_from_this<CGroupList> {
 public:
   // The texts of the record may lack their NUL.

@@ -51,7 +51,7 @@ private:
 
   int type_;
   tq::GroupLevel groups_;
-  // Sorted by id, those of one id in their order; built lazily. A sorted array of a hundred thousand
-  // ids is built and dropped in a tenth of the time that a hash table takes.
+  // Sorted by id, those of one id in their order; built lazily. A sorted array of a hundred
+  // thousand ids is built and dropped in a tenth of the time that a hash table takes.
   std::optional<std::vector<SubPlace>> subIndex_;
 };

@@ -5,7 +5,7 @@
 namespace tq {
 namespace {
 
-// --- Groups as the terminal's sets describe them ---------------------------------------------------
+// --- Groups as the terminal's sets describe them -------------------------------------------------
 
 GroupInfo MakeSubGroup(int type, const std::pair<CString, CString>& pair) {
   return MakeGroupInfo(type, pair.first, pair.second, false);
@@ -29,7 +29,7 @@ std::unique_ptr<GroupLevel> MakeSubGroups(const CGroupSet& set) {
   return subs;
 }
 
-// --- Replacing ---------------------------------------------------------------------------------------
+// --- Replacing -----------------------------------------------------------------------------------
 
 // Returns whether a set replaced a group.
 bool ReplaceGroups(GroupLevel& groups, const GroupSelection& sets) {

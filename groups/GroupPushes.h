@@ -24,8 +24,8 @@ bool UpdateGroupNames(CGroupMgr& manager, const GroupSelection& sets);
 bool RemoveGroups(CGroupMgr& manager, const GroupSelection& sets);
 
 // Every set first replaces sub-groups. If the last set that names a group replaced something, that
-// is all. Otherwise every set is tried again, and the sub-groups of a set that again replaces nothing
-// are added to its group. That only the last set decides is what terminals expect.
+// is all. Otherwise every set is tried again, and the sub-groups of a set that again replaces
+// nothing are added to its group. That only the last set decides is what terminals expect.
 bool AddSubGroups(CGroupMgr& manager, const GroupSelection& sets);
 bool UpdateSubGroups(CGroupMgr& manager, const GroupSelection& sets);
 bool UpdateSubGroupNames(CGroupMgr& manager, const GroupSelection& sets);

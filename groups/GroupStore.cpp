@@ -48,8 +48,8 @@ GroupLevel* LevelOf(CGroupMgr& manager, const char* id) {
 
 GroupStore::GroupStore(CloudRefresh refresh) : refresh_(std::move(refresh)) {}
 
-// The manager is not in the array while it loads: the terminal is re-entrant there, and could remove
-// or reload it.
+// The manager is not in the array while it loads: the terminal is re-entrant there, and could
+// remove or reload it.
 GroupStore::Manager GroupStore::MakeLoaded(int type) const {
   auto manager = std::make_unique<CGroupMgr>(type);
   manager->Load();

@@ -1,11 +1,11 @@
 // The groups of all types, for the manager of symbol lists.
 //
 // The managers stand in an array, ascending by type, and a map leads from a type to its position.
-// Queries go through the map; loading, removing and pushing search the array. Removing a type leaves
-// the other entries of the map unchanged, on purpose: terminals use the positions that GetGroupIdx
-// gave them until the next full load. So every type behind a removed one answers with the groups of
-// the type behind it, and the last one, whose position is past the end, has none. Renumbering the
-// map would change the interface.
+// Queries go through the map; loading, removing and pushing search the array. Removing a type
+// leaves the other entries of the map unchanged, on purpose: terminals use the positions that
+// GetGroupIdx gave them until the next full load. So every type behind a removed one answers with
+// the groups of the type behind it, and the last one, whose position is past the end, has none.
+// Renumbering the map would change the interface.
 //
 // The terminal is re-entrant whenever the service is asked, that is, while types are loaded and
 // members fetched. So a type is loaded outside of the array and then put in, and a group is kept
@@ -37,8 +37,8 @@ public:
   // Replaces everything by the types 1 to 21, 101 and 201. A type for which the service fails is
   // empty, which counts as success.
   int LoadAll();
-  // Types 1 to 201. Adds a type that has no manager. Also 0 when the terminal removes the type while
-  // the service is asked.
+  // Types 1 to 201. Adds a type that has no manager. Also 0 when the terminal removes the type
+  // while the service is asked.
   int Load(int type);
   // Types 1 to 200. Adds a manager even if the type has one.
   int Add(int type);

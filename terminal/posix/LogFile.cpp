@@ -13,8 +13,8 @@ bool IsDirectory(const std::string& path) {
 }
 
 // Turns the backslash in front of the directory's last level into a slash. A path may be in any
-// encoding, and a character may end in that byte, so the last backslash counts only when the text in
-// front of it is an existing directory.
+// encoding, and a character may end in that byte, so the last backslash counts only when the text
+// in front of it is an existing directory.
 std::string SystemPath(const std::string& directory) {
   const std::size_t join = directory.rfind('\\');
   if (join == std::string::npos || IsDirectory(directory) ||
