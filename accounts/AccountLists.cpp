@@ -17,9 +17,6 @@
 namespace tq {
 namespace {
 
-// The terminal knows this reason: do not change.
-constexpr char kReasonTrading[] = "TSSymbolList";
-
 struct SystemList {
   CString id;
   CString name;

@@ -9,9 +9,8 @@
 namespace tq {
 namespace {
 
-// An id and a reason that the terminal knows: do not change.
+// The terminal knows this id: do not change.
 constexpr char kAllHoldings[] = "ALLMYSTOCKLISTS";
-constexpr char kReasonTrading[] = "TSSymbolList";
 
 struct AccountList {
   explicit AccountList(const CAccount& account)
