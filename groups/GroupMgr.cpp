@@ -71,8 +71,13 @@ const GroupInfo* CGroupMgr::FindSubExactly(std::string_view id) {
 std::span<const CGroupMgr::SubPlace> CGroupMgr::SubsWithId(const tq::FoldedId& id) {
   if (!subIndex_)
     BuildSubIndex();
-  const auto found = std::ranges::equal_range(*subIndex_, id, IsBefore, &SubPlace::id);
-  return {found.begin(), found.end()};
+  const auto first = std::lower_bound(
+      subIndex_->begin(), subIndex_->end(), id,
+      [](const SubPlace& place, const tq::FoldedId& wanted) { return IsBefore(place.id, wanted); });
+  const auto last = std::upper_bound(
+      first, subIndex_->end(), id,
+      [](const tq::FoldedId& wanted, const SubPlace& place) { return IsBefore(wanted, place.id); });
+  return {first, last};
 }
 
 void CGroupMgr::BuildSubIndex() {
@@ -82,7 +87,9 @@ void CGroupMgr::BuildSubIndex() {
     for (int sub = 0; sub < count; ++sub)
       index.push_back({groups_.SubsAt(group)->IdAt(sub), group, sub});
   }
-  std::ranges::stable_sort(index, IsBefore, &SubPlace::id);
+  std::stable_sort(index.begin(), index.end(), [](const SubPlace& left, const SubPlace& right) {
+    return IsBefore(left.id, right.id);
+  });
 }
 
 const GroupInfo& CGroupMgr::InfoAt(const SubPlace& place) const {
