@@ -96,7 +96,8 @@ private:
     std::uint8_t size = 0;
     std::int16_t slot = kNone; // kNone: the entry is free
   };
-  static constexpr std::size_t kShortNames = std::size_t{2} * kCount; // at most half of them are taken
+  // At most half of them are taken.
+  static constexpr std::size_t kShortNames = std::size_t{2} * kCount;
   static std::size_t HashOfName(std::uint64_t name) {
     constexpr std::uint64_t multiplier = 0x9e3779b97f4a7c15u;
     constexpr int shift = std::countl_zero(std::uint64_t{kShortNames - 1});

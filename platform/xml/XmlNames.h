@@ -37,7 +37,8 @@ public:
   bool Add(std::string_view name);
 
 private:
-  static constexpr std::size_t kPlaces = std::size_t{2} * kXmlNameLimit; // a power of two, never full
+  // A power of two, never full.
+  static constexpr std::size_t kPlaces = std::size_t{2} * kXmlNameLimit;
   std::array<std::string_view, kPlaces> names_{};
   int count_ = 0;
 };
