@@ -17,7 +17,7 @@ function(tq_precompiled name options)
 endfunction()
 
 function(tq_take_precompiled name)
-  if(NOT TQ_PRECOMPILED)
+  if(NOT TARGET ${name})
     return()
   endif()
   foreach(target IN LISTS ARGN)
