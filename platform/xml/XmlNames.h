@@ -38,7 +38,7 @@ public:
 
 private:
   static constexpr std::size_t kBuckets =
-      2 * kXmlNameLimit; // a power of two; at most half are used
+      std::size_t{2} * kXmlNameLimit; // a power of two; at most half are used
   std::array<std::string_view, kBuckets> names_{};
   int count_ = 0;
 };

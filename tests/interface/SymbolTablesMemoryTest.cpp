@@ -44,8 +44,9 @@ protected:
 // Symptom: what operator new handed out was not seen by these tests.
 TEST_F(SymbolTablesMemoryTest, AllocationsAreCounted) {
   EXPECT_GT(AllocationsOf([] { CString("a text of its own"); }), 0);
-  if (countsAll)
+  if (countsAll) {
     EXPECT_GT(AllocationsOf([] { std::vector<int>(100); }), 0);
+  }
 }
 
 TEST_F(SymbolTablesMemoryTest, HitsAllocateNothingHoweverTheIdIsWritten) {
