@@ -6,12 +6,12 @@ using namespace tq::headless;
 
 namespace {
 
-Control* Find(WindowHandle handle) {
+Control* FindCombo(WindowHandle handle) {
   return FindControl(handle, tq::ControlKind::ComboBox);
 }
 
-Row* FindRow(WindowHandle handle, int index) {
-  Control* const combo = Find(handle);
+Row* FindComboRow(WindowHandle handle, int index) {
+  Control* const combo = FindCombo(handle);
   return combo == nullptr ? nullptr : combo->rows.At(index);
 }
 
@@ -22,48 +22,48 @@ int CComboBox::AddString(const char* text) {
 }
 
 int CComboBox::InsertString(int index, const char* text) {
-  Control* const combo = Find(handle_);
+  Control* const combo = FindCombo(handle_);
   return combo == nullptr ? -1 : combo->rows.Insert(index, text);
 }
 
 bool CComboBox::DeleteString(int index) {
-  Control* const combo = Find(handle_);
+  Control* const combo = FindCombo(handle_);
   return combo != nullptr && combo->rows.Remove(index);
 }
 
 void CComboBox::ResetContent() {
-  if (Control* const combo = Find(handle_))
+  if (Control* const combo = FindCombo(handle_))
     combo->rows.Clear();
 }
 
 int CComboBox::GetCount() const {
-  const Control* const combo = Find(handle_);
+  const Control* const combo = FindCombo(handle_);
   return combo == nullptr ? 0 : combo->rows.Count();
 }
 
 CString CComboBox::GetItemText(int index) const {
-  const Row* const at = FindRow(handle_, index);
+  const Row* const at = FindComboRow(handle_, index);
   return at == nullptr ? CString() : at->text;
 }
 
 bool CComboBox::SetItemData(int index, intptr_t data) {
-  Row* const at = FindRow(handle_, index);
+  Row* const at = FindComboRow(handle_, index);
   if (at != nullptr)
     at->data = data;
   return at != nullptr;
 }
 
 intptr_t CComboBox::GetItemData(int index) const {
-  const Row* const at = FindRow(handle_, index);
+  const Row* const at = FindComboRow(handle_, index);
   return at == nullptr ? 0 : at->data;
 }
 
 int CComboBox::GetCurSel() const {
-  const Control* const combo = Find(handle_);
+  const Control* const combo = FindCombo(handle_);
   return combo == nullptr ? -1 : combo->rows.NextSelected(-1);
 }
 
 bool CComboBox::SetCurSel(int index) {
-  Control* const combo = Find(handle_);
+  Control* const combo = FindCombo(handle_);
   return combo != nullptr && combo->rows.SelectOnly(index);
 }
