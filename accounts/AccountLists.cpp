@@ -1,7 +1,6 @@
 // The lists of kind 6. They live beside the user's lists and are never saved with them.
 #include "accounts/AccountLists.h"
 
-#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -11,7 +10,6 @@
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
 #include "platform/ServiceArray.h"
-#include "platform/System.h"
 #include "symbollist/ListName.h"
 
 namespace tq {
@@ -60,27 +58,15 @@ int AccountLists::Add(const CString& id, int kind, const CString& name, const CS
   const CString suffix = "-" + LibraryString(kStringUpdate);
   const auto taken = [&](const CString& wanted) { return withNames.HasName(wanted); };
   CString freeName;
+  // The terminal may start without account lists while the service is asked.
   const auto allowed = [&] {
-    if (withIds.ProblemsOfNewId(id) != 0)
+    if (Table() == nullptr || withIds.ProblemsOfNewId(id) != 0)
       return false;
     freeName = SuffixedName(name, suffix, taken);
     return !taken(freeName);
   };
-  if (!allowed())
-    return 0;
-  const CString listId = id.IsEmpty() ? NewGuidText() : id;
-  if (listId.IsEmpty())
-    return 0;
-  const unsigned changes = lists_.Changes();
-  auto list = std::make_unique<CSymbolList>();
-  AddKnownSymbols(*list, symbols);
-  // The terminal may have worked on the lists while the service was asked.
-  if (changes != lists_.Changes() && (Table() == nullptr || !allowed()))
-    return 0;
-  list->SetID(listId);
-  list->SetName(freeName);
-  lists_.AddLast(std::move(list));
-  return 1;
+  return lists_.AddResolved(id, freeName, allowed,
+                            [&symbols](CSymbolList& list) { AddKnownSymbols(list, symbols); });
 }
 
 int AccountLists::Update(const CString& id, int kind, const CString& name, const CString& symbols,

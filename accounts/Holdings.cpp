@@ -2,41 +2,18 @@
 
 #include <utility>
 
+#include "platform/Text.h"
 #include "platform/framework/SeededHash.h"
 
 namespace tq {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\n\v\f\r";
 constexpr size_t kFirstSlots = 64;
-
-std::string_view WithoutBlanks(std::string_view piece) {
-  const size_t first = piece.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos)
-    return {};
-  return piece.substr(first, piece.find_last_not_of(kBlanks) + 1 - first);
-}
-
-// Calls take(piece) for each piece that is not empty. "," is never the second byte of a double-byte
-// character, so a plain byte search is exact.
-template <typename Take> void ForEachPiece(std::string_view text, Take take) {
-  for (size_t at = 0; at < text.size();) {
-    const size_t comma = text.find(',', at);
-    const size_t end = comma == std::string_view::npos ? text.size() : comma;
-    if (end > at)
-      take(text.substr(at, end - at));
-    at = end + 1;
-  }
-}
 
 void Join(std::string& text, std::string_view id) {
   if (!text.empty())
     text += ',';
   text += id;
-}
-
-CString ToText(const std::string& text) {
-  return CString(text.data(), static_cast<int>(text.size()));
 }
 
 } // namespace
@@ -47,21 +24,22 @@ CString TidyHoldings(const char* text) {
   const std::string_view given(text);
   std::string tidy;
   tidy.reserve(given.size());
-  ForEachPiece(given, [&](std::string_view piece) {
-    const std::string_view id = WithoutBlanks(piece);
-    if (!id.empty())
+  ForEachPiece(given, [&tidy](int, std::string_view piece) {
+    if (const std::string_view id = Trimmed(piece); !id.empty())
       Join(tidy, id);
   });
-  return ToText(tidy);
+  return ToCString(tidy);
 }
 
 void MergedHoldings::Add(const CString& holdings) {
-  const std::string_view text(holdings.GetString(), static_cast<size_t>(holdings.GetLength()));
-  ForEachPiece(text, [&](std::string_view id) { AddId(id); });
+  ForEachPiece(ViewOf(holdings), [this](int, std::string_view id) {
+    if (!id.empty())
+      AddId(id);
+  });
 }
 
 CString MergedHoldings::Text() const {
-  return ToText(text_);
+  return ToCString(text_);
 }
 
 void MergedHoldings::AddId(std::string_view id) {

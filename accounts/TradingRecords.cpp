@@ -4,20 +4,13 @@
 #include "platform/Text.h"
 
 namespace tq {
-namespace {
-
-CString ToText(std::string_view text) {
-  return CString(text.data(), static_cast<int>(text.size()));
-}
-
-} // namespace
 
 CString CAccount::Id() const {
-  return ToText(FieldText(info.id));
+  return ToCString(FieldText(info.id));
 }
 
 CString CAccount::DisplayId() const {
-  return ToText(FieldText(info.displayId));
+  return ToCString(FieldText(info.displayId));
 }
 
 CString CAccount::ListId() const {
@@ -31,11 +24,11 @@ bool CAccount::HasId(const CString& id) const {
 }
 
 CString CTS::Id() const {
-  return ToText(FieldText(info.id));
+  return ToCString(FieldText(info.id));
 }
 
 CString CTS::Name() const {
-  return ToText(FieldText(info.name));
+  return ToCString(FieldText(info.name));
 }
 
 int CTS::IndexOf(const CString& id, TqsAccType type) const {

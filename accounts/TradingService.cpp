@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "accounts/Holdings.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {
@@ -25,7 +26,7 @@ private:
 };
 
 bool FindInfo(const CString& tsId, TQS_TSINFO& found) {
-  const std::string_view wanted(tsId.GetString(), static_cast<size_t>(tsId.GetLength()));
+  const std::string_view wanted = ViewOf(tsId);
   const int count = std::min(TQSGetTSCount(), kMostSystems);
   for (int i = 0; i < count; ++i) {
     TQS_TSINFO info = {};

@@ -1,14 +1,11 @@
 #include "cloud/CloudLists.h"
 
-#include <memory>
-#include <utility>
-
 #include "cloud/CloudeListUtil.h"
 #include "groups/GroupList.h"
 #include "idlist/StorableText.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "platform/System.h"
+#include "platform/Text.h"
 
 namespace tq {
 namespace {
@@ -16,16 +13,13 @@ namespace {
 // The pieces between the commas, without the empty ones.
 CString WithoutEmptyPieces(const CString& symbols) {
   CString pieces;
-  for (int start = 0; start <= symbols.GetLength();) {
-    const int comma = symbols.Find(',', start);
-    const int end = comma < 0 ? symbols.GetLength() : comma;
-    if (end > start) {
-      if (!pieces.IsEmpty())
-        pieces += ',';
-      pieces.Append(symbols.GetString() + start, end - start);
-    }
-    start = end + 1;
-  }
+  ForEachPiece(ViewOf(symbols), [&pieces](int, std::string_view piece) {
+    if (piece.empty())
+      return;
+    if (!pieces.IsEmpty())
+      pieces += ',';
+    pieces.Append(piece.data(), static_cast<int>(piece.size()));
+  });
   return pieces;
 }
 
@@ -59,21 +53,9 @@ int CloudLists::Add(const CString& id, const CString& name, const CString& symbo
                     bool allowEmpty) {
   if (StorableText(name).IsEmpty() || (symbols.IsEmpty() && !allowEmpty))
     return 0;
-  if (lists_.ProblemsOfNewId(id) != 0)
-    return 0;
-  const CString listId = id.IsEmpty() ? NewGuidText() : id;
-  if (listId.IsEmpty())
-    return 0;
-  const unsigned changes = lists_.Changes();
-  auto list = std::make_unique<CSymbolList>();
-  list->Update1(WithoutEmptyPieces(symbols));
-  // The terminal may have added one itself while the symbols were resolved.
-  if (changes != lists_.Changes() && lists_.ProblemsOfNewId(id) != 0)
-    return 0;
-  list->SetID(listId);
-  list->SetName(name);
-  lists_.AddLast(std::move(list));
-  return 1;
+  return lists_.AddResolved(
+      id, name, [&] { return lists_.ProblemsOfNewId(id) == 0; },
+      [&symbols](CSymbolList& list) { list.Update1(WithoutEmptyPieces(symbols)); });
 }
 
 void CloudLists::UpdateGroup(void* handle) const {

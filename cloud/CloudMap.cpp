@@ -3,7 +3,7 @@
 #include <string>
 
 #include "idlist/StorableText.h"
-#include "platform/CodePage.h"
+#include "platform/Text.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {
@@ -30,7 +30,7 @@ CString CloudMap::Text() const {
     AppendListElement(list.info, list.symbols, text);
   }
   text += "</Cloud>";
-  return CString(text.data(), static_cast<int>(text.size()));
+  return ToCString(text);
 }
 
 } // namespace tq

@@ -51,7 +51,7 @@ void ReportChange(const ChangeLines& lines, long code, bool countChanged, bool n
   if (countChanged)
     Report(lines.count, code, "ListCntChange");
   else if (nameChanged)
-    Report(lines.name, code, "ListNameChange");
+    Report(lines.name, code, kReasonNames);
   else
     Report(lines.other, code, "");
 }

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/CodePage.h"
 #include "platform/ServiceArray.h"
+#include "platform/Text.h"
 #include "platform/services/tqStock.h"
 #include "symboltable/ExchangeService.h"
 
@@ -16,7 +16,7 @@ namespace {
 constexpr int kDefaultLot = 1000;
 
 bool IsText(const CString& text, const char* field, size_t size) {
-  return EqualNoCase(text, static_cast<size_t>(text.GetLength()), field, strnlen(field, size));
+  return EqualsNoCase(ViewOf(text), {field, strnlen(field, size)});
 }
 
 // The record of an exchange, or null.

@@ -83,9 +83,9 @@ std::span<const CGroupMgr::SubPlace> CGroupMgr::SubsWithId(const tq::FoldedId& i
 void CGroupMgr::BuildSubIndex() {
   std::vector<SubPlace>& index = subIndex_.emplace();
   for (int group = 0; group < groups_.Count(); ++group) {
-    const int count = groups_.SubCountAt(group);
-    for (int sub = 0; sub < count; ++sub)
-      index.push_back({groups_.SubsAt(group)->IdAt(sub), group, sub});
+    const tq::GroupLevel* const subs = groups_.SubsAt(group);
+    for (int sub = 0; subs != nullptr && sub < subs->Count(); ++sub)
+      index.push_back({subs->IdAt(sub), group, sub});
   }
   std::stable_sort(index.begin(), index.end(), [](const SubPlace& left, const SubPlace& right) {
     return IsBefore(left.id, right.id);

@@ -3,17 +3,10 @@
 #include <bit>
 #include <cstring>
 
-#include "platform/CodePage.h"
+#include "platform/Text.h"
 #include "platform/framework/SeededHash.h"
 
 namespace tq {
-namespace {
-
-bool SameNoCase(std::string_view left, std::string_view right) {
-  return EqualNoCase(left.data(), left.size(), right.data(), right.size());
-}
-
-} // namespace
 
 std::string_view IdOf(const SymbolInfo& record) {
   return {record.id, strnlen(record.id, sizeof(record.id))};
@@ -33,7 +26,7 @@ const SymbolInfo* RecordIndex::Find(std::string_view id) {
     const SymbolInfo& record = records_[slots_[slot] - 1];
     if (IdOf(record) == id)
       return &record;
-    if (SameNoCase(IdOf(record), id))
+    if (EqualsNoCase(IdOf(record), id))
       alike = &record;
   }
   return alike;

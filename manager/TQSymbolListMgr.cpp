@@ -1,4 +1,4 @@
-// The manager's life, the list shown first, the texts of a broker's edition, and the switches.
+// The manager's life, the list shown first, clearing lists, and the switches.
 #include "manager/TQSymbolListMgr.h"
 
 #include <algorithm>

@@ -31,6 +31,11 @@
 //     part.
 //  9. Which operations save, write a line to the log and tell the terminal by TQSCall stands in one
 //     table, docs/notifications.md.
+//
+// In this order: start; the list file; the list shown first; the lists in memory; editing whole
+// lists, and the entries of one; checks; system lists; queries; default exchanges and the order of
+// exchanges; lots, and symbols that change; groups; cloud lists; lists from trading accounts; lists
+// of other products, extra information; dialogs; switches.
 #pragma once
 
 #include <memory>
@@ -366,6 +371,8 @@ public:
   void SortAllSymbolByExch() noexcept;
   // 1 when there is no buffer of all symbols, or an empty one.
   int CheckAllSymbolByExch() noexcept;
+
+  // --- Lots, and symbols that change -------------------------------------------------------------
 
   // Units in one board lot of a symbol (field 176): of stocks on exchange TW, or else TE, of
   // futures and options on TF, of any other kind on the exchange that the id names or that it is

@@ -10,6 +10,9 @@ inline constexpr long kNotifySymbols = 4; // symbols were added, or names change
 inline constexpr long kNotifyUserLists = 40;
 inline constexpr long kNotifyCloudLists = 41;
 
+// A reason that the terminal knows: do not change.
+inline constexpr char kReasonNames[] = "ListNameChange";
+
 inline void Notify(long code, const char* reason) {
   TQSCall("", -1, code, reason);
 }

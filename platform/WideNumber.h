@@ -1,8 +1,7 @@
-// Numbers of 128 bits, as far as hashes and packed texts need them.
+// Products of 128 bits, which hashes need.
 //
-// Where the compiler has such numbers they are its own. The plain forms below do the same with 64
-// bits, for the others and for 32-bit targets; they are there everywhere, so that tests hold one
-// against the other.
+// Where the compiler has such numbers they are its own. The plain form does the same with 64 bits,
+// for other compilers and 32-bit targets; it is there everywhere, so that tests compare the two.
 #pragma once
 
 #include <cstdint>
@@ -27,32 +26,16 @@ constexpr WideNumber MultiplyPlain(std::uint64_t left, std::uint64_t right) {
           (left >> 32) * (right >> 32) + (middle >> 32) + (other >> 32)};
 }
 
-// `number` without its lowest bits; `bits` is 0 to 127.
-constexpr WideNumber ShiftRightPlain(WideNumber number, unsigned bits) {
-  if (bits >= 64)
-    return {number.high >> (bits - 64), 0};
-  // In two steps, as nothing may be shifted by 64 at once.
-  return {number.low >> bits | number.high << 1 << (63 - bits), number.high >> bits};
-}
-
 #if defined(__SIZEOF_INT128__)
 __extension__ using NativeWide = unsigned __int128;
 
-constexpr WideNumber FromNative(NativeWide wide) {
-  return {static_cast<std::uint64_t>(wide), static_cast<std::uint64_t>(wide >> 64)};
-}
 constexpr WideNumber Multiply(std::uint64_t left, std::uint64_t right) {
-  return FromNative(NativeWide{left} * right);
-}
-constexpr WideNumber ShiftRight(WideNumber number, unsigned bits) {
-  return FromNative((NativeWide{number.high} << 64 | number.low) >> bits);
+  const NativeWide product = NativeWide{left} * right;
+  return {static_cast<std::uint64_t>(product), static_cast<std::uint64_t>(product >> 64)};
 }
 #else
 constexpr WideNumber Multiply(std::uint64_t left, std::uint64_t right) {
   return MultiplyPlain(left, right);
-}
-constexpr WideNumber ShiftRight(WideNumber number, unsigned bits) {
-  return ShiftRightPlain(number, bits);
 }
 #endif
 

@@ -5,6 +5,7 @@
 
 #include "idlist/StorableText.h"
 #include "platform/CodePage.h"
+#include "platform/System.h"
 
 namespace tq {
 namespace {
@@ -16,6 +17,10 @@ constexpr std::array<const char*, kSystemListCount> kIds = {
 
 bool IsKeptWhole(const CString& id) {
   return id.GetLength() <= kListIdLimit && IsStorable(id);
+}
+
+CString IdOfNewList(const CString& id) {
+  return id.IsEmpty() ? NewGuidText() : id;
 }
 
 const char* SystemListId(int index) {

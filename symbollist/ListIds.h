@@ -13,6 +13,10 @@ inline constexpr int kListIdLimit = sizeof(TQSymbolListInfo::ID) - 1;
 // changed identifier would make a second list of the same one at the next update.
 bool IsKeptWhole(const CString& id);
 
+// The identifier of a new list: `id` or, when that is empty, a new GUID; empty when the system has
+// none to give.
+CString IdOfNewList(const CString& id);
+
 inline constexpr int kSystemListCount = 6;
 
 // "ZUSYSLIST1" to "ZUSYSLIST6". Persisted in list files: do not change.

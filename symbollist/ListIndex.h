@@ -10,7 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/CodePage.h"
+#include "platform/Text.h"
 #include "platform/framework/SeededHash.h"
 #include "symbollist/ListFollower.h"
 #include "symbollist/SymbolList.h"
@@ -26,7 +26,7 @@ struct NoCaseHash {
 struct NoCaseEqual {
   using is_transparent = void;
   bool operator()(std::string_view left, std::string_view right) const {
-    return EqualNoCase(left.data(), left.size(), right.data(), right.size());
+    return EqualsNoCase(left, right);
   }
 };
 

@@ -76,6 +76,25 @@ void OwnedLists::AddFirst(std::unique_ptr<CSymbolList> list) noexcept {
   ++changes_;
 }
 
+int OwnedLists::AddResolved(const CString& id, const CString& name,
+                            const std::function<bool()>& allowed,
+                            const std::function<void(CSymbolList&)>& resolve) {
+  if (!allowed())
+    return 0;
+  const CString listId = IdOfNewList(id);
+  if (listId.IsEmpty())
+    return 0;
+  const unsigned changes = changes_;
+  auto list = std::make_unique<CSymbolList>();
+  resolve(*list);
+  if (changes != changes_ && !allowed())
+    return 0;
+  list->SetID(listId);
+  list->SetName(name);
+  AddLast(std::move(list));
+  return 1;
+}
+
 void OwnedLists::Delete(CSymbolList* list) {
   lists_.erase(lists_.begin() + PositionOf(list));
   ++changes_;

@@ -1,6 +1,7 @@
 // The manager's lists of one kind, in display order.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -56,6 +57,12 @@ public:
 
   void AddLast(std::unique_ptr<CSymbolList> list) noexcept;
   void AddFirst(std::unique_ptr<CSymbolList> list) noexcept;
+  // Adds a list behind all others: `resolve` gives it its symbols, which may let the terminal add,
+  // delete or replace lists. So `allowed` is asked before and, if the terminal did, again behind
+  // it; only then the name is read. An empty id: a new GUID. 0, with nothing added, when it is not
+  // allowed or the system has no GUID; else 1.
+  int AddResolved(const CString& id, const CString& name, const std::function<bool()>& allowed,
+                  const std::function<void(CSymbolList&)>& resolve);
   void Delete(CSymbolList* list);
   // Deletes the lists for which `wanted` returns true, in one pass; it is called once for each
   // list, in order.

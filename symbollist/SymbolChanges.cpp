@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/Log.h"
+#include "platform/Text.h"
 #include "symboltable/SymbolRecords.h"
 
 namespace tq {
@@ -12,9 +13,9 @@ namespace {
 
 // Whether a token of a list is one of the symbols, with or without its exchange.
 bool IsOneOf(const CStringArray& symbols, const CString& token) {
-  const std::string_view id(token.GetString(), static_cast<size_t>(token.GetLength()));
+  const std::string_view id = ViewOf(token);
   for (const CString& held : symbols) {
-    const std::string_view symbol(held.GetString(), static_cast<size_t>(held.GetLength()));
+    const std::string_view symbol = ViewOf(held);
     if (!symbol.empty() && id.starts_with(symbol) &&
         (id.size() == symbol.size() || id[symbol.size()] == '.'))
       return true;
@@ -59,10 +60,8 @@ void ReadChangedSymbols(const char* records, int count, CStringArray& symbols) {
             "CTQSymbolListMgr::UpdateExchSymbolChange Count = %d, MaxSymbolChangeItems = %d", count,
             kMaxSymbolChangeItems);
   const SymbolRecords announced(records, std::min(count, kMaxSymbolChangeItems));
-  for (int i = 0; i < announced.Count(); ++i) {
-    const std::string_view symbol = announced.At(i);
-    symbols.Add(CString(symbol.data(), static_cast<int>(symbol.size())).MakeUpper());
-  }
+  for (int i = 0; i < announced.Count(); ++i)
+    symbols.Add(ToCString(announced.At(i)).MakeUpper());
 }
 
 void ResolveHolders(const OwnedLists& lists, const CStringArray& symbols) {

@@ -5,6 +5,9 @@
 // service, the log and TQSCall may let the terminal call any of them from within another one.
 #pragma once
 
+#include <memory>
+#include <utility>
+
 #include "platform/framework/CMapStringToString.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"

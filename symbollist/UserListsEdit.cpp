@@ -9,7 +9,6 @@
 #include "idlist/StorableText.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
-#include "platform/System.h"
 #include "platform/Text.h"
 #include "symbollist/ListIds.h"
 #include "symbollist/ListName.h"
@@ -48,7 +47,7 @@ bool UserLists::AddNew(const CString& id, const CString& name, const CString& sy
   const CString freeName = FreeName(name);
   if (lists_.HasName(freeName))
     return false;
-  const CString listId = id.IsEmpty() ? NewGuidText() : id;
+  const CString listId = IdOfNewList(id);
   if (listId.IsEmpty())
     return false;
   Put(listId, freeName, symbols, append);

@@ -7,9 +7,6 @@
 namespace tq {
 namespace {
 
-// The terminal knows this reason: do not change.
-constexpr char kReasonNames[] = "ListNameChange";
-
 CString SystemListName(const CStringArray* names, int index) {
   if (names != nullptr && names->GetSize() > index)
     return (*names)[index];

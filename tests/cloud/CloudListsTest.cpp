@@ -66,7 +66,12 @@ TEST_F(CloudListsTest, WhatTheTerminalAddsMeanwhileIsNotAddedTwice) {
 }
 
 TEST_F(CloudListsTest, NoGroupIsNoFailure) {
+  cloud.Set("a", "One", "2330.TW");
+  const size_t lines = standin::LogLines().size();
+  standin::ClearCalls();
   cloud.UpdateGroup(nullptr);
+  EXPECT_EQ(standin::LogLines().size(), lines);
+  EXPECT_TRUE(standin::Calls().empty());
 }
 
 } // namespace

@@ -33,20 +33,5 @@ TEST(WideNumberTest, PlainProductIsTheOneInUse) {
       ASSERT_EQ(MultiplyPlain(left, right), Multiply(left, right)) << left << " * " << right;
 }
 
-TEST(WideNumberTest, PlainShiftMovesBitsFromTheUpperHalf) {
-  EXPECT_EQ(ShiftRightPlain({1, 2}, 0), (WideNumber{1, 2}));
-  EXPECT_EQ(ShiftRightPlain({0, 1}, 1), (WideNumber{1ull << 63, 0}));
-  EXPECT_EQ(ShiftRightPlain({0, 3}, 64), (WideNumber{3, 0}));
-  EXPECT_EQ(ShiftRightPlain({kAll, kAll}, 127), (WideNumber{1, 0}));
-}
-
-TEST(WideNumberTest, PlainShiftIsTheOneInUse) {
-  for (const std::uint64_t sample : Samples())
-    for (unsigned bits = 0; bits < 128; ++bits) {
-      const WideNumber number{sample, ~sample * 3};
-      ASSERT_EQ(ShiftRightPlain(number, bits), ShiftRight(number, bits)) << bits;
-    }
-}
-
 } // namespace
 } // namespace tq
