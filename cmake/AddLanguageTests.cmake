@@ -24,6 +24,10 @@ function(tq_add_language_tests program)
     endif()
     add_test(NAME ${program}-${language} COMMAND ${command}
       WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
+    if(WIN32)
+      # Two programs on one desktop would take the focus from each other.
+      set_tests_properties(${program}-${language} PROPERTIES RESOURCE_LOCK desktop-${language})
+    endif()
     set_tests_properties(${program}-${language} PROPERTIES
       ENVIRONMENT TQ_LANG=${language} TIMEOUT 900)
   endforeach()

@@ -27,9 +27,11 @@ target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wc
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})
 
+# Lets the compiler cache see past a precompiled header.
 if(TQ_PRECOMPILED AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
-  # Lets the compiler cache see past a precompiled header.
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+elseif(TQ_PRECOMPILED)
+  add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
 endif()
 if(NOT WIN32)
   # Within one library its own functions are called directly: nobody replaces them from outside.
@@ -40,6 +42,7 @@ endif()
 if(TQ_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+  add_compile_definitions(TQ_SANITIZE)
 endif()
 
 if(WIN32)

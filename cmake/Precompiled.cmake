@@ -1,5 +1,5 @@
-# Headers that nearly every file takes, read once for many files. linux-release is built without, so that
-# a file that forgets an include is found there.
+# Headers that nearly every file takes, read once for many files. `./run tidy` compiles each source by
+# itself and without them, so that one that forgets an include is found there.
 #   tq_precompiled(NAME OPTIONS HEADER ...)   a set of them, compiled with the options of that target
 #   tq_take_precompiled(NAME TARGET ...)      has these targets take it
 option(TQ_PRECOMPILED "Precompile the headers that nearly every file takes" OFF)

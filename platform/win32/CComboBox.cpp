@@ -17,14 +17,10 @@ bool HasEntry(HWND combo, int index) {
   return index >= 0 && index < Ask(combo, CB_GETCOUNT);
 }
 
-WPARAM Number(int index) {
-  return static_cast<WPARAM>(index);
-}
-
 // The control does not adjust its selection when an entry before it is inserted or deleted.
 void Choose(HWND combo, int index) {
   if (Ask(combo, CB_GETCURSEL) != index)
-    Ask(combo, CB_SETCURSEL, Number(index));
+    Ask(combo, CB_SETCURSEL, tq::IndexParam(index));
 }
 
 } // namespace
@@ -39,7 +35,7 @@ int CComboBox::InsertString(int index, const char* text) {
   const std::wstring wide = tq::ToWide(text);
   const int chosen = GetCurSel();
   const int at =
-      Ask(handle_, CB_INSERTSTRING, Number(index), reinterpret_cast<LPARAM>(wide.c_str()));
+      Ask(handle_, CB_INSERTSTRING, tq::IndexParam(index), reinterpret_cast<LPARAM>(wide.c_str()));
   if (at < 0)
     return -1;
   Choose(handle_, chosen >= at ? chosen + 1 : chosen);
@@ -50,7 +46,7 @@ bool CComboBox::DeleteString(int index) {
   if (!HasEntry(handle_, index))
     return false;
   const int chosen = GetCurSel();
-  Ask(handle_, CB_DELETESTRING, Number(index));
+  Ask(handle_, CB_DELETESTRING, tq::IndexParam(index));
   Choose(handle_, chosen == index ? -1 : chosen > index ? chosen - 1 : chosen);
   return true;
 }
@@ -67,18 +63,22 @@ int CComboBox::GetCount() const {
 CString CComboBox::GetItemText(int index) const {
   if (!HasEntry(handle_, index))
     return CString();
-  std::wstring text(static_cast<size_t>(Ask(handle_, CB_GETLBTEXTLEN, Number(index))) + 1, L'\0');
+  std::wstring text(static_cast<size_t>(Ask(handle_, CB_GETLBTEXTLEN, tq::IndexParam(index))) + 1,
+                    L'\0');
   const int length =
-      Ask(handle_, CB_GETLBTEXT, Number(index), reinterpret_cast<LPARAM>(text.data()));
+      Ask(handle_, CB_GETLBTEXT, tq::IndexParam(index), reinterpret_cast<LPARAM>(text.data()));
   return length <= 0 ? CString() : tq::FromWide(text.data(), static_cast<size_t>(length));
 }
 
 bool CComboBox::SetItemData(int index, intptr_t data) {
-  return HasEntry(handle_, index) && Ask(handle_, CB_SETITEMDATA, Number(index), data) != CB_ERR;
+  return HasEntry(handle_, index) &&
+         Ask(handle_, CB_SETITEMDATA, tq::IndexParam(index), data) != CB_ERR;
 }
 
 intptr_t CComboBox::GetItemData(int index) const {
-  return HasEntry(handle_, index) ? ::SendMessageW(handle_, CB_GETITEMDATA, Number(index), 0) : 0;
+  return HasEntry(handle_, index)
+             ? ::SendMessageW(handle_, CB_GETITEMDATA, tq::IndexParam(index), 0)
+             : 0;
 }
 
 int CComboBox::GetCurSel() const {
@@ -88,6 +88,6 @@ int CComboBox::GetCurSel() const {
 bool CComboBox::SetCurSel(int index) {
   if (handle_ == nullptr || (index != -1 && !HasEntry(handle_, index)))
     return false;
-  Ask(handle_, CB_SETCURSEL, Number(index));
+  Ask(handle_, CB_SETCURSEL, tq::IndexParam(index));
   return true;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/win32/WindowListBox.h"
+#include "platform/win32/WindowRun.h"
 #include "platform/win32/WindowText.h"
 #include "platform/win32/WindowTips.h"
 #include "platform/win32/WindowsObjects.h"
@@ -16,14 +17,10 @@ bool HasRow(HWND box, int row) {
   return row >= 0 && row < tq::AskBox(box, LB_GETCOUNT);
 }
 
-WPARAM Number(int row) {
-  return static_cast<WPARAM>(row);
-}
-
 int Insert(HWND box, int row, const char* text) {
   const std::wstring wide = tq::ToWide(text);
   const int at =
-      tq::AskBox(box, LB_INSERTSTRING, Number(row), reinterpret_cast<LPARAM>(wide.c_str()));
+      tq::AskBox(box, LB_INSERTSTRING, tq::IndexParam(row), reinterpret_cast<LPARAM>(wide.c_str()));
   return at < 0 ? -1 : at;
 }
 
@@ -66,7 +63,7 @@ bool FitsInRow(HWND box, const std::wstring& text) {
 void SelectOneOfSeveral(HWND box, int row) {
   tq::AskBox(box, LB_SETSEL, TRUE, row);
   tq::PutAnchor(box, row);
-  tq::AskBox(box, LB_SETCARETINDEX, Number(row), FALSE);
+  tq::AskBox(box, LB_SETCARETINDEX, tq::IndexParam(row), FALSE);
 }
 
 } // namespace
@@ -96,7 +93,7 @@ bool CListBox::SetItemText(int row, const char* text) {
   const KeepPlace place(handle_);
   const bool selected = IsSelected(row);
   const intptr_t data = GetItemData(row);
-  tq::AskBox(handle_, LB_DELETESTRING, Number(row));
+  tq::AskBox(handle_, LB_DELETESTRING, tq::IndexParam(row));
   const bool put = Insert(handle_, row, text) == row;
   SetItemData(row, data);
   if (IsMultiBox(handle_) && selected)
@@ -109,7 +106,7 @@ bool CListBox::DeleteString(int row) {
   if (!HasRow(handle_, row))
     return false;
   KeepPlace place(handle_);
-  tq::AskBox(handle_, LB_DELETESTRING, Number(row));
+  tq::AskBox(handle_, LB_DELETESTRING, tq::IndexParam(row));
   place.RowWent(row);
   place.Restore();
   return true;
@@ -127,19 +124,20 @@ int CListBox::GetCount() const {
 CString CListBox::GetItemText(int row) const {
   if (!HasRow(handle_, row))
     return CString();
-  std::wstring text(static_cast<size_t>(tq::AskBox(handle_, LB_GETTEXTLEN, Number(row))) + 1,
-                    L'\0');
+  std::wstring text(
+      static_cast<size_t>(tq::AskBox(handle_, LB_GETTEXTLEN, tq::IndexParam(row))) + 1, L'\0');
   const int length =
-      tq::AskBox(handle_, LB_GETTEXT, Number(row), reinterpret_cast<LPARAM>(text.data()));
+      tq::AskBox(handle_, LB_GETTEXT, tq::IndexParam(row), reinterpret_cast<LPARAM>(text.data()));
   return length <= 0 ? CString() : tq::FromWide(text.data(), static_cast<size_t>(length));
 }
 
 bool CListBox::SetItemData(int row, intptr_t data) {
-  return HasRow(handle_, row) && tq::AskBox(handle_, LB_SETITEMDATA, Number(row), data) != LB_ERR;
+  return HasRow(handle_, row) &&
+         tq::AskBox(handle_, LB_SETITEMDATA, tq::IndexParam(row), data) != LB_ERR;
 }
 
 intptr_t CListBox::GetItemData(int row) const {
-  return HasRow(handle_, row) ? ::SendMessageW(handle_, LB_GETITEMDATA, Number(row), 0) : 0;
+  return HasRow(handle_, row) ? ::SendMessageW(handle_, LB_GETITEMDATA, tq::IndexParam(row), 0) : 0;
 }
 
 int CListBox::GetCurSel() const {
@@ -151,7 +149,7 @@ bool CListBox::SetCurSel(int row) {
     return false;
   const bool multi = IsMultiBox(handle_);
   if (row != -1 && !multi) {
-    tq::AskBox(handle_, LB_SETCURSEL, Number(row));
+    tq::AskBox(handle_, LB_SETCURSEL, tq::IndexParam(row));
     return EnsureVisible(row);
   }
   KeepPlace place(handle_);
@@ -183,13 +181,13 @@ bool CListBox::SelectRange(int first, int last, bool select) {
   const KeepPlace place(handle_);
   const auto [low, high] = std::minmax(first, last);
   // For the control a range from a greater to a smaller row means deselecting.
-  tq::AskBox(handle_, LB_SELITEMRANGEEX, Number(select ? low : high), select ? high : low);
+  tq::AskBox(handle_, LB_SELITEMRANGEEX, tq::IndexParam(select ? low : high), select ? high : low);
   place.Restore();
   return true;
 }
 
 bool CListBox::IsSelected(int row) const {
-  return HasRow(handle_, row) && tq::AskBox(handle_, LB_GETSEL, Number(row)) > 0;
+  return HasRow(handle_, row) && tq::AskBox(handle_, LB_GETSEL, tq::IndexParam(row)) > 0;
 }
 
 int CListBox::GetSelCount() const {
@@ -201,7 +199,7 @@ int CListBox::GetSelCount() const {
 int CListBox::GetNextSelected(int after) const {
   const int count = GetCount();
   for (int row = after < -1 ? count : after + 1; row < count; ++row) {
-    if (tq::AskBox(handle_, LB_GETSEL, Number(row)) > 0)
+    if (tq::AskBox(handle_, LB_GETSEL, tq::IndexParam(row)) > 0)
       return row;
   }
   return -1;
@@ -217,7 +215,8 @@ int CListBox::GetCaretIndex() const {
 bool CListBox::SetCaretIndex(int row) {
   const bool isFree = IsMultiBox(handle_) || GetCurSel() == -1;
   return HasRow(handle_, row) && isFree &&
-         tq::AskBox(handle_, LB_SETCARETINDEX, Number(row), FALSE) != LB_ERR && EnsureVisible(row);
+         tq::AskBox(handle_, LB_SETCARETINDEX, tq::IndexParam(row), FALSE) != LB_ERR &&
+         EnsureVisible(row);
 }
 
 void CListBox::SetRowTips(bool on) {
@@ -238,13 +237,13 @@ bool CListBox::EnsureVisible(int row) {
     return false;
   RECT place{};
   RECT client{};
-  tq::AskBox(handle_, LB_GETITEMRECT, Number(row), reinterpret_cast<LPARAM>(&place));
+  tq::AskBox(handle_, LB_GETITEMRECT, tq::IndexParam(row), reinterpret_cast<LPARAM>(&place));
   ::GetClientRect(handle_, &client);
   const int shown = client.bottom / std::max<int>(1, place.bottom - place.top);
   if (place.top < 0)
-    tq::AskBox(handle_, LB_SETTOPINDEX, Number(row));
+    tq::AskBox(handle_, LB_SETTOPINDEX, tq::IndexParam(row));
   else if (place.bottom > client.bottom)
-    tq::AskBox(handle_, LB_SETTOPINDEX, Number(std::max(0, row - std::max(1, shown) + 1)));
+    tq::AskBox(handle_, LB_SETTOPINDEX, tq::IndexParam(std::max(0, row - std::max(1, shown) + 1)));
   return true;
 }
 

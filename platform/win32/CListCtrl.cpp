@@ -18,7 +18,7 @@ template <class RECORD> LPARAM Address(RECORD& record) {
   return reinterpret_cast<LPARAM>(&record);
 }
 
-bool HasRow(HWND view, int row) {
+bool ViewHasRow(HWND view, int row) {
   return row >= 0 && row < static_cast<int>(AskView(view, LVM_GETITEMCOUNT));
 }
 
@@ -134,7 +134,7 @@ int CListCtrl::InsertRow(int row, const char* text) {
 }
 
 bool CListCtrl::DeleteRow(int row) {
-  if (!HasRow(handle_, row) || tq::IsVirtualView(handle_))
+  if (!ViewHasRow(handle_, row) || tq::IsVirtualView(handle_))
     return false;
   const int caret = AfterDelete(tq::CaretOfView(handle_), row, GetRowCount());
   const int anchor = AfterDelete(tq::AnchorOfView(handle_), row, GetRowCount());
@@ -167,7 +167,7 @@ int CListCtrl::GetRowCount() const {
 }
 
 bool CListCtrl::SetCellText(int row, int column, const char* text) {
-  if (!HasRow(handle_, row) || column < 0 || column >= GetColumnCount() ||
+  if (!ViewHasRow(handle_, row) || column < 0 || column >= GetColumnCount() ||
       tq::IsVirtualView(handle_))
     return false;
   std::wstring wide = tq::ToWide(text);
@@ -178,7 +178,7 @@ bool CListCtrl::SetCellText(int row, int column, const char* text) {
 }
 
 CString CListCtrl::GetCellText(int row, int column) const {
-  if (!HasRow(handle_, row) || column < 0 || column >= GetColumnCount())
+  if (!ViewHasRow(handle_, row) || column < 0 || column >= GetColumnCount())
     return CString();
   if (tq::IsVirtualView(handle_))
     return AskedText(handle_, row, column);
@@ -201,7 +201,7 @@ bool CListCtrl::SetItemData(int row, intptr_t data) {
   item.mask = LVIF_PARAM;
   item.iItem = row;
   item.lParam = data;
-  return HasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
+  return ViewHasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
          AskView(handle_, LVM_SETITEMW, 0, Address(item)) != 0;
 }
 
@@ -209,7 +209,7 @@ intptr_t CListCtrl::GetItemData(int row) const {
   LVITEMW item{};
   item.mask = LVIF_PARAM;
   item.iItem = row;
-  const bool is = HasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
+  const bool is = ViewHasRow(handle_, row) && !tq::IsVirtualView(handle_) &&
                   AskView(handle_, LVM_GETITEMW, 0, Address(item)) != 0;
   return is ? item.lParam : 0;
 }
@@ -219,7 +219,7 @@ int CListCtrl::GetCurSel() const {
 }
 
 bool CListCtrl::SetCurSel(int row) {
-  if (handle_ == nullptr || (row != -1 && !HasRow(handle_, row)))
+  if (handle_ == nullptr || (row != -1 && !ViewHasRow(handle_, row)))
     return false;
   tq::SetRowState(handle_, -1, 0, LVIS_SELECTED);
   if (row == -1)
@@ -230,7 +230,7 @@ bool CListCtrl::SetCurSel(int row) {
 }
 
 bool CListCtrl::SelectRow(int row, bool select) {
-  if (!HasRow(handle_, row))
+  if (!ViewHasRow(handle_, row))
     return false;
   const int anchor = tq::AnchorOfView(handle_);
   tq::SetRowState(handle_, row, select ? LVIS_SELECTED : 0, LVIS_SELECTED);
@@ -239,7 +239,7 @@ bool CListCtrl::SelectRow(int row, bool select) {
 }
 
 bool CListCtrl::IsSelected(int row) const {
-  return HasRow(handle_, row) &&
+  return ViewHasRow(handle_, row) &&
          AskView(handle_, LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
 }
 
@@ -255,7 +255,7 @@ int CListCtrl::GetNextSelected(int after) const {
 }
 
 bool CListCtrl::EnsureVisible(int row) {
-  if (!HasRow(handle_, row))
+  if (!ViewHasRow(handle_, row))
     return false;
   AskView(handle_, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
   return true;

@@ -10,10 +10,6 @@ namespace {
 
 constexpr int kNone = -1;
 
-WPARAM Number(int row) {
-  return static_cast<WPARAM>(row);
-}
-
 int AfterInsert(int row, int came) {
   return row >= came ? row + 1 : row;
 }
@@ -25,7 +21,7 @@ int AfterRemove(int row, int went) {
 
 void Put(HWND box, UINT get, UINT set, int value) {
   if (AskBox(box, get) != value)
-    AskBox(box, set, Number(value));
+    AskBox(box, set, IndexParam(value));
 }
 
 } // namespace
@@ -50,7 +46,7 @@ int AnchorOf(HWND box) {
 }
 
 void PutAnchor(HWND box, int row) {
-  AskBox(box, LB_SETANCHORINDEX, Number(row));
+  AskBox(box, LB_SETANCHORINDEX, IndexParam(row));
 }
 
 KeepPlace::KeepPlace(HWND box)
@@ -77,7 +73,7 @@ void KeepPlace::Restore() const {
   const bool isMoved = AskBox(box_, LB_GETCURSEL) != selected_ ||
                        (selected_ != kNone && AskBox(box_, LB_GETCARETINDEX) != selected_);
   if (!multi_ && isMoved) // puts the caret there too
-    AskBox(box_, LB_SETCURSEL, Number(selected_));
+    AskBox(box_, LB_SETCURSEL, IndexParam(selected_));
   if (multi_)
     Put(box_, LB_GETANCHORINDEX, LB_SETANCHORINDEX, std::min(anchor_, last));
   if (multi_ || selected_ == kNone)

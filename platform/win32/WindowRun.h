@@ -15,6 +15,11 @@
 
 namespace tq {
 
+// A row or an entry as a message has it.
+inline WPARAM IndexParam(int index) {
+  return static_cast<WPARAM>(index);
+}
+
 // One modal run.
 struct Run {
   CDialog* dialog = nullptr;

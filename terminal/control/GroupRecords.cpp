@@ -9,16 +9,14 @@ namespace standin {
 namespace {
 
 constexpr int kLeastType = 1;
-constexpr int kMostType = 201;
 constexpr std::size_t kTypeDigits = 3;
-constexpr std::size_t kLongestId = sizeof(GroupInfo::szID) - 1;
 
 // A type and an id as one key of an index. The type is in digits because the index ignores letter
 // case byte by byte.
 class Key {
 public:
   Key(int type, std::string_view id) {
-    if (type < kLeastType || type > kMostType || id.size() > kLongestId)
+    if (type < kLeastType || type > kMostGroupType || id.size() > kLongestGroupId)
       return;
     for (std::size_t i = kTypeDigits; i > 0; --i, type /= 10)
       text_[i - 1] = static_cast<char>('0' + type % 10);
@@ -31,13 +29,13 @@ public:
   operator std::string_view() const { return {text_, size_}; }
 
 private:
-  char text_[kTypeDigits + kLongestId];
+  char text_[kTypeDigits + kLongestGroupId];
   std::size_t size_ = 0;
 };
 
 // The text as far as a record has room for it.
 std::string_view CutId(const std::string& id) {
-  return std::string_view(id).substr(0, kLongestId);
+  return std::string_view(id).substr(0, kLongestGroupId);
 }
 
 } // namespace

@@ -14,6 +14,9 @@
 
 namespace standin {
 
+inline constexpr int kMostGroupType = 201;
+inline constexpr std::size_t kLongestGroupId = sizeof(GroupInfo::szID) - 1;
+
 class TQSTANDIN_API GroupRecords {
 public:
   static constexpr std::size_t kNotFound = IdIndex::kNotFound;

@@ -1,29 +1,28 @@
 #include "terminal/control/GroupRows.h"
 
+#include "terminal/control/GroupRecords.h"
 #include "terminal/control/MarketText.h"
 
 namespace standin {
 namespace {
 
-constexpr int kMostType = 201;
-constexpr std::size_t kLongestId = sizeof(GroupInfo::szID) - 1;
-constexpr std::size_t kLongestName = sizeof(GroupInfo::szName) - 1;
+constexpr std::size_t kLongestGroupName = sizeof(GroupInfo::szName) - 1;
 
-std::string Key(const Group& group, const std::string& id) {
+std::string RowKey(const Group& group, const std::string& id) {
   return std::to_string(group.type) + '\t' + FoldedId(id);
 }
 
 } // namespace
 
 bool GroupRows::Add(const TableFile::Row& row) {
-  const std::optional<int> type = ParseNumber(row[0], 1, kMostType);
+  const std::optional<int> type = ParseNumber(row[0], 1, kMostGroupType);
   if (!type)
     return file_.Refuse("the type is no number from 1 to 201");
-  if (!IsPlainId(row[1], kLongestId))
+  if (!IsPlainId(row[1], kLongestGroupId))
     return file_.Refuse("the parent is neither \"-\" nor 1 to 16 ASCII characters");
-  if (!IsPlainId(row[2], kLongestId) || row[2] == "-")
+  if (!IsPlainId(row[2], kLongestGroupId) || row[2] == "-")
     return file_.Refuse("the id is not 1 to 16 ASCII characters other than \"-\"");
-  if (!Fits(row[3], kLongestName) || !Fits(row[4], kLongestName))
+  if (!Fits(row[3], kLongestGroupName) || !Fits(row[4], kLongestGroupName))
     return file_.Refuse("a name is longer than 48 bytes");
   Group group{
       *type, OptionalText(row[1]), std::string(row[2]), std::string(row[3]), std::string(row[4]),
@@ -39,11 +38,11 @@ bool GroupRows::Add(const TableFile::Row& row) {
 // The tree has two levels. The service knows a parent by id alone, so a sub-group with the id of a
 // top-level group would have the same sub-groups, and the tree would not end.
 bool GroupRows::CheckPlace(const Group& group) {
-  const std::string key = Key(group, group.id);
+  const std::string key = RowKey(group, group.id);
   const bool top = group.parent.empty();
-  if (!top && !tops_.contains(Key(group, group.parent)))
+  if (!top && !tops_.contains(RowKey(group, group.parent)))
     return file_.Refuse("the parent is no group of the first level on a line above");
-  if (!seen_.insert(Key(group, group.parent) + '\t' + FoldedId(group.id)).second)
+  if (!seen_.insert(RowKey(group, group.parent) + '\t' + FoldedId(group.id)).second)
     return file_.Refuse("the id stands twice under its parent");
   if ((top ? subs_ : tops_).contains(key))
     return file_.Refuse("a group of the first level and a sub-group share the id");

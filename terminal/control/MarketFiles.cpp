@@ -13,8 +13,8 @@
 namespace standin {
 namespace {
 
-constexpr std::size_t kLongestId = sizeof(SymbolInfo::id) - 1;
-constexpr std::size_t kLongestName = sizeof(SymbolInfo::name) - 1;
+constexpr std::size_t kLongestSymbolId = sizeof(SymbolInfo::id) - 1;
+constexpr std::size_t kLongestSymbolName = sizeof(SymbolInfo::name) - 1;
 constexpr std::size_t kLongestExchange = sizeof(ExchInfo::name) - 1;
 constexpr int kMostDecimals = 9;
 
@@ -44,10 +44,10 @@ bool AddExchange(TableFile& file, const TableFile::Row& row, Market& market) {
 }
 
 bool CheckCode(TableFile& file, std::string_view exchange, std::string_view code) {
-  if (code.empty() || code.size() > kLongestId || !IsPlain(code) ||
+  if (code.empty() || code.size() > kLongestSymbolId || !IsPlain(code) ||
       code.find_first_of(",:") != std::string_view::npos)
     return file.Refuse("the code is not 1 to 19 ASCII characters without \",\" and \":\"");
-  if (code.size() + 1 + exchange.size() > kLongestId)
+  if (code.size() + 1 + exchange.size() > kLongestSymbolId)
     return file.Refuse("the full id is longer than 19 characters");
   return true;
 }
@@ -59,7 +59,7 @@ bool AddInstrument(TableFile& file, const TableFile::Row& row, const ExchangeIds
     return file.Refuse("unknown exchange");
   if (!CheckCode(file, row[0], row[1]))
     return false;
-  if (!Fits(row[2], kLongestName) || !Fits(row[3], kLongestName))
+  if (!Fits(row[2], kLongestSymbolName) || !Fits(row[3], kLongestSymbolName))
     return file.Refuse("a name is longer than 30 bytes");
   const std::optional<int> decimals = ParseNumber(row[5], 0, kMostDecimals);
   if (!decimals)

@@ -5,6 +5,7 @@
 
 #include "terminal/StandIn.h"
 #include "terminal/demo/Files.h"
+#include "terminal/demo/ListRows.h"
 #include "terminal/demo/Sample.h"
 #include "terminal/demo/Steps.h"
 #include "tqSymbol.h"
@@ -12,7 +13,6 @@
 namespace demo {
 namespace {
 
-constexpr int kUserLists = 1;
 constexpr char kListId[] = "DEMO-LIST";
 constexpr size_t kSymbolsNeeded = 5;
 

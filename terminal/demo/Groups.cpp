@@ -11,7 +11,7 @@ namespace demo {
 namespace {
 
 constexpr int kMostServiceType = 200; // the cloud groups are shown with the cloud lists
-constexpr int kNameCells = 20;
+constexpr int kGroupCells = 20;
 constexpr int kIdCells = 17;
 constexpr int kMembersCells = 47;
 
@@ -77,9 +77,9 @@ private:
   // With its members once it is opened.
   void PrintGroup(const std::string& type, const char* indent, const GroupInfo& info,
                   void* opened) {
-    const std::string name = Fitted(indent + standin::FromAnsi(info.szName), kNameCells - 1);
+    const std::string name = Fitted(indent + standin::FromAnsi(info.szName), kGroupCells - 1);
     const std::string id = standin::FromAnsi(info.szID);
-    std::printf("  %s  %s", PaddedLeft(type, 4).c_str(), Padded(name, kNameCells).c_str());
+    std::printf("  %s  %s", PaddedLeft(type, 4).c_str(), Padded(name, kGroupCells).c_str());
     if (!opened) {
       std::printf("%s\n", id.c_str());
       return;
@@ -111,7 +111,7 @@ void ShowGroups(CTQSymbolListMgr& manager) {
   const int atStart = MemberCalls();
   std::printf("  loaded at the start: %d calls for the tree, %d for members\n\n",
               standin::CountCalls("VLGetSubGroup"), atStart);
-  std::printf("  type  %s%smembers\n", Padded("group", kNameCells).c_str(),
+  std::printf("  type  %s%smembers\n", Padded("group", kGroupCells).c_str(),
               Padded("id", kIdCells - 2).c_str());
   Tree tree(manager);
   for (const int type : types)

@@ -12,8 +12,6 @@
 namespace demo {
 namespace {
 
-constexpr int kUserLists = 1;
-
 // The lists of the older product. The second is empty: it is skipped together with its number.
 std::vector<std::string> Lists() {
   return {SomeSymbols(0, 3), "", SomeSymbols(3, 2)};

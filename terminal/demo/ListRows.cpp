@@ -8,17 +8,17 @@
 namespace demo {
 
 void PrintListRow(const char* id, const char* name, int count, const char* ids) {
-  constexpr int kIdCells = 17;
+  constexpr int kListIdCells = 17;
   constexpr int kNameCells = 17;
   constexpr int kIdsCells = 52;
-  const std::string shownId = Fitted(standin::FromAnsi(id), kIdCells);
+  const std::string shownId = Fitted(standin::FromAnsi(id), kListIdCells);
   const std::string shownName = Fitted(standin::FromAnsi(name), kNameCells);
   const std::string shownIds = FittedList(standin::FromAnsi(ids), ',', kIdsCells);
   if (count < 0) {
-    std::printf("    %s %s\n", Padded(shownId, kIdCells).c_str(), shownName.c_str());
+    std::printf("    %s %s\n", Padded(shownId, kListIdCells).c_str(), shownName.c_str());
     return;
   }
-  std::printf("    %s %s%4d%s%s\n", Padded(shownId, kIdCells).c_str(),
+  std::printf("    %s %s%4d%s%s\n", Padded(shownId, kListIdCells).c_str(),
               Padded(shownName, kNameCells).c_str(), count, shownIds.empty() ? "" : "  ",
               shownIds.c_str());
 }

@@ -6,17 +6,17 @@
 #include <string>
 
 #include "terminal/StandIn.h"
+#include "terminal/demo/ListRows.h"
 #include "terminal/demo/Table.h"
 
 namespace demo {
 namespace {
 
-constexpr int kUserLists = 1;
-constexpr int kNameCells = 20;
+constexpr int kPairCells = 20;
 
 void PrintRow(const std::string& number, const std::string& first, const std::string& second) {
   std::printf("  %s  %s%s\n", PaddedLeft(number, 7).c_str(),
-              second.empty() ? first.c_str() : Padded(first, kNameCells).c_str(), second.c_str());
+              second.empty() ? first.c_str() : Padded(first, kPairCells).c_str(), second.c_str());
 }
 
 // The tokens hold what the records lack: unknown ids and the texts of headings.

@@ -7,12 +7,11 @@
 #include "terminal/demo/Cloud.h"
 #include "terminal/demo/Groups.h"
 #include "terminal/demo/Import.h"
+#include "terminal/demo/ListRows.h"
 #include "terminal/demo/Written.h"
 
 namespace demo {
 namespace {
-
-constexpr int kUserLists = 1;
 
 // The number of lists in the directory's file before the import adds to them; -1 when no manager
 // can be started on it.

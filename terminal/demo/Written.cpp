@@ -10,8 +10,8 @@
 namespace demo {
 namespace {
 
-constexpr int kNameCells = 22;
-constexpr int kLineCells = 98;
+constexpr int kFileCells = 22;
+constexpr int kWrittenCells = 98;
 constexpr int kMostLines = 40;
 
 void PrintLine(std::string_view line) {
@@ -19,7 +19,7 @@ void PrintLine(std::string_view line) {
   while (depth < line.size() && line[depth] == '\t')
     ++depth;
   std::printf("%s\n",
-              Wrapped(line.substr(depth), kLineCells, std::string(4 + 2 * depth, ' ')).c_str());
+              Wrapped(line.substr(depth), kWrittenCells, std::string(4 + 2 * depth, ' ')).c_str());
 }
 
 void PrintContent(const std::string& bytes) {
@@ -47,10 +47,10 @@ bool ShowFile(const std::string& directory, const std::string& name, Show show,
     return false;
   }
   if (result == ReadResult::Missing) {
-    std::printf("  %snot written\n", Padded(name, kNameCells).c_str());
+    std::printf("  %snot written\n", Padded(name, kFileCells).c_str());
     return true;
   }
-  std::printf("  %s%7zu bytes\n", Padded(name, kNameCells).c_str(), bytes.size());
+  std::printf("  %s%7zu bytes\n", Padded(name, kFileCells).c_str(), bytes.size());
   if (show == Show::Content)
     PrintContent(bytes);
   return true;

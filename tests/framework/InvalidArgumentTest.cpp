@@ -26,8 +26,6 @@ protected:
   CUIntArray m_array;
 };
 
-} // namespace
-
 TEST_F(InvalidArgumentDeathTest, StandardHandlerWritesALineAndStops) {
   EXPECT_DEATH(m_array.GetAt(3), "tqFramework: CArray::GetAt: index 3 of 3 elements");
 }
@@ -75,3 +73,5 @@ TEST_F(InvalidArgumentDeathTest, SettingAHandlerReturnsTheOneBefore) {
   EXPECT_EQ(tq::SetInvalidArgumentHandler(nullptr), &Return);
   EXPECT_EQ(tq::SetInvalidArgumentHandler(nullptr), standard);
 }
+
+} // namespace

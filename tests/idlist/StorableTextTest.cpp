@@ -14,12 +14,12 @@ using namespace std::string_literals;
 
 class StorableTextTest : public StandInTest {};
 
-struct Row {
+struct KeptText {
   std::string given;
   std::string kept;
 };
 
-const Row kBothCodePages[] = {
+const KeptText kBothCodePages[] = {
     {"", ""},
     {"plain text 'with' & <signs>", "plain text 'with' & <signs>"},
     {"tab\t line\n return\r", "tab\t line\n return\r"},
@@ -39,7 +39,7 @@ const Row kBothCodePages[] = {
 };
 
 TEST_F(StorableTextTest, OnlyBytesThatTheFileCannotHoldAreLeftOut) {
-  for (const Row& row : kBothCodePages) {
+  for (const KeptText& row : kBothCodePages) {
     SCOPED_TRACE(testing::PrintToString(row.given));
     const CString given(row.given.data(), static_cast<int>(row.given.size()));
     const CString kept = tq::StorableText(given);

@@ -18,7 +18,7 @@ std::string Declaration() {
   return std::string("<?xml version='1.0' encoding='") + EncodingName() + "' ?>\n";
 }
 
-std::string File(int index, const std::vector<std::string>& elements) {
+std::string FileOf(int index, const std::vector<std::string>& elements) {
   std::string text =
       Declaration() + "<Result>\n<SymbolList DefaultIdx='" + std::to_string(index) + "'>\n";
   for (const std::string& element : elements)
@@ -32,7 +32,7 @@ const char kUser[] =
     "Value='Chips:,NOSUCH.TW,2330.TW' Flag='0'/>";
 
 TEST_F(ListFileTest, SavingWhatWasLoadedGivesTheSameBytes) {
-  const std::string file = File(1, {kSystem, kUser});
+  const std::string file = FileOf(1, {kSystem, kUser});
   WriteWorking(file);
   StartWithoutTables();
   ASSERT_EQ(manager.GetSymbolListCount(1), 2);
@@ -57,7 +57,7 @@ TEST_F(ListFileTest, EverySavedDoubleByteCharacterComesBackAsItsBytes) {
       }
     }
   }
-  const std::string file = File(0, elements);
+  const std::string file = FileOf(0, elements);
   WriteWorking(file);
   StartWithoutTables();
   ASSERT_EQ(manager.GetSymbolListCount(1), static_cast<int>(elements.size()));
@@ -66,12 +66,12 @@ TEST_F(ListFileTest, EverySavedDoubleByteCharacterComesBackAsItsBytes) {
 }
 
 TEST_F(ListFileTest, ZeroListsWriteTheFrameWithTheCurrentIndex) {
-  WriteWorking(File(0, {kUser}));
+  WriteWorking(FileOf(0, {kUser}));
   StartWithoutTables();
   manager.ClearSymbolList();
   manager.SetDefaultIndex(-1);
   EXPECT_EQ(manager.SaveSymbolList(), 1);
-  EXPECT_EQ(ReadWorking(), File(-1, {}));
+  EXPECT_EQ(ReadWorking(), FileOf(-1, {}));
 }
 
 TEST_F(ListFileTest, LoadingAFileWithoutListsSavesAtOnce) {
@@ -79,23 +79,23 @@ TEST_F(ListFileTest, LoadingAFileWithoutListsSavesAtOnce) {
                "<Other/></SymbolList></Result>");
   StartWithoutTables();
   EXPECT_EQ(manager.GetSymbolListCount(1), 0);
-  EXPECT_EQ(ReadWorking(), File(-1, {}));
+  EXPECT_EQ(ReadWorking(), FileOf(-1, {}));
 }
 
 TEST_F(ListFileTest, NegativeDefaultIndexWithListsIsStoredAsZero) {
-  WriteWorking(File(-1, {kSystem}));
+  WriteWorking(FileOf(-1, {kSystem}));
   StartWithoutTables();
   int index = 7;
   EXPECT_EQ(manager.GetDefaultListIdx(index), 0);
   EXPECT_EQ(index, -1);
   EXPECT_EQ(manager.SaveSymbolList(), 1);
-  EXPECT_EQ(ReadWorking(), File(0, {kSystem}));
+  EXPECT_EQ(ReadWorking(), FileOf(0, {kSystem}));
   EXPECT_EQ(manager.GetDefaultListIdx(index), 1);
   EXPECT_EQ(index, 0);
 }
 
 TEST_F(ListFileTest, ApostropheInANameIsWrittenVerbatimAndTheNextLoadYieldsNothing) {
-  WriteWorking(File(0, {kSystem}));
+  WriteWorking(FileOf(0, {kSystem}));
   StartWithoutTables();
   CSymbolList* list = nullptr;
   ASSERT_EQ(manager.GetSymbolList("ZUSYSLIST1", &list, 1), 1);
@@ -107,8 +107,8 @@ TEST_F(ListFileTest, ApostropheInANameIsWrittenVerbatimAndTheNextLoadYieldsNothi
 }
 
 TEST_F(ListFileTest, FlagOfTheFileIsThrownAwayAndWorkedOutFromTheId) {
-  WriteWorking(File(0, {"<List ID='mine' Name='n' Value='' Flag='1'/>",
-                        "<List ID='zusyslist2' Name='s' Value='' Flag='0'/>"}));
+  WriteWorking(FileOf(0, {"<List ID='mine' Name='n' Value='' Flag='1'/>",
+                          "<List ID='zusyslist2' Name='s' Value='' Flag='0'/>"}));
   StartWithoutTables();
   CSymbolList* list = nullptr;
   ASSERT_EQ(manager.GetSymbolList("MINE", &list, 1), 1);
@@ -116,12 +116,12 @@ TEST_F(ListFileTest, FlagOfTheFileIsThrownAwayAndWorkedOutFromTheId) {
   ASSERT_EQ(manager.GetSymbolList("ZUSYSLIST2", &list, 1), 1);
   EXPECT_EQ(list->GetFlag(), 1);
   manager.SaveSymbolList();
-  EXPECT_EQ(ReadWorking(), File(0, {"<List ID='mine' Name='n' Value='' Flag='0'/>",
-                                    "<List ID='zusyslist2' Name='s' Value='' Flag='0'/>"}));
+  EXPECT_EQ(ReadWorking(), FileOf(0, {"<List ID='mine' Name='n' Value='' Flag='0'/>",
+                                      "<List ID='zusyslist2' Name='s' Value='' Flag='0'/>"}));
 }
 
 TEST_F(ListFileTest, SwitchingTheLanguageBetweenSavesChangesOnlyTheDeclaration) {
-  WriteWorking(File(1, {kSystem, kUser}));
+  WriteWorking(FileOf(1, {kSystem, kUser}));
   StartWithoutTables();
   const std::string before = ReadWorking();
   standin::SetTraditional(!IsTraditionChinese());
@@ -133,7 +133,7 @@ TEST_F(ListFileTest, SwitchingTheLanguageBetweenSavesChangesOnlyTheDeclaration) 
 }
 
 TEST_F(ListFileTest, RestoringAMissingBackupEmptiesTheManagerAndLeavesTheWorkingFile) {
-  const std::string file = File(0, {kSystem, kUser});
+  const std::string file = FileOf(0, {kSystem, kUser});
   WriteWorking(file);
   StartWithoutTables();
   EXPECT_EQ(manager.RestorSymbolList(), 1);
@@ -142,10 +142,10 @@ TEST_F(ListFileTest, RestoringAMissingBackupEmptiesTheManagerAndLeavesTheWorking
 }
 
 TEST_F(ListFileTest, BackupRestoresTheListsAndNotTheWorkingFile) {
-  WriteWorking(File(1, {kSystem, kUser}));
+  WriteWorking(FileOf(1, {kSystem, kUser}));
   StartWithoutTables();
   EXPECT_EQ(manager.BackupSymbolList(), 1);
-  EXPECT_EQ(ReadBackup(), File(1, {kSystem, kUser}));
+  EXPECT_EQ(ReadBackup(), FileOf(1, {kSystem, kUser}));
   WriteWorking("damaged");
   manager.LoadSymbolList();
   EXPECT_EQ(manager.GetSymbolListCount(1), 0);
@@ -155,11 +155,11 @@ TEST_F(ListFileTest, BackupRestoresTheListsAndNotTheWorkingFile) {
 }
 
 TEST_F(ListFileTest, RestoringABackupWithoutListsRewritesTheWorkingFile) {
-  WriteWorking(File(0, {kSystem}));
+  WriteWorking(FileOf(0, {kSystem}));
   StartWithoutTables();
-  WriteBackup(File(-1, {}));
+  WriteBackup(FileOf(-1, {}));
   manager.RestorSymbolList();
-  EXPECT_EQ(ReadWorking(), File(-1, {}));
+  EXPECT_EQ(ReadWorking(), FileOf(-1, {}));
 }
 
 TEST_F(ListFileTest, MissingOrUnreadableDefaultIndexIsZeroWithALogLine) {
@@ -216,8 +216,8 @@ TEST_F(ListFileTest, AnElementWithoutAttributesEndsTheLoadAndTheListsReadSoFarSt
 TEST_F(ListFileTest, LongIdsAndNamesAreCutAtAWholeCharacterWhenRead) {
   StartWithoutTables();
   const std::string name = std::string(63, 'n') + "\xB3\x5C";
-  WriteWorking(File(0, {"<List ID='" + std::string(40, 'i') + "' Name='" + name +
-                        "' Value='2330.TW' Flag='0'/>"}));
+  WriteWorking(FileOf(0, {"<List ID='" + std::string(40, 'i') + "' Name='" + name +
+                          "' Value='2330.TW' Flag='0'/>"}));
   manager.LoadSymbolList();
   TQSymbolListInfo info;
   ASSERT_EQ(manager.GetTQSymbolListInfo(0, &info, 1), 1);
@@ -226,7 +226,7 @@ TEST_F(ListFileTest, LongIdsAndNamesAreCutAtAWholeCharacterWhenRead) {
 }
 
 TEST_F(ListFileTest, DuplicateListsOfTheFileAreKept) {
-  const std::string file = File(0, {kSystem, kSystem, kUser});
+  const std::string file = FileOf(0, {kSystem, kSystem, kUser});
   WriteWorking(file);
   StartWithoutTables();
   EXPECT_EQ(manager.GetSymbolListCount(1), 3);
@@ -271,11 +271,11 @@ TEST_F(ListFileTest, TheOtherLanguagesFileIsReadByItsDeclaredEncoding) {
 
 // Symptom: both operations were private and could not be called.
 TEST_F(ListFileTest, AnyFileIsSavedAndLoadedByItsPath) {
-  WriteWorking(File(1, {kSystem, kUser}));
+  WriteWorking(FileOf(1, {kSystem, kUser}));
   StartWithoutTables();
   const CString other = directory.Joined("Other.xml").c_str();
   EXPECT_EQ(manager.DoSaveSymbolList(other), 1);
-  EXPECT_EQ(directory.Read("Other.xml"), File(1, {kSystem, kUser}));
+  EXPECT_EQ(directory.Read("Other.xml"), FileOf(1, {kSystem, kUser}));
   manager.ClearSymbolList();
   manager.SetDefaultIndex(-1);
   EXPECT_EQ(manager.DoLoadSymbolList(other), 1);
@@ -283,12 +283,12 @@ TEST_F(ListFileTest, AnyFileIsSavedAndLoadedByItsPath) {
   int index = 0;
   EXPECT_EQ(manager.GetDefaultListIdx(index), 1);
   EXPECT_EQ(index, 1);
-  EXPECT_EQ(ReadWorking(), File(1, {kSystem, kUser}));
+  EXPECT_EQ(ReadWorking(), FileOf(1, {kSystem, kUser}));
   EXPECT_TRUE(standin::Messages().empty());
 }
 
 TEST_F(ListFileTest, AnEmptyPathSavesNothingAndLoadsNoLists) {
-  WriteWorking(File(0, {kSystem}));
+  WriteWorking(FileOf(0, {kSystem}));
   StartWithoutTables();
   EXPECT_EQ(manager.DoSaveSymbolList(""), 0);
   EXPECT_TRUE(standin::Messages().empty());
@@ -297,7 +297,7 @@ TEST_F(ListFileTest, AnEmptyPathSavesNothingAndLoadsNoLists) {
 }
 
 TEST_F(ListFileTest, AFileThatCannotBeOpenedByItsPathIsReportedOnce) {
-  WriteWorking(File(-1, {kSystem}));
+  WriteWorking(FileOf(-1, {kSystem}));
   StartWithoutTables();
   const CString nowhere = (directory.Path() + "-none\\Other.xml").c_str();
   EXPECT_EQ(manager.DoSaveSymbolList(nowhere), 0);
@@ -312,12 +312,12 @@ TEST_F(ListFileTest, AFileThatCannotBeOpenedByItsPathIsReportedOnce) {
 }
 
 TEST_F(ListFileTest, LoadingAnEmptyFileByItsPathRewritesTheWorkingFile) {
-  WriteWorking(File(0, {kSystem}));
+  WriteWorking(FileOf(0, {kSystem}));
   StartWithoutTables();
-  directory.Write("Other.xml", File(3, {}));
+  directory.Write("Other.xml", FileOf(3, {}));
   EXPECT_EQ(manager.DoLoadSymbolList(directory.Joined("Other.xml").c_str()), 1);
-  EXPECT_EQ(ReadWorking(), File(3, {}));
-  EXPECT_EQ(directory.Read("Other.xml"), File(3, {}));
+  EXPECT_EQ(ReadWorking(), FileOf(3, {}));
+  EXPECT_EQ(directory.Read("Other.xml"), FileOf(3, {}));
 }
 
 } // namespace

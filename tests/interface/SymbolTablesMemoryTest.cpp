@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
 // The sanitizer calls these for each block that malloc or operator new returns and that is freed.
 extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*)(const volatile void*, size_t),
                                                          void (*)(const volatile void*));
@@ -16,7 +16,7 @@ int allocations = 0;
 
 // Storage of strings, arrays and maps is observed in every build, all other memory only under the
 // sanitizer.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
 void CountBlock(const volatile void*, size_t) {
   ++allocations;
 }

@@ -60,10 +60,10 @@ TEST_P(SymbolTablesSameObject, IsAnsweredAsTwoObjectsAre) {
   EXPECT_STREQ(text, expected);
 }
 
-std::string NameOf(const testing::TestParamInfo<LookUp>& tested) {
+std::string NameOfLookUp(const testing::TestParamInfo<LookUp>& tested) {
   return tested.param.name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, SymbolTablesSameObject, testing::ValuesIn(kLookUps), NameOf);
+INSTANTIATE_TEST_SUITE_P(Of, SymbolTablesSameObject, testing::ValuesIn(kLookUps), NameOfLookUp);
 
 } // namespace

@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
 #include <sanitizer/common_interface_defs.h>
 #include <sanitizer/lsan_interface.h>
 #endif
@@ -18,7 +18,7 @@ std::string& Note() {
   return *note;
 }
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
 void SayNote() {
   std::fprintf(stderr, "while running: %s\n", Note().c_str());
 }
@@ -28,7 +28,7 @@ void SayNote() {
 
 CrashNote::CrashNote(const std::string& text) {
   Note() = text;
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
   __sanitizer_set_death_callback(SayNote);
 #endif
 }
@@ -38,7 +38,7 @@ CrashNote::~CrashNote() {
 }
 
 void ExpectNoLeak() {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TQ_SANITIZE)
   EXPECT_EQ(__lsan_do_recoverable_leak_check(), 0) << "memory was lost";
 #endif
 }

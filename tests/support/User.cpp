@@ -38,11 +38,6 @@ bool Settled(bool done) {
   return done;
 }
 
-std::string Utf8(const CString& text) {
-  return standin::FromAnsi(
-      std::string_view(text.GetString(), static_cast<size_t>(text.GetLength())));
-}
-
 std::string RowOfView(const CListCtrl& view, int row) {
   std::string text = Utf8(view.GetCellText(row, 0));
   for (int column = 1; column < view.GetColumnCount(); ++column)
@@ -58,6 +53,11 @@ template <class LIST> std::vector<int> Selection(const LIST& list) {
 }
 
 } // namespace
+
+std::string Utf8(const CString& text) {
+  return standin::FromAnsi(
+      std::string_view(text.GetString(), static_cast<size_t>(text.GetLength())));
+}
 
 void WhenDialogOpens(UserScript script) {
   tq::SetModalHandler(ActAsUser);

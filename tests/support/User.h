@@ -21,6 +21,9 @@
 #include "platform/framework/DialogAccess.h"
 #include "tests/support/UserActions.h"
 
+// The text as scripts have it.
+std::string Utf8(const CString& text);
+
 class User;
 using UserScript = std::function<void(User&)>;
 

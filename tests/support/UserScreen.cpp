@@ -29,10 +29,6 @@ const char* NameOf(tq::ControlKind kind) {
   }
 }
 
-std::string Utf8(const CString& text) {
-  return standin::FromAnsi(text.GetString());
-}
-
 std::string IconOf(const CWnd& window) {
   static const char* const names[] = {"", " <up>", " <down>", " <left>", " <remove>", " <search>"};
   return names[static_cast<int>(CButton(window.GetSafeHwnd()).GetIcon())];

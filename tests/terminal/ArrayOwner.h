@@ -19,6 +19,12 @@ using Infos = ArrayOwner<SymbolInfo>;
 using Attrs = ArrayOwner<BaseAttr>;
 using Exchs = ArrayOwner<ExchInfo>;
 
+// Asks for the exchanges, as the plainest call of the service.
+inline int GetExch() {
+  Exchs exchanges;
+  return VLGetExch(&exchanges.list, &exchanges.count, 1);
+}
+
 // The ids of the records, separated by blanks.
 inline std::string Ids(const Infos& infos) {
   std::string text;

@@ -72,7 +72,7 @@ std::string Account(const std::string& system, const std::string& account = "1\t
   return kAccounts + system + "\tn\tn\t" + account + "\n";
 }
 
-const BadFile kBad[] = {
+const BadFile kBadGroups[] = {
     {"old group header", "groups.tsv", "type\tid\tname_tw\tname_cn\tmembers\n",
      "groups.tsv:1: the header"},
     {"group type 0", "groups.tsv", Group("0\t-\tA"), "groups.tsv:2: the type"},
@@ -128,7 +128,7 @@ const BadFile kBad[] = {
 };
 
 TEST(MarketDirectory, RefusesABadGroupOrAccountWithItsLine) {
-  for (const BadFile& bad : kBad)
+  for (const BadFile& bad : kBadGroups)
     ExpectRefusal(bad);
 }
 

@@ -77,7 +77,7 @@ TEST_F(MarketFiles, TheSampleIndicatorsExistInTheCodePage) {
   }
 }
 
-const BadFile kBad[] = {
+const BadFile kBadIndicators[] = {
     {"header", "indicators.tsv", "type\n", "indicators.tsv:1: the header"},
     {"too few fields", "indicators.tsv", kIndicators + "8\tr\n",
      "indicators.tsv:2: 9 fields expected, found 2"},
@@ -109,7 +109,7 @@ const BadFile kBad[] = {
 };
 
 TEST(MarketDirectory, RefusesABadIndicatorWithItsLine) {
-  for (const BadFile& bad : kBad)
+  for (const BadFile& bad : kBadIndicators)
     ExpectRefusal(bad);
 }
 

@@ -10,11 +10,6 @@
 
 namespace {
 
-int GetExch() {
-  Exchs exchanges;
-  return VLGetExch(&exchanges.list, &exchanges.count, 1);
-}
-
 class ScriptTest : public StandInTest {
 protected:
   ScriptTest() {

@@ -11,11 +11,6 @@
 
 namespace {
 
-int GetExch() {
-  Exchs exchanges;
-  return VLGetExch(&exchanges.list, &exchanges.count, 1);
-}
-
 int SetUp() {
   Attrs attrs;
   VLGetBaseAttrs("2330.TW", &attrs.list, &attrs.count, 1);

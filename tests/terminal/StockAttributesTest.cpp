@@ -10,7 +10,7 @@ namespace {
 class StockAttributes : public StandInTest {
 protected:
   // The record of one symbol, set up in `key`.
-  int SetUp(const char* id) {
+  int SetUpKey(const char* id) {
     VLFree(attrs.list);
     attrs.list = nullptr;
     EXPECT_NE(VLGetBaseAttrs(id, &attrs.list, &attrs.count, 1), 0);
@@ -43,7 +43,7 @@ protected:
 };
 
 TEST_F(StockAttributes, AKeyAnswersTheFieldsOfItsRecord) {
-  ASSERT_NE(SetUp("2330.TW"), 0);
+  ASSERT_NE(SetUpKey("2330.TW"), 0);
   EXPECT_EQ(Text(FieldSymbolId), "2330.TW");
   SymbolInfo info;
   ASSERT_NE(VLGetSymbolInfo("2330.TW", &info), 0);
@@ -74,21 +74,21 @@ TEST_F(StockAttributes, ThePriceScaleStopsAtTheGreatestPowerOfTen) {
     standin::Market market = standin::CurrentMarket();
     market.instruments[0].decimals = each.decimals;
     standin::SetMarket(market);
-    ASSERT_NE(SetUp("2330.TW"), 0);
+    ASSERT_NE(SetUpKey("2330.TW"), 0);
     EXPECT_EQ(Number(FieldPriceScale), each.scale) << each.decimals;
     EXPECT_EQ(Number(FieldDecimals), each.decimals);
   }
 }
 
 TEST_F(StockAttributes, AKeyHasNoTradingDataAndNoUnknownFields) {
-  ASSERT_NE(SetUp("2330.TW"), 0);
+  ASSERT_NE(SetUpKey("2330.TW"), 0);
   for (const int field : {static_cast<int>(FieldReferencePrice), 81, 178, 188, 0, -1, 9999})
     EXPECT_EQ(Text(field), kNone) << field;
   EXPECT_EQ(Number(FieldSymbolName), -7);
 }
 
 TEST_F(StockAttributes, TheIdIsFullOrBare) {
-  ASSERT_NE(SetUp("BRK.B.NYSE"), 0);
+  ASSERT_NE(SetUpKey("BRK.B.NYSE"), 0);
   CString id;
   EXPECT_NE(key.GetID(id, 1), 0);
   EXPECT_STREQ(id, "BRK.B.NYSE");
@@ -133,7 +133,7 @@ TEST_F(StockAttributes, TheMarketCanSayMoreOfAnInstrument) {
                                   {FieldMarginNote, "60%"},
                                   {FieldReferencePrice, "9.5"}};
   standin::SetMarket(market);
-  ASSERT_NE(SetUp("2330.TW"), 0);
+  ASSERT_NE(SetUpKey("2330.TW"), 0);
   EXPECT_EQ(Text(FieldMark), " ");
   EXPECT_EQ(Number(FieldBoard), 3);
   EXPECT_EQ(Text(FieldIndustry), "CHIPS");

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr unsigned kTemplate = 1001;
+constexpr unsigned kControlsTemplate = 1001;
 constexpr int kTextButton = 805;
 constexpr int kIconButton = 806;
 constexpr int kEdit = 742;
@@ -17,7 +17,7 @@ constexpr int kNone = 4711;
 class Shown : public CDialog {
 public:
   explicit Shown(std::function<void(CDialog&)> inside)
-      : CDialog(kTemplate), inside_(std::move(inside)) {}
+      : CDialog(kControlsTemplate), inside_(std::move(inside)) {}
 
 protected:
   bool OnInitDialog() override {

@@ -4,8 +4,6 @@
 #include "platform/framework/CListCtrl.h"
 #include "tests/window/WindowTest.h"
 
-constexpr int kTable = 791;
-
 class ListCtrlTest : public WindowTest {
 protected:
   // A table of two columns with rows A, B, C and data 10, 20, 30.

@@ -8,7 +8,6 @@
 
 constexpr int kSingle = 781;
 constexpr int kMulti = 782;
-constexpr int kTable = 791;
 constexpr int kCombo = 761;
 
 using Picked = std::vector<int>;

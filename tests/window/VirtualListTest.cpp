@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int kTable = 791;
 constexpr int kPlain = 792;
 constexpr int kMillion = 1000000;
 

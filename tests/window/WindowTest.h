@@ -23,11 +23,10 @@ CString TrickyText();
 inline CString Ansi(const char* utf8) {
   return CString(standin::ToAnsi(utf8).c_str());
 }
-inline std::string Utf8(const CString& text) {
-  return standin::FromAnsi(text.GetString());
-}
 
 using Log = std::vector<std::string>;
+
+inline constexpr int kTable = 791; // the table of the large templates
 
 class TestDialog : public CDialog {
 public:
