@@ -16,7 +16,7 @@ if(WIN32)
   # The resource compiler does not tell which files it includes.
   file(GLOB texts CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/dialogs/resources/*.inc
     ${PROJECT_SOURCE_DIR}/platform/texts/*.inc)
-  set(TQ_RESOURCE_TEXTS ${texts} ${PROJECT_SOURCE_DIR}/platform/framework/DialogResources.inc)
+  set(TQ_RESOURCE_TEXTS ${texts} ${PROJECT_SOURCE_DIR}/platform/framework/window/DialogResources.inc)
   set_source_files_properties(dialogs/resources/tqSymbol.rc PROPERTIES OBJECT_DEPENDS
     "${TQ_RESOURCE_TEXTS}")
 endif()

@@ -8,34 +8,34 @@ set(TQ_FRAMEWORK_HEADERS
   platform/Compiler.h
   platform/framework/ArrayStorage.h
   platform/framework/CArray.h
-  platform/framework/CButton.h
-  platform/framework/CComboBox.h
-  platform/framework/CDialog.h
-  platform/framework/CEdit.h
-  platform/framework/CListBox.h
-  platform/framework/CListCtrl.h
+  platform/framework/window/CButton.h
+  platform/framework/window/CComboBox.h
+  platform/framework/window/CDialog.h
+  platform/framework/window/CEdit.h
+  platform/framework/window/CListBox.h
+  platform/framework/window/CListCtrl.h
   platform/framework/CMap.h
   platform/framework/CMapStringToString.h
   platform/framework/CPtrArray.h
   platform/framework/CString.h
   platform/framework/CStringArray.h
   platform/framework/CUIntArray.h
-  platform/framework/CWaitCursor.h
+  platform/framework/window/CWaitCursor.h
   platform/framework/CWinApp.h
-  platform/framework/CWnd.h
-  platform/framework/DialogResources.inc
-  platform/framework/DialogRows.inc
-  platform/framework/DialogRowsEnd.inc
-  platform/framework/DialogTemplate.h
+  platform/framework/window/CWnd.h
+  platform/framework/window/DialogResources.inc
+  platform/framework/window/DialogRows.inc
+  platform/framework/window/DialogRowsEnd.inc
+  platform/framework/window/DialogTemplate.h
   platform/framework/FrameworkApi.h
   platform/framework/HashKey.h
   platform/framework/InvalidArgument.h
   platform/framework/MapStorage.h
-  platform/framework/ResourceContext.h
+  platform/framework/window/ResourceContext.h
   platform/framework/SeededHash.h
   platform/framework/Storage.h
   platform/framework/StringData.h
-  platform/framework/WindowTypes.h
+  platform/framework/window/WindowTypes.h
   platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CListCtrl.h"
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/ResourceContext.h"
 
 namespace tq {
 namespace {

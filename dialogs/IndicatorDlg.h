@@ -8,7 +8,7 @@
 #include <optional>
 
 #include "dialogs/IndicatorTable.h"
-#include "platform/framework/CDialog.h"
+#include "platform/framework/window/CDialog.h"
 
 namespace tq {
 

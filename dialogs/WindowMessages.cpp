@@ -1,6 +1,6 @@
 #include "dialogs/WindowMessages.h"
 
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 namespace tq {
 namespace {

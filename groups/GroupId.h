@@ -7,7 +7,7 @@
 
 #include "platform/services/VLProxy.h"
 #include "symbolid/PackedText.h"
-#include "symboltable/SymbolKey.h"
+#include "symbolid/SymbolKey.h"
 
 namespace tq {
 

@@ -47,7 +47,7 @@
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
-#include "platform/framework/WindowTypes.h"
+#include "platform/framework/window/WindowTypes.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStockFields.h"

@@ -6,7 +6,7 @@
 
 #include "platform/Log.h"
 #include "platform/Text.h"
-#include "symboltable/SymbolRecords.h"
+#include "symbolid/SymbolRecords.h"
 
 namespace tq {
 namespace {

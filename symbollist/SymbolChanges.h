@@ -26,7 +26,7 @@ std::unique_ptr<CSymbolList> CopyMoved(CSymbolList& source, const RenameMoved& r
 // The same for each of `sources`, CSymbolList pointers of which a null one is passed over.
 ListVector CopyAllMoved(const CPtrArray& sources, const RenameMoved& rename);
 
-// Appends the symbols of an announcement (symboltable/SymbolRecords.h), in upper case, to
+// Appends the symbols of an announcement (symbolid/SymbolRecords.h), in upper case, to
 // `symbols`. Logs a line when there are more than are looked at.
 void ReadChangedSymbols(const char* records, int count, CStringArray& symbols);
 

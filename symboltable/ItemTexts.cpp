@@ -4,7 +4,7 @@
 
 #include "platform/Text.h"
 #include "platform/services/tqStock.h"
-#include "symboltable/SymbolKey.h"
+#include "symbolid/SymbolKey.h"
 
 namespace tq {
 namespace {

@@ -16,7 +16,7 @@
 
 #include "platform/Compiler.h"
 #include "platform/framework/CString.h"
-#include "symboltable/SymbolKey.h"
+#include "symbolid/SymbolKey.h"
 
 namespace tq {
 

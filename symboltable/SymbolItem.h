@@ -9,8 +9,8 @@
 
 #include "platform/Text.h"
 #include "platform/framework/CString.h"
+#include "symbolid/SymbolKey.h"
 #include "symboltable/ItemTexts.h"
-#include "symboltable/SymbolKey.h"
 
 class CStaticKey;
 class CSymbolItem;

@@ -12,10 +12,10 @@
 #include <vector>
 
 #include "platform/framework/CString.h"
+#include "symbolid/SymbolKey.h"
 #include "symboltable/ItemArena.h"
 #include "symboltable/KeyIndex.h"
 #include "symboltable/SymbolItem.h"
-#include "symboltable/SymbolKey.h"
 
 struct BaseAttr;
 

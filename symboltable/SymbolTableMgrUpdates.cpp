@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "platform/Text.h"
+#include "symbolid/SymbolRecords.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
-#include "symboltable/SymbolRecords.h"
 #include "symboltable/SymbolTableMgr.h"
 
 namespace {

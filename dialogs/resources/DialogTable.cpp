@@ -13,9 +13,9 @@ namespace {
 // In this order: the macros, the templates, the end of the macros.
 // clang-format off
 constexpr TemplateRow kRows[] = {
-#include "platform/framework/DialogRows.inc"
+#include "platform/framework/window/DialogRows.inc"
 #include "dialogs/resources/Dialogs.inc"
-#include "platform/framework/DialogRowsEnd.inc"
+#include "platform/framework/window/DialogRowsEnd.inc"
 };
 // clang-format on
 

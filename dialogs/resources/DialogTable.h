@@ -2,7 +2,7 @@
 //   tq::ResourceContext context(tq::LibraryResources());
 #pragma once
 
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/ResourceContext.h"
 
 namespace tq {
 

@@ -1,4 +1,4 @@
-#include "platform/framework/CButton.h"
+#include "platform/framework/window/CButton.h"
 
 #include "platform/headless/Windows.h"
 

@@ -1,4 +1,4 @@
-#include "platform/framework/CComboBox.h"
+#include "platform/framework/window/CComboBox.h"
 
 #include "platform/headless/Windows.h"
 

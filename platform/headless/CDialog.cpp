@@ -1,9 +1,9 @@
 // The modal run, timers and tooltips in memory.
-#include "platform/framework/CDialog.h"
+#include "platform/framework/window/CDialog.h"
 
 #include <algorithm>
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Queue.h"
 
 using namespace tq::headless;

@@ -1,4 +1,4 @@
-#include "platform/framework/CEdit.h"
+#include "platform/framework/window/CEdit.h"
 
 #include <algorithm>
 

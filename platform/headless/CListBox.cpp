@@ -1,4 +1,4 @@
-#include "platform/framework/CListBox.h"
+#include "platform/framework/window/CListBox.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CListCtrl.h"
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Windows.h"
 
 using namespace tq::headless;

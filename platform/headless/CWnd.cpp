@@ -1,7 +1,7 @@
-#include "platform/framework/CWnd.h"
+#include "platform/framework/window/CWnd.h"
 
-#include "platform/framework/CDialog.h"
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Focus.h"
 #include "platform/headless/Queue.h"
 

@@ -1,7 +1,7 @@
 #include "platform/headless/Focus.h"
 
-#include "platform/framework/DialogAccess.h"
-#include "platform/framework/Mnemonic.h"
+#include "platform/framework/window/DialogAccess.h"
+#include "platform/framework/window/Mnemonic.h"
 
 namespace tq::headless {
 

@@ -1,9 +1,9 @@
 // A list in memory as its keys see it.
-#include "platform/framework/ListKeys.h"
+#include "platform/framework/window/ListKeys.h"
 
 #include <algorithm>
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Focus.h"
 
 namespace tq::headless {

@@ -4,7 +4,7 @@
 #include <deque>
 #include <tuple>
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 
 namespace tq::headless {
 

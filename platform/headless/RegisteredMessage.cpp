@@ -1,4 +1,4 @@
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 #include "platform/framework/CMap.h"
 #include "platform/framework/CString.h"

@@ -1,5 +1,5 @@
 // From a template's rows to windows.
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/ResourceContext.h"
 #include "platform/headless/HitTest.h"
 
 namespace tq::headless {

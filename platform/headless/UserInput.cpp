@@ -1,7 +1,7 @@
 #include "platform/headless/UserInput.h"
 
-#include "platform/framework/CListCtrl.h"
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Focus.h"
 #include "platform/headless/HitTest.h"
 #include "platform/headless/Queue.h"

@@ -9,8 +9,8 @@
 
 #include <vector>
 
-#include "platform/framework/CDialog.h"
-#include "platform/framework/DialogTemplate.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/DialogTemplate.h"
 
 namespace tq::headless {
 

@@ -1,7 +1,7 @@
 // The keyboard's part of UserInput.h.
 #include "platform/CodePage.h"
-#include "platform/framework/DialogAccess.h"
-#include "platform/framework/Mnemonic.h"
+#include "platform/framework/window/DialogAccess.h"
+#include "platform/framework/window/Mnemonic.h"
 #include "platform/headless/EditText.h"
 #include "platform/headless/Focus.h"
 #include "platform/headless/UserInput.h"

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "platform/framework/CDialog.h"
-#include "platform/framework/DialogTemplate.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/DialogTemplate.h"
 #include "platform/headless/Rows.h"
 
 namespace tq::headless {

@@ -2,9 +2,9 @@
 // thread. Nothing throws.
 #pragma once
 
-#include "platform/framework/CButton.h"
-#include "platform/framework/CDialog.h"
-#include "platform/framework/CEdit.h"
+#include "platform/framework/window/CButton.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/CEdit.h"
 
 // The base of dialogs that must not be open twice. Those that are built with the same key are one
 // family, whatever their classes and templates: they work on the same data, of which each has a

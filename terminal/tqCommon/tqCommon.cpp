@@ -1,6 +1,6 @@
 #include "platform/services/tqCommon.h"
 
-#include "platform/framework/CDialog.h"
+#include "platform/framework/window/CDialog.h"
 #include "terminal/control/Reports.h"
 #include "terminal/control/Script.h"
 

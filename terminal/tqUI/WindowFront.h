@@ -1,7 +1,7 @@
 // Brings a window to the front.
 #pragma once
 
-#include "platform/framework/WindowTypes.h"
+#include "platform/framework/window/WindowTypes.h"
 
 namespace standin {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/framework/DialogTemplate.h"
+#include "platform/framework/window/DialogTemplate.h"
 
 using enum tq::ControlKind;
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "dialogs/IndicatorSearches.h"
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/ResourceContext.h"
 #include "tests/support/StandInTest.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // The editor of names is in front of the list, so the mouse reaches it.
 #include <gtest/gtest.h>
 
-#include "platform/framework/CEdit.h"
+#include "platform/framework/window/CEdit.h"
 #include "tests/dialogs/Templates.h"
 #include "tests/support/User.h"
 

@@ -5,7 +5,7 @@
 
 #include <set>
 
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 namespace {
 

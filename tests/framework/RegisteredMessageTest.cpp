@@ -1,5 +1,5 @@
 // Registered message numbers.
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 #include <gtest/gtest.h>
 

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/CodePage.h"
-#include "symboltable/SymbolKey.h"
+#include "symbolid/SymbolKey.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The searches for indicators: closing without a choice, the initial row, and what the terminal
 // does from outside.
-#include "platform/framework/CListCtrl.h"
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/ResourceContext.h"
 #include "tests/interface/IndicatorTest.h"
 
 namespace {

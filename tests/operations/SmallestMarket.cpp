@@ -1,4 +1,4 @@
-#include "platform/framework/CDialog.h"
+#include "platform/framework/window/CDialog.h"
 #include "tests/operations/Subject.h"
 
 namespace operations {

@@ -4,10 +4,10 @@
 
 #include <deque>
 
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CEdit.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "terminal/StandIn.h"
 
 namespace {

@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "tests/support/UserActions.h"
 
 // The text as scripts have it.

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include "platform/framework/CDialog.h"
-#include "platform/framework/DialogTemplate.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/DialogTemplate.h"
 
 enum class Modifier { None, Control, Shift, Alt };
 

@@ -1,10 +1,10 @@
 // A dialog as text.
 #include <algorithm>
 
-#include "platform/framework/CButton.h"
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CButton.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "terminal/StandIn.h"
 #include "tests/support/User.h"
 

@@ -14,6 +14,7 @@
 #include "platform/Module.h"
 #include "platform/ReadSteps.h"
 #include "platform/xml/XmlText.h"
+#include "symbolid/SymbolRecords.h"
 #include "symbollist/KeptCopies.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/ListIds.h"
@@ -21,7 +22,6 @@
 #include "symbollist/TQSymbolListInfo.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
-#include "symboltable/SymbolRecords.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <functional>
 
 #include "dialogs/resources/DialogTable.h"
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/ResourceContext.h"
 #include "platform/services/tqUI.h"
 #include "tests/support/StandInTest.h"
 

@@ -1,6 +1,6 @@
 #include <climits>
 
-#include "platform/framework/CComboBox.h"
+#include "platform/framework/window/CComboBox.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The focus: controls that keep it, controls that lose it, and the Tab key.
-#include "platform/framework/CEdit.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

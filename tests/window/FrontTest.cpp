@@ -1,5 +1,5 @@
 // Overlapping controls: the one in front gets the mouse.
-#include "platform/framework/CEdit.h"
+#include "platform/framework/window/CEdit.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

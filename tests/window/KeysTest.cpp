@@ -1,7 +1,7 @@
 // Keys with Shift, Control and Alt, access keys of buttons and labels, and the keys that the dialog
 // hears first.
-#include "platform/framework/CEdit.h"
-#include "platform/framework/CListBox.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListBox.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Dialogs with a list box of three rows.
 #pragma once
 
-#include "platform/framework/CListBox.h"
+#include "platform/framework/window/CListBox.h"
 #include "tests/window/WindowTest.h"
 
 constexpr int kBox = 781;

@@ -1,7 +1,7 @@
 // Dialogs with a table of two columns and three rows.
 #pragma once
 
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "tests/window/WindowTest.h"
 
 class ListCtrlTest : public WindowTest {

@@ -1,9 +1,9 @@
 // Dialogs whose lists of every kind have the same rows.
 #pragma once
 
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "tests/window/WindowTest.h"
 
 constexpr int kSingle = 781;

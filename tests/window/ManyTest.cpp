@@ -1,8 +1,8 @@
 // Repeated opening and closing releases everything.
-#include "platform/framework/CButton.h"
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CButton.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "tests/window/TestModule.h"
 #include "tests/window/WindowTest.h"
 

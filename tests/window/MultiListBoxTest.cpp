@@ -1,5 +1,5 @@
 // List boxes of several selections, and owner-drawn ones.
-#include "platform/framework/CListBox.h"
+#include "platform/framework/window/CListBox.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // Templates in both languages, and the scope of a resource context.
-#include "platform/framework/CButton.h"
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CEdit.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CButton.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "platform/services/tqCommon.h"
 #include "tests/window/WindowTest.h"
 

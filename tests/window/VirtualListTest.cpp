@@ -1,7 +1,7 @@
 // Tables that ask their dialog for cells.
 #include <climits>
 
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CListCtrl.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

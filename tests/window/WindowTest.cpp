@@ -11,9 +11,9 @@ namespace {
 // In this order: the macros, the templates, the end of the macros.
 // clang-format off
 constexpr tq::TemplateRow kRows[] = {
-#include "platform/framework/DialogRows.inc"
+#include "platform/framework/window/DialogRows.inc"
 #include "tests/window/TestDialogs.inc"
-#include "platform/framework/DialogRowsEnd.inc"
+#include "platform/framework/window/DialogRowsEnd.inc"
 };
 // clang-format on
 

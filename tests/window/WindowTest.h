@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/framework/CDialog.h"
-#include "platform/framework/ResourceContext.h"
+#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/ResourceContext.h"
 #include "terminal/StandIn.h"
 #include "tests/support/User.h"
 

@@ -1,9 +1,9 @@
 // Common to all windows: texts, enabling, showing, focus and keys, tooltips, the cursor.
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CListBox.h"
-#include "platform/framework/CListCtrl.h"
-#include "platform/framework/CWaitCursor.h"
 #include "platform/framework/CWinApp.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/CWaitCursor.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "manager/TQSymbolListMgr.h"
-#include "platform/framework/RegisteredMessage.h"
+#include "platform/framework/window/RegisteredMessage.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "platform/framework/DialogTemplate.h"
+#include "platform/framework/window/DialogTemplate.h"
 #include "tests/interface/win32/ResourceReader.h"
 
 namespace {
@@ -13,10 +13,10 @@ using tq::ControlKind;
 using tq::TemplateRow;
 
 constexpr TemplateRow kRows[] = {
-#include "platform/framework/DialogRows.inc"
+#include "platform/framework/window/DialogRows.inc"
 // clang-format off: the macros above come first
 #include "dialogs/resources/Dialogs.inc"
-#include "platform/framework/DialogRowsEnd.inc"
+#include "platform/framework/window/DialogRowsEnd.inc"
     // clang-format on
 };
 

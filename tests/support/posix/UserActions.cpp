@@ -1,6 +1,6 @@
 #include "tests/support/UserActions.h"
 
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/UserInput.h"
 
 namespace actions {

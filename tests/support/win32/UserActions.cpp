@@ -10,8 +10,8 @@
 #include <cctype>
 #include <string>
 
-#include "platform/framework/CListCtrl.h"
-#include "platform/framework/DialogAccess.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/DialogAccess.h"
 
 namespace actions {
 

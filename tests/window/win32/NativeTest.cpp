@@ -7,9 +7,9 @@
 
 #include <thread>
 
-#include "platform/framework/CComboBox.h"
-#include "platform/framework/CEdit.h"
-#include "platform/framework/CListCtrl.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListCtrl.h"
 
 namespace {
 

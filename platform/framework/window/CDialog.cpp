@@ -1,0 +1,114 @@
+// What a dialog does without regard to how its window is made.
+#include "platform/framework/window/DialogAccess.h"
+
+namespace {
+
+tq::ModalHandler modalHandler = nullptr;
+
+} // namespace
+
+CDialog::CDialog(unsigned templateId, const CWnd* parent)
+    : templateId_(templateId), parent_(parent == nullptr ? nullptr : parent->GetSafeHwnd()) {}
+
+CDialog::~CDialog() = default;
+
+int CDialog::DoModal() {
+  return IsRunning() ? Failed : tq::RunModal(*this);
+}
+
+void CDialog::EndDialog(int code) {
+  if (!IsRunning())
+    return;
+  tq::DialogAccess::SetEnd(*this, code);
+  tq::WakeModal(*this);
+}
+
+void CDialog::OnCommand(int, ControlEvent) {}
+
+void CDialog::OnNotify(int, const ListNotice&) {}
+
+void CDialog::OnTimer(unsigned) {}
+
+intptr_t CDialog::OnMessage(unsigned, intptr_t, intptr_t) {
+  return 0;
+}
+
+bool CDialog::OnKey(int, Key, Held) {
+  return false;
+}
+
+void CDialog::OnItemLook(int, int, ItemLook&) {}
+
+CString CDialog::OnCellText(int, int, int) {
+  return CString();
+}
+
+namespace tq {
+
+void DialogAccess::Begin(CDialog& dialog, WindowHandle handle) {
+  dialog.handle_ = handle;
+  dialog.endCode_ = CDialog::Failed;
+  dialog.ended_ = false;
+}
+
+int DialogAccess::Finish(CDialog& dialog) {
+  dialog.handle_ = nullptr;
+  return dialog.endCode_;
+}
+
+void DialogAccess::SetEnd(CDialog& dialog, int code) {
+  dialog.endCode_ = code;
+  dialog.ended_ = true;
+}
+
+void DialogAccess::Command(CDialog& dialog, int id, ControlEvent event) {
+  if (dialog.ended_)
+    return;
+  if (event == ControlEvent::Clicked && id == CDialog::Accepted)
+    return dialog.OnOK();
+  if (event == ControlEvent::Clicked && id == CDialog::Cancelled)
+    return dialog.OnCancel();
+  dialog.OnCommand(id, event);
+}
+
+void DialogAccess::Notify(CDialog& dialog, int id, const ListNotice& notice) {
+  if (!dialog.ended_)
+    dialog.OnNotify(id, notice);
+}
+
+void DialogAccess::Timer(CDialog& dialog, unsigned id) {
+  if (!dialog.ended_)
+    dialog.OnTimer(id);
+}
+
+void DialogAccess::Posted(CDialog& dialog, unsigned code, intptr_t first, intptr_t second) {
+  if (!dialog.ended_)
+    dialog.OnMessage(code, first, second);
+}
+
+bool DialogAccess::KeyDown(CDialog& dialog, int id, Key key, Held held) {
+  return !dialog.ended_ && dialog.OnKey(id, key, held);
+}
+
+CString DialogAccess::CellText(CDialog& dialog, int id, int row, int column) {
+  return dialog.OnCellText(id, row, column);
+}
+
+ItemLook DialogAccess::Look(CDialog& dialog, int id, int row) {
+  ItemLook look;
+  dialog.OnItemLook(id, row, look);
+  return look;
+}
+
+void DialogAccess::TellModalHandler(CDialog& dialog) {
+  if (modalHandler != nullptr && !dialog.ended_)
+    modalHandler(dialog);
+}
+
+ModalHandler SetModalHandler(ModalHandler handler) {
+  const ModalHandler before = modalHandler;
+  modalHandler = handler;
+  return before;
+}
+
+} // namespace tq

@@ -1,0 +1,15 @@
+// CWaitCursor: the wait cursor while the object lives; then the shape that was there before.
+#pragma once
+
+#include "platform/framework/window/CWnd.h"
+
+class CWaitCursor {
+public:
+  CWaitCursor() : before_(GetCursorShape()) { SetCursorShape(CursorShape::Wait); }
+  ~CWaitCursor() { SetCursorShape(before_); }
+  CWaitCursor(const CWaitCursor&) = delete;
+  CWaitCursor& operator=(const CWaitCursor&) = delete;
+
+private:
+  CursorShape before_;
+};
