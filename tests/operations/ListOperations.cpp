@@ -105,7 +105,7 @@ Table Entries() {
        [](Manager& m, const Arguments& a) { m.DeleteSymbolList(a.id, a.number); }},
       {"InsertSymbolList(CString, int, CString, int, int)",
        [](Manager& m, const Arguments& a) {
-         m.InsertSymbolList(a.id, a.number, a.text, a.other, 1 - a.flag);
+         m.InsertSymbolList(a.id, a.number, a.text, a.other, a.flag == 0);
        }},
       {"SwapSymbolList(CString, int, int)",
        [](Manager& m, const Arguments& a) { m.SwapSymbolList(a.id, a.number, a.other); }},

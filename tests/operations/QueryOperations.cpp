@@ -106,7 +106,7 @@ Table Symbols() {
        [](Manager& m, const Arguments& a) {
          const std::string records = a.Records();
          m.UpdateExchSymbolChange(a.recordCount, a.nulls ? nullptr : records.data(), 1,
-                                  static_cast<ExchSymbolUpdateType>(1 - a.flag));
+                                  static_cast<ExchSymbolUpdateType>(a.flag == 0));
        }},
       {"GetbCN() const", [](Manager& m, const Arguments&) { m.GetbCN(); }},
       {"SetbCN(int)", [](Manager& m, const Arguments& a) { m.SetbCN(a.number); }},
