@@ -16,7 +16,6 @@
 namespace bench {
 namespace {
 
-constexpr int kUserLists = 1;
 constexpr std::size_t kRepetitions = 21;
 constexpr double kGoalSorting = 1.5;
 

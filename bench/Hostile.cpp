@@ -8,13 +8,12 @@
 
 #include "bench/Figure.h"
 #include "bench/HostileParts.h"
+#include "bench/Universe.h"
 #include "terminal/StandIn.h"
 #include "tqSymbol.h"
 
 namespace bench {
 namespace {
-
-constexpr int kUserLists = 1;
 
 // --- Files ---------------------------------------------------------------------------------------
 

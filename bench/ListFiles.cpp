@@ -16,9 +16,8 @@
 namespace bench {
 namespace {
 
-constexpr double kGoalLoading = 1.5;
+constexpr double kGoalFile = 1.5;
 constexpr double kGoalSaving = 1.2;
-constexpr int kUserLists = 1;
 
 // A file as the library writes it, and its id strings.
 struct ListFile {
@@ -88,7 +87,7 @@ void MeasureLoading(Report& report, const ListFile& file, ListFileSize size,
     return seconds;
   };
   const auto peer = [&] { return Computing([&] { right = ParseAndAsk(file) && right; }); };
-  report.Ratio("loading / parsing + service", Compare(repetitions, library, peer), kGoalLoading);
+  report.Ratio("loading / parsing + service", Compare(repetitions, library, peer), kGoalFile);
   if (!right)
     report.Wrong("loading");
 }

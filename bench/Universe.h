@@ -9,6 +9,9 @@
 
 namespace bench {
 
+// The kind of list that is measured, as the manager numbers it.
+inline constexpr int kUserLists = 1;
+
 struct Universe {
   std::string title;
   standin::Market market;
