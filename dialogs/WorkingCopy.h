@@ -1,16 +1,21 @@
 // The lists that a dialog edits: copies of the manager's, invisible to others until they are
-// committed.
+// committed. What the editors do to them, without a window.
 #pragma once
 
 #include <memory>
 #include <vector>
 
 #include "platform/framework/CPtrArray.h"
+#include "platform/framework/CString.h"
 #include "symbollist/SymbolList.h"
 
 class CTQSymbolListMgr;
 
 namespace tq {
+
+// What the user sees of a list: its name, and behind that of a system list the mark of one (string
+// 48039).
+CString DisplayName(const CSymbolList& list);
 
 class WorkingCopy {
 public:
@@ -36,7 +41,31 @@ public:
   int DefaultIndex() const { return defaultIndex_; }
   void SetDefaultIndex(int index) { defaultIndex_ = index; }
 
+  // Whether a list other than that at `except` (-1: any) has exactly this name. Letter case counts.
+  bool HasName(const CString& name, int except) const;
+
+  // Adds a list behind the others and returns its position. The only list is the default one.
+  int Add(std::unique_ptr<CSymbolList> list);
+  void Replace(int index, std::unique_ptr<CSymbolList> list);
+
+  // What becomes of the default list when a list goes. The two dialogs differ here, and both are
+  // meant as they are: do not make them agree.
+  enum class DefaultRule {
+    StaysInPlace, // the list editor: behind a default list that goes, the list to be selected
+    StepsBack,    // the selection: the list before the default one that goes, or none
+  };
+  // Removes the list at `index`. Returns the position to be selected: the same one, or the last, or
+  // -1 when no list is left.
+  int Remove(int index, DefaultRule rule);
+
+  // Moves a list past its neighbour and returns its new position, or -1 when there is none. The
+  // default list stays the default one, whichever of the two it is.
+  int MoveUp(int index) { return Swap(index, index - 1); }
+  int MoveDown(int index) { return Swap(index, index + 1); }
+
 private:
+  int Swap(int index, int neighbour);
+
   Lists lists_;
   int defaultIndex_ = -1;
 };

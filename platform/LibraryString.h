@@ -10,6 +10,7 @@ inline constexpr unsigned kStringAllSymbols = 48009;
 inline constexpr unsigned kMessageSaveFailed = 48026;
 inline constexpr unsigned kStringUpdate = 48028;
 inline constexpr unsigned kStringFirstSystemList = 48033; // the first of six
+inline constexpr unsigned kStringSystemList = 48039;      // behind the name of one
 inline constexpr unsigned kStringAllHoldings = 48041;
 inline constexpr unsigned kStringFirstProduct =
     48044; // the first of three; formats with a list's number
