@@ -1,19 +1,13 @@
 // Trading systems and accounts, as the trading-system proxy describes them, with their holdings.
 #pragma once
 
-#include <cstring>
-#include <string_view>
 #include <vector>
 
+#include "platform/FieldText.h"
 #include "platform/framework/CString.h"
 #include "platform/services/TQSProxy.h"
 
 namespace tq {
-
-// The text of a record's field, which need not be terminated.
-template <size_t SIZE> std::string_view FieldText(const char (&field)[SIZE]) {
-  return std::string_view(field, strnlen(field, SIZE));
-}
 
 // One account. Holdings are kept joined, as lists, queries and the file need them.
 struct CAccount {

@@ -68,7 +68,7 @@ bool PutEdited(WorkingCopy& stored, const CSymbolList& edited) {
   const int index = stored.Find(list->GetID());
   if (index < 0 || SameList(stored.At(index), *list))
     return false;
-  stored.All()[static_cast<std::size_t>(index)] = std::move(list);
+  stored.Replace(index, std::move(list));
   return true;
 }
 

@@ -1,23 +1,16 @@
 #include "dialogs/ListContents.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "idlist/IdString.h"
 #include "idlist/RecordIndex.h"
 #include "idlist/StorableText.h"
+#include "platform/FieldText.h"
 #include "platform/Text.h"
 #include "symbollist/SymbolList.h"
 
 namespace tq {
-namespace {
-
-std::string NameOf(const SymbolInfo& record) {
-  return {record.name, strnlen(record.name, sizeof(record.name))};
-}
-
-} // namespace
 
 ListContents::ListContents(CSymbolList& list) {
   const int count = list.GetCount(); // resolves
@@ -36,7 +29,7 @@ ListContents::ListContents(CSymbolList& list) {
       entry.kind = heading ? Entry::Kind::Heading : Entry::Kind::Symbol;
       if (!heading) {
         entry.text = IdOf(record);
-        entry.name = NameOf(record);
+        entry.name = FieldText(record.name);
       }
       there = ++row < count && list.GetAt(row, &record);
     }
@@ -86,7 +79,7 @@ int ListContents::Insert(int row, std::span<const SymbolInfo> symbols) {
     if (!IsOneToken(id) || tq::IsHeading(id) || Holds(id))
       continue;
     ids_.emplace(id);
-    fresh.push_back({std::string(id), NameOf(symbol), Entry::Kind::Symbol});
+    fresh.push_back({std::string(id), std::string(FieldText(symbol.name)), Entry::Kind::Symbol});
   }
   entries_.insert(PlaceOf(row), std::make_move_iterator(fresh.begin()),
                   std::make_move_iterator(fresh.end()));

@@ -1,10 +1,10 @@
 #include "exchanges/SymbolInfos.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
+#include "platform/FieldText.h"
 #include "platform/ServiceArray.h"
 #include "platform/Text.h"
 #include "platform/services/tqStock.h"
@@ -14,10 +14,6 @@ namespace tq {
 namespace {
 
 constexpr int kDefaultLot = 1000;
-
-bool IsText(const CString& text, const char* field, size_t size) {
-  return EqualsNoCase(ViewOf(text), {field, strnlen(field, size)});
-}
 
 // The record of an exchange, or null.
 const ExchInfo* FindRecord(const ExchInfo* exchanges, int count, int exchId) {
@@ -77,8 +73,8 @@ int FindValidSymbol(const CString& text, int bCN, const std::unique_ptr<CSymbolT
     return 0;
   const bool only = found.Records().size() == 1;
   for (const SymbolInfo& record : found.Records()) {
-    const CString id(record.id, static_cast<int>(strnlen(record.id, sizeof(record.id))));
-    if (only || IsText(text, record.code, sizeof(record.code)) || id.CompareNoCase(text) == 0 ||
+    const CString id = ToCString(FieldText(record.id));
+    if (only || EqualsNoCase(ViewOf(text), FieldText(record.code)) || id.CompareNoCase(text) == 0 ||
         SplitId(tables, id).first.CompareNoCase(text) == 0) {
       *info = record;
       return 1;

@@ -1,15 +1,15 @@
 #include "idlist/RecordIndex.h"
 
 #include <bit>
-#include <cstring>
 
+#include "platform/FieldText.h"
 #include "platform/Text.h"
 #include "platform/framework/SeededHash.h"
 
 namespace tq {
 
 std::string_view IdOf(const SymbolInfo& record) {
-  return {record.id, strnlen(record.id, sizeof(record.id))};
+  return FieldText(record.id);
 }
 
 const SymbolInfo* RecordIndex::Find(std::string_view id) {

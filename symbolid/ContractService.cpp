@@ -1,7 +1,6 @@
 #include "symbolid/ContractService.h"
 
-#include <cstring>
-
+#include "platform/FieldText.h"
 #include "platform/ServiceArray.h"
 #include "platform/Text.h"
 #include "platform/services/VLProxy.h"
@@ -21,7 +20,7 @@ constexpr char kNameSecondKey[] = "V6";
 
 // The text of a record. A text that fills its field has no NUL.
 CString TextOf(const ExtAttr& record) {
-  return CString(record.text, static_cast<int>(strnlen(record.text, sizeof record.text)));
+  return ToCString(FieldText(record.text));
 }
 
 } // namespace

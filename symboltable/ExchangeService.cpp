@@ -1,19 +1,13 @@
 #include "symboltable/ExchangeService.h"
 
+#include "platform/FieldText.h"
 #include "platform/Text.h"
 #include "platform/services/TQSObj.h"
 
 namespace tq {
-namespace {
-
-std::string_view TextIn(const char* field, std::size_t size) {
-  return {field, strnlen(field, size)};
-}
-
-} // namespace
 
 std::string_view NameOf(const ExchInfo& exchange) {
-  return TextIn(exchange.name, sizeof exchange.name);
+  return FieldText(exchange.name);
 }
 
 int ReadExchangeName(int exchId, CString& name) {
