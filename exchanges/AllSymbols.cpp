@@ -63,7 +63,7 @@ void AllSymbols::Build(const CUIntArray& defaultExchanges) {
     return;
   for (const auto& list : lists) {
     const std::span<const SymbolInfo> records = list.Records();
-    std::memcpy(&infos_[static_cast<size_t>(count_)], records.data(), records.size_bytes());
+    std::memcpy(&infos_[count_], records.data(), records.size_bytes());
     count_ += static_cast<int>(records.size());
   }
 }
@@ -71,6 +71,11 @@ void AllSymbols::Build(const CUIntArray& defaultExchanges) {
 void AllSymbols::Clear() {
   infos_.reset();
   count_ = 0;
+}
+
+std::shared_ptr<const SymbolInfo[]> AllSymbols::Share(int* count) const {
+  *count = count_;
+  return infos_;
 }
 
 int AllSymbols::Copy(SymbolInfo** out, int* count) const {

@@ -18,13 +18,16 @@ public:
   void Clear();
   bool IsEmpty() const { return count_ == 0; }
 
+  // The buffer itself, which stays as it is while somebody holds it; null, with a count of 0, when
+  // there is none.
+  std::shared_ptr<const SymbolInfo[]> Share(int* count) const;
   // A copy, which the caller gives back with Free. 0, outputs untouched, when there is no buffer,
   // no memory for a copy, or an output is null.
   int Copy(SymbolInfo** out, int* count) const;
   static void Free(SymbolInfo* infos);
 
 private:
-  std::unique_ptr<SymbolInfo[]> infos_;
+  std::shared_ptr<SymbolInfo[]> infos_;
   int count_ = 0;
 };
 

@@ -43,6 +43,10 @@ bool IsStorable(const CString& text) {
   return FirstBadByte(ViewOf(text)) == ViewOf(text).size();
 }
 
+bool IsLoadable(const CString& text) {
+  return text.FindOneOf("'&<") < 0 && IsStorable(text);
+}
+
 void AppendStorable(std::string_view text, std::string& document) {
   const size_t bad = FirstBadByte(text);
   document.append(text, 0, bad);

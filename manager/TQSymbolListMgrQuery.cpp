@@ -97,6 +97,10 @@ int CTQSymbolListMgr::GetSymbolInfos(int exchId, int subId, SymbolInfo** list,
   return VLGetSymbolInfos2(exchId, subId, list, count, 0);
 }
 
+std::shared_ptr<const SymbolInfo[]> CTQSymbolListMgr::ShareAllSymbolInfos(int* count) noexcept {
+  return count == nullptr ? nullptr : state_->allSymbols.Share(count);
+}
+
 int CTQSymbolListMgr::GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept {
   return state_->allSymbols.Copy(out, count);
 }

@@ -45,7 +45,7 @@ int OwnedLists::ProblemsOfNewId(const CString& id) const {
     problems |= kTaken;
   if (id.GetLength() > kListIdLimit)
     problems |= kTooLong;
-  if (id.FindOneOf("'&<") >= 0 || !IsStorable(id))
+  if (!IsLoadable(id))
     problems |= kNotForAFile;
   return problems;
 }
