@@ -6,6 +6,9 @@
 namespace tq {
 
 // Numbers of string table entries.
+inline constexpr unsigned kStringCode = 48006;
+inline constexpr unsigned kStringName = 48007;
+inline constexpr unsigned kStringAllMarkets = 48008;
 inline constexpr unsigned kStringAllSymbols = 48009;
 inline constexpr unsigned kMessageSaveFailed = 48026;
 inline constexpr unsigned kStringUpdate = 48028;

@@ -1,0 +1,138 @@
+// The content editor's search: markets and groups, what they hold, and adding it to the list.
+#include <utility>
+
+#include "dialogs/editors/ContentEditor.h"
+#include "dialogs/editors/EditorMessages.h"
+#include "dialogs/editors/TypedSymbol.h"
+#include "idlist/RecordIndex.h"
+#include "platform/FieldText.h"
+#include "platform/Text.h"
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/CWaitCursor.h"
+
+namespace tq {
+
+void ContentEditor::FillBox(int id, const std::vector<CString>& entries) {
+  CComboBox box(*this, id);
+  box.ResetContent();
+  for (const CString& entry : entries)
+    box.AddString(entry);
+  box.SetCurSel(MarketChoice::kAll);
+}
+
+void ContentEditor::ChooseMarket() {
+  FillBox(kGroup, markets_.GroupNames(CComboBox(*this, kMarket).GetCurSel()));
+  ShowMarket();
+}
+
+void ContentEditor::ShowMarket() {
+  const CWaitCursor reading;
+  ShowResults(markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(),
+                               CComboBox(*this, kGroup).GetCurSel()));
+  UpdateButtons();
+}
+
+void ContentEditor::ShowResults(SymbolRows results) {
+  results_ = std::move(results);
+  CListCtrl(*this, kResults).SetVirtualRows(results_.Count());
+}
+
+CString ContentEditor::OnCellText(int, int row, int column) {
+  if (!results_.Has(row))
+    return {};
+  const SymbolInfo& symbol = results_.At(row);
+  return ToCString(column == 0 ? IdOf(symbol) : FieldText(symbol.name));
+}
+
+// The symbols that were picked, in front of the caret row. They are not picked any more then: what
+// is typed next is meant next.
+void ContentEditor::AddPicked() {
+  CListCtrl results(*this, kResults);
+  std::vector<SymbolInfo> picked;
+  for (int row = results.GetNextSelected(-1); row >= 0; row = results.GetNextSelected(row)) {
+    if (results_.Has(row))
+      picked.push_back(results_.At(row));
+  }
+  results.SetCurSel(-1);
+  const int row = CListBox(*this, kRows).GetCaretIndex();
+  const int place = row < 0 ? contents_.RowCount() : row;
+  if (picked.size() == 1 && contents_.Holds(IdOf(picked.front())))
+    AddOne(picked.front());
+  else
+    ShowInserted(place, contents_.Insert(place, picked));
+}
+
+void ContentEditor::AddTyped() {
+  const CString text = CCharEdit(*this, kCode, 0).GetInput();
+  if (text.IsEmpty()) {
+    Refuse(kCode, kMessageNothingChosen);
+    return;
+  }
+  CString id;
+  switch (FindTypedSymbol(sources_, text, id)) {
+  case TypedMatch::None:
+    Refuse(kCode, kMessageNoMatch);
+    return;
+  case TypedMatch::Several:
+    Refuse(kCode, kMessageSeveralMatches);
+    return FindSimilarTo(text);
+  case TypedMatch::One:
+    break;
+  }
+  SymbolInfo symbol = {};
+  if (VLGetSymbolInfo(id, &symbol) == 0)
+    Refuse(kCode, kMessageNoRecord);
+  else
+    AddOne(symbol);
+}
+
+void ContentEditor::AddOne(const SymbolInfo& symbol) {
+  CEdit field(*this, kCode);
+  if (contents_.Holds(IdOf(symbol))) {
+    const CString id = ToCString(IdOf(symbol));
+    Refuse(kCode, kMessageInList);
+    const std::vector<int> rows = contents_.RowsOf({&id, 1});
+    CListBox(*this, kRows).SetCurSel(rows.empty() ? -1 : rows.front());
+    UpdateButtons();
+  } else {
+    const int place = InsertPlace();
+    ShowInserted(place, contents_.Insert(place, {&symbol, 1}));
+  }
+  field.SetText("");
+}
+
+// Those that the list has already are passed over.
+void ContentEditor::AddAll() {
+  const CWaitCursor reading;
+  const SymbolRows symbols =
+      markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(), CComboBox(*this, kGroup).GetCurSel());
+  const int place = InsertPlace();
+  ShowInserted(place, contents_.Insert(place, symbols.All()));
+}
+
+void ContentEditor::FindSimilar() {
+  FindSimilarTo(CCharEdit(*this, kCode, 0).GetInput());
+}
+
+void ContentEditor::FindSimilarTo(const CString& text) {
+  ShowResults({});
+  if (text.IsEmpty()) {
+    if (AskUser(kMessageNothingTyped))
+      ShowMarket();
+    return;
+  }
+  constexpr int kAllExchanges = -1;
+  ServiceArray<SymbolInfo> found;
+  const int done = VLFindSymbol(text, found.List(), found.Count(), 0, sources_.Manager().GetbCN(),
+                                kAllExchanges);
+  const std::span<const SymbolInfo> records = done != 0 ? found.Records() : std::span<SymbolInfo>();
+  if (records.size() == 1)
+    AddOne(records.front());
+  else if (!records.empty())
+    ShowResults(SymbolRows(std::move(found)));
+  else if (AskUser(kMessageNothingSimilar))
+    ShowMarket();
+}
+
+} // namespace tq

@@ -1,0 +1,42 @@
+// Whether a list can bear the name that the user typed.
+#pragma once
+
+#include <functional>
+
+#include "platform/framework/CString.h"
+#include "platform/framework/window/CWnd.h"
+
+namespace tq {
+
+// Whether another list has that name.
+using NameTest = std::function<bool(const CString& name)>;
+
+// One check each. Those that fail say why in a message box, unless Silent was asked for. The
+// editors ask in different orders, so that of two faults they name different ones: both orders are
+// meant as they are.
+class NameCheck {
+public:
+  enum class Voice { Spoken, Silent };
+
+  NameCheck(const CWnd& dialog, const CString& name, Voice voice = Voice::Spoken)
+      : dialog_(dialog), name_(name), voice_(voice) {}
+
+  bool IsGiven() const;
+  bool IsFree(const NameTest& isTaken) const;
+  // As the terminal judges names of files, with a message of its own.
+  bool IsFileName();
+  // Without the mark of a system list.
+  bool IsUnreserved() const;
+  // The list file can carry it: it is not escaped, and one bad name would cost every list at the
+  // next load.
+  bool CanBeLoaded() const;
+
+private:
+  bool Refuse(unsigned message) const;
+
+  CWnd dialog_;
+  const CString& name_;
+  Voice voice_;
+};
+
+} // namespace tq
