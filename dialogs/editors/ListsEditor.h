@@ -1,0 +1,94 @@
+// The list-of-lists editor: creates, edits, renames, moves and deletes lists, on a working copy.
+// Whoever opens it commits the copy when it has closed, in whatever way: this editor has no Cancel.
+//
+// While a row is renamed the editor of names lies over it. Going elsewhere ends the renaming: a
+// good name is taken as with Enter, any other is dropped without a message, and what the user did
+// to go there is done.
+#pragma once
+
+#include <memory>
+
+#include "dialogs/WorkingCopy.h"
+#include "dialogs/editors/ContentEditor.h"
+
+namespace tq {
+
+class ListsEditor : public CSingletonDlg {
+public:
+  WorkingCopy& Copy() { return copy_; }
+
+  // Message: whether a list of the working copy other than that at `second` (-1: any) has the name
+  // whose text is at the address `first`. 1 or 0. Letter case counts.
+  enum : unsigned { kIsNameTaken = 0x414 };
+
+protected:
+  // The editors differ in this alone.
+  struct Kind {
+    unsigned templateId;
+    int lists;       // the kind of the manager's lists
+    bool hasDefault; // one of them is marked, and shown first
+  };
+  ListsEditor(const Kind& kind, const EditorSources& sources, const CWnd* parent);
+
+  bool OnInitDialog() override;
+  void OnCommand(int id, ControlEvent event) override;
+  void OnCancel() override;
+  intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
+  bool OnKey(int id, Key key, Held held) override;
+  void OnItemLook(int id, int row, ItemLook& look) override;
+
+private:
+  enum Control : int {
+    kLists = 781,
+    kContents = 782,
+    kNameField = 741,
+    kNew = 801,
+    kEdit = 802,
+    kDelete = 803,
+    kRename = 804,
+    kDefault = 805,
+    kDone = 806,
+    kUp = 807,
+    kDown = 808,
+  };
+
+  void OnClicked(int id);
+  bool OnListKey(Key key, Held held);
+  int Selected() const;
+  void Select(int row);
+  void ShowSelected();
+  void UpdateButtons();
+
+  void NewList();
+  void EditList();
+  void DeleteList();
+  void MakeDefault();
+  void MoveList(bool up);
+  bool EditContents(CSymbolList& list, ContentEditor::Mode mode, int row);
+
+  // --- Renaming
+  void StartRenaming();
+  enum class Focus { ToLists, Stays }; // Stays: the user has taken it elsewhere
+  void EndRenaming(Focus focus);
+  void Rename(NameCheck::Voice voice);
+  bool IsTaken(const CString& name, int except) const;
+
+  Kind kind_;
+  EditorSources sources_;
+  WorkingCopy copy_;
+  int renamed_ = -1; // the row under the editor of names
+};
+
+} // namespace tq
+
+// The editor of the user's lists.
+class CSymbolListDlg : public tq::ListsEditor {
+public:
+  CSymbolListDlg(const tq::EditorSources& sources, const CWnd* parent);
+};
+
+// The editor of the cloud lists, of which none is the default.
+class CloudSymbolListDlg : public tq::ListsEditor {
+public:
+  CloudSymbolListDlg(const tq::EditorSources& sources, const CWnd* parent);
+};
