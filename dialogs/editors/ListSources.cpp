@@ -1,0 +1,116 @@
+#include "dialogs/editors/ListSources.h"
+
+#include <array>
+
+#include "idlist/ListKind.h"
+#include "manager/TQSymbolListMgr.h"
+#include "platform/FieldText.h"
+#include "platform/LibraryString.h"
+#include "platform/Text.h"
+
+namespace tq {
+namespace {
+
+constexpr unsigned kStringUserLists = 48003;
+constexpr unsigned kStringHoldings = 48030;
+constexpr int kHoldingsGroups = 3;
+
+struct GroupKind {
+  int type;
+  int choice; // its kind as a terminal has it
+};
+constexpr std::array<GroupKind, 4> kGroupKinds = {
+    {{1, 2}, {kHoldingsGroups, 3}, {101, 7}, {kCloudGroupType, kCloudLists}}};
+constexpr int kOtherGroupChoice = 2;
+constexpr int kAllSymbolsChoice = 4;
+
+void AddGroups(CTQSymbolListMgr& manager, int type, std::vector<ListSource>& sources) {
+  const int count = manager.GetGroupCount(type, nullptr);
+  for (int i = 0; i < count; ++i) {
+    GroupInfo group = {};
+    if (manager.GetGroupInfo(type, nullptr, i, &group) != 0)
+      sources.push_back({SourceCode::Group, ToCString(FieldText(group.szName)), type,
+                         ToCString(FieldText(group.szID))});
+  }
+}
+
+std::vector<SourceItem> ListsOf(CTQSymbolListMgr& manager, int kind) {
+  std::vector<SourceItem> items;
+  TQSymbolListInfo info;
+  for (int i = 0; manager.GetTQSymbolListInfo(i, &info, kind) != 0; ++i)
+    items.push_back({CString(info.Name), CString(info.ID)});
+  return items;
+}
+
+std::vector<SourceItem> GroupItems(CTQSymbolListMgr& manager, const ListSource& source) {
+  std::vector<SourceItem> items;
+  const int count = manager.GetGroupCounts(source.groupType, source.groupId);
+  for (int i = 0; i < count; ++i) {
+    GroupInfo group = {};
+    if (manager.GetGroupInfos(source.groupType, source.groupId, i, &group) != 0)
+      items.push_back({ToCString(FieldText(group.szName)), ToCString(FieldText(group.szID))});
+  }
+  return items;
+}
+
+int GroupChoice(int type) {
+  for (const GroupKind& kind : kGroupKinds) {
+    if (kind.type == type)
+      return kind.choice;
+  }
+  return kOtherGroupChoice;
+}
+
+} // namespace
+
+std::vector<ListSource> ListSources(CTQSymbolListMgr& manager, bool holdings) {
+  std::vector<ListSource> sources = {
+      {SourceCode::AllSymbols, LibraryString(kStringAllMarkets)},
+      {SourceCode::UserLists, LibraryString(kStringUserLists)},
+      {SourceCode::Holdings, LibraryString(kStringHoldings)},
+      {SourceCode::Cloud, LibraryString(kStringCloudList)},
+  };
+  for (const GroupKind& kind : kGroupKinds) {
+    if (kind.type != kHoldingsGroups || holdings)
+      AddGroups(manager, kind.type, sources);
+  }
+  return sources;
+}
+
+std::vector<SourceItem> ItemsOf(CTQSymbolListMgr& manager, const ListSource& source) {
+  switch (source.code) {
+  case SourceCode::AllSymbols:
+    return {{LibraryString(kStringAllSymbols), {}}};
+  case SourceCode::Holdings:
+    return ListsOf(manager, kTradingLists);
+  case SourceCode::Group:
+    return GroupItems(manager, source);
+  default:
+    return {};
+  }
+}
+
+ListChoice ChoiceOf(const ListSource& source, const SourceItem* item) {
+  static const SourceItem kNone;
+  const SourceItem& chosen = item == nullptr ? kNone : *item;
+  switch (source.code) {
+  case SourceCode::AllSymbols:
+    return {kAllSymbolsChoice, chosen.name};
+  case SourceCode::UserLists:
+    return {kUserLists, chosen.id};
+  case SourceCode::Holdings:
+    return {kTradingLists, chosen.id};
+  case SourceCode::Cloud:
+    return {kCloudLists, chosen.id};
+  default:
+    return {GroupChoice(source.groupType), source.name + "," + chosen.name};
+  }
+}
+
+// Identifiers are compared ignoring letter case, as everywhere.
+bool IsChoice(const ListChoice& before, const ListSource& source, const SourceItem& item) {
+  const ListChoice choice = ChoiceOf(source, &item);
+  return choice.kind == before.kind && choice.text.CompareNoCase(before.text) == 0;
+}
+
+} // namespace tq
