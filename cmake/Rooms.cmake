@@ -2,7 +2,7 @@
 set(TQ_ROOMS symbolid symboltable exchanges idlist symbollist groups cloud accounts imports manager dialogs)
 set(TQ_ROOM_TARGETS)
 foreach(room IN LISTS TQ_ROOMS)
-  file(GLOB sources CONFIGURE_DEPENDS ${room}/*.cpp ${room}/resources/*.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${room}/*.cpp ${room}/*/*.cpp)
   add_library(tq-${room} OBJECT ${sources})
   target_compile_definitions(tq-${room} PRIVATE TQSYMBOL_BUILD)
   target_link_libraries(tq-${room} PRIVATE tqOptions tqFramework)

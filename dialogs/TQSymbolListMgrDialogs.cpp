@@ -1,16 +1,128 @@
 // The operations that open dialogs. Each one activates the library's resources while it runs, and
 // wraps the terminal's window handle.
+#include "dialogs/EditCommits.h"
 #include "dialogs/IndicatorSearches.h"
+#include "dialogs/editors/GroupSymbolAdd.h"
+#include "dialogs/editors/ListsEditor.h"
+#include "dialogs/editors/SymbolSetDlg.h"
 #include "dialogs/resources/DialogTable.h"
+#include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
+#include "platform/services/tqCommon.h"
+
+using tq::ContentEditor;
 
 int CTQSymbolListMgr::m_bDoModal = 0;
+
+namespace {
+
+// As the terminal runs the dialogs that are bound to a manager.
+int Run(CDialog& dialog) {
+  return tqDoModal(&dialog, 0, 1, 0);
+}
+
+// The editor has a copy, so that a list of the manager's differs from it when it is stored.
+bool EditOneList(CTQSymbolListMgr& manager, CSymbolTableMgr* tables, CSymbolList& list, int kind,
+                 int mode, const CWnd* parent,
+                 bool (*commit)(CTQSymbolListMgr&, const CSymbolList&)) {
+  CSymbolList* own = nullptr;
+  manager.GetSymbolList(list.GetID(), &own, kind);
+  const bool isOwn = own == &list;
+  CSymbolList edited(list);
+  const auto task = mode == 0 ? ContentEditor::Mode::New : ContentEditor::Mode::Edit;
+  if (tq::RunContentEditor(kind, {manager, tables}, parent, {edited, task, nullptr}) !=
+      CDialog::Accepted)
+    return false;
+  commit(manager, edited);
+  if (!isOwn) { // the manager's own may be gone by now
+    list.SetID(edited.GetID());
+    list.SetName(edited.GetName());
+    list.Update1(edited.GetIDs());
+  }
+  return true;
+}
+
+} // namespace
+
+int CTQSymbolListMgr::DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                     WindowHandle parent) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  const int countBefore = manager->GetSymbolListCount(tq::kUserLists);
+  const CWnd window(parent);
+  CSymbolListDlg dialog({*manager, tables}, &window);
+  const int result = Run(dialog);
+  tq::CommitLists(*manager, dialog.Copy(), countBefore);
+  return result;
+}
+
+int CTQSymbolListMgr::DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                          WindowHandle parent) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  const int countBefore = manager->GetSymbolListCount(tq::kCloudLists);
+  const CWnd window(parent);
+  CloudSymbolListDlg dialog({*manager, tables}, &window);
+  const int result = Run(dialog);
+  tq::CommitCloudLists(*manager, dialog.Copy(), countBefore);
+  return result;
+}
+
+bool CTQSymbolListMgr::DoGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                     CSymbolList* list, int mode, CWnd* parent, int) noexcept {
+  if (manager == nullptr || list == nullptr)
+    return false;
+  const tq::ResourceContext context(tq::LibraryResources());
+  return EditOneList(*manager, tables, *list, tq::kUserLists, mode, parent, tq::CommitEditedList);
+}
+
+bool CTQSymbolListMgr::DoCloudGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                          CSymbolList* list, int mode, CWnd* parent, int) noexcept {
+  if (manager == nullptr || list == nullptr)
+    return false;
+  const tq::ResourceContext context(tq::LibraryResources());
+  return EditOneList(*manager, tables, *list, tq::kCloudLists, mode, parent,
+                     tq::CommitEditedCloudList);
+}
+
+int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                       CWnd* parent, const char* symbol) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  CGroupSymbolAdd dialog({*manager, tables}, parent, symbol);
+  const int result = Run(dialog);
+  tq::CommitSymbolAddedToLists(*manager, dialog.Copy());
+  return result;
+}
+
+int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                 WindowHandle parent, int* kind, CString& text, int,
+                                 bool holdings) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  const CWnd window(parent);
+  CSymbolSetDlg dialog({*manager, tables}, &window, {kind == nullptr ? 0 : *kind, text}, holdings);
+  m_bDoModal = 1;
+  const int result = Run(dialog);
+  m_bDoModal = 0;
+  if (dialog.HasChanged())
+    tq::ReportChangedBySelection();
+  if (result == CDialog::Accepted && dialog.Choice() && kind != nullptr) {
+    *kind = dialog.Choice()->kind;
+    text = dialog.Choice()->text;
+  }
+  return result;
+}
 
 int CTQSymbolListMgr::EndDomodal(WindowHandle dialog, int result) noexcept {
   if (m_bDoModal == 0)
     return 0;
   CDialog* const running = CDialog::FromHandle(dialog);
-  if (running == nullptr)
+  if (running == nullptr || dynamic_cast<tq::ContentEditor*>(running) != nullptr)
     return 0;
   running->EndDialog(result);
   return 1;

@@ -56,6 +56,7 @@
 #include "tqSymbolApi.h"
 
 class CSymbolTableMgr;
+class CWnd;
 namespace tq {
 struct ManagerState;
 }
@@ -310,6 +311,9 @@ public:
   // A copy of the buffer of all symbols, which the caller releases with FreeSymbolInfos. 0, outputs
   // untouched, when there is none, or no memory for a copy.
   int GetAllSymbolInfos(SymbolInfo** out, int* count) noexcept;
+  // The buffer of all symbols itself: nothing is copied. It stays as it is for as long as somebody
+  // holds it, whatever the manager does meanwhile. Null, `*count` 0, when there is none.
+  std::shared_ptr<const SymbolInfo[]> ShareAllSymbolInfos(int* count) noexcept;
   // Releases what GetAllSymbolInfos handed out; null is allowed. A host with the C runtime that
   // this library uses may delete it with delete[] as well. In any other host that would corrupt the
   // heap.
@@ -571,11 +575,49 @@ public:
                               InfoType type) noexcept;
   static int DoSearchOptionIndi(WindowHandle parent, const CString& input, CString& name,
                                 CString& code, CString& market) noexcept;
+
+  // The editors of lists. `manager` has the lists, `tables` (may be null: then nothing that is
+  // typed is found) the symbols that are typed; the parent is copied. They work on copies, which
+  // are stored when the dialog has closed; the terminal is told then (docs/notifications.md). Those
+  // but the one for a single symbol are one family: while one of them is open, another one is
+  // refused with -1, unless it is opened from within. Without a manager -1, or false.
+
+  // The user's lists: new ones, contents, names, order, the default one. Stored whatever the end
+  // code, for the dialog has no Cancel.
+  static int DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                            WindowHandle parent) noexcept;
+  // The cloud lists, as far as they have all that.
+  int DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                          WindowHandle parent) noexcept;
+  // The name and the symbols of one list, the manager's own or a copy of the caller's. True when
+  // the user was done: a list of the manager's with the same identifier is replaced and saved then
+  // if it differs, without a word to the terminal; so a pointer to the manager's own is not valid
+  // any more. A copy of the caller's is what the user made of it. `mode` 0: a new list, which gets
+  // an identifier and is nobody's but the caller's; else one to be edited. The option is not used.
+  static bool DoGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, CSymbolList* list,
+                            int mode, CWnd* parent, int option) noexcept;
+  // The same for a cloud list.
+  bool DoCloudGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, CSymbolList* list,
+                          int mode, CWnd* parent, int option) noexcept;
+  // Adds one symbol, by its full id, to lists of the user's choice.
+  static int DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, CWnd* parent,
+                              const char* symbol) noexcept;
+  // The choice of a list. `*kind` and `text` are what was chosen before, and with 1 what is chosen
+  // now; else they stay.
+  //   kind  1 a user list, 6 one of holdings, 8 a cloud list: `text` is its identifier
+  //         2 a group of type 1, 3 of type 3, 7 of type 101, 8 of type 201: "group,sub-group", their
+  //           names
+  //         4 all symbols: what the dialog calls them
+  // A null `kind` has nothing chosen before and is told nothing, nor is `text`. The option is not
+  // used; `holdings` offers the groups of type 3. User lists that are changed on the way are stored
+  // with OK, cloud lists at once.
+  static int DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, WindowHandle parent,
+                        int* kind, CString& text, int option, bool holdings) noexcept;
   // 1 exactly while the list selection is open, else 0.
   static int m_bDoModal;
   // Ends the dialog that runs in that window with an end code of the caller's. Only while
-  // m_bDoModal is set: an editor must not be closed over its user's head. 0 when nothing was ended,
-  // else 1.
+  // m_bDoModal is set, and never an editor over the selection: it must not be closed over its
+  // user's head. 0 when nothing was ended, else 1.
   static int EndDomodal(WindowHandle dialog, int result) noexcept;
 
   // --- Switches ----------------------------------------------------------------------------------
