@@ -605,9 +605,8 @@ public:
   // The choice of a list. `*kind` and `text` are what was chosen before, and with 1 what is chosen
   // now; else they stay.
   //   kind  1 a user list, 6 one of holdings, 8 a cloud list: `text` is its identifier
-  //         2 a group of type 1, 3 of type 3, 7 of type 101, 8 of type 201: "group,sub-group", their
-  //           names
-  //         4 all symbols: what the dialog calls them
+  //         2, 3, 7, 8 a group of type 1, 3, 101, 201: `text` is "group,sub-group", their names
+  //         4 all symbols: `text` is what the dialog calls them
   // A null `kind` has nothing chosen before and is told nothing, nor is `text`. The option is not
   // used; `holdings` offers the groups of type 3. User lists that are changed on the way are stored
   // with OK, cloud lists at once.
