@@ -338,4 +338,12 @@ bool ServeNext() {
          tq::ServeMessage(tq::Serve::Timers);
 }
 
+int RandomActions() {
+  return 2000;
+}
+
+int ManyDialogs() {
+  return 500;
+}
+
 } // namespace actions
