@@ -70,6 +70,44 @@ TEST_F(SelectionTextCloud, AnEditedListGoesIntoTheCloudMapAtOnce) {
   });
 }
 
+TEST_F(SelectionTextCloud, OnlyTheEditedListGoesIntoTheCloudMap) {
+  StartWithCloud();
+  Choose([](User& user) {
+    Edit(user, 1, NameIt("zwei"));
+    user.Click(kCancel);
+  });
+  EXPECT_EQ(CloudMap(), "<Cloud><List ID='C2' Name='zwei' Value='1101.TW,2454.TW' Flag='0'/>\n"
+                        "</Cloud>");
+}
+
+TEST_F(SelectionTextCloud, ChangesOfBothKindsOfListsAreStored) {
+  StartWithCloud();
+  Choose([](User& user) {
+    EXPECT_TRUE(user.Select(kSources, MyLists()));
+    EXPECT_TRUE(user.Select(kLists, 0));
+    WhenDialogOpens(NameIt("meine"));
+    EXPECT_TRUE(user.Click(kEdit));
+    Edit(user, 1, NameIt("zwei"));
+    EXPECT_TRUE(user.Click(kOk));
+  });
+  EXPECT_EQ(Shape(), "A/meine/2330.TW");
+  EXPECT_EQ(CloudShape(), "C1/cloud one/2330.TW|C2/zwei/1101.TW,2454.TW");
+  EXPECT_EQ(Happened(), "saved; told 41:; told 40:" + Logged("DoSelectUI"));
+}
+
+TEST_F(SelectionTextCloud, ACloudListMayNotTakeAnothersName) {
+  StartWithCloud();
+  Choose([this](User& user) {
+    New(user, [this](User& editor) {
+      EXPECT_TRUE(editor.Fill(kListName, "cloud one"));
+      editor.Click(kOk);
+      EXPECT_EQ(Shown(), "48011/0");
+      editor.Click(kCancel);
+    });
+    user.Click(kCancel);
+  });
+}
+
 TEST_F(SelectionTextCloud, ACancelledEditChangesNothing) {
   StartWithCloud();
   Choose([](User& user) {

@@ -311,6 +311,50 @@ TEST_F(SelectionText, WithoutRowsOkIsNotRefused) {
   EXPECT_EQ(Shown(), "");
 }
 
+TEST_F(SelectionText, AGroupWithoutItemsIsNotRefused) {
+  StartWithAllSources();
+  EXPECT_EQ(Choose([](User& user) {
+              EXPECT_TRUE(user.Select(kSources, "基金"));
+              EXPECT_EQ(user.Rows(kLists), Lines{});
+              EXPECT_TRUE(user.Click(kOk));
+            }),
+            1);
+  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(kind, 2);
+}
+
+TEST_F(SelectionText, WithoutASelectedListOfHoldingsOkIsRefused) {
+  StartWithAllSources();
+  Choose(
+      [this](User& user) {
+        EXPECT_TRUE(user.Select(kSources, Holdings()));
+        ASSERT_EQ(user.SelectedRows(kLists), Numbers{});
+        user.Click(kOk);
+        EXPECT_EQ(Shown(), "48004/0");
+        EXPECT_TRUE(user.IsUp());
+        user.Click(kCancel);
+      },
+      true);
+}
+
+TEST_F(SelectionText, TheButtonsDoNothingToHoldings) {
+  StartWithAllSources();
+  standin::AnswerMessages(kYes);
+  Choose(
+      [this](User& user) {
+        EXPECT_TRUE(user.Select(kSources, Holdings()));
+        EXPECT_TRUE(user.Select(kLists, 1));
+        for (const int id : {kNew, kEdit, kDelete})
+          user.Click(id);
+        EXPECT_EQ(Shown(), "");
+        EXPECT_EQ(user.Rows(kLists).size(), 2u);
+        user.Click(kCancel);
+      },
+      true);
+  EXPECT_EQ(manager.GetSymbolListCount(6), 2);
+  EXPECT_EQ(Happened(), "not saved");
+}
+
 // --- What was selected before --------------------------------------------------------------------
 
 TEST_F(SelectionText, OpensOnTheUsersListThatWasSelectedBefore) {
