@@ -19,6 +19,12 @@ struct TypedName {
   const char* text; // "@" stands for the mark of system lists
 };
 
+struct NameOfTyped {
+  std::string operator()(const testing::TestParamInfo<TypedName>& tested) const {
+    return tested.param.testName;
+  }
+};
+
 class EditorTextTest : public EditTest {
 protected:
   // Controls of the list editors and, as far as it has them, of the selection.
@@ -121,9 +127,6 @@ protected:
     const size_t mark = text.find('@');
     return mark == std::string::npos ? text : text.replace(mark, 1, SystemMark());
   }
-  static std::string NameOfTest(const testing::TestParamInfo<TypedName>& tested) {
-    return tested.param.testName;
-  }
   static std::string Tsmc() { return Text("2330.TW 台積電", "2330.TW 台积电"); }
   static std::string HonHai() { return Text("2317.TW 鴻海", "2317.TW 鸿海"); }
   static std::string Cement() { return Text("1101.TW 台泥", "1101.TW 台泥"); }
@@ -179,6 +182,16 @@ protected:
   }
   static std::string NameDiffers() { return "(bListNameChange)"; }
   static std::string CountDiffers() { return "(nNewSymbolListCnt != nOldSymbolListCnt)"; }
+
+  // The arguments of the last dialog's run.
+  static std::string LastRun() {
+    std::string arguments;
+    for (const standin::Call& call : standin::Calls()) {
+      if (call.operation == "tqDoModal")
+        arguments = call.arguments;
+    }
+    return arguments;
+  }
 
   std::string CloudShape() {
     std::string shape;

@@ -82,10 +82,7 @@ TEST_F(ListsEditorTextLeave, TheTabKeyTakesAGoodName) {
 
 // Names that Enter would have refused.
 class ListsEditorTextLeaveBad : public ListsEditorTextLeave,
-                                public testing::WithParamInterface<TypedName> {
-public:
-  using EditorTextTest::NameOfTest;
-};
+                                public testing::WithParamInterface<TypedName> {};
 
 TEST_P(ListsEditorTextLeaveBad, GoesBackToTheOldName) {
   StartWithThree();
@@ -125,6 +122,6 @@ INSTANTIATE_TEST_SUITE_P(Name, ListsEditorTextLeaveBad,
                                          TypedName{"ThatIsTheSystems", "@"},
                                          TypedName{"ThatTheListFileCannotCarry", "a&b"},
                                          TypedName{"WithoutCharacters", "\b"}),
-                         ListsEditorTextLeaveBad::NameOfTest);
+                         NameOfTyped());
 
 } // namespace

@@ -332,10 +332,7 @@ TEST_F(ListsEditorTextRename, ADuplicateIsNotedBeforeTheTerminalIsAsked) {
 // --- Step 3: the text that is the system's -------------------------------------------------------
 
 class ListsEditorTextReserved : public ListsEditorTextRename,
-                                public testing::WithParamInterface<TypedName> {
-public:
-  using EditorTextTest::NameOfTest;
-};
+                                public testing::WithParamInterface<TypedName> {};
 
 TEST_P(ListsEditorTextReserved, IsRefusedAnywhereInAName) {
   StartWithThree();
@@ -352,7 +349,7 @@ INSTANTIATE_TEST_SUITE_P(Text, ListsEditorTextReserved,
                          testing::Values(TypedName{"Alone", "@"}, TypedName{"AtTheEnd", "two@"},
                                          TypedName{"AtTheStart", "@two"},
                                          TypedName{"InTheMiddle", "one@two"}),
-                         ListsEditorTextReserved::NameOfTest);
+                         NameOfTyped());
 
 TEST_F(ListsEditorTextRename, TheReservedTextIsShownAsAText) {
   StartWithThree();
@@ -386,10 +383,7 @@ TEST_F(ListsEditorTextRename, TheTerminalIsAskedBeforeTheReservedTextIsLookedFor
 // --- Behind these: what the list file cannot carry -----------------------------------------------
 
 class ListsEditorTextUnstorable : public ListsEditorTextRename,
-                                  public testing::WithParamInterface<TypedName> {
-public:
-  using EditorTextTest::NameOfTest;
-};
+                                  public testing::WithParamInterface<TypedName> {};
 
 TEST_P(ListsEditorTextUnstorable, IsRefused) {
   StartWithThree();
@@ -407,7 +401,7 @@ TEST_P(ListsEditorTextUnstorable, IsRefused) {
 INSTANTIATE_TEST_SUITE_P(Name, ListsEditorTextUnstorable,
                          testing::Values(TypedName{"WithAnApostrophe", "a'b"},
                                          TypedName{"WithAnAmpersand", "a&b"}),
-                         ListsEditorTextUnstorable::NameOfTest);
+                         NameOfTyped());
 
 TEST_F(ListsEditorTextRename, TheReservedTextIsLookedForBeforeWhatTheFileCannotCarry) {
   StartWithThree();

@@ -80,9 +80,7 @@ TEST_F(SelectionTextEnd, RunsAsTheTerminalWantsDialogsToRun) {
   standin::ClearCalls();
   Choose([](User& user) { user.Click(kCancel); });
   ASSERT_EQ(standin::CountCalls("tqDoModal"), 1);
-  for (const standin::Call& call : standin::Calls())
-    if (call.operation == "tqDoModal")
-      EXPECT_EQ(call.arguments, "0,1,0");
+  EXPECT_EQ(LastRun(), "0,1,0");
 }
 
 TEST_F(SelectionTextEnd, WithoutAManagerNothingOpens) {
@@ -256,10 +254,10 @@ TEST_F(SelectionTextEnd, TheParentTakesNoInputWhileItIsOpen) {
       selectionsParentTookInput = selectionsParent.IsWindowEnabled();
       inner.EndDialog(CDialog::Cancelled);
     });
-    int kind = 0;
-    CString text;
+    int number = 0;
+    CString chosen;
     CTQSymbolListMgr::DoSelectUI(selectedManager, selectedManager->GetSymbolTableMgr(),
-                                 outer.GetSafeHwnd(), &kind, text, 0, false);
+                                 outer.GetSafeHwnd(), &number, chosen, 0, false);
     outer.EndDialog(CDialog::Cancelled);
   });
   CString name;

@@ -32,7 +32,7 @@ protected:
   static bool Has(const Lines& rows, const std::string& row) {
     return std::find(rows.begin(), rows.end(), row) != rows.end();
   }
-  static long PlaceOf(const User& user, const std::string& source) {
+  static std::ptrdiff_t PlaceOf(const User& user, const std::string& source) {
     const Lines rows = user.Rows(kSources);
     return std::find(rows.begin(), rows.end(), source) - rows.begin();
   }
