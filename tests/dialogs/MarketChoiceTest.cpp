@@ -52,8 +52,7 @@ TEST_F(MarketChoiceTest, GroupsOfType101AreForEditionsThatHaveThem) {
 
 TEST_F(MarketChoiceTest, AMarketOffersItsGroupsBehindAll) {
   const tq::MarketChoice markets(manager);
-  EXPECT_EQ(Names(markets.GroupNames(1)),
-            (Texts{"全部商品", Word("半導體", "半导体"), "水泥"}));
+  EXPECT_EQ(Names(markets.GroupNames(1)), (Texts{"全部商品", Word("半導體", "半导体"), "水泥"}));
   EXPECT_EQ(Names(markets.GroupNames(3)), Texts{"全部商品"});
 }
 

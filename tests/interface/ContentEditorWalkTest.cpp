@@ -151,8 +151,8 @@ protected:
   }
 
   void Move(User& user, bool up) {
-    const bool can = !selected.empty() && (up ? selected.front() > 0
-                                              : selected.back() < model.Count() - 1);
+    const bool can =
+        !selected.empty() && (up ? selected.front() > 0 : selected.back() < model.Count() - 1);
     EXPECT_EQ(user.Click(up ? 801 : 802), can);
     if (!can)
       return;
@@ -236,12 +236,12 @@ TEST_F(ContentEditorWalk, DoesWhatAPlainModelDoes) {
   const std::string before = Shape();
   WhenDialogOpens([&](User& user) {
     dialog = &user.Dialog();
-    ASSERT_NO_FATAL_FAILURE(Walk(user, actions::RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
     EXPECT_EQ(Shape(), before);
     EXPECT_TRUE(user.Click(1));
   });
-  EXPECT_TRUE(CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), list, 1,
-                                              nullptr, 0));
+  EXPECT_TRUE(
+      CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), list, 1, nullptr, 0));
   EXPECT_EQ(standin::FromAnsi(Shape()), "A/one/" + model.Ids());
 }
 

@@ -8,6 +8,7 @@
 #include "tests/interface/EditTest.h"
 #include "tests/support/GroupMarket.h"
 #include "tests/support/User.h"
+#include "tests/support/WindowCount.h"
 
 class EditorWalk : public EditTest {
 protected:

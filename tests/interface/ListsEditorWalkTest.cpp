@@ -63,8 +63,8 @@ protected:
   }
 
   void Act(User& user) {
-    switch (Draw(8)) {
-    case 0:
+    switch (Draw(20)) { // dialogs that open others take their time
+    default:
       if (model.Count() > 0) {
         model.selected = Draw(model.Count());
         EXPECT_TRUE(user.ClickRow(kLists, model.selected));
@@ -80,7 +80,9 @@ protected:
       return Rename(user);
     case 5:
       return MarkDefault(user);
-    default: {
+    case 6:
+    case 7:
+    case 8: {
       const int step = Draw(2) == 0 ? -1 : 1;
       EXPECT_EQ(user.Click(step < 0 ? 807 : 808), CanMove(step));
       model.Move(step);
@@ -175,8 +177,7 @@ protected:
     ASSERT_EQ(user.Rows(kLists), shown);
     ASSERT_EQ(user.SelectedRows(kLists),
               model.selected < 0 ? std::vector<int>() : std::vector<int>{model.selected});
-    ASSERT_EQ(user.Rows(kContents).size(),
-              model.selected < 0 ? 0u : CountOf(model.Selected().ids));
+    ASSERT_EQ(user.Rows(kContents).size(), model.selected < 0 ? 0u : CountOf(model.Selected().ids));
     ASSERT_EQ(user.IsEnabled(802), model.selected >= 0);
     ASSERT_EQ(user.IsEnabled(803), model.selected >= 0 && !isSystem(model.Selected()));
     ASSERT_EQ(user.IsEnabled(807), CanMove(-1));
@@ -185,8 +186,7 @@ protected:
   }
 
   static std::size_t CountOf(const std::string& ids) {
-    return ids.empty() ? 0
-                       : static_cast<std::size_t>(std::count(ids.begin(), ids.end(), ',')) + 1;
+    return ids.empty() ? 0 : static_cast<std::size_t>(std::count(ids.begin(), ids.end(), ',')) + 1;
   }
   // Names change hands, but no other list has these symbols.
   static bool isSystem(const ModelList& list) { return list.ids.rfind("1101.TW", 0) == 0; }
@@ -203,8 +203,8 @@ protected:
     CString name;
     CString ids;
     for (int i = 0; manager.GetSymbolListInfo(i, id, name, ids, kind) != 0; ++i)
-      text += (text.empty() ? "" : "|") + standin::FromAnsi(name.GetString()) + "/" +
-              ids.GetString();
+      text +=
+          (text.empty() ? "" : "|") + standin::FromAnsi(name.GetString()) + "/" + ids.GetString();
     return text;
   }
 
@@ -218,7 +218,7 @@ TEST_F(ListsEditorWalk, TheEditorOfTheUsersListsDoesWhatAPlainModelDoes) {
   model.lists = {{"one", "2330.TW"}, {"sys", "1101.TW"}, {"three", "2454.TW"}};
   const std::string before = Stored(kUserLists);
   WhenDialogOpens([&](User& user) {
-    ASSERT_NO_FATAL_FAILURE(Walk(user, actions::RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
     EXPECT_EQ(Stored(kUserLists), before); // nothing is stored while it is open
     EXPECT_TRUE(user.Click(806));
   });
@@ -239,7 +239,7 @@ TEST_F(CloudEditorWalk, TheEditorOfTheCloudListsDoesWhatAPlainModelDoes) {
   model.lists = {{"one", "2330.TW"}, {"three", "2454.TW"}};
   const std::string before = Stored(kCloudLists);
   WhenDialogOpens([&](User& user) {
-    ASSERT_NO_FATAL_FAILURE(Walk(user, actions::RandomActions() / 2));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions() / 2));
     EXPECT_EQ(Stored(kCloudLists), before);
     EXPECT_TRUE(user.Click(806));
   });

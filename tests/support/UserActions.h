@@ -30,11 +30,6 @@ bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
 bool IsRowInSight(WindowHandle control, int row);
 bool CloseByTitleBar(WindowHandle dialog);
 
-// How many random actions a test does, and how many dialogs it opens: real windows are slower. All
-// of them in one language, and a part in the other.
-int RandomActions();
-int ManyDialogs();
-
 // Delivers what waits, timers excepted.
 void Settle();
 // Delivers the next message or timer; false when none will come.

@@ -2,7 +2,6 @@
 
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/UserInput.h"
-#include "platform/services/tqCommon.h"
 
 namespace actions {
 
@@ -70,14 +69,6 @@ void Settle() {
 
 bool ServeNext() {
   return tq::ServeMessage(tq::Serve::Timers);
-}
-
-int RandomActions() {
-  return IsTraditionChinese() != 0 ? 100000 : 10000;
-}
-
-int ManyDialogs() {
-  return IsTraditionChinese() != 0 ? 10000 : 500;
 }
 
 } // namespace actions

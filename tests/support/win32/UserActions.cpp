@@ -338,12 +338,4 @@ bool ServeNext() {
          tq::ServeMessage(tq::Serve::Timers);
 }
 
-int RandomActions() {
-  return 2000;
-}
-
-int ManyDialogs() {
-  return 500;
-}
-
 } // namespace actions
