@@ -54,6 +54,7 @@ protected:
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
   bool OnKey(int id, Key key, Held held) override;
   CString OnCellText(int id, int row, int column) override;
+  void OnItemLook(int id, int row, ItemLook& look) override;
 
 private:
   enum Control : int {

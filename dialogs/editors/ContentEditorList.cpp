@@ -5,6 +5,7 @@
 
 #include "dialogs/editors/ContentEditor.h"
 #include "dialogs/editors/EditorMessages.h"
+#include "dialogs/editors/ListBoxes.h"
 #include "idlist/RecordIndex.h"
 #include "platform/CodePage.h"
 #include "platform/FieldText.h"
@@ -44,6 +45,10 @@ CString DuplicatesText(const std::vector<CString>& ids) {
 }
 
 } // namespace
+
+void ContentEditor::OnItemLook(int, int row, ItemLook& look) {
+  CListBoxContents::Look(contents_, row, look);
+}
 
 void ContentEditor::FillList() {
   ShowList({}, contents_.RowCount());

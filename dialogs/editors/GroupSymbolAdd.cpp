@@ -40,6 +40,10 @@ void CGroupSymbolAdd::OnCommand(int id, ControlEvent event) {
     AddToNewList();
 }
 
+void CGroupSymbolAdd::OnItemLook(int, int row, ItemLook& look) {
+  CListBoxContents::Look(shown_, row, look);
+}
+
 int CGroupSymbolAdd::Selected() const {
   return CListBox(*this, kLists).GetCurSel();
 }
@@ -51,11 +55,8 @@ void CGroupSymbolAdd::Select(int row) {
 
 void CGroupSymbolAdd::ShowSelected() {
   const int row = Selected();
-  CListBoxContents contents(*this, kContents);
-  if (row < 0)
-    contents.ResetContent();
-  else
-    contents.Fill(copy_.At(row));
+  shown_ = row < 0 ? ListContents() : ListContents(copy_.At(row));
+  CListBoxContents(*this, kContents).Fill(shown_);
   CWnd(*this, kAdd).EnableWindow(row >= 0 && IsOneToken(ViewOf(symbol_)));
   CWnd(*this, kAddAndEdit).EnableWindow(row >= 0);
 }

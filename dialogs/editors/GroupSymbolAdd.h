@@ -17,6 +17,7 @@ public:
 protected:
   bool OnInitDialog() override;
   void OnCommand(int id, ControlEvent event) override;
+  void OnItemLook(int id, int row, ItemLook& look) override;
 
 private:
   enum Control : int {
@@ -39,4 +40,5 @@ private:
   tq::EditorSources sources_;
   CString symbol_;
   tq::WorkingCopy copy_;
+  tq::ListContents shown_; // of the selected list
 };

@@ -1,6 +1,5 @@
 #include "dialogs/editors/ListBoxes.h"
 
-#include "dialogs/ListContents.h"
 #include "dialogs/editors/ContentEditor.h"
 
 void CListBoxMain::Fill(const tq::WorkingCopy& lists) {
@@ -10,8 +9,7 @@ void CListBoxMain::Fill(const tq::WorkingCopy& lists) {
     AddString(tq::DisplayName(lists.At(i)));
 }
 
-void CListBoxContents::Fill(CSymbolList& list) {
-  const tq::ListContents contents(list);
+void CListBoxContents::Fill(const tq::ListContents& contents) {
   const CRedrawLock lock(*this);
   ResetContent();
   for (int row = 0; row < contents.RowCount(); ++row)

@@ -1,6 +1,7 @@
 // The boxes of the list editors.
 #pragma once
 
+#include "dialogs/ListContents.h"
 #include "dialogs/WorkingCopy.h"
 #include "platform/framework/window/CListBox.h"
 #include "platform/services/tqUI.h"
@@ -15,12 +16,15 @@ public:
   static void Look(bool isDefault, ItemLook& look) { look.bold = look.marked = isDefault; }
 };
 
-// The rows of one list.
+// The rows of one list. Headings are bold.
 class CListBoxContents : public CListBox {
 public:
   using CListBox::CListBox;
 
-  void Fill(CSymbolList& list);
+  void Fill(const tq::ListContents& contents);
+  static void Look(const tq::ListContents& contents, int row, ItemLook& look) {
+    look.bold = row >= 0 && row < contents.RowCount() && contents.IsHeading(row);
+  }
 };
 
 // The editor of names, an edit that is laid over the row of the list that is renamed.

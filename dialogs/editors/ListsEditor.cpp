@@ -99,6 +99,8 @@ bool ListsEditor::OnListKey(Key key, Held held) {
 void ListsEditor::OnItemLook(int id, int row, ItemLook& look) {
   if (id == kLists)
     CListBoxMain::Look(kind_.hasDefault && row == copy_.DefaultIndex(), look);
+  else
+    CListBoxContents::Look(shown_, row, look);
 }
 
 int ListsEditor::Selected() const {
@@ -112,11 +114,8 @@ void ListsEditor::Select(int row) {
 
 void ListsEditor::ShowSelected() {
   const int row = Selected();
-  CListBoxContents contents(*this, kContents);
-  if (row < 0)
-    contents.ResetContent();
-  else
-    contents.Fill(copy_.At(row));
+  shown_ = row < 0 ? ListContents() : ListContents(copy_.At(row));
+  CListBoxContents(*this, kContents).Fill(shown_);
   UpdateButtons();
 }
 

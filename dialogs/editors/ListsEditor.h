@@ -76,6 +76,7 @@ private:
   Kind kind_;
   EditorSources sources_;
   WorkingCopy copy_;
+  ListContents shown_; // of the selected list
   int renamed_ = -1; // the row under the editor of names
 };
 
