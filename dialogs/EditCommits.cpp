@@ -77,7 +77,8 @@ void StoreAndSave(CTQSymbolListMgr& manager, CPtrArray& lists) {
   manager.SaveSymbolList();
 }
 
-bool StoreIfModified(CTQSymbolListMgr& manager, const WorkingCopy& copy) {
+bool StoreIfModified(CTQSymbolListMgr& manager, WorkingCopy& copy) {
+  copy.TakeInChanges(manager);
   int index = -1;
   manager.GetDefaultListIdx(index);
   CPtrArray lists = copy.Pointers();
@@ -90,6 +91,7 @@ bool StoreIfModified(CTQSymbolListMgr& manager, const WorkingCopy& copy) {
 } // namespace
 
 void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) {
+  copy.TakeInChanges(manager);
   CPtrArray lists = copy.Pointers();
   if (!manager.IsModifyList(&lists, copy.DefaultIndex()))
     return;
@@ -102,6 +104,7 @@ void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) 
 }
 
 void CommitCloudLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) {
+  copy.TakeInChanges(manager);
   CPtrArray lists = copy.Pointers();
   if (!manager.IsModifyCountList(&lists))
     return;

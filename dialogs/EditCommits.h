@@ -2,6 +2,9 @@
 // saves it, writes a line in the log, and notifies the terminal. Dialogs change the manager's lists
 // nowhere else.
 //
+// What others did to the lists while the dialog was up is taken in first: a copy would undo it, and
+// a list that the terminal added meanwhile would be lost.
+//
 // A failed save shows its message, and the terminal is notified all the same, because the lists in
 // memory have changed. The log lines name the operation that opened the dialog; their text is Big5,
 // byte for byte, whatever the terminal's language.

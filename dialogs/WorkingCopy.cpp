@@ -1,10 +1,14 @@
 #include "dialogs/WorkingCopy.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/LibraryString.h"
+#include "platform/Text.h"
+#include "symbollist/ListIndex.h"
 
 namespace tq {
 
@@ -12,12 +16,113 @@ CString DisplayName(const CSymbolList& list) {
   return list.GetFlag() != 0 ? list.GetName() + LibraryString(kStringSystemList) : list.GetName();
 }
 
-WorkingCopy::WorkingCopy(CTQSymbolListMgr& manager, int kind) {
+WorkingCopy::WorkingCopy(CTQSymbolListMgr& manager, int kind) : kind_(kind) {
   CPtrArray copies;
   manager.GetSymbolList(copies, kind);
   for (int i = 0; i < copies.GetSize(); ++i)
     lists_.emplace_back(static_cast<CSymbolList*>(copies[i]));
   manager.GetDefaultListIdx(defaultIndex_);
+  Committed();
+}
+
+WorkingCopy::Known WorkingCopy::Of(CSymbolList& list) {
+  return {list.GetID(), list.GetName(), list.GetIDs()};
+}
+
+bool WorkingCopy::IsAs(CSymbolList& list, const Known& known) {
+  return list.GetID() == known.id && list.GetName() == known.name && list.GetIDs() == known.symbols;
+}
+
+void WorkingCopy::Committed() {
+  known_.clear();
+  for (const auto& list : lists_)
+    known_.push_back(Of(*list));
+  knownDefault_ = defaultIndex_;
+  knownDefaultId_ = DefaultId();
+}
+
+bool WorkingCopy::IsUntouched() const {
+  return defaultIndex_ == knownDefault_ &&
+         std::equal(lists_.begin(), lists_.end(), known_.begin(), known_.end(),
+                    [](const auto& list, const Known& known) { return IsAs(*list, known); });
+}
+
+CString WorkingCopy::DefaultId() const {
+  return defaultIndex_ >= 0 && defaultIndex_ < Count() ? At(defaultIndex_).GetID() : CString();
+}
+
+// The lists of each identifier: those that were known, and those of this copy. Lists may share one;
+// such are only counted, for nobody can tell which is which.
+class WorkingCopy::Changes {
+public:
+  explicit Changes(const WorkingCopy& copy) {
+    for (const Known& known : copy.known_) {
+      Entry& entry = entries_[KeyOf(known.id)];
+      entry.known = &known;
+      ++entry.knownCount;
+    }
+    for (int i = 0; i < copy.Count(); ++i) {
+      Entry& entry = entries_[KeyOf(copy.At(i).GetID())];
+      entry.place = i;
+      ++entry.count;
+    }
+  }
+
+  // Whether this list of the manager's, one after the other, is one that nobody knew.
+  bool IsNew(const CSymbolList& list) {
+    Entry& entry = entries_[KeyOf(list.GetID())];
+    return ++entry.seen > std::max(entry.knownCount, entry.count);
+  }
+  // The place of the list in the copy when others changed it and the user did not, else -1.
+  int ChangedPlace(const WorkingCopy& copy, CSymbolList& list) {
+    const Entry& entry = entries_[KeyOf(list.GetID())];
+    const bool isAlone = entry.knownCount == 1 && entry.count == 1;
+    return isAlone && !IsAs(list, *entry.known) && IsAs(copy.At(entry.place), *entry.known)
+               ? entry.place
+               : -1;
+  }
+
+private:
+  struct Entry {
+    const Known* known = nullptr;
+    int place = -1;
+    int knownCount = 0;
+    int count = 0;
+    int seen = 0;
+  };
+  static std::string KeyOf(const CString& id) { return std::string(ViewOf(id)); }
+
+  std::unordered_map<std::string, Entry, NoCaseHash, NoCaseEqual> entries_;
+};
+
+void WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
+  if (kind_ == 0)
+    return;
+  WorkingCopy now(manager, kind_);
+  if (IsUntouched()) {
+    *this = std::move(now);
+    return;
+  }
+  Changes changes(*this);
+  std::vector<std::unique_ptr<CSymbolList>> fresh;
+  for (auto& list : now.lists_) {
+    const int place = changes.ChangedPlace(*this, *list);
+    if (changes.IsNew(*list))
+      fresh.push_back(std::make_unique<CSymbolList>(*list));
+    else if (place >= 0)
+      Replace(place, std::make_unique<CSymbolList>(*list));
+  }
+  TakeInDefault(now);
+  for (auto& list : fresh)
+    lists_.push_back(std::move(list));
+}
+
+void WorkingCopy::TakeInDefault(const WorkingCopy& now) {
+  if (now.defaultIndex_ == knownDefault_ || DefaultId() != knownDefaultId_)
+    return;
+  const int place = Find(now.DefaultId());
+  if (place >= 0)
+    defaultIndex_ = place;
 }
 
 int WorkingCopy::Find(const char* id) const {

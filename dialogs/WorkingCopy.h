@@ -35,6 +35,14 @@ public:
   int Find(const char* id) const;
   void Clear() { lists_.clear(); }
 
+  // Takes in what others did to the manager's lists since this copy was filled or committed, so that
+  // a commit does not undo it: lists that are new there come behind these, and lists and the default
+  // index that the user has not touched become what they are there. What the user changed or deleted
+  // stays so; lists that others deleted stay too.
+  void TakeInChanges(CTQSymbolListMgr& manager);
+  // The manager has these lists now.
+  void Committed();
+
   // The lists as the manager's operations take them. The pointers are valid until the lists change.
   CPtrArray Pointers() const;
 
@@ -64,10 +72,27 @@ public:
   int MoveDown(int index) { return Swap(index, index + 1); }
 
 private:
+  // A list of the manager's as it was last known.
+  struct Known {
+    CString id;
+    CString name;
+    CString symbols;
+  };
+  class Changes;
+
   int Swap(int index, int neighbour);
+  static Known Of(CSymbolList& list);
+  static bool IsAs(CSymbolList& list, const Known& known);
+  bool IsUntouched() const;
+  void TakeInDefault(const WorkingCopy& now);
+  CString DefaultId() const;
 
   Lists lists_;
   int defaultIndex_ = -1;
+  int kind_ = 0; // 0: of no manager
+  std::vector<Known> known_;
+  int knownDefault_ = -1;
+  CString knownDefaultId_;
 };
 
 } // namespace tq

@@ -146,7 +146,7 @@ void CSymbolSetDlg::NewList() {
   const int row = lists->Add(std::move(list));
   if (lists->DefaultIndex() < 0)
     lists->SetDefaultIndex(0);
-  Changed(&lists->At(row), row);
+  Changed(lists->At(row).GetID(), row);
 }
 
 void CSymbolSetDlg::EditList() {
@@ -158,7 +158,7 @@ void CSymbolSetDlg::EditList() {
   if (!EditContents(*edited, ContentEditor::Mode::Edit, row))
     return;
   lists->Replace(row, std::move(edited));
-  Changed(&lists->At(row), row);
+  Changed(lists->At(row).GetID(), row);
 }
 
 void CSymbolSetDlg::DeleteList() {
@@ -170,7 +170,7 @@ void CSymbolSetDlg::DeleteList() {
     CListBox(*this, kItems).SetFocus();
     return;
   }
-  Changed(nullptr, lists->Remove(row, WorkingCopy::DefaultRule::StepsBack));
+  Changed({}, lists->Remove(row, WorkingCopy::DefaultRule::StepsBack));
 }
 
 bool CSymbolSetDlg::EditContents(CSymbolList& list, ContentEditor::Mode mode, int row) {
@@ -180,32 +180,37 @@ bool CSymbolSetDlg::EditContents(CSymbolList& list, ContentEditor::Mode mode, in
          Accepted;
 }
 
-// `list` is the one that was edited or made; null when one was deleted.
-void CSymbolSetDlg::Changed(CSymbolList* list, int row) {
+// `id` is that of the list that was edited or made; empty when one was deleted.
+void CSymbolSetDlg::Changed(const CString& id, int row) {
   if (IsCloud()) {
     cloudChanged_ = true;
-    StoreCloud(list);
+    StoreCloud(id);
   } else {
     userChanged_ = true;
   }
   ShowItems(row);
 }
 
-void CSymbolSetDlg::StoreCloud(CSymbolList* edited) {
+void CSymbolSetDlg::StoreCloud(const CString& id) {
   CTQSymbolListMgr& manager = sources_.Manager();
+  cloud_.TakeInChanges(manager);
   CPtrArray lists = cloud_.Pointers();
   manager.SetCloudSymbolList(&lists, kCloudLists);
-  if (edited != nullptr)
-    manager.UpdateCloudSymbolList(edited->GetID(), edited->GetName(), edited->GetIDs());
+  cloud_.Committed();
+  const int place = id.IsEmpty() ? -1 : cloud_.Find(id);
+  if (place >= 0)
+    manager.UpdateCloudSymbolList(id, cloud_.At(place).GetName(), cloud_.At(place).GetIDs());
 }
 
 void CSymbolSetDlg::StoreChanges() {
   if (userChanged_) {
     CTQSymbolListMgr& manager = sources_.Manager();
+    user_.TakeInChanges(manager);
     CPtrArray lists = user_.Pointers();
     manager.SetSymbolList(&lists);
     manager.SetDefaultIndex(user_.DefaultIndex());
     manager.SaveSymbolList();
+    user_.Committed();
     userChanged_ = false;
     committed_ = true;
   }

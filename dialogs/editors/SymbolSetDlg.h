@@ -59,8 +59,8 @@ private:
   void EditList();
   void DeleteList();
   bool EditContents(CSymbolList& list, tq::ContentEditor::Mode mode, int row);
-  void Changed(CSymbolList* list, int row);
-  void StoreCloud(CSymbolList* edited);
+  void Changed(const CString& id, int row);
+  void StoreCloud(const CString& id);
   void StoreChanges();
 
   tq::EditorSources sources_;

@@ -58,6 +58,9 @@ public:
   // row. Ends with a line end.
   std::string Screen(int rows = 20) const;
 
+  // The dialog itself, for what only a program can ask.
+  const CDialog& Dialog() const { return dialog_; }
+
   bool IsUp() const { return dialog_.IsRunning() && !tq::DialogAccess::HasEnded(dialog_); }
   // Has messages and timers arrive until `condition` holds. False when the dialog ends first, or
   // nothing more can happen (on Windows: nothing does for ten seconds).

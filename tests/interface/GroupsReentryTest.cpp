@@ -7,7 +7,7 @@
 
 namespace {
 
-using Operation = std::pair<std::string, std::function<void()>>;
+using NamedOperation = std::pair<std::string, std::function<void()>>;
 
 class GroupsReentryTest : public GroupsTest {
 protected:
@@ -40,7 +40,7 @@ protected:
   }
 
   // The terminal's operations within a call.
-  std::vector<Operation> Calls() {
+  std::vector<NamedOperation> Calls() {
     return {
         {"loads all", [this] { manager.LoadGroupList(); }},
         {"loads 1", [this] { manager.LoadGroupList(1); }},
@@ -92,7 +92,7 @@ protected:
     work();
     const int count = standin::CountCalls(operation);
     ASSERT_GT(count, 0) << operation;
-    for (const Operation& call : Calls()) {
+    for (const NamedOperation& call : Calls()) {
       for (int n = 1; n <= count; ++n) {
         SCOPED_TRACE("in call " + std::to_string(n) + " of " + operation + " the terminal " +
                      call.first);
@@ -154,7 +154,7 @@ TEST_F(GroupsReentryTest, MembersMayBeAskedForWhileTheirGroupIsRemoved) {
   const auto nothing = [] {};
   CString text;
   SymbolInfo record = {};
-  const std::vector<Operation> questions = {
+  const std::vector<NamedOperation> questions = {
       {"ids", [&] { manager.GetGroupListIDs(Handle(1, "ETF"), text); }},
       {"count", [&] { manager.GetGroupSymbolCount(Handle(1, "CHIP")); }},
       {"record", [&] { manager.GetGroupSymbolInfo(Handle(1, "CHIP"), 0, &record); }},
@@ -162,7 +162,7 @@ TEST_F(GroupsReentryTest, MembersMayBeAskedForWhileTheirGroupIsRemoved) {
       {"record by id", [&] { manager.GetGroupSymbolInfo(1, "CHIP", 0, &record); }},
       {"text", [&] { manager.FindSymoblInGroupList(2, "AI", "2330"); }},
   };
-  for (const Operation& question : questions) {
+  for (const NamedOperation& question : questions) {
     SCOPED_TRACE(question.first);
     ReenterAtEach("VLGetGroupSymbol", question.second, nothing);
   }

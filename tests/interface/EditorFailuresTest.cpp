@@ -1,0 +1,149 @@
+// Editors while the terminal's services fail, call back, or refuse windows.
+#include <algorithm>
+
+#include "tests/interface/EditorSession.h"
+
+namespace {
+
+class AnyEditor : public SessionTest, public testing::WithParamInterface<EditorSession> {
+protected:
+  int Session() { return Run(GetParam()); }
+  // Lists that nobody deletes in a session are there behind it, with what the user cannot see.
+  void ExpectNothingLost() {
+    CString ids;
+    EXPECT_EQ(manager.GetSymbolListIDs(1, "ZUSYSLIST1", ids, nullptr), 1);
+    EXPECT_EQ(manager.GetSymbolListIDs(1, "A", ids, nullptr), 1);
+    EXPECT_GE(ids.Find("gone.TW"), 0) << ids.GetString();
+    EXPECT_LE(standin::OutstandingArrays(), 1); // the manager's list of exchanges
+    EXPECT_EQ(CTQSymbolListMgr::m_bDoModal, 0);
+  }
+};
+
+TEST_P(AnyEditor, DoesItsWork) {
+  standin::AnswerMessages(6);
+  EXPECT_EQ(Session(), 1);
+  ExpectNothingLost();
+  EXPECT_EQ(TakeUnusedScripts(), 0u);
+}
+
+TEST_P(AnyEditor, AnsweredWithNoDoesItsWorkToo) {
+  standin::AnswerMessages(7);
+  EXPECT_EQ(Session(), 1);
+  ExpectNothingLost();
+}
+
+// Each call of a session fails once.
+TEST_P(AnyEditor, LosesNothingWhateverCallFails) {
+  standin::AnswerMessages(6);
+  standin::ClearCalls();
+  Session();
+  const int calls = static_cast<int>(standin::Calls().size());
+  ASSERT_GT(calls, 8);
+  const int step = std::max(1, calls / ManyFailures());
+  for (int n = 1; n <= calls; n += step) {
+    StartAgain();
+    standin::ClearCalls();
+    standin::FailCall("*", n);
+    Session();
+    standin::FailCall("*", 0);
+    ExpectNothingLost();
+    ASSERT_FALSE(HasFailure()) << "call " << n;
+  }
+}
+
+TEST_P(AnyEditor, LosesNothingWhenAServiceAlwaysFails) {
+  standin::AnswerMessages(6);
+  for (const char* operation :
+       {"VLGetSymbolInfo", "VLGetSymbolInfos", "VLFindSymbol", "VLGetGroupSymbol", "VLGetSubGroup",
+        "tqShowDllMessage", "tqShowMessageStr", "CCheckFileName::IsValidName", "TQSCall"}) {
+    StartAgain();
+    standin::FailAlways(operation);
+    Session();
+    standin::FailCall(operation, 0);
+    ExpectNothingLost();
+    ASSERT_FALSE(HasFailure()) << operation;
+  }
+}
+
+// The terminal may do anything of its own while it is asked.
+TEST_P(AnyEditor, LosesNothingWhenTheTerminalStartsTheManagerAnew) {
+  standin::AnswerMessages(6);
+  for (const char* operation : {"VLGetSymbolInfo", "VLGetSymbolInfos", "VLFindSymbol",
+                                "VLGetGroupSymbol", "tqShowDllMessage", "TQSCall"}) {
+    StartAgain();
+    standin::OnCall(operation, [this] { StartWithTables(); });
+    Session();
+    standin::OnCall(operation, nullptr);
+    ExpectNothingLost();
+    ASSERT_FALSE(HasFailure()) << operation;
+  }
+}
+
+TEST_P(AnyEditor, LosesNothingWhenTheTerminalReadsListsAndGroupsAnew) {
+  standin::AnswerMessages(6);
+  for (const char* operation : {"VLGetSymbolInfo", "VLFindSymbol", "VLGetGroupSymbol",
+                                "CCheckFileName::IsValidName", "tqShowMessageStr"}) {
+    StartAgain();
+    standin::OnCall(operation, [this] {
+      manager.LoadSymbolList();
+      manager.LoadGroupList();
+      manager.ReLoadDefaultExch(1);
+    });
+    Session();
+    standin::OnCall(operation, nullptr);
+    ExpectNothingLost();
+    ASSERT_FALSE(HasFailure()) << operation;
+  }
+}
+
+// What the terminal adds while the editor is up is there when it has closed.
+TEST_P(AnyEditor, KeepsAListThatTheTerminalAddsMeanwhile) {
+  standin::AnswerMessages(6);
+  bool added = false;
+  standin::OnCall("VLGetSymbolInfo", [this, &added] {
+    added = added || manager.AddSymbolList("NEW", 0, "pushed", "1436.TW", 1, 0) != 0;
+  });
+  Session();
+  standin::OnCall("VLGetSymbolInfo", nullptr);
+  ASSERT_TRUE(added);
+  EXPECT_EQ(manager.CheckSymbolListExist("NEW", 1), 1);
+  ExpectNothingLost();
+}
+
+TEST_P(AnyEditor, AWindowThatCannotBeMadeChangesNothing) {
+  const std::string before = Shape();
+  standin::FailCall("tqDoModal", 1);
+  EXPECT_LE(Session(), 0);
+  EXPECT_EQ(Shape(), before);
+  ExpectNothingLost();
+}
+
+TEST_P(AnyEditor, WithoutTablesNothingTypedIsFoundAndNothingIsLost) {
+  standin::AnswerMessages(6);
+  standin::FailAlways("VLGetExch");
+  StartWithTables();
+  standin::FailCall("VLGetExch", 0);
+  const std::string before = Shape();
+  Session();
+  if (!before.empty())
+    ExpectNothingLost();
+}
+
+TEST_P(AnyEditor, LeavesNothingBehind) {
+  const auto openAndClose = [this] {
+    WhenDialogOpens([](User& user) { user.CloseByTitleBar(); });
+    CString text = "A";
+    GetParam().open(manager, text);
+    standin::ClearCalls();
+  };
+  for (int i = 0; i < 3; ++i) // allocates what is made once and kept
+    openAndClose();
+  const std::size_t before = WindowResources();
+  for (int i = 0; i < ManyDialogs(); ++i)
+    openAndClose();
+  EXPECT_LE(WindowResources(), before + ResourceSlack());
+}
+
+INSTANTIATE_TEST_SUITE_P(Editors, AnyEditor, testing::ValuesIn(EditorSessions()), NameOfSession);
+
+} // namespace
