@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "bench/Editing.h"
+#include "bench/Editors.h"
 #include "bench/Groups.h"
 #include "bench/Hostile.h"
 #include "bench/ListFiles.h"
@@ -81,6 +82,7 @@ int main(int argc, char** argv) {
     MeasureUniverse(report, std::move(listings), options.quick);
   MeasureGenerated(report, options, directory.string());
   bench::MeasureGroups(report, options.quick);
+  bench::MeasureEditors(report, options.quick);
   bench::MeasureHostile(report, directory.string(), options.quick);
   return report.Finish();
 }

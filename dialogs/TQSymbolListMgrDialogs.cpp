@@ -17,7 +17,7 @@ int CTQSymbolListMgr::m_bDoModal = 0;
 namespace {
 
 // As the terminal runs the dialogs that are bound to a manager.
-int Run(CDialog& dialog) {
+int RunAsTerminal(CDialog& dialog) {
   return tqDoModal(&dialog, 0, 1, 0);
 }
 
@@ -52,7 +52,7 @@ int CTQSymbolListMgr::DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr*
   const int countBefore = manager->GetSymbolListCount(tq::kUserLists);
   const CWnd window(parent);
   CSymbolListDlg dialog({*manager, tables}, &window);
-  const int result = Run(dialog);
+  const int result = RunAsTerminal(dialog);
   tq::CommitLists(*manager, dialog.Copy(), countBefore);
   return result;
 }
@@ -65,7 +65,7 @@ int CTQSymbolListMgr::DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTabl
   const int countBefore = manager->GetSymbolListCount(tq::kCloudLists);
   const CWnd window(parent);
   CloudSymbolListDlg dialog({*manager, tables}, &window);
-  const int result = Run(dialog);
+  const int result = RunAsTerminal(dialog);
   tq::CommitCloudLists(*manager, dialog.Copy(), countBefore);
   return result;
 }
@@ -93,7 +93,7 @@ int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMg
     return CDialog::Failed;
   const tq::ResourceContext context(tq::LibraryResources());
   CGroupSymbolAdd dialog({*manager, tables}, parent, symbol);
-  const int result = Run(dialog);
+  const int result = RunAsTerminal(dialog);
   tq::CommitSymbolAddedToLists(*manager, dialog.Copy());
   return result;
 }
@@ -107,7 +107,7 @@ int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tab
   const CWnd window(parent);
   CSymbolSetDlg dialog({*manager, tables}, &window, {kind == nullptr ? 0 : *kind, text}, holdings);
   m_bDoModal = 1;
-  const int result = Run(dialog);
+  const int result = RunAsTerminal(dialog);
   m_bDoModal = 0;
   if (dialog.HasChanged())
     tq::ReportChangedBySelection();

@@ -174,6 +174,7 @@ bool ContentEditor::Store(const CString& name) {
   }
   task_.list.SetName(name);
   task_.list.Update1(contents_.Ids());
+  stored_ = true;
   return true;
 }
 
@@ -184,14 +185,23 @@ bool ContentEditor::Refuse(int id, unsigned message) {
   return false;
 }
 
+namespace {
+
+int Run(ContentEditor& editor) {
+  const int code = tqDoModal(&editor, 0, 1, 0);
+  return code == CDialog::Accepted && !editor.IsStored() ? CDialog::Cancelled : code;
+}
+
+} // namespace
+
 int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent,
                      ContentEditor::Task task) {
   if (lists == kCloudLists) {
     CCloudGroupListDlg dialog(sources, parent, std::move(task));
-    return tqDoModal(&dialog, 0, 1, 0);
+    return Run(dialog);
   }
   CGroupListDlg dialog(sources, parent, std::move(task));
-  return tqDoModal(&dialog, 0, 1, 0);
+  return Run(dialog);
 }
 
 int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,

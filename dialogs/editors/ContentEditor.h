@@ -34,6 +34,10 @@ public:
     CString symbols{}; // ids joined by ",", to be put behind the others as it opens
   };
 
+  // Whether the user was done, and the list is what was made of it. An end code of 1 alone does not
+  // say so: a terminal may end any dialog with it.
+  bool IsStored() const { return stored_; }
+
 protected:
   // The editors differ in this alone.
   struct Kind {
@@ -114,6 +118,7 @@ private:
   MarketChoice markets_;
   ListContents contents_;
   SymbolRows results_;
+  bool stored_ = false;
   std::vector<CString> duplicates_; // of the symbols to be entered those that the list has
 };
 
@@ -134,7 +139,7 @@ public:
 namespace tq {
 
 // Runs the content editor for lists of a kind as the terminal runs dialogs, and returns its end
-// code. When its window cannot be made, a dialog that opens it tells the user (RunWithin).
+// code: 1 only when the list was stored. When its window cannot be made, a dialog that opens it tells the user (RunWithin).
 int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent,
                      ContentEditor::Task task);
 int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,

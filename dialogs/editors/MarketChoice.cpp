@@ -27,15 +27,16 @@ bool HasEditionMarkets(const CTQSymbolListMgr& manager) {
 
 // Keeps the first of each symbol.
 void DropRepeated(std::vector<SymbolInfo>& symbols) {
-  std::unordered_set<std::string_view> seen;
-  std::vector<SymbolInfo> kept;
-  kept.reserve(symbols.size()); // so that the ids stay where they are
+  std::unordered_set<std::string_view> seen; // of ids in place, which do not move any more
+  seen.reserve(symbols.size());
+  std::size_t kept = 0;
   for (const SymbolInfo& symbol : symbols) {
-    kept.push_back(symbol);
-    if (!seen.insert(IdOf(kept.back())).second)
-      kept.pop_back();
+    if (seen.contains(IdOf(symbol)))
+      continue;
+    symbols[kept] = symbol;
+    seen.insert(IdOf(symbols[kept++]));
   }
-  symbols = std::move(kept);
+  symbols.resize(kept);
 }
 
 } // namespace
@@ -132,14 +133,16 @@ std::vector<SymbolInfo> MarketChoice::MembersOfAllGroups(const GroupInfo& market
     if (manager_.GetGroupInfos(market.nType, market.szID, i, &group) != 0)
       AppendMembers(group, members);
   }
-  DropRepeated(members);
+  if (groups > 1)
+    DropRepeated(members);
   return members;
 }
 
 void MarketChoice::AppendMembers(const GroupInfo& group, std::vector<SymbolInfo>& members) const {
   const int count = manager_.GetGroupSymbolCount(group.nType, group.szID);
+  members.reserve(members.size() + static_cast<std::size_t>(std::max(count, 0)));
   for (int i = 0; i < count; ++i) {
-    SymbolInfo member = {};
+    SymbolInfo member;
     if (manager_.GetGroupSymbolInfo(group.nType, group.szID, i, &member) != 0)
       members.push_back(member);
   }

@@ -144,6 +144,30 @@ TEST_P(AnyEditor, LeavesNothingBehind) {
   EXPECT_LE(WindowResources(), before + ResourceSlack());
 }
 
+class EditorsEnded : public SessionTest {};
+
+// Symptom: a content editor that something else ended with 1 made a list without an identifier.
+TEST_F(EditorsEnded, AContentEditorThatIsEndedFromOutsideStoresNothing) {
+  const std::string before = Shape();
+  WhenDialogOpens([](User& user) {
+    WhenDialogOpens([](User& editor) {
+      EXPECT_TRUE(editor.Fill(742, "new"));
+      CDialog::FromHandle(editor.Dialog().GetSafeHwnd())->EndDialog(CDialog::Accepted);
+    });
+    EXPECT_TRUE(user.Click(801));
+    EXPECT_EQ(user.Rows(781).size(), 3u);
+    EXPECT_TRUE(user.Click(806));
+  });
+  EXPECT_EQ(CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr), 1);
+  EXPECT_EQ(Shape(), before);
+  CSymbolList list;
+  WhenDialogOpens([](User& editor) {
+    CDialog::FromHandle(editor.Dialog().GetSafeHwnd())->EndDialog(CDialog::Accepted);
+  });
+  EXPECT_FALSE(CTQSymbolListMgr::DoGroupListUI(&manager, nullptr, &list, 0, nullptr, 0));
+  EXPECT_STREQ(list.GetID(), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Editors, AnyEditor, testing::ValuesIn(EditorSessions()), NameOfSession);
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "platform/framework/CMapStringToString.h"
 #include "terminal/StandIn.h"
 #include "tests/interface/GroupsTest.h"
+#include "tests/support/User.h"
 
 namespace {
 
@@ -196,6 +197,80 @@ std::string NameOf(const testing::TestParamInfo<Operation>& tested) {
 INSTANTIATE_TEST_SUITE_P(Operation, EffectsOf, testing::ValuesIn(kOperations), NameOf);
 
 // --- Operations on lists, maps and handles -------------------------------------------------------
+
+// Opens an editor, which the user closes after `act`.
+template <typename Open> void RunEditor(Open open, UserScript act) {
+  WhenDialogOpens([act](User& user) {
+    act(user);
+    user.CloseByTitleBar();
+  });
+  open();
+}
+void LookAround(User&) {}
+void RenameTheFirst(User& user) {
+  user.ClickRow(781, 0);
+  user.Press(Key::F2);
+  user.Type("renamed");
+  user.Press(Key::Enter);
+}
+
+TEST_F(Effects, OfEditorsThatAreClosedUntouchedAreNone) {
+  CSymbolTableMgr* const tables = manager.GetSymbolTableMgr();
+  CSymbolList* list = nullptr;
+  manager.GetSymbolList("a", &list, 1);
+  RunEditor([&] { CTQSymbolListMgr::DoSymbolListUI(&manager, tables, nullptr); }, LookAround);
+  RunEditor([&] { manager.DoCloudSymbolListUI(&manager, tables, nullptr); }, LookAround);
+  RunEditor([&] { CTQSymbolListMgr::DoGroupListUI(&manager, tables, list, 1, nullptr, 0); },
+            LookAround);
+  RunEditor([&] { CTQSymbolListMgr::DoGroupSymbolAdd(&manager, tables, nullptr, "1101.TW"); },
+            LookAround);
+  CString text;
+  RunEditor(
+      [&] { CTQSymbolListMgr::DoSelectUI(&manager, tables, nullptr, nullptr, text, 0, false); },
+      LookAround);
+  EXPECT_EQ(Seen(), kNothing);
+}
+
+TEST_F(Effects, OfAListThatIsRenamedInItsEditorAreASaveALineAndANotification) {
+  RunEditor(
+      [&] { CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr); },
+      RenameTheFirst);
+  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoSymbolListUI ", 0), 0u) << Seen();
+  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 40 'ListNameChange'");
+}
+
+TEST_F(Effects, OfACloudListThatIsRenamedInItsEditorAreLinesAndANotification) {
+  RunEditor([&] { manager.DoCloudSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr); },
+            RenameTheFirst);
+  EXPECT_EQ(Seen().rfind(" | 64 CTQSymbolListMgr::UpdateCloudSymbolList ", 0), 0u) << Seen();
+  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 41 'ListNameChange'");
+}
+
+TEST_F(Effects, OfAListWhoseContentsAreEditedAreASave) {
+  CSymbolList* list = nullptr;
+  manager.GetSymbolList("a", &list, 1);
+  RunEditor(
+      [&] {
+        CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), list, 1, nullptr, 0);
+      },
+      [](User& user) {
+        user.Fill(741, "1101");
+        user.Press(Key::Enter);
+        user.Click(1);
+      });
+  EXPECT_EQ(Seen(), "SymbolList.xml |  | ");
+}
+
+TEST_F(Effects, OfASymbolThatIsAddedToAListAreASaveALineAndANotification) {
+  RunEditor(
+      [&] {
+        CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr,
+                                           "1101.TW");
+      },
+      [](User& user) { user.Click(803); });
+  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoGroupSymbolAdd ", 0), 0u) << Seen();
+  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 40 ''");
+}
 
 TEST_F(Effects, OfPuttingListsInAreNone) {
   CSymbolList list = List("n");

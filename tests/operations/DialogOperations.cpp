@@ -1,4 +1,4 @@
-// The dialogs. Something must end them: see EndDialogs in Subject.h.
+// The dialogs. Something must end them: see PrepareServices in Subject.h.
 #include "tests/operations/Operations.h"
 
 namespace operations {
@@ -28,6 +28,39 @@ Table DialogOperations() {
        [](Manager&, const Arguments& a) {
          CString out[3];
          Manager::DoSearchOptionIndi(nullptr, a.text, out[0], out[1], out[2]);
+       }},
+      {"DoSymbolListUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*)",
+       [](Manager& m, const Arguments& a) {
+         Manager::DoSymbolListUI(a.nulls ? nullptr : &m, m.GetSymbolTableMgr(), nullptr);
+       }},
+      {"DoCloudSymbolListUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*)",
+       [](Manager& m, const Arguments& a) {
+         m.DoCloudSymbolListUI(a.nulls ? nullptr : &m, m.GetSymbolTableMgr(), nullptr);
+       }},
+      {"DoGroupListUI(CTQSymbolListMgr*, CSymbolTableMgr*, CSymbolList*, int, CWnd*, int)",
+       [](Manager& m, const Arguments& a) {
+         CSymbolList list;
+         list.SetID(a.id);
+         Manager::DoGroupListUI(&m, m.GetSymbolTableMgr(), a.nulls ? nullptr : &list, a.flag,
+                                nullptr, 0);
+       }},
+      {"DoCloudGroupListUI(CTQSymbolListMgr*, CSymbolTableMgr*, CSymbolList*, int, CWnd*, int)",
+       [](Manager& m, const Arguments& a) {
+         CSymbolList list;
+         list.SetID(a.id);
+         m.DoCloudGroupListUI(&m, m.GetSymbolTableMgr(), a.nulls ? nullptr : &list, a.flag, nullptr,
+                              0);
+       }},
+      {"DoGroupSymbolAdd(CTQSymbolListMgr*, CSymbolTableMgr*, CWnd*, char const*)",
+       [](Manager& m, const Arguments& a) {
+         Manager::DoGroupSymbolAdd(&m, m.GetSymbolTableMgr(), nullptr, a.Text(a.text));
+       }},
+      {"DoSelectUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*, int*, CString&, int, bool)",
+       [](Manager& m, const Arguments& a) {
+         int kind = a.kind;
+         CString text = a.id;
+         Manager::DoSelectUI(&m, m.GetSymbolTableMgr(), nullptr, a.nulls ? nullptr : &kind, text, 0,
+                             a.flag != 0);
        }},
       {"EndDomodal(HWND__*, int)",
        [](Manager&, const Arguments& a) { Manager::EndDomodal(nullptr, a.number); }},

@@ -45,7 +45,7 @@ struct Operation {
 using Table = std::vector<Operation>;
 
 // Those of CTQSymbolListMgr: exported ones, inline ones, and the dialogs, which the modal handler
-// must end (see EndDialogs in Subject.h).
+// must end (see PrepareServices in Subject.h).
 Table ListOperations();
 Table QueryOperations();
 Table ExchangeOperations();

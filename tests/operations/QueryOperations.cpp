@@ -82,6 +82,11 @@ Table Symbols() {
          m.GetAllSymbolInfos(&list, &count);
          Manager::FreeSymbolInfos(list);
        }},
+      {"ShareAllSymbolInfos(int*)",
+       [](Manager& m, const Arguments& a) {
+         int count = 0;
+         m.ShareAllSymbolInfos(a.nulls ? nullptr : &count);
+       }},
       {"FreeSymbolInfos(SymbolInfo*)",
        [](Manager&, const Arguments&) { Manager::FreeSymbolInfos(nullptr); }},
       {"GetSymbolInfo(char const*, ExchInfo*, int, SymbolInfo*)",

@@ -1,4 +1,7 @@
-#include "platform/framework/window/CDialog.h"
+#include "platform/framework/window/CEdit.h"
+#include "platform/framework/window/CListBox.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/DialogAccess.h"
 #include "tests/operations/Subject.h"
 
 namespace operations {
@@ -39,8 +42,25 @@ void AddTradingSystems(standin::Market& market) {
   };
 }
 
-void EndDialog(CDialog& dialog) {
-  dialog.EndDialog(1);
+// Presses what there is, enabled or not, in dialogs that open each other two deep.
+void PressEverything(CDialog& dialog) {
+  CListBox(dialog, 781).SetCurSel(0);
+  CListCtrl(dialog, 782).SelectRow(0);
+  CEdit(dialog, 741).SetText("2330");
+  CEdit(dialog, 742).SetText("Pressed");
+  CEdit(dialog, 743).SetText("Head");
+  for (const int button : {803, 803, 804, 805, 807, 808, 801, 802, 806})
+    tq::DialogAccess::Command(dialog, button, ControlEvent::Clicked);
+}
+
+void ActAndEnd(CDialog& dialog) {
+  static int depth = 0;
+  ++depth;
+  if (depth <= 2)
+    PressEverything(dialog);
+  --depth;
+  tq::DialogAccess::Command(dialog, CDialog::Accepted, ControlEvent::Clicked);
+  dialog.EndDialog(CDialog::Accepted);
 }
 
 } // namespace
@@ -70,7 +90,7 @@ void PrepareServices() {
   standin::Reset();
   standin::RecordCalls(false);
   standin::SetMarket(SmallestMarket());
-  tq::SetModalHandler(EndDialog);
+  tq::SetModalHandler(ActAndEnd);
 }
 
 } // namespace operations

@@ -15,7 +15,7 @@ namespace operations {
 // Three exchanges with a few symbols (6488 has moved from TW to TE), groups of the types 1, 2, 7
 // and 201, two trading systems, and an info row for each dialog.
 standin::Market SmallestMarket();
-// Makes the services serve that market, and ends each dialog as soon as it opens.
+// Makes the services serve that market, and has a user press everything in each dialog and end it.
 void PrepareServices();
 
 // What Populate creates and no operation aims at: the list z of each kind in memory and in the

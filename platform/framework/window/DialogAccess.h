@@ -18,7 +18,7 @@ struct DialogAccess {
   static bool Init(CDialog& dialog) { return dialog.OnInitDialog(); }
   // None of the following is delivered to a dialog that has ended.
   // OnOK and OnCancel for buttons 1 and 2, else OnCommand.
-  static void Command(CDialog& dialog, int id, ControlEvent event);
+  static TQFRAMEWORK_API void Command(CDialog& dialog, int id, ControlEvent event);
   static void Notify(CDialog& dialog, int id, const ListNotice& notice);
   static void Timer(CDialog& dialog, unsigned id);
   static void Posted(CDialog& dialog, unsigned code, intptr_t first, intptr_t second);
