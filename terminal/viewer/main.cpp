@@ -1,5 +1,5 @@
-// Opens one of the library's dialogs on the stand-in services, as a terminal would, does what a user
-// would do there, and leaves it to the real user. Without a window system the dialog closes by
+// Opens one of the library's dialogs on the stand-in services, as a terminal would, does what a
+// user would do there, and leaves it to the real user. Without a window system the dialog closes by
 // itself.
 #include <algorithm>
 #include <cstdio>

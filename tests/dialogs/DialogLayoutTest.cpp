@@ -123,8 +123,8 @@ TEST_P(DialogLayout, HasControlsOfUsableSize) {
   }
 }
 
-// A row is as high as a line of the dialog's font, of which a unit is an eighth, and the border is a
-// unit above and one below.
+// A row is as high as a line of the dialog's font, of which a unit is an eighth, and the border is
+// a unit above and one below.
 TEST_P(DialogLayout, ShowsWholeRowsInListBoxes) {
   constexpr int kRow = 8;
   constexpr int kBorders = 2;

@@ -1,5 +1,5 @@
-// The user's hands on real windows: the messages that the mouse would make are posted to the controls,
-// which do the rest.
+// The user's hands on real windows: the messages that the mouse would make are posted to the
+// controls, which do the rest.
 #include "terminal/user/win32/RealWindows.h"
 
 #include <commctrl.h>

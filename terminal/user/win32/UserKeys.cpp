@@ -1,5 +1,5 @@
-// The user's hands on the keyboard: the messages that keys would make are posted to the control that
-// has the focus.
+// The user's hands on the keyboard: the messages that keys would make are posted to the control
+// that has the focus.
 #include <algorithm>
 #include <cctype>
 #include <string>
