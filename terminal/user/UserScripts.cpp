@@ -18,7 +18,8 @@ Waiting& TheWaiting() {
 }
 
 void Cancel(CDialog& dialog, const std::string& why) {
-  TheWaiting().complain(why);
+  if (const Complaint complain = TheWaiting().complain)
+    complain(why);
   dialog.EndDialog(CDialog::Cancelled);
 }
 
