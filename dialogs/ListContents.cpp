@@ -68,6 +68,10 @@ std::vector<int> ListContents::RowsOf(std::span<const CString> ids) const {
   return found;
 }
 
+bool ListContents::CanHold(std::string_view id) {
+  return IsOneToken(id) && !tq::IsHeading(id) && IsLoadable(id);
+}
+
 bool ListContents::Holds(std::string_view id) const {
   return ids_.contains(Trimmed(id));
 }
@@ -76,7 +80,7 @@ int ListContents::Insert(int row, std::span<const SymbolInfo> symbols) {
   std::vector<Entry> fresh;
   for (const SymbolInfo& symbol : symbols) {
     const std::string_view id = IdOf(symbol);
-    if (!IsOneToken(id) || tq::IsHeading(id) || Holds(id))
+    if (!CanHold(id) || Holds(id))
       continue;
     ids_.emplace(id);
     fresh.push_back({std::string(id), std::string(FieldText(symbol.name)), Entry::Kind::Symbol});

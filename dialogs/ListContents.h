@@ -38,10 +38,12 @@ public:
   // The rows of the symbols with these ids, letter case ignored, ascending. In one pass, however
   // many they are.
   std::vector<int> RowsOf(std::span<const CString> ids) const;
+  // Whether a list can have this id: one token that is no heading and that the list file carries.
+  static bool CanHold(std::string_view id);
   // Whether the symbol is in the list, with a row or without.
   bool Holds(std::string_view id) const;
 
-  // Puts those of the symbols that the list does not hold in front of a row, in their order;
+  // Puts those of the symbols that the list can have and does not hold in front of a row, in their order;
   // RowCount() is the end. Returns how many.
   int Insert(int row, std::span<const SymbolInfo> symbols);
   // Puts a heading, made by HeadingEntry, in front of a row.

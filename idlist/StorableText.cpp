@@ -43,8 +43,9 @@ bool IsStorable(const CString& text) {
   return FirstBadByte(ViewOf(text)) == ViewOf(text).size();
 }
 
-bool IsLoadable(const CString& text) {
-  return text.FindOneOf("'&<") < 0 && IsStorable(text);
+// None of the three is ever the second byte of a character.
+bool IsLoadable(std::string_view text) {
+  return text.find_first_of("'&<") == text.npos && FirstBadByte(text) == text.size();
 }
 
 void AppendStorable(std::string_view text, std::string& document) {

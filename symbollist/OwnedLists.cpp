@@ -45,7 +45,7 @@ int OwnedLists::ProblemsOfNewId(const CString& id) const {
     problems |= kTaken;
   if (id.GetLength() > kListIdLimit)
     problems |= kTooLong;
-  if (!IsLoadable(id))
+  if (!IsLoadable(ViewOf(id)))
     problems |= kNotForAFile;
   return problems;
 }

@@ -57,7 +57,10 @@ void ContentEditor::AddPicked() {
   results.SetCurSel(-1);
   const int row = CListBox(*this, kRows).GetCaretIndex();
   const int place = row < 0 ? contents_.RowCount() : row;
-  if (picked.size() == 1 && contents_.Holds(IdOf(picked.front())))
+  const auto refused = [this](const SymbolInfo& symbol) {
+    return contents_.Holds(IdOf(symbol)) || !ListContents::CanHold(IdOf(symbol));
+  };
+  if (picked.size() == 1 && refused(picked.front()))
     AddOne(picked.front());
   else
     ShowInserted(place, contents_.Insert(place, picked));
@@ -89,6 +92,10 @@ void ContentEditor::AddTyped() {
 
 void ContentEditor::AddOne(const SymbolInfo& symbol) {
   CEdit field(*this, kCode);
+  if (!ListContents::CanHold(IdOf(symbol))) {
+    Refuse(kCode, kMessageUnloadableId);
+    return;
+  }
   if (contents_.Holds(IdOf(symbol))) {
     const CString id = ToCString(IdOf(symbol));
     Refuse(kCode, kMessageInList);

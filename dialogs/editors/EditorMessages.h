@@ -21,8 +21,9 @@ inline constexpr unsigned kMessageDuplicates = 48025; // a format
 inline constexpr unsigned kMessageAddedTwice = 48029; // a format
 inline constexpr unsigned kMessageReserved = 48042;   // a format
 inline constexpr unsigned kMessageBadHeading = 48101;
-// Only this library shows it.
+// Only this library shows them.
 inline constexpr unsigned kMessageUnloadable = 48203;
+inline constexpr unsigned kMessageUnloadableId = 48204;
 
 // The buttons of a message box and the one that was pressed, as the operating system numbers them.
 enum class Buttons : unsigned { Ok = 0, YesNoCancel = 3, YesNo = 4 };

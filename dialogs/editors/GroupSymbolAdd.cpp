@@ -65,6 +65,10 @@ void CGroupSymbolAdd::AddToList() {
   const int row = Selected();
   if (row < 0 || !IsOneToken(ViewOf(symbol_)))
     return;
+  if (!ListContents::CanHold(ViewOf(symbol_))) {
+    ShowMessage(kMessageUnloadableId);
+    return;
+  }
   CSymbolList& list = copy_.At(row);
   if (list.Holds(symbol_)) {
     TellAddedTwice();

@@ -30,7 +30,7 @@ bool NameCheck::IsUnreserved() const {
 }
 
 bool NameCheck::CanBeLoaded() const {
-  return IsLoadable(name_) || Refuse(kMessageUnloadable);
+  return IsLoadable(ViewOf(name_)) || Refuse(kMessageUnloadable);
 }
 
 bool NameCheck::Refuse(unsigned message) const {

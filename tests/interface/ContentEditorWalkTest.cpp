@@ -6,11 +6,6 @@
 
 namespace {
 
-constexpr int kRows = 781;
-constexpr int kResults = 782;
-constexpr int kCode = 741;
-constexpr int kSubTitle = 743;
-
 // Entries as the list's string has them; a "?" in front of those that have no row.
 class ContentsModel {
 public:
@@ -58,6 +53,11 @@ public:
 
 class ContentEditorWalk : public EditorWalk {
 protected:
+  static constexpr int kRows = 781;
+  static constexpr int kResults = 782;
+  static constexpr int kCode = 741;
+  static constexpr int kSubTitle = 743;
+
   void Walk(User& user, int actions) {
     for (int i = 0; i < actions && user.IsUp(); ++i) {
       Act(user);
@@ -95,10 +95,11 @@ protected:
 
   // Lists that grow are cut now and then.
   void Shorten(User& user) {
-    if (model.Count() > 9)
+    if (model.Count() > 9) {
       EXPECT_TRUE(user.ClickRow(kRows, 0) && user.ClickRow(kRows, 5, Modifier::Shift));
-    else if (model.Count() > 0)
+    } else if (model.Count() > 0) {
       EXPECT_TRUE(user.ClickRow(kRows, Draw(model.Count())));
+    }
     Remove(user);
   }
   void Remove(User& user) {
@@ -177,8 +178,9 @@ protected:
 
   void ShowGroup(User& user) {
     EXPECT_TRUE(user.Select(761, Draw(4)));
-    if (user.Rows(762).size() > 1)
+    if (user.Rows(762).size() > 1) {
       EXPECT_TRUE(user.Select(762, Draw(static_cast<int>(user.Rows(762).size()))));
+    }
   }
 
   // A row of the results by a double-click, or several by the button.

@@ -63,7 +63,7 @@ protected:
   }
 
   void Act(User& user) {
-    switch (Draw(20)) { // dialogs that open others take their time
+    switch (Draw(40)) { // dialogs that open others take their time
     default:
       if (model.Count() > 0) {
         model.selected = Draw(model.Count());
@@ -103,11 +103,13 @@ protected:
       EXPECT_TRUE(editor.Fill(742, name));
       EXPECT_TRUE(editor.Fill(741, "2330"));
       EXPECT_TRUE(editor.Press(Key::Enter));
-      if (keep)
+      if (keep) {
         EXPECT_TRUE(editor.Click(1));
+      }
       EXPECT_EQ(editor.IsUp(), !keep || taken);
-      if (editor.IsUp())
+      if (editor.IsUp()) {
         EXPECT_TRUE(editor.Click(2));
+      }
     });
     EXPECT_TRUE(user.Click(801));
     if (!keep || taken)
@@ -158,8 +160,9 @@ protected:
     const bool done = Draw(3) > 0;
     EXPECT_TRUE(user.Press(done ? Key::Enter : Key::Escape));
     EXPECT_EQ(user.IsVisible(741), done && taken);
-    if (user.IsVisible(741))
+    if (user.IsVisible(741)) {
       EXPECT_TRUE(user.Press(Key::Escape));
+    }
     if (done && !taken)
       model.Selected().name = name;
   }

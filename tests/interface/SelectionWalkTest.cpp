@@ -55,8 +55,9 @@ protected:
   void Walk(User& user, int actions) {
     for (int i = 0; i < actions && user.IsUp(); ++i) {
       Act(user);
-      if (Lists() != nullptr)
+      if (Lists() != nullptr) {
         ASSERT_EQ(user.Rows(781), NamesOf(*Lists())) << "action " << i;
+      }
       ASSERT_EQ(user.IsEnabled(801), Lists() != nullptr);
       ASSERT_EQ(user.IsEnabled(803), Lists() != nullptr && !user.SelectedRows(781).empty());
       ASSERT_EQ(Stored(kCloudLists), Joined(cloud)); // at once
@@ -65,7 +66,7 @@ protected:
     }
   }
   void Act(User& user) {
-    switch (Draw(12)) {
+    switch (Draw(24)) {
     case 0:
       source = Draw(static_cast<int>(user.Rows(761).size()));
       EXPECT_TRUE(user.Select(761, source));
@@ -79,8 +80,9 @@ protected:
       return Edit(user);
     default: {
       const int rows = static_cast<int>(user.Rows(781).size());
-      if (rows > 0)
+      if (rows > 0) {
         EXPECT_TRUE(user.ClickRow(781, Draw(rows)));
+      }
     }
     }
   }
@@ -99,8 +101,9 @@ protected:
       EXPECT_TRUE(editor.Fill(742, name));
       EXPECT_TRUE(editor.Click(1));
       EXPECT_EQ(editor.IsUp(), taken);
-      if (editor.IsUp())
+      if (editor.IsUp()) {
         EXPECT_TRUE(editor.Click(2));
+      }
     });
     EXPECT_TRUE(user.Click(801));
     if (taken)
@@ -190,7 +193,7 @@ protected:
     }
   }
   void Act(User& user) {
-    switch (Draw(15)) { // dialogs that open others take their time
+    switch (Draw(40)) { // dialogs that open others take their time
     case 0: {
       const bool has = HasSymbol(lists[selected], symbol);
       const std::size_t shown = standin::Messages().size();
@@ -239,8 +242,9 @@ protected:
       EXPECT_TRUE(editor.Fill(742, name));
       EXPECT_TRUE(editor.Click(1));
       EXPECT_EQ(editor.IsUp(), taken);
-      if (editor.IsUp())
+      if (editor.IsUp()) {
         EXPECT_TRUE(editor.Click(2));
+      }
     });
     EXPECT_TRUE(user.Click(801));
     if (taken)

@@ -11,9 +11,7 @@ size_t ResourceSlack();
 
 // Rounds of opening and closing.
 int ManyRuns();
-// The same of a test that runs in both languages, and random actions of a user: all of them in one
-// language, and a part in the other.
-int ManyDialogs();
+// Random actions of a user: all of them in one language, and a part in the other.
 int RandomActions();
 // Of the calls of a session how many are made to fail.
 int ManyFailures();

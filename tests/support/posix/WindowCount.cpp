@@ -15,10 +15,6 @@ int ManyRuns() {
   return 10000;
 }
 
-int ManyDialogs() {
-  return InEitherLanguage(10000, 500);
-}
-
 int RandomActions() {
   return InEitherLanguage(100000, 10000);
 }

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/services/tqCommon.h"
+
 namespace {
 
 // Handles have numbers that are reused after an object is freed. After creating more objects than
@@ -47,16 +49,12 @@ int ManyRuns() {
   return 500;
 }
 
-int ManyDialogs() {
-  return 500;
-}
-
 int RandomActions() {
-  return 2000;
+  return IsTraditionChinese() != 0 ? 2000 : 200;
 }
 
 int ManyFailures() {
-  return 30;
+  return 10;
 }
 
 size_t ResourceSlack() {
