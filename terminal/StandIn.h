@@ -153,7 +153,8 @@ TQSTANDIN_API void AnswerExtended(std::string_view id, int kind, std::vector<Ext
 TQSTANDIN_API void SetIndicators(int type, std::vector<std::vector<std::string>> rows);
 
 // Back to an empty market and the initial language, without scripted failures, recorded calls, log
-// lines, messages and bad releases; recording is on. Arrays that are not released yet stay counted.
+// lines, messages and bad releases; recording is on, and messages are not shown. Arrays that are
+// not released yet stay counted.
 TQSTANDIN_API void Reset();
 
 // The interface language that IsTraditionChinese returns. Initially, on Windows, Traditional if the
@@ -220,6 +221,10 @@ TQSTANDIN_API void AnswerMessages(int button);
 TQSTANDIN_API void AnswerMessagesInTurn(std::vector<int> buttons);
 // How many of them are not used yet.
 TQSTANDIN_API size_t WaitingAnswers();
+// Whether message boxes are shown on the screen too, over the active window, and return the button
+// that is pressed there. Off at the start and after Reset, so that no test waits for somebody. On
+// Windows only, and only those that have a text; others return the answers above.
+TQSTANDIN_API void ShowMessages(bool on);
 
 struct Notification {
   std::string target;

@@ -1,5 +1,5 @@
-// What a user can do to windows in memory, with all consequences. For tests that act as the user;
-// the library does not call it.
+// What a user can do to windows in memory, with all consequences. For programs that act as the
+// user; the library does not call it.
 //
 // An operation that the user could not do returns false and does nothing: the dialog is not up or
 // lies behind another, the control is disabled, hidden or of another kind, the row does not exist,

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <deque>
 
+#include "terminal/control/MessageBox.h"
 #include "terminal/control/Parts.h"
 
 namespace standin {
@@ -17,6 +18,7 @@ struct Reports {
   std::vector<Notification> notifications;
   int answer = kButtonOk;
   std::deque<int> inTurn; // used before that one
+  bool shown = false;     // messages are shown to somebody, who answers them
 };
 
 Reports& TheReports() {
@@ -75,14 +77,23 @@ void ReportLogger(int change) {
   loggersAlive += change;
 }
 
-int ReportMessage(Message message) {
+namespace {
+
+int NextAnswer() {
   Reports& reports = TheReports();
-  reports.messages.push_back(std::move(message));
   if (reports.inTurn.empty())
     return reports.answer;
   const int answer = reports.inTurn.front();
   reports.inTurn.pop_front();
   return answer;
+}
+
+} // namespace
+
+int ReportMessage(const Message& message) {
+  TheReports().messages.push_back(message);
+  const int pressed = TheReports().shown ? ShowBox(message) : 0;
+  return pressed != 0 ? pressed : NextAnswer();
 }
 
 void ReportNotification(Notification notification) {
@@ -112,6 +123,10 @@ void AnswerMessages(int button) {
 
 void AnswerMessagesInTurn(std::vector<int> buttons) {
   TheReports().inTurn.assign(buttons.begin(), buttons.end());
+}
+
+void ShowMessages(bool on) {
+  TheReports().shown = on;
 }
 
 size_t WaitingAnswers() {

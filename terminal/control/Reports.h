@@ -18,7 +18,7 @@ TQSTANDIN_API void ReportStorage(std::string_view directory, std::string_view ba
 TQSTANDIN_API void ReportLogger(int change);
 
 // Returns the button that answers the message box.
-TQSTANDIN_API int ReportMessage(Message message);
+TQSTANDIN_API int ReportMessage(const Message& message);
 TQSTANDIN_API void ReportNotification(Notification notification);
 
 } // namespace standin

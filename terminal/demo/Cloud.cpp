@@ -11,7 +11,6 @@ namespace demo {
 namespace {
 
 constexpr int kCloudType = 201;
-constexpr int kCloudLists = 8;
 
 // The group for the list: the first sub-group among the market's cloud groups, or else the first
 // cloud group.

@@ -5,8 +5,9 @@
 
 namespace demo {
 
-// The kind of list that the demo edits.
+// The kinds of list that the demo edits.
 inline constexpr int kUserLists = 1;
+inline constexpr int kCloudLists = 8;
 
 // Prints the lists of a kind from a position on: identifier, name, number of symbols, and as many
 // ids as fit into the line. Returns their number.

@@ -7,6 +7,7 @@
 #include "terminal/StandIn.h"
 #include "terminal/demo/Combinations.h"
 #include "terminal/demo/Editing.h"
+#include "terminal/demo/Editors.h"
 #include "terminal/demo/Files.h"
 #include "terminal/demo/Options.h"
 #include "terminal/demo/Report.h"
@@ -72,7 +73,8 @@ int main(int argc, char** argv) {
     return result;
   if (!demo::WriteFile(options.edit + "/SymbolList.xml", before))
     return Fail(options.edit + ": cannot be written to");
-  if (!demo::ShowEditing(options.edit, error) || !demo::ShowServices(options.edit, error))
+  if (!demo::ShowEditing(options.edit, error) || !demo::ShowServices(options.edit, error) ||
+      !demo::ShowEditors(options.edit, error))
     return Fail(error);
   demo::PrintCombinations();
   return 0;

@@ -1,20 +1,20 @@
-// Opens one of the library's dialogs on the stand-in services, as a terminal would, and prints the
-// choice. Without a window system the dialog closes by itself.
+// Opens one of the library's dialogs on the stand-in services, as a terminal would, does what a
+// user would do there, and leaves it to the real user. Without a window system the dialog closes by
+// itself.
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <string_view>
 
 #include "terminal/StandIn.h"
-#include "tqSymbol.h"
+#include "terminal/viewer/Views.h"
 
 namespace {
 
-constexpr char kUsage[] =
-    "usage: tqViewer --market DIR [--lang tw|cn] economic|commodities|futures";
-
 struct Options {
   std::string market;
-  std::string dialog;
+  std::string data;
+  std::string view;
   bool traditional = true;
 };
 
@@ -23,51 +23,59 @@ bool ParseOptions(int argc, char** argv, Options& options) {
     const std::string_view name = argv[i];
     if (name == "--market" && i + 1 < argc)
       options.market = argv[++i];
+    else if (name == "--data" && i + 1 < argc)
+      options.data = argv[++i];
     else if (name == "--lang" && i + 1 < argc)
       options.traditional = std::string_view(argv[++i]) != "cn";
     else
-      options.dialog = name;
+      options.view = name;
   }
-  return !options.market.empty() && !options.dialog.empty();
+  return !options.market.empty() && !options.data.empty() && !options.view.empty();
 }
 
-// The dialog's end code; -2 for an unknown dialog.
-int Open(const std::string& dialog, CString& first, CString& second, CString& third) {
-  if (dialog == "economic")
-    return CTQSymbolListMgr::DoSearchFinIndi(nullptr, "", first, second);
-  if (dialog == "commodities")
-    return CTQSymbolListMgr::DoSearchCommIndi(nullptr, "", first, second, "", "", InfoCommodities);
-  if (dialog == "futures")
-    return CTQSymbolListMgr::DoSearchOptionIndi(nullptr, "", first, second, third);
-  return -2;
+int Fail(const std::string& reason) {
+  std::fprintf(stderr, "tqViewer: %s\n", reason.c_str());
+  return 1;
+}
+
+void Complain(const std::string& why) {
+  Fail(why);
+}
+
+std::string Usage() {
+  std::string text = "usage: tqViewer --market DIR --data DIR [--lang tw|cn] VIEW, which is one of";
+  for (const viewer::View& view : viewer::Views())
+    text += " " + view.name;
+  return text;
+}
+
+int Open(const viewer::View& view, const std::string& data) {
+  CTQSymbolListMgr manager;
+  if (manager.Init(data.c_str(), 0, 1, 0, nullptr, 0, 0) == 0)
+    return Fail("the symbol tables could not be built");
+  for (const standin::UserScript& script : view.scripts)
+    standin::WhenDialogOpens(script, Complain);
+  standin::ShowMessages(true);
+  const int code = view.open(manager);
+  return standin::TakeUnusedScripts() == 0 && code >= 0 ? 0
+                                                        : Fail(view.name + " could not be opened");
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
   Options options;
-  if (!ParseOptions(argc, argv, options)) {
-    std::fprintf(stderr, "%s\n", kUsage);
-    return 2;
-  }
+  const bool parsed = ParseOptions(argc, argv, options);
+  const auto view =
+      std::find_if(viewer::Views().begin(), viewer::Views().end(),
+                   [&options](const viewer::View& each) { return each.name == options.view; });
+  if (!parsed || view == viewer::Views().end())
+    return Fail(Usage());
   standin::SetTraditional(options.traditional);
   standin::Market market;
   std::string error;
-  if (!standin::LoadMarket(options.market, market, error)) {
-    std::fprintf(stderr, "tqViewer: %s/%s\n", options.market.c_str(), error.c_str());
-    return 1;
-  }
+  if (!standin::LoadMarket(options.market, market, error))
+    return Fail(options.market + "/" + error);
   standin::SetMarket(std::move(market));
-  CString first;
-  CString second;
-  CString third;
-  const int result = Open(options.dialog, first, second, third);
-  if (result < 0) {
-    std::fprintf(stderr, "tqViewer: %s could not be opened\n", options.dialog.c_str());
-    return 1;
-  }
-  std::printf("%d: %s %s %s\n", result, standin::FromAnsi(first.GetString()).c_str(),
-              standin::FromAnsi(second.GetString()).c_str(),
-              standin::FromAnsi(third.GetString()).c_str());
-  return 0;
+  return Open(*view, options.data);
 }

@@ -123,6 +123,16 @@ TEST_P(DialogLayout, HasControlsOfUsableSize) {
   }
 }
 
+// A row is as high as a line of the dialog's font, of which a unit is an eighth, and the border is
+// a unit above and one below.
+TEST_P(DialogLayout, ShowsWholeRowsInListBoxes) {
+  constexpr int kRow = 8;
+  constexpr int kBorders = 2;
+  for (const TemplateRow& row : GetParam().controls)
+    EXPECT_TRUE(row.kind != ControlKind::ListBox || (row.height - kBorders) % kRow == 0)
+        << Describe(row);
+}
+
 TEST_P(DialogLayout, HasEachAccessKeyOnceAndTheSameInBothLanguages) {
   std::set<char> keys;
   for (const TemplateRow& row : GetParam().controls) {

@@ -51,7 +51,7 @@ inline const Rows kContents = {
     {Edit, 741},
     {Button, 806, "", "", tq::TemplateIcon},
     {Button, 805, "查詢", "查询"},
-    {ListView, 782},
+    {ListView, 782, "", "", tq::TemplateVirtual},
     {Label, 0, "名稱(&N)", "名称(&N)"},
     {Edit, 742},
     {Button, 1, "完成(&K)", "完成(&K)", tq::TemplateDefault},

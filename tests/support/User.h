@@ -7,87 +7,21 @@
 //     user.DoubleClick(781, 0);
 //   });
 //
-// Text is UTF-8 here. What a user could not do (the control is disabled, hidden or not there,
-// another control lies in front of where the mouse would be, the dialog is closed or lies behind
-// another one) returns false and does nothing. The mouse is in the middle of the control or row,
-// and scrolls there first. An action returns when all that follows from it has happened, timers
-// excepted: see WaitFor.
+// What the user can do and see stands in terminal/user/User.h, which script gets which dialog in
+// UserScripts.h beside it.
 #pragma once
 
-#include <functional>
-#include <string>
-#include <vector>
+#include "terminal/user/UserScripts.h"
 
-#include "platform/framework/window/DialogAccess.h"
-#include "tests/support/UserActions.h"
+namespace actions = standin::actions;
+using standin::Modifier;
+using standin::TakeUnusedScripts;
+using standin::User;
+using standin::UserScript;
+using standin::Utf8;
 
-// The text as scripts have it.
-std::string Utf8(const CString& text);
-
-class User;
-using UserScript = std::function<void(User&)>;
-
-// The script of the next dialog that opens and has none yet: those of dialogs that open each other
-// are given in the order of opening. A script that ends while its dialog is up fails the test, and
-// the dialog is cancelled; so does a dialog without a script.
+// The script of the next dialog that opens and has none yet. A script that ends while its dialog is
+// up fails the test, and so does a dialog without a script.
 void WhenDialogOpens(UserScript script);
-// Scripts that no dialog has opened for; they are forgotten.
-size_t TakeUnusedScripts();
 // WhenDialogOpens and DoModal. Fails the test when a script was left over.
 int RunDialog(CDialog& dialog, UserScript script);
-
-class User {
-public:
-  explicit User(CDialog& dialog) : dialog_(dialog) {}
-
-  bool Click(int id); // a button, or an edit to go there
-  // Row -1 is beside the rows, which is nowhere while they fill the list.
-  bool ClickRow(int id, int row, Modifier modifier = Modifier::None);
-  bool DoubleClick(int id, int row, Modifier modifier = Modifier::None);
-  // The mouse comes and rests for the table's hover time, in which timers are heard.
-  bool Hover(int id, int row);
-  // The entry of a combo box, or the row of a list, by number or as the first with that text.
-  bool Select(int id, int index);
-  bool Select(int id, const std::string& text);
-  // Into the edit that has the focus, in the place of what is selected; "\b" takes back.
-  bool Type(const std::string& text);
-  // In the place of the text of that edit.
-  bool Fill(int id, const std::string& text);
-  bool Press(Key key, Modifier modifier = Modifier::None);
-  // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With
-  // Control only A. Without Alt and Control not where a list has the focus.
-  bool PressLetter(char letter, Modifier modifier = Modifier::Alt);
-  bool CloseByTitleBar();
-
-  // What can be seen. Rows of a list view have their columns joined by " | ".
-  std::vector<std::string> Rows(int id) const;
-  std::vector<int> SelectedRows(int id) const;
-  bool IsInSight(int id, int row) const; // without scrolling
-  std::string Text(int id) const;        // of a combo box the chosen entry
-  std::string Title() const;
-  std::string ToolTip(int id) const;
-  bool IsEnabled(int id) const;
-  bool IsVisible(int id) const;
-  bool HasFocus(int id) const;
-  // The whole dialog as text, a line for each control and row. Ends with a line end.
-  std::string Screen() const;
-
-  // The dialog itself, for what only a program can ask.
-  const CDialog& Dialog() const { return dialog_; }
-
-  bool IsUp() const { return dialog_.IsRunning() && !tq::DialogAccess::HasEnded(dialog_); }
-  // Has messages and timers arrive until `condition` holds. False when the dialog ends first, or
-  // nothing more can happen (on Windows: nothing does for ten seconds).
-  bool WaitFor(const std::function<bool()>& condition);
-  // The script may end with the dialog up: something else will end it.
-  void LeaveUp() { leaveUp_ = true; }
-  bool MayStayUp() const { return leaveUp_; }
-
-private:
-  CWnd Control(int id) const { return CWnd(dialog_, id); }
-  tq::ControlKind KindOf(int id) const;
-  std::string ScreenRows(int id) const;
-
-  CDialog& dialog_;
-  bool leaveUp_ = false;
-};

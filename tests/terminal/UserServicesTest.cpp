@@ -85,6 +85,16 @@ TEST_F(UserServices, MessagesAreAnsweredInTurn) {
   EXPECT_EQ(tqShowDllMessage(nullptr, 48012, 3), 1);
 }
 
+// On Windows a box on the screen would wait for somebody to press a button.
+TEST_F(UserServices, MessagesAreNotShownOnTheScreenUnlessAskedFor) {
+  standin::AnswerMessages(7);
+  EXPECT_EQ(tqShowMessageStr("text", 4), 7);
+  standin::ShowMessages(true);
+  standin::Reset();
+  standin::AnswerMessages(7);
+  EXPECT_EQ(tqShowMessageStr("text", 4), 7);
+}
+
 TEST_F(UserServices, AMessageThatCannotBeShownIsNotKept) {
   standin::FailCall("tqShowDllMessage", 1);
   EXPECT_EQ(tqShowDllMessage(nullptr, 48026, 0), 0);

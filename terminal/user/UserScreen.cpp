@@ -6,11 +6,11 @@
 #include "platform/framework/window/CListBox.h"
 #include "platform/framework/window/CListCtrl.h"
 #include "terminal/StandIn.h"
-#include "tests/support/User.h"
+#include "terminal/user/User.h"
+
+namespace standin {
 
 namespace {
-
-constexpr int kRowsShown = 20;
 
 const char* NameOf(tq::ControlKind kind) {
   switch (kind) {
@@ -73,13 +73,13 @@ std::string HeadOf(const actions::ControlView& control) {
 
 } // namespace
 
-std::string User::ScreenRows(int id) const {
+std::string User::ScreenRows(int id, int most) const {
   const std::vector<std::string> rows = Rows(id);
   const std::vector<int> selected = SelectedRows(id);
   const int count = static_cast<int>(rows.size());
   std::string text;
   int row = 0;
-  for (; row < count && row < kRowsShown; ++row) {
+  for (; row < count && row < most; ++row) {
     const bool isSelected = std::find(selected.begin(), selected.end(), row) != selected.end();
     text += isSelected ? "  > " : "    ";
     text += LookOf(dialog_, id, row) + rows[static_cast<size_t>(row)] + "\n";
@@ -87,12 +87,14 @@ std::string User::ScreenRows(int id) const {
   return count == row ? text : text + "    and " + std::to_string(count - row) + " more\n";
 }
 
-std::string User::Screen() const {
+std::string User::Screen(int rows) const {
   std::string screen = "=== " + Title() + "\n";
   for (const actions::ControlView& control : actions::ControlsOf(dialog_.GetSafeHwnd())) {
     screen += HeadOf(control);
     if (control.kind == tq::ControlKind::ListView || control.kind == tq::ControlKind::ListBox)
-      screen += ScreenRows(CWnd(control.handle).GetDlgCtrlID());
+      screen += ScreenRows(CWnd(control.handle).GetDlgCtrlID(), rows);
   }
   return screen;
 }
+
+} // namespace standin

@@ -1,4 +1,5 @@
-// What the user's hands do, on one kind of windows: each system has its body. User.h is for tests.
+// What the user's hands do, on one kind of windows: each system has its body. Users are
+// in User.h.
 //
 // Each returns false when the user could not do it. Messages that follow are delivered by Settle.
 #pragma once
@@ -7,6 +8,8 @@
 
 #include "platform/framework/window/CDialog.h"
 #include "platform/framework/window/DialogTemplate.h"
+
+namespace standin {
 
 enum class Modifier { None, Control, Shift, Alt };
 
@@ -36,3 +39,5 @@ void Settle();
 bool ServeNext();
 
 } // namespace actions
+
+} // namespace standin

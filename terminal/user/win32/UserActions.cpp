@@ -1,25 +1,15 @@
-// The user's hands on real windows: the messages that the mouse and the keyboard would make are
-// posted to the controls, which do the rest.
-#include "tests/support/UserActions.h"
-
-#include <windows.h>
+// The user's hands on real windows: the messages that the mouse would make are posted to the
+// controls, which do the rest.
+#include "terminal/user/win32/RealWindows.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cctype>
-#include <string>
 
 #include "platform/framework/window/CListCtrl.h"
 #include "platform/framework/window/DialogAccess.h"
 
-namespace actions {
-
-namespace {
-
-constexpr DWORD kPatience = 10000; // milliseconds
-constexpr DWORD kHoverSlack = 1000;
-constexpr int kBeside = -1;
+namespace standin::actions {
 
 tq::ControlKind KindOf(HWND window) {
   struct Class {
@@ -51,6 +41,17 @@ bool IsReachable(HWND control) {
          ::IsWindowEnabled(control) && KindOf(control) != tq::ControlKind::Label;
 }
 
+bool IsList(HWND control) {
+  const tq::ControlKind kind = KindOf(control);
+  return kind == tq::ControlKind::ListBox || kind == tq::ControlKind::ListView;
+}
+
+namespace {
+
+constexpr DWORD kPatience = 10000; // milliseconds
+constexpr DWORD kHoverSlack = 1000;
+constexpr int kBeside = -1;
+
 WPARAM Held(Modifier modifier) {
   return modifier == Modifier::Control ? MK_CONTROL : modifier == Modifier::Shift ? MK_SHIFT : 0;
 }
@@ -58,28 +59,6 @@ WPARAM Held(Modifier modifier) {
 LPARAM Middle(const RECT& place) {
   return MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
-
-// Holds the modifier's key down, and no other, as long as it lives.
-class Holding {
-public:
-  explicit Holding(Modifier modifier) {
-    ::GetKeyboardState(before_);
-    BYTE now[kKeys];
-    std::copy(std::begin(before_), std::end(before_), now);
-    now[VK_SHIFT] = now[VK_LSHIFT] = modifier == Modifier::Shift ? kDown : 0;
-    now[VK_CONTROL] = now[VK_LCONTROL] = modifier == Modifier::Control ? kDown : 0;
-    now[VK_MENU] = now[VK_LMENU] = modifier == Modifier::Alt ? kDown : 0;
-    ::SetKeyboardState(now);
-  }
-  ~Holding() { ::SetKeyboardState(before_); }
-  Holding(const Holding&) = delete;
-  Holding& operator=(const Holding&) = delete;
-
-private:
-  static constexpr int kKeys = 256;
-  static constexpr BYTE kDown = 0x80;
-  BYTE before_[kKeys] = {};
-};
 
 // In the order in which they lie, the front one first. Labels, and what is hidden or disabled,
 // leave the mouse to what lies behind.
@@ -123,11 +102,6 @@ int RowCount(HWND control) {
   return static_cast<int>(::SendMessageW(control, isBox ? LB_GETCOUNT : LVM_GETITEMCOUNT, 0, 0));
 }
 
-bool IsList(HWND control) {
-  const tq::ControlKind kind = KindOf(control);
-  return kind == tq::ControlKind::ListBox || kind == tq::ControlKind::ListView;
-}
-
 RECT PlaceOfBoxRow(HWND box, int row) {
   RECT place{};
   if (!IsRowInSight(box, row))
@@ -161,27 +135,6 @@ bool FindRow(HWND control, int row, LPARAM& point) {
   return IsInFront(control, point);
 }
 
-WPARAM CodeOf(Key key) {
-  static constexpr WPARAM codes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE,  VK_UP,
-                                     VK_DOWN,   VK_HOME,   VK_END, VK_DELETE, VK_PRIOR,
-                                     VK_NEXT,   VK_F2,     'A'};
-  return codes[static_cast<int>(key)];
-}
-
-// A key goes down and up, with what follows from it.
-void PressCode(HWND dialog, WPARAM code, Modifier modifier) {
-  constexpr LPARAM kOnce = 1;
-  constexpr LPARAM kAltHeld = 1 << 29;
-  constexpr LPARAM kReleased = static_cast<LPARAM>(0xC0000000);
-  const Holding holding(modifier);
-  const bool alt = modifier == Modifier::Alt;
-  const LPARAM state = alt ? kOnce | kAltHeld : kOnce;
-  const HWND focus = ::IsChild(dialog, ::GetFocus()) ? ::GetFocus() : dialog;
-  ::PostMessageW(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, code, state);
-  ::PostMessageW(focus, alt ? WM_SYSKEYUP : WM_KEYUP, code, state | kReleased);
-  Settle();
-}
-
 // Until the table's selection is another one, or the time is over.
 void WaitForHover(HWND table, DWORD milliseconds) {
   const int before = CListCtrl(table).GetCurSel();
@@ -194,14 +147,6 @@ void WaitForHover(HWND table, DWORD milliseconds) {
     if (::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
       tq::ServeMessage(tq::Serve::Timers);
   }
-}
-
-std::wstring Wide(const char* ansi) {
-  std::wstring wide(std::string(ansi).size() + 1, L'\0');
-  const int length =
-      ::MultiByteToWideChar(CP_ACP, 0, ansi, -1, wide.data(), static_cast<int>(wide.size()));
-  wide.resize(static_cast<size_t>(length > 0 ? length - 1 : 0));
-  return wide;
 }
 
 } // namespace
@@ -277,40 +222,6 @@ bool PickEntry(WindowHandle control, int index) {
   return true;
 }
 
-bool TypeText(WindowHandle dialog, const char* ansi) {
-  const HWND edit = ::GetFocus();
-  if (KindOf(edit) != tq::ControlKind::Edit || ::GetParent(edit) != dialog || !IsReachable(edit))
-    return false;
-  for (const wchar_t unit : Wide(ansi)) {
-    if (!IsReachable(edit) || ::GetFocus() != edit)
-      break;
-    ::PostMessageW(edit, WM_CHAR, unit, 1);
-    Settle();
-  }
-  return true;
-}
-
-bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
-  if (!IsOpen(dialog))
-    return false;
-  PressCode(dialog, CodeOf(key), modifier);
-  return true;
-}
-
-bool PressLetter(WindowHandle dialog, char letter, Modifier modifier) {
-  const bool isPlain = modifier == Modifier::None || modifier == Modifier::Shift;
-  const char text[] = {letter, '\0'};
-  const auto code = static_cast<WPARAM>(std::toupper(static_cast<unsigned char>(letter)));
-  if (!IsOpen(dialog) || (modifier == Modifier::Control && code != 'A'))
-    return false;
-  if (isPlain && KindOf(::GetFocus()) == tq::ControlKind::Edit)
-    return TypeText(dialog, text);
-  if (isPlain && (IsList(::GetFocus()) || KindOf(::GetFocus()) == tq::ControlKind::ComboBox))
-    return false;
-  PressCode(dialog, code, modifier);
-  return true;
-}
-
 bool IsRowInSight(WindowHandle control, int row) {
   if (!IsList(control) || row < 0 || row >= RowCount(control))
     return false;
@@ -338,4 +249,4 @@ bool ServeNext() {
          tq::ServeMessage(tq::Serve::Timers);
 }
 
-} // namespace actions
+} // namespace standin::actions

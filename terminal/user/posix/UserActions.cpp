@@ -1,9 +1,9 @@
-#include "tests/support/UserActions.h"
+#include "terminal/user/UserActions.h"
 
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/UserInput.h"
 
-namespace actions {
+namespace standin::actions {
 
 namespace {
 
@@ -71,4 +71,4 @@ bool ServeNext() {
   return tq::ServeMessage(tq::Serve::Timers);
 }
 
-} // namespace actions
+} // namespace standin::actions

@@ -1,0 +1,5 @@
+#include "terminal/control/MessageBox.h"
+
+int standin::ShowBox(const Message&) {
+  return 0;
+}

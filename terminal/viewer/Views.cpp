@@ -1,0 +1,160 @@
+#include "terminal/viewer/Views.h"
+
+#include "terminal/StandIn.h"
+
+using standin::Modifier;
+using standin::User;
+
+namespace viewer {
+namespace {
+
+constexpr int kUserLists = 1;
+constexpr int kCloudLists = 8;
+
+// Controls of the editors.
+constexpr int kLists = 781;
+constexpr int kNewList = 801;
+constexpr int kRows = 781; // of the list whose contents are edited
+constexpr int kMarket = 761;
+constexpr int kGroup = 762;
+constexpr int kCode = 741;
+constexpr int kFind = 805;
+constexpr int kResults = 782;
+constexpr int kName = 742;
+constexpr int kDone = 1;
+constexpr int kAddSymbol = 803;
+
+// Two lists with headings.
+constexpr int kSystemList = 0;
+constexpr int kListWithHeadings = 7;
+
+CSymbolList& ListAt(CTQSymbolListMgr& manager, int row, int kind) {
+  TQSymbolListInfo info;
+  CSymbolList* list = nullptr;
+  manager.GetTQSymbolListInfo(row, &info, kind);
+  manager.GetSymbolList(CString(info.ID), &list, kind);
+  return *list;
+}
+
+void AddCloudLists(CTQSymbolListMgr& manager) {
+  const CString name = ListAt(manager, kListWithHeadings, kUserLists).GetName();
+  manager.AddCloudSymbolList("", name, "2330.TW,2454.TW,2303.TW,3711.TW,2881.TW,2882.TW", 0);
+  manager.AddCloudSymbolList("", "ETF", "0050.TW,0056.TW,006208.TW,00878.TW,00919.TW", 0);
+  manager.AddCloudSymbolList("", "USA", "AAPL.NASD,MSFT.NASD,NVDA.NASD,BRK.B.NYSE", 0);
+}
+
+int OpenIndicators(InfoType type) {
+  CString name;
+  CString code;
+  CString market;
+  if (type == InfoCommodities)
+    return CTQSymbolListMgr::DoSearchCommIndi(nullptr, "", name, code, "", "", type);
+  return type == InfoEconomicIndicators
+             ? CTQSymbolListMgr::DoSearchFinIndi(nullptr, "", name, code)
+             : CTQSymbolListMgr::DoSearchOptionIndi(nullptr, "", name, code, market);
+}
+
+int OpenLists(CTQSymbolListMgr& manager) {
+  return CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr);
+}
+
+int OpenCloudLists(CTQSymbolListMgr& manager) {
+  AddCloudLists(manager);
+  return manager.DoCloudSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr);
+}
+
+int OpenSelection(CTQSymbolListMgr& manager) {
+  int kind = kUserLists;
+  CString text = ListAt(manager, kListWithHeadings, kUserLists).GetID();
+  return CTQSymbolListMgr::DoSelectUI(&manager, manager.GetSymbolTableMgr(), nullptr, &kind, text,
+                                      0, false);
+}
+
+int OpenSymbol(CTQSymbolListMgr& manager) {
+  return CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr,
+                                            "2881.TW");
+}
+
+void SelectThree(User& user, int id, int first) {
+  user.ClickRow(id, first);
+  user.ClickRow(id, first + 1, Modifier::Control);
+  user.ClickRow(id, first + 3, Modifier::Control);
+}
+
+void SelectList(User& user) {
+  user.Select(kLists, kListWithHeadings);
+  user.LeaveUp();
+}
+
+void SelectFirst(User& user) {
+  user.Select(kLists, 0);
+  user.LeaveUp();
+}
+
+// The first market's semiconductors.
+void BrowseGroup(User& user) {
+  constexpr int kFirstMarket = 1;
+  constexpr int kSemiconductors = 11;
+  SelectThree(user, kRows, 3);
+  user.Select(kMarket, kFirstMarket);
+  user.Select(kGroup, kSemiconductors);
+  SelectThree(user, kResults, 0);
+  user.LeaveUp();
+}
+
+void Search(User& user) {
+  user.Fill(kCode, "00");
+  user.Click(kFind);
+  SelectThree(user, kResults, 1);
+  user.LeaveUp();
+}
+
+void AddSymbol(User& user) {
+  user.Click(kAddSymbol);
+  user.LeaveUp();
+}
+
+// A message box says that the name is taken.
+void NameAsAnother(User& user) {
+  user.Fill(kName, "ETF");
+  user.Click(kDone);
+  user.LeaveUp();
+}
+
+void MakeList(User& user) {
+  user.Click(kNewList);
+  user.LeaveUp();
+}
+
+void EditList(User& user) {
+  user.DoubleClick(kLists, kSystemList);
+  user.LeaveUp();
+}
+
+void StayUp(User& user) {
+  user.LeaveUp();
+}
+
+std::function<int(CTQSymbolListMgr&)> Indicators(InfoType type) {
+  return [type](CTQSymbolListMgr&) { return OpenIndicators(type); };
+}
+
+} // namespace
+
+const std::vector<View>& Views() {
+  static const std::vector<View> views = {
+      {"lists", OpenLists, {SelectList}},
+      {"contents", OpenLists, {EditList, BrowseGroup}},
+      {"cloud-lists", OpenCloudLists, {SelectFirst}},
+      {"cloud-contents", OpenCloudLists, {EditList, Search}},
+      {"selection", OpenSelection, {StayUp}},
+      {"symbol", OpenSymbol, {AddSymbol}},
+      {"name-taken", OpenCloudLists, {MakeList, NameAsAnother}},
+      {"economic", Indicators(InfoEconomicIndicators), {StayUp}},
+      {"commodities", Indicators(InfoCommodities), {StayUp}},
+      {"futures", Indicators(InfoInternationalFutures), {StayUp}},
+  };
+  return views;
+}
+
+} // namespace viewer
