@@ -40,8 +40,11 @@ void CGroupSymbolAdd::OnCommand(int id, ControlEvent event) {
     AddToNewList();
 }
 
-void CGroupSymbolAdd::OnItemLook(int, int row, ItemLook& look) {
-  CListBoxContents::Look(shown_, row, look);
+void CGroupSymbolAdd::OnItemLook(int id, int row, ItemLook& look) {
+  if (id == kLists)
+    CListBoxMain::Look(row == copy_.DefaultIndex(), look);
+  else
+    CListBoxContents::Look(shown_, row, look);
 }
 
 int CGroupSymbolAdd::Selected() const {

@@ -77,7 +77,7 @@ private:
   EditorSources sources_;
   WorkingCopy copy_;
   ListContents shown_; // of the selected list
-  int renamed_ = -1; // the row under the editor of names
+  int renamed_ = -1;   // the row under the editor of names
 };
 
 } // namespace tq

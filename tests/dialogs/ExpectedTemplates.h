@@ -25,7 +25,7 @@ struct ExpectedTemplate {
 };
 
 inline const Rows kListOfLists = {
-    {ListBox, 782},
+    {ListBox, 782, "", "", tq::TemplateOwnerDrawn},
     {Edit, 741, "", "", tq::TemplateHidden},
     {Button, 801, "新增(&A)", "新增(&A)"},
     {Button, 802, "修改(&M)", "修改(&M)"},
@@ -37,7 +37,7 @@ inline const Rows kListOfLists = {
 };
 
 inline const Rows kContents = {
-    {ListBox, 781, "", "", tq::TemplateMulti},
+    {ListBox, 781, "", "", tq::TemplateMulti | tq::TemplateOwnerDrawn},
     {Button, 801, "", "", tq::TemplateIcon},
     {Button, 802, "", "", tq::TemplateIcon},
     {Button, 803, "", "", tq::TemplateIcon},
@@ -92,8 +92,8 @@ inline const Rows kAdd = {
 };
 
 inline const Rows kAddOne = {
-    {ListBox, 781},
-    {ListBox, 782},
+    {ListBox, 781, "", "", tq::TemplateOwnerDrawn},
+    {ListBox, 782, "", "", tq::TemplateOwnerDrawn},
     {Button, 803, "加入(&A)", "加入(&A)"},
     {Button, 802, "加入修改(&M)...", "加入修改(&M)..."},
     {Button, 801, "新增組合(&N)...", "新增组合(&N)..."},

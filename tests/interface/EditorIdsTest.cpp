@@ -115,6 +115,49 @@ TEST_F(EditorIds, OneThatIsNoneIsAddedToNothing) {
   }
 }
 
+// How rows look.
+class EditorLooks : public EditorIds {
+protected:
+  static std::string BoldRows(const User& user, int id) {
+    CDialog* const dialog = CDialog::FromHandle(user.Dialog().GetSafeHwnd());
+    std::string bold;
+    for (int row = 0; row < static_cast<int>(user.Rows(id).size()); ++row)
+      bold += tq::DialogAccess::Look(*dialog, id, row).bold ? 'b' : '-';
+    return bold;
+  }
+};
+
+TEST_F(EditorLooks, HeadingsAreBold) {
+  StartWith({"A/one/Head:,2317.TW,gone.TW,Tail:", "B/two/2330.TW"});
+  EditA([](User& user) {
+    EXPECT_EQ(BoldRows(user, kRows), "b-b-");
+    EXPECT_TRUE(user.ClickRow(kRows, 2));
+    EXPECT_TRUE(user.Click(801));
+    EXPECT_EQ(BoldRows(user, kRows), "bb--");
+    EXPECT_TRUE(user.Click(2));
+  });
+  WhenDialogOpens([](User& user) {
+    EXPECT_EQ(BoldRows(user, 782), "b-b");
+    EXPECT_TRUE(user.ClickRow(781, 1));
+    EXPECT_EQ(BoldRows(user, 782), "-");
+    EXPECT_TRUE(user.Click(806));
+  });
+  CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr);
+}
+
+TEST_F(EditorLooks, TheDefaultListIsBoldWhereASymbolIsAddedToo) {
+  StartWith({"A/one/Head:,2317.TW", "B/two/2330.TW"});
+  manager.SetDefaultIndex(1);
+  WhenDialogOpens([](User& user) {
+    EXPECT_EQ(BoldRows(user, 781), "-b");
+    EXPECT_EQ(user.SelectedRows(781), std::vector<int>{1});
+    EXPECT_TRUE(user.ClickRow(781, 0));
+    EXPECT_EQ(BoldRows(user, 782), "b-");
+    EXPECT_TRUE(user.Click(1));
+  });
+  CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr, "1101.TW");
+}
+
 // Keys of the content editor.
 TEST_F(EditorIds, F2OnASubTitleTakesItsTextToTheField) {
   StartWith({"A/one/Head:,2317.TW"});
