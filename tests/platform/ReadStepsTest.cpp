@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <string>
@@ -96,12 +97,15 @@ TEST(ReadSteps, WhatIsNoFileFails) {
   EXPECT_EQ("", bytes);
 }
 
-// A large file is overwritten in place, piece by piece, while it is read again and again.
+// A large file is overwritten in place, piece by piece, while it is read again and again. What is
+// read between two pieces nobody can tell from a whole file: a machine may let the writer wait for
+// as long as it likes, so only a read during which a piece was written counts.
 TEST(ReadSteps, NoMixtureOfOldAndNewIsRead) {
   constexpr std::size_t piece = 1 << 20;
   constexpr int pieces = 48;
   const tqtest::TestDirectory directory("data");
   directory.Write("SymbolList.xml", std::string(piece * pieces, 'o'));
+  std::atomic<int> written = 0;
   std::thread writer([&] {
     std::FILE* file = std::fopen(directory.OsFile("SymbolList.xml").c_str(), "r+b");
     ASSERT_NE(nullptr, file);
@@ -109,6 +113,7 @@ TEST(ReadSteps, NoMixtureOfOldAndNewIsRead) {
     for (int i = 0; i < pieces; ++i) {
       std::fwrite(bytes.data(), 1, piece, file);
       std::fflush(file);
+      ++written;
       std::this_thread::sleep_for(std::chrono::milliseconds(4));
     }
     std::fclose(file);
@@ -116,9 +121,10 @@ TEST(ReadSteps, NoMixtureOfOldAndNewIsRead) {
   int mixtures = 0;
   std::string bytes;
   do {
+    const int before = written;
     const ReadResult result = tq::Files().ReadWholeFile(directory.File("SymbolList.xml").c_str(),
                                                         2 * piece * pieces, bytes);
-    if (result == ReadResult::Ok)
+    if (result == ReadResult::Ok && written != before)
       mixtures += bytes.front() != bytes.back();
   } while (bytes.empty() || bytes.back() != 'n');
   writer.join();
