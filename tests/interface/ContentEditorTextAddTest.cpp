@@ -1,4 +1,5 @@
 // The editors of one list's contents: a symbol that was typed or picked is added.
+#include "symboltable/SymbolTableMgr.h"
 #include "tests/interface/ContentEditorText.h"
 
 namespace {
@@ -55,6 +56,15 @@ TEST_P(ContentAddText, AnIdOfAnExchangeThatDoesNotListItIsRefused) {
 TEST_P(ContentAddText, ABareCodeOfNoDefaultExchangeIsRefused) {
   In([this](User& user) {
     Submit(user, "AAPL");
+    EXPECT_EQ(Shown(), "48018/0");
+    ExpectUnchanged(user);
+  });
+}
+
+TEST_P(ContentAddText, WithoutSymbolTablesNothingIsFound) {
+  In([this](User& user) {
+    manager.GetSymbolTableMgr()->CleanALL();
+    Submit(user, "2881");
     EXPECT_EQ(Shown(), "48018/0");
     ExpectUnchanged(user);
   });

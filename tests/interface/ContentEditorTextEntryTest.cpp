@@ -106,6 +106,20 @@ TEST_P(ContentEntryText, TheTerminalsResourcesAreBackOnEachPath) {
   EXPECT_EQ(tq::ResourceContext::Current().string, StringOfTheTerminal) << "not created";
 }
 
+TEST_P(ContentEntryText, EachModeButThatOfANewListEdits) {
+  std::string first;
+  EXPECT_FALSE(Edit("A", [&first](User& user) {
+    first = user.Title();
+    user.Click(kCancel);
+  }));
+  EXPECT_FALSE(Open(
+      [&first](User& user) {
+        EXPECT_EQ(user.Title(), first);
+        user.Click(kCancel);
+      },
+      -1));
+}
+
 // --- Cancelled -----------------------------------------------------------------------------------
 
 TEST_P(ContentEntryText, CancelStoresNothing) {
@@ -137,6 +151,11 @@ TEST_P(ContentEntryText, CancelLeavesTheTerminalsListAsItWas) {
   });
   EXPECT_EQ(Utf8(edited->GetName()), "one");
   EXPECT_EQ(Utf8(edited->GetIDs()), "2330.TW,2317.TW");
+}
+
+TEST_P(ContentEntryText, CancelDoesNotMindTheName) {
+  In([](User& user) { user.Fill(kName, ""); });
+  EXPECT_EQ(Shown(), "");
 }
 
 TEST_P(ContentEntryText, ANewListThatIsCancelledStaysEmpty) {
@@ -220,6 +239,16 @@ TEST_P(ContentEntryText, ListsThatCameWhileTheEditorWasOpenStay) {
     user.Click(kDone);
   }));
   EXPECT_EQ(All(), "A/one/2330.TW,2317.TW,2881.TW|B/two/1101.TW|N/new/2454.TW");
+}
+
+TEST_P(ContentEntryText, AServiceThatKnowsNothingLosesNoSymbol) {
+  standin::FailAlways("VLGetSymbolInfos");
+  EXPECT_TRUE(Edit("A", [](User& user) {
+    EXPECT_EQ(user.Rows(kRows), Lines{""});
+    user.Fill(kName, "changed");
+    user.Click(kDone);
+  }));
+  EXPECT_EQ(All(), "A/changed/2330.TW,2317.TW|B/two/1101.TW");
 }
 
 // --- The user's lists ----------------------------------------------------------------------------

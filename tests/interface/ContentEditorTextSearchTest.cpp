@@ -269,6 +269,34 @@ TEST_P(ContentSearchText, ChoosingAGroupAddsNothing) {
   });
 }
 
+TEST_P(ContentSearchText, GroupsThatWereLoadedAnewMeanwhileShowTheirSymbols) {
+  In([this](User& user) {
+    EXPECT_TRUE(user.Select(kMarket, 1));
+    manager.LoadGroupList();
+    EXPECT_TRUE(user.Select(kGroup, 1));
+    EXPECT_EQ(FoundNames(user), NamesOf({"2330.TW", "2454.TW"}));
+  });
+}
+
+TEST_P(ContentSearchText, AGroupThatWasLoadedAnewMeanwhileIsAdded) {
+  EXPECT_EQ(After([this](User& user) {
+              user.ClickRow(kRows, 2);
+              ShowGroup(user, 1, 0);
+              manager.LoadGroupList();
+              user.Click(kAddAll);
+            }),
+            "2330.TW,2317.TW,6488.TE,5483.TE");
+}
+
+TEST_P(ContentSearchText, GroupsThatAreGoneMeanwhileShowNothing) {
+  In([this](User& user) {
+    EXPECT_TRUE(user.Select(kMarket, 1));
+    manager.ClearGroupList();
+    EXPECT_TRUE(user.Select(kGroup, 1));
+    EXPECT_EQ(user.Rows(kFound), Lines{});
+  });
+}
+
 // --- All of a group ------------------------------------------------------------------------------
 
 TEST_P(ContentSearchText, AllSymbolsOfTheChosenGroupAreAdded) {

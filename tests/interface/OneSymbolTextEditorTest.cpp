@@ -14,8 +14,7 @@ protected:
   void Do(int list, int button, const Action& inEditor, const Action& after = {},
           const char* symbol = "2881.TW") {
     WhenDialogOpens([&](User& user) {
-      if (list != -1)
-        EXPECT_TRUE(user.Select(kLists, list));
+      EXPECT_EQ(list == -1 || user.Select(kLists, list), true);
       WhenDialogOpens(inEditor);
       EXPECT_TRUE(user.Click(button));
       if (after)
