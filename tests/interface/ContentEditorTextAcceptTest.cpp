@@ -228,6 +228,17 @@ TEST_P(ContentAcceptText, TheFieldHoldsNoMoreThanAListsName) {
   EXPECT_EQ(NewName(), shown);
 }
 
+TEST_P(ContentAcceptText, TheFieldHoldsWholeCharacters) {
+  std::string longest;
+  std::string typed;
+  for (int i = 0; i < 40; ++i) {
+    typed += Text("許", "誠");
+    longest += i < 32 ? Text("許", "誠") : "";
+  }
+  EXPECT_TRUE(AcceptNew(typed));
+  EXPECT_EQ(NewName(), longest);
+}
+
 TEST_P(ContentAcceptText, EnterAndTheLetterOfTheButtonAcceptToo) {
   EXPECT_TRUE(Edit("A", [](User& user) {
     user.Fill(kName, "three");

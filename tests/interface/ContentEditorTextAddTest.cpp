@@ -212,6 +212,26 @@ TEST_P(ContentAddText, TheRowOfASymbolThatTheListHoldsIsSelectedAlone) {
   });
 }
 
+TEST_P(ContentAddText, TheRowOfASymbolThatALongListHoldsIsInSight) {
+  standin::Market market = standin::CurrentMarket();
+  std::string symbols;
+  for (int code = 3000; code < 3200; ++code) {
+    standin::Instrument instrument = market.instruments.front();
+    instrument.code = std::to_string(code);
+    market.instruments.push_back(instrument);
+    symbols += (symbols.empty() ? "" : ",") + instrument.code + ".TW";
+  }
+  standin::SetMarket(market);
+  Start({"L/long/" + symbols});
+  EXPECT_FALSE(Edit("L", [](User& user) {
+    user.ClickRow(kRows, 0);
+    Submit(user, "3150");
+    EXPECT_EQ(user.SelectedRows(kRows), std::vector<int>{150});
+    EXPECT_TRUE(user.IsInSight(kRows, 150));
+    user.Click(kCancel);
+  }));
+}
+
 TEST_P(ContentAddText, TheFieldIsEmptyAfterASymbolThatTheListHolds) {
   In([](User& user) {
     Submit(user, "2317");
@@ -302,6 +322,23 @@ TEST_P(ContentAddText, ADoubleClickOnAResultAddsIt) {
               EXPECT_TRUE(user.IsUp());
             }),
             "2330.TW,2317.TW,5483.TE");
+}
+
+TEST_P(ContentAddText, ADoubleClickOnAResultThatTheListHoldsAddsNothing) {
+  In([](User& user) {
+    ShowChips(user);
+    user.DoubleClick(kFound, 0);
+    ExpectUnchanged(user);
+  });
+}
+
+TEST_P(ContentAddText, ADoubleClickBesideTheResultsAddsNothing) {
+  In([this](User& user) {
+    ShowWafers(user);
+    EXPECT_TRUE(user.DoubleClick(kFound, -1));
+    EXPECT_EQ(Shown(), "");
+    ExpectUnchanged(user);
+  });
 }
 
 // --- What the list does not show -----------------------------------------------------------------

@@ -183,6 +183,17 @@ TEST_F(OneSymbolEditorText, ASymbolThatTheListHoldsIsNotAddedAgain) {
   EXPECT_EQ(Happened(), "not saved");
 }
 
+TEST_F(OneSymbolEditorText, ASymbolInSmallLettersIsTheSameSymbol) {
+  Modify(
+      1,
+      [this](User& user) {
+        EXPECT_NE(Shown(), "");
+        EXPECT_EQ(user.Rows(kRows), RowsOf({"1101.TW", "2317.TW"}));
+        Cancel(user);
+      },
+      "2317.tw");
+}
+
 TEST_F(OneSymbolEditorText, ASymbolThatTheListDoesNotHoldIsNotReported) {
   Modify(1, Cancel);
   EXPECT_EQ(Shown(), "");

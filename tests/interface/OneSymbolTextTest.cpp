@@ -263,6 +263,16 @@ TEST_F(OneSymbolText, ASymbolThatTheListHoldsIsNotAddedAgain) {
   EXPECT_EQ(Happened(), "not saved");
 }
 
+TEST_F(OneSymbolText, ASymbolInSmallLettersIsTheSameSymbol) {
+  Do(
+      [this](User& user) {
+        AddTo(user, 1);
+        EXPECT_NE(Shown(), "");
+      },
+      "2317.tw");
+  EXPECT_EQ(All(), untouched);
+}
+
 TEST_F(OneSymbolText, AddingTwiceIsReportedTheSecondTime) {
   Do([this](User& user) {
     AddTo(user, 0);
