@@ -43,8 +43,8 @@ public:
   // Whether the symbol is in the list, with a row or without.
   bool Holds(std::string_view id) const;
 
-  // Puts those of the symbols that the list can have and does not hold in front of a row, in their order;
-  // RowCount() is the end. Returns how many.
+  // Puts those of the symbols that the list can have and does not hold in front of a row, in their
+  // order; RowCount() is the end. Returns how many.
   int Insert(int row, std::span<const SymbolInfo> symbols);
   // Puts a heading, made by HeadingEntry, in front of a row.
   void InsertHeading(int row, const CString& entry);

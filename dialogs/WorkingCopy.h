@@ -35,10 +35,10 @@ public:
   int Find(const char* id) const;
   void Clear() { lists_.clear(); }
 
-  // Takes in what others did to the manager's lists since this copy was filled or committed, so that
-  // a commit does not undo it: lists that are new there come behind these, and lists and the default
-  // index that the user has not touched become what they are there. What the user changed or deleted
-  // stays so; lists that others deleted stay too.
+  // Takes in what others did to the manager's lists since this copy was filled or committed, so
+  // that a commit does not undo it: lists that are new there come behind these, and lists and the
+  // default index that the user has not touched become what they are there. What the user changed
+  // or deleted stays so; lists that others deleted stay too.
   void TakeInChanges(CTQSymbolListMgr& manager);
   // The manager has these lists now.
   void Committed();

@@ -18,9 +18,9 @@ namespace tq {
 // and of the control bytes only tab, line feed and carriage return.
 bool IsStorable(const CString& text);
 
-// Whether a name, an identifier or an id can be written to the list file and read back: storable, and
-// without an apostrophe, "&" and "<". The file is not escaped, and a load refuses one that holds
-// them, with all its lists.
+// Whether a name, an identifier or an id can be written to the list file and read back: storable,
+// and without an apostrophe, "&" and "<". The file is not escaped, and a load refuses one that
+// holds them, with all its lists.
 bool IsLoadable(std::string_view text);
 
 // `text` without the bytes that the file cannot hold, with a line in the log when there were some.

@@ -140,7 +140,8 @@ public:
 namespace tq {
 
 // Runs the content editor for lists of a kind as the terminal runs dialogs, and returns its end
-// code: 1 only when the list was stored. When its window cannot be made, a dialog that opens it tells the user (RunWithin).
+// code: 1 only when the list was stored. When its window cannot be made, a dialog that opens it
+// tells the user (RunWithin).
 int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent,
                      ContentEditor::Task task);
 int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,
