@@ -33,12 +33,12 @@ bool EditOneList(CTQSymbolListMgr& manager, CSymbolTableMgr* tables, CSymbolList
   if (tq::RunContentEditor(kind, {manager, tables}, parent, {edited, task, nullptr}) !=
       CDialog::Accepted)
     return false;
-  commit(manager, edited);
-  if (!isOwn) { // the manager's own may be gone by now
+  if (!isOwn) { // the manager's own may be gone by now, and is behind the commit
     list.SetID(edited.GetID());
     list.SetName(edited.GetName());
     list.Update1(edited.GetIDs());
   }
+  commit(manager, edited);
   return true;
 }
 

@@ -15,7 +15,7 @@ ListsEditor::ListsEditor(const Kind& kind, const EditorSources& sources, const C
 bool ListsEditor::OnInitDialog() {
   CTQIconButton(*this, kUp, ButtonIcon::Up);
   CTQIconButton(*this, kDown, ButtonIcon::Down);
-  const CListBoxEdit nameField(*this, kNameField);
+  const CListBoxEdit limited(*this, kNameField); // its length, from the start
   CListBoxMain lists(*this, kLists);
   lists.SetRowTips(true);
   CListBox(*this, kContents).SetRowTips(true);

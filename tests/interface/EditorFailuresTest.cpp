@@ -170,6 +170,30 @@ TEST_F(EditorsEnded, AContentEditorThatIsEndedFromOutsideStoresNothing) {
   EXPECT_STREQ(list.GetID(), "");
 }
 
+// Symptom: the second list of an identifier was written to after the commit had replaced it.
+TEST_F(EditorsEnded, AListOfTheManagersThatSharesItsIdentifierIsNotTouchedOnceItIsReplaced) {
+  CSymbolList twin;
+  twin.SetID("A");
+  twin.SetName("twin");
+  manager.AddTQSymbolList(&twin, 0); // the first one of that identifier
+  CSymbolList* first = nullptr;
+  CSymbolList* second = nullptr;
+  manager.GetSymbolList("A", &first, 1);
+  ASSERT_EQ(manager.DeleteSymbolList("C"), 1);
+  manager.AddTQSymbolList(first, 0);
+  manager.GetSymbolList("A", &second, 1);
+  ASSERT_NE(first, second);
+  WhenDialogOpens([](User& editor) {
+    EXPECT_TRUE(editor.Fill(742, "edited"));
+    EXPECT_TRUE(editor.Fill(741, "2317"));
+    EXPECT_TRUE(editor.Press(Key::Enter));
+    EXPECT_TRUE(editor.Click(1));
+  });
+  EXPECT_TRUE(
+      CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), first, 1, nullptr, 0));
+  EXPECT_EQ(Shape().rfind("A/edited/2317.TW|", 0), 0u) << Shape();
+}
+
 INSTANTIATE_TEST_SUITE_P(Editors, AnyEditor, testing::ValuesIn(EditorSessions()), NameOfSession);
 
 } // namespace
