@@ -1,5 +1,6 @@
 // The content editor under a user who does anything.
 #include <algorithm>
+#include <map>
 
 #include "platform/framework/window/CListBox.h"
 #include "tests/interface/EditorWalk.h"
@@ -28,7 +29,10 @@ public:
   bool Has(const std::string& id) const {
     return std::find(entries.begin(), entries.end(), id) != entries.end();
   }
-  int Count() const { return static_cast<int>(Rows().size()); }
+  int Count() const {
+    return static_cast<int>(std::count_if(entries.begin(), entries.end(),
+                                          [](const auto& entry) { return entry.front() != '?'; }));
+  }
   std::vector<std::string>::iterator PlaceOf(int row) {
     auto at = entries.begin();
     for (; at != entries.end(); ++at) {
@@ -217,9 +221,13 @@ protected:
     return rows;
   }
   static std::string NameOf(const std::string& id) {
+    static std::map<std::string, std::string> known;
+    std::string& name = known[id];
     SymbolInfo record = {};
-    EXPECT_NE(VLGetSymbolInfo(id.c_str(), &record), 0) << id;
-    return standin::FromAnsi(record.name);
+    if (name.empty() && VLGetSymbolInfo(id.c_str(), &record) != 0)
+      name = standin::FromAnsi(record.name);
+    EXPECT_NE(name, "") << id;
+    return name;
   }
 
   const Texts ids = {"2330.TW", "2317.TW", "2454.TW", "1101.TW", "1436.TW",
