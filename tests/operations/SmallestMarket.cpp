@@ -42,7 +42,7 @@ void AddTradingSystems(standin::Market& market) {
   };
 }
 
-// Presses what there is, enabled or not, in dialogs that open each other two deep.
+// Presses what there is, enabled or not. Dialogs that are opened from within are only ended.
 void PressEverything(CDialog& dialog) {
   CListBox(dialog, 781).SetCurSel(0);
   CListCtrl(dialog, 782).SelectRow(0);
@@ -56,7 +56,7 @@ void PressEverything(CDialog& dialog) {
 void ActAndEnd(CDialog& dialog) {
   static int depth = 0;
   ++depth;
-  if (depth <= 2)
+  if (depth == 1)
     PressEverything(dialog);
   --depth;
   tq::DialogAccess::Command(dialog, CDialog::Accepted, ControlEvent::Clicked);

@@ -70,6 +70,7 @@ DWORD StyleOf(const TemplateRow& row) {
       {tq::TemplateDefault, BS_DEFPUSHBUTTON}, {tq::TemplateIcon, BS_ICON},
       {tq::TemplateDisabled, WS_DISABLED},     {tq::TemplateMulti, LBS_EXTENDEDSEL},
       {tq::TemplateReadOnly, ES_READONLY},     {tq::TemplateOwnerDrawn, LBS_OWNERDRAWFIXED},
+      {tq::TemplateVirtual, LVS_OWNERDATA},
   };
   DWORD style = WS_CHILD | WS_VISIBLE | KindStyle(row.kind);
   for (const auto& [flag, bits] : kFlags)

@@ -54,7 +54,7 @@ int RandomActions() {
 }
 
 int ManyFailures() {
-  return 10;
+  return IsTraditionChinese() != 0 ? 10 : 3;
 }
 
 size_t ResourceSlack() {
