@@ -41,10 +41,13 @@ void WorkingCopy::Committed() {
   knownDefaultId_ = DefaultId();
 }
 
-bool WorkingCopy::IsUntouched() const {
-  return defaultIndex_ == knownDefault_ &&
-         std::equal(lists_.begin(), lists_.end(), known_.begin(), known_.end(),
+bool WorkingCopy::AreKnown(const Lists& lists) const {
+  return std::equal(lists.begin(), lists.end(), known_.begin(), known_.end(),
                     [](const auto& list, const Known& known) { return IsAs(*list, known); });
+}
+
+bool WorkingCopy::IsUntouched() const {
+  return defaultIndex_ == knownDefault_ && AreKnown(lists_);
 }
 
 CString WorkingCopy::DefaultId() const {
@@ -95,13 +98,14 @@ private:
   std::unordered_map<std::string, Entry, NoCaseHash, NoCaseEqual> entries_;
 };
 
-void WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
+bool WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
   if (kind_ == 0)
-    return;
+    return true;
   WorkingCopy now(manager, kind_);
   if (IsUntouched()) {
+    const bool same = AreKnown(now.lists_);
     *this = std::move(now);
-    return;
+    return same;
   }
   Changes changes(*this);
   std::vector<std::unique_ptr<CSymbolList>> fresh;
@@ -115,6 +119,7 @@ void WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
   TakeInDefault(now);
   for (auto& list : fresh)
     lists_.push_back(std::move(list));
+  return true;
 }
 
 void WorkingCopy::TakeInDefault(const WorkingCopy& now) {

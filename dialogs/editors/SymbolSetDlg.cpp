@@ -123,7 +123,8 @@ void CSymbolSetDlg::ShowItems(int selected) {
   {
     const CRedrawLock lock(box);
     box.ResetContent();
-    for (const SourceItem& item : Items())
+    shown_ = Items();
+    for (const SourceItem& item : shown_)
       box.AddString(item.name);
     box.SetCurSel(selected);
   }
@@ -205,12 +206,13 @@ void CSymbolSetDlg::StoreCloud(const CString& id) {
 void CSymbolSetDlg::StoreChanges() {
   if (userChanged_) {
     CTQSymbolListMgr& manager = sources_.Manager();
-    user_.TakeInChanges(manager);
-    CPtrArray lists = user_.Pointers();
-    manager.SetSymbolList(&lists);
-    manager.SetDefaultIndex(user_.DefaultIndex());
-    manager.SaveSymbolList();
-    user_.Committed();
+    if (user_.TakeInChanges(manager)) {
+      CPtrArray lists = user_.Pointers();
+      manager.SetSymbolList(&lists);
+      manager.SetDefaultIndex(user_.DefaultIndex());
+      manager.SaveSymbolList();
+      user_.Committed();
+    }
     userChanged_ = false;
     committed_ = true;
   }
@@ -225,14 +227,15 @@ void CSymbolSetDlg::OnOK() {
   const ListSource* const source = Source();
   if (source == nullptr)
     return;
-  StoreChanges();
-  const std::vector<SourceItem> items = Items();
   const int row = Selected();
-  if (row < 0 && !items.empty()) {
+  StoreChanges();
+  if (row < 0 && !shown_.empty()) {
+    ShowItems(-1); // as they are after what others did
     ShowMessage(kMessageNothingChosen);
     CListBox(*this, kItems).SetFocus();
     return;
   }
-  choice_ = ChoiceOf(*source, row < 0 ? nullptr : &items[static_cast<std::size_t>(row)]);
+  // What the user sees counts, whatever the terminal has done to the lists since.
+  choice_ = ChoiceOf(*source, row < 0 ? nullptr : &shown_[static_cast<std::size_t>(row)]);
   EndDialog(Accepted);
 }

@@ -66,6 +66,7 @@ private:
   tq::EditorSources sources_;
   tq::ListChoice before_;
   std::vector<tq::ListSource> offered_;
+  std::vector<tq::SourceItem> shown_; // the rows
   tq::WorkingCopy user_;
   tq::WorkingCopy cloud_;
   bool userChanged_ = false;

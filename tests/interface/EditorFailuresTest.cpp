@@ -194,6 +194,27 @@ TEST_F(EditorsEnded, AListOfTheManagersThatSharesItsIdentifierIsNotTouchedOnceIt
   EXPECT_EQ(Shape().rfind("A/edited/2317.TW|", 0), 0u) << Shape();
 }
 
+// Symptom: the terminal cleared the lists in memory while the selection was open, the user edited
+// one without changing it, and OK saved a file without lists.
+TEST_F(EditorsEnded, ASelectionWithoutAChangeSavesNothingThatTheTerminalClearedMeanwhile) {
+  const std::string before = ReadWorking();
+  WhenDialogOpens([this](User& user) {
+    EXPECT_TRUE(user.Select(761, 1));
+    EXPECT_TRUE(user.ClickRow(781, 0));
+    WhenDialogOpens([](User& editor) { EXPECT_TRUE(editor.Click(1)); });
+    EXPECT_TRUE(user.Click(802));
+    manager.ClearSymbolList();
+    EXPECT_TRUE(user.Click(1));
+    if (user.IsUp()) {
+      EXPECT_TRUE(user.Click(2));
+    }
+  });
+  CString text;
+  CTQSymbolListMgr::DoSelectUI(&manager, manager.GetSymbolTableMgr(), nullptr, nullptr, text, 0,
+                               false);
+  EXPECT_EQ(ReadWorking(), before);
+}
+
 INSTANTIATE_TEST_SUITE_P(Editors, AnyEditor, testing::ValuesIn(EditorSessions()), NameOfSession);
 
 } // namespace
