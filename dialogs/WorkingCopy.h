@@ -38,9 +38,9 @@ public:
   // Takes in what others did to the manager's lists since this copy was filled or committed, so
   // that a commit does not undo it: lists that are new there come behind these, and lists and the
   // default index that the user has not touched become what they are there. What the user changed
-  // or deleted stays so; lists that others deleted stay too. False when the user has touched nothing
-  // and others have: then there is nothing to commit, and a save would store what others may have
-  // changed in memory alone.
+  // or deleted stays so; lists that others deleted stay too.
+  // False when the user has touched nothing and others have: then there is nothing to commit, and
+  // a save would store what others may have changed in memory alone.
   bool TakeInChanges(CTQSymbolListMgr& manager);
   // The manager has these lists now.
   void Committed();
