@@ -20,7 +20,7 @@ bool AskUser(unsigned id, Buttons buttons) {
 
 // By hand, since the library's own strings are no format that a compiler could check.
 CString FormattedText(unsigned id, const CString& argument) {
-  const CString format = LibraryString(id);
+  CString format = LibraryString(id);
   const int place = format.Find("%s");
   if (place < 0)
     return format;

@@ -30,11 +30,10 @@ bool CGroupSymbolAdd::OnInitDialog() {
 void CGroupSymbolAdd::OnCommand(int id, ControlEvent event) {
   if (event == ControlEvent::SelectionChanged && id == kLists)
     ShowSelected();
-  else if (event == ControlEvent::DoubleClicked && id == kLists)
-    AddAndEdit();
   else if (event == ControlEvent::Clicked && id == kAdd)
     AddToList();
-  else if (event == ControlEvent::Clicked && id == kAddAndEdit)
+  else if ((event == ControlEvent::Clicked && id == kAddAndEdit) ||
+           (event == ControlEvent::DoubleClicked && id == kLists))
     AddAndEdit();
   else if (event == ControlEvent::Clicked && id == kAddNew)
     AddToNewList();

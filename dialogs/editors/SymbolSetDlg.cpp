@@ -55,11 +55,10 @@ void CSymbolSetDlg::OnCommand(int id, ControlEvent event) {
     ChooseSource();
   else if (event == ControlEvent::SelectionChanged && id == kItems)
     UpdateButtons();
-  else if (event == ControlEvent::DoubleClicked && id == kItems)
-    EditList();
   else if (event == ControlEvent::Clicked && id == kNewItem)
     NewList();
-  else if (event == ControlEvent::Clicked && id == kEditItem)
+  else if ((event == ControlEvent::Clicked && id == kEditItem) ||
+           (event == ControlEvent::DoubleClicked && id == kItems))
     EditList();
   else if (event == ControlEvent::Clicked && id == kDeleteItem)
     DeleteList();
@@ -103,6 +102,7 @@ std::vector<SourceItem> CSymbolSetDlg::ItemsIn(const ListSource& source) {
   if (lists == nullptr)
     return ItemsOf(sources_.Manager(), source);
   std::vector<SourceItem> items;
+  items.reserve(static_cast<std::size_t>(lists->Count()));
   for (int i = 0; i < lists->Count(); ++i)
     items.push_back({DisplayName(lists->At(i)), lists->At(i).GetID()});
   return items;
