@@ -13,6 +13,7 @@
 #include "bench/LookUp.h"
 #include "bench/Options.h"
 #include "bench/Report.h"
+#include "bench/Search.h"
 #include "bench/StartUp.h"
 #include "bench/Trading.h"
 #include "bench/Universe.h"
@@ -83,6 +84,7 @@ int main(int argc, char** argv) {
   MeasureGenerated(report, options, directory.string());
   bench::MeasureGroups(report, options.quick);
   bench::MeasureEditors(report, options.quick);
+  bench::MeasureSearch(report, options.quick);
   bench::MeasureHostile(report, directory.string(), options.quick);
   return report.Finish();
 }

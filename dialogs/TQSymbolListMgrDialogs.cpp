@@ -4,11 +4,14 @@
 #include "dialogs/IndicatorSearches.h"
 #include "dialogs/editors/GroupSymbolAdd.h"
 #include "dialogs/editors/ListsEditor.h"
+#include "dialogs/editors/SymbolAddDlg.h"
 #include "dialogs/editors/SymbolSetDlg.h"
 #include "dialogs/resources/DialogTable.h"
+#include "dialogs/search/SymbolSearchDlg.h"
 #include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/services/tqCommon.h"
+#include "symbolid/ListID.h"
 
 using tq::ContentEditor;
 
@@ -40,6 +43,14 @@ bool EditOneList(CTQSymbolListMgr& manager, CSymbolTableMgr* tables, CSymbolList
   }
   commit(manager, edited);
   return true;
+}
+
+// As the terminal stores a group.
+CString ListIdOf(const CSymbolSearchDlg::Place& place) {
+  CString text;
+  text.Format("%d,%s,%s", static_cast<int>(ListIDGroup), place.market.GetString(),
+              place.group.GetString());
+  return text;
 }
 
 } // namespace
@@ -96,6 +107,37 @@ int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMg
   const int result = RunAsTerminal(dialog);
   tq::CommitSymbolAddedToLists(*manager, dialog.Copy());
   return result;
+}
+
+int CTQSymbolListMgr::DoSymbolAddUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                    WindowHandle parent, const CString& symbols,
+                                    const CString& listId) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  const CWnd window(parent);
+  CSymbolAddDlg dialog({*manager, tables}, &window, symbols, listId);
+  const int result = RunAsTerminal(dialog);
+  tq::CommitAddedSymbols(*manager, dialog.Copy());
+  return result;
+}
+
+int CTQSymbolListMgr::DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
+                                 WindowHandle parent, const CString& input, SymbolInfo* result,
+                                 int forceList, CListID* place) noexcept {
+  if (manager == nullptr)
+    return CDialog::Failed;
+  const tq::ResourceContext context(tq::LibraryResources());
+  if (place != nullptr)
+    CSymbolSearchDlg::Remembered() = {place->GetGroupID(), place->GetSubGroupID()};
+  const CWnd window(parent);
+  CSymbolSearchDlg dialog({*manager, tables}, &window, input, forceList != 0);
+  const int code = RunAsTerminal(dialog);
+  if (place != nullptr && code != CDialog::Failed)
+    place->FromString(ListIdOf(dialog.Chosen()));
+  if (code == CDialog::Accepted && dialog.Found() && result != nullptr)
+    *result = *dialog.Found();
+  return code;
 }
 
 int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,

@@ -1,12 +1,14 @@
 #include "dialogs/WorkingCopy.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 #include <utility>
 
 #include "manager/TQSymbolListMgr.h"
 #include "platform/LibraryString.h"
+#include "platform/Log.h"
 #include "platform/Text.h"
 #include "symbollist/ListIndex.h"
 
@@ -108,24 +110,26 @@ bool WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
     return same;
   }
   Changes changes(*this);
-  std::vector<std::unique_ptr<CSymbolList>> fresh;
+  Lists fresh;
   for (auto& list : now.lists_) {
     const int place = changes.ChangedPlace(*this, *list);
     if (changes.IsNew(*list))
-      fresh.push_back(std::make_unique<CSymbolList>(*list));
+      fresh.push_back(std::move(list));
     else if (place >= 0)
-      Replace(place, std::make_unique<CSymbolList>(*list));
+      Replace(place, std::move(list));
   }
+  if (!fresh.empty())
+    LogLine(kLogChange, "Kept %d lists that were added while others were edited",
+            static_cast<int>(fresh.size()));
+  std::move(fresh.begin(), fresh.end(), std::back_inserter(lists_));
   TakeInDefault(now);
-  for (auto& list : fresh)
-    lists_.push_back(std::move(list));
   return true;
 }
 
 void WorkingCopy::TakeInDefault(const WorkingCopy& now) {
   if (now.defaultIndex_ == knownDefault_ || DefaultId() != knownDefaultId_)
     return;
-  const int place = Find(now.DefaultId());
+  const int place = Find(now.knownDefaultId_);
   if (place >= 0)
     defaultIndex_ = place;
 }

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "platform/FieldText.h"
-#include "platform/ServiceArray.h"
+#include "platform/SymbolSearch.h"
 #include "platform/Text.h"
 #include "platform/services/tqStock.h"
 #include "symboltable/ExchangeService.h"
@@ -66,11 +66,9 @@ int ReadSymbolInfo(const CString& id, ExchInfo* exchanges, int exchangeCount,
 
 int FindValidSymbol(const CString& text, int bCN, const std::unique_ptr<CSymbolTableMgr>& tables,
                     SymbolInfo* info) {
-  constexpr int kAllExchanges = -1;
-  ServiceArray<SymbolInfo> found;
-  if (info == nullptr ||
-      VLFindSymbol(text, found.List(), found.Count(), 0, bCN, kAllExchanges) == 0)
+  if (info == nullptr)
     return 0;
+  const auto found = FindOnAllExchanges(text, bCN);
   const bool only = found.Records().size() == 1;
   for (const SymbolInfo& record : found.Records()) {
     const CString id = ToCString(FieldText(record.id));

@@ -55,6 +55,7 @@
 #include "symbollist/TQSymbolListInfo.h"
 #include "tqSymbolApi.h"
 
+class CListID;
 class CSymbolTableMgr;
 class CWnd;
 namespace tq {
@@ -602,6 +603,11 @@ public:
   // Adds one symbol, by its full id, to lists of the user's choice.
   static int DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, CWnd* parent,
                               const char* symbol) noexcept;
+  // Adds symbols, full ids joined by ",", to one list of the user's choice. The list with the
+  // identifier `listId` is selected at first; where there is none, the default list. What a list
+  // has already is not added again, and the user is told. The terminal is told of every run.
+  static int DoSymbolAddUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, WindowHandle parent,
+                           const CString& symbols, const CString& listId) noexcept;
   // The choice of a list. `*kind` and `text` are what was chosen before, and with 1 what is chosen
   // now; else they stay.
   //   kind  1 a user list, 6 one of holdings, 8 a cloud list: `text` is its identifier
@@ -612,6 +618,16 @@ public:
   // with OK, cloud lists at once.
   static int DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, WindowHandle parent,
                         int* kind, CString& text, int option, bool holdings) noexcept;
+  // The search for one symbol. `input`, a code or a name, is searched as the dialog opens; empty
+  // opens it idle. One that means a single symbol is answered without the user, unless `forceList`
+  // is set. With 1 the record of the symbol is copied into `*result`; null is allowed.
+  //   `place` (null: none) is a group by GetGroupID and GetSubGroupID, with which the search opens;
+  //   other types, and groups that there are not, mean all. Afterwards, cancelled or not, it is the
+  //   group with which the search ended: type 2, "," for all. It stays as it is with -1. Without it
+  //   the search opens with the group of the last search in the process.
+  static int DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, WindowHandle parent,
+                        const CString& input, SymbolInfo* result, int forceList,
+                        CListID* place) noexcept;
   // 1 exactly while the list selection is open, else 0.
   static int m_bDoModal;
   // Ends the dialog that runs in that window with an end code of the caller's. Only while

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "dialogs/editors/EditorMessages.h"
+#include "dialogs/DialogMessages.h"
 #include "idlist/ListKind.h"
 #include "platform/LibraryString.h"
 #include "platform/framework/window/CListCtrl.h"
@@ -12,7 +12,7 @@
 
 namespace tq {
 
-ContentEditor::ContentEditor(const Kind& kind, const EditorSources& sources, const CWnd* parent,
+ContentEditor::ContentEditor(const Kind& kind, const DialogSources& sources, const CWnd* parent,
                              Task task)
     : CSingletonDlg(kEditorFamily, kind.templateId, parent, 0), kind_(kind), sources_(sources),
       task_(std::move(task)), markets_(sources.Manager()), contents_(task_.list) {}
@@ -133,9 +133,7 @@ bool ContentEditor::OnListKey(Key key, Held held) {
 }
 
 void ContentEditor::OnOK() {
-  const CCharEdit field(*this, kName, kNameBytes);
-  // A name that is as it was stays so, whatever blanks an older version let it have.
-  const CString name = field.GetText() == task_.list.GetName() ? field.GetText() : field.GetInput();
+  const CString name = TypedName(CCharEdit(*this, kName, kNameBytes), task_.list.GetName());
   if (Accepts(name) && Store(name))
     EndDialog(Accepted);
   else
@@ -194,7 +192,7 @@ int Run(ContentEditor& editor) {
 
 } // namespace
 
-int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent,
+int RunContentEditor(int lists, const DialogSources& sources, const CWnd* parent,
                      ContentEditor::Task task) {
   if (lists == kCloudLists) {
     CCloudGroupListDlg dialog(sources, parent, std::move(task));
@@ -204,7 +202,7 @@ int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent
   return Run(dialog);
 }
 
-int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,
+int RunWithin(int lists, const DialogSources& sources, const CWnd& opener,
               ContentEditor::Task task) {
   const int code = RunContentEditor(lists, sources, &opener, std::move(task));
   if (code == CDialog::Failed)
@@ -214,9 +212,9 @@ int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,
 
 } // namespace tq
 
-CGroupListDlg::CGroupListDlg(const tq::EditorSources& sources, const CWnd* parent, Task task)
+CGroupListDlg::CGroupListDlg(const tq::DialogSources& sources, const CWnd* parent, Task task)
     : ContentEditor({1001, 48010, tq::kUserLists}, sources, parent, std::move(task)) {}
 
-CCloudGroupListDlg::CCloudGroupListDlg(const tq::EditorSources& sources, const CWnd* parent,
+CCloudGroupListDlg::CCloudGroupListDlg(const tq::DialogSources& sources, const CWnd* parent,
                                        Task task)
     : ContentEditor({1011, 48102, tq::kCloudLists}, sources, parent, std::move(task)) {}

@@ -8,10 +8,10 @@
 #include <span>
 #include <vector>
 
+#include "dialogs/DialogSources.h"
 #include "dialogs/ListContents.h"
-#include "dialogs/editors/EditorSources.h"
-#include "dialogs/editors/MarketChoice.h"
 #include "dialogs/editors/NameCheck.h"
+#include "dialogs/search/MarketChoice.h"
 #include "platform/services/tqUI.h"
 
 namespace tq {
@@ -45,7 +45,7 @@ protected:
     unsigned editTitle; // an entry of the string table; new lists have the template's title
     int lists;          // the kind of the manager's lists whose names are taken
   };
-  ContentEditor(const Kind& kind, const EditorSources& sources, const CWnd* parent, Task task);
+  ContentEditor(const Kind& kind, const DialogSources& sources, const CWnd* parent, Task task);
 
   bool OnInitDialog() override;
   void OnOK() override;
@@ -114,7 +114,7 @@ private:
   void FindSimilarTo(const CString& text);
 
   Kind kind_;
-  EditorSources sources_;
+  DialogSources sources_;
   Task task_;
   MarketChoice markets_;
   ListContents contents_;
@@ -128,13 +128,13 @@ private:
 // The content editor of a user list.
 class CGroupListDlg : public tq::ContentEditor {
 public:
-  CGroupListDlg(const tq::EditorSources& sources, const CWnd* parent, Task task);
+  CGroupListDlg(const tq::DialogSources& sources, const CWnd* parent, Task task);
 };
 
 // The content editor of a cloud list, which has no headings of its own.
 class CCloudGroupListDlg : public tq::ContentEditor {
 public:
-  CCloudGroupListDlg(const tq::EditorSources& sources, const CWnd* parent, Task task);
+  CCloudGroupListDlg(const tq::DialogSources& sources, const CWnd* parent, Task task);
 };
 
 namespace tq {
@@ -142,9 +142,9 @@ namespace tq {
 // Runs the content editor for lists of a kind as the terminal runs dialogs, and returns its end
 // code: 1 only when the list was stored. When its window cannot be made, a dialog that opens it
 // tells the user (RunWithin).
-int RunContentEditor(int lists, const EditorSources& sources, const CWnd* parent,
+int RunContentEditor(int lists, const DialogSources& sources, const CWnd* parent,
                      ContentEditor::Task task);
-int RunWithin(int lists, const EditorSources& sources, const CWnd& opener,
+int RunWithin(int lists, const DialogSources& sources, const CWnd& opener,
               ContentEditor::Task task);
 
 } // namespace tq

@@ -1,15 +1,13 @@
 // The content editor's list: rows, headings, and the symbols that it is opened with.
 #include <algorithm>
 #include <cctype>
-#include <iterator>
 
+#include "dialogs/DialogMessages.h"
 #include "dialogs/editors/ContentEditor.h"
-#include "dialogs/editors/EditorMessages.h"
 #include "dialogs/editors/ListBoxes.h"
 #include "idlist/RecordIndex.h"
 #include "platform/CodePage.h"
 #include "platform/FieldText.h"
-#include "platform/LibraryString.h"
 #include "platform/Text.h"
 #include "platform/framework/window/CComboBox.h"
 

@@ -1,11 +1,12 @@
 // The content editor's search: markets and groups, what they hold, and adding it to the list.
 #include <utility>
 
+#include "dialogs/DialogMessages.h"
 #include "dialogs/editors/ContentEditor.h"
-#include "dialogs/editors/EditorMessages.h"
-#include "dialogs/editors/TypedSymbol.h"
+#include "dialogs/search/TypedSymbol.h"
 #include "idlist/RecordIndex.h"
 #include "platform/FieldText.h"
+#include "platform/SymbolSearch.h"
 #include "platform/Text.h"
 #include "platform/framework/window/CComboBox.h"
 #include "platform/framework/window/CListCtrl.h"
@@ -129,11 +130,8 @@ void ContentEditor::FindSimilarTo(const CString& text) {
       ShowMarket();
     return;
   }
-  constexpr int kAllExchanges = -1;
-  ServiceArray<SymbolInfo> found;
-  const int done = VLFindSymbol(text, found.List(), found.Count(), 0, sources_.Manager().GetbCN(),
-                                kAllExchanges);
-  const std::span<const SymbolInfo> records = done != 0 ? found.Records() : std::span<SymbolInfo>();
+  auto found = FindOnAllExchanges(text, sources_.Manager().GetbCN());
+  const std::span<const SymbolInfo> records = found.Records();
   if (records.size() == 1)
     AddOne(records.front());
   else if (!records.empty())

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "dialogs/ServiceGroups.h"
 #include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
 #include "platform/FieldText.h"
@@ -25,13 +26,8 @@ constexpr int kOtherGroupChoice = 2;
 constexpr int kAllSymbolsChoice = 4;
 
 void AddGroups(CTQSymbolListMgr& manager, int type, std::vector<ListSource>& sources) {
-  const int count = manager.GetGroupCount(type, nullptr);
-  for (int i = 0; i < count; ++i) {
-    GroupInfo group = {};
-    if (manager.GetGroupInfo(type, nullptr, i, &group) != 0)
-      sources.push_back({SourceCode::Group, ToCString(FieldText(group.szName)), type,
-                         ToCString(FieldText(group.szID))});
-  }
+  for (const GroupInfo& group : TopGroups(manager, type))
+    sources.push_back({SourceCode::Group, ToCString(FieldText(group.szName)), group});
 }
 
 std::vector<SourceItem> ListsOf(CTQSymbolListMgr& manager, int kind) {
@@ -44,12 +40,8 @@ std::vector<SourceItem> ListsOf(CTQSymbolListMgr& manager, int kind) {
 
 std::vector<SourceItem> GroupItems(CTQSymbolListMgr& manager, const ListSource& source) {
   std::vector<SourceItem> items;
-  const int count = manager.GetGroupCounts(source.groupType, source.groupId);
-  for (int i = 0; i < count; ++i) {
-    GroupInfo group = {};
-    if (manager.GetGroupInfos(source.groupType, source.groupId, i, &group) != 0)
-      items.push_back({ToCString(FieldText(group.szName)), ToCString(FieldText(group.szID))});
-  }
+  for (const GroupInfo& group : SubGroups(manager, source.group))
+    items.push_back({ToCString(FieldText(group.szName)), ToCString(FieldText(group.szID))});
   return items;
 }
 
@@ -103,7 +95,7 @@ ListChoice ChoiceOf(const ListSource& source, const SourceItem* item) {
   case SourceCode::Cloud:
     return {kCloudLists, chosen.id};
   default:
-    return {GroupChoice(source.groupType), source.name + "," + chosen.name};
+    return {GroupChoice(source.group.nType), source.name + "," + chosen.name};
   }
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/framework/CString.h"
+#include "platform/services/VLRecords.h"
 
 class CTQSymbolListMgr;
 
@@ -22,8 +23,7 @@ struct ListChoice {
 struct ListSource {
   SourceCode code;
   CString name;      // what the box of sources shows
-  int groupType = 0; // of a group, its type and its id
-  CString groupId{};
+  GroupInfo group{}; // where it is one
 };
 
 struct SourceItem {

@@ -6,16 +6,13 @@
 // to go there is done.
 #pragma once
 
-#include <memory>
-
-#include "dialogs/WorkingCopy.h"
-#include "dialogs/editors/ContentEditor.h"
+#include "dialogs/editors/ListsPane.h"
 
 namespace tq {
 
 class ListsEditor : public CSingletonDlg {
 public:
-  WorkingCopy& Copy() { return copy_; }
+  WorkingCopy& Copy() { return pane_.Copy(); }
 
   // Message: whether a list of the working copy other than that at `second` (-1: any) has the name
   // whose text is at the address `first`. 1 or 0. Letter case counts.
@@ -28,19 +25,18 @@ protected:
     int lists;       // the kind of the manager's lists
     bool hasDefault; // one of them is marked, and shown first
   };
-  ListsEditor(const Kind& kind, const EditorSources& sources, const CWnd* parent);
+  ListsEditor(const Kind& kind, const DialogSources& sources, const CWnd* parent);
 
   bool OnInitDialog() override;
   void OnCommand(int id, ControlEvent event) override;
   void OnCancel() override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
   bool OnKey(int id, Key key, Held held) override;
-  void OnItemLook(int id, int row, ItemLook& look) override;
+  void OnItemLook(int id, int row, ItemLook& look) override { pane_.Look(id, row, look); }
 
 private:
   enum Control : int {
-    kLists = 781,
-    kContents = 782,
+    kLists = ListsPane::kLists,
     kNameField = 741,
     kNew = 801,
     kEdit = 802,
@@ -54,9 +50,6 @@ private:
 
   void OnClicked(int id);
   bool OnListKey(Key key, Held held);
-  int Selected() const;
-  void Select(int row);
-  void ShowSelected();
   void UpdateButtons();
 
   void NewList();
@@ -64,7 +57,6 @@ private:
   void DeleteList();
   void MakeDefault();
   void MoveList(bool up);
-  bool EditContents(CSymbolList& list, ContentEditor::Mode mode, int row);
 
   // --- Renaming
   void StartRenaming();
@@ -74,10 +66,8 @@ private:
   bool IsTaken(const CString& name, int except) const;
 
   Kind kind_;
-  EditorSources sources_;
-  WorkingCopy copy_;
-  ListContents shown_; // of the selected list
-  int renamed_ = -1;   // the row under the editor of names
+  ListsPane pane_;
+  int renamed_ = -1; // the row under the editor of names
 };
 
 } // namespace tq
@@ -85,11 +75,11 @@ private:
 // The editor of the user's lists.
 class CSymbolListDlg : public tq::ListsEditor {
 public:
-  CSymbolListDlg(const tq::EditorSources& sources, const CWnd* parent);
+  CSymbolListDlg(const tq::DialogSources& sources, const CWnd* parent);
 };
 
 // The editor of the cloud lists, of which none is the default.
 class CloudSymbolListDlg : public tq::ListsEditor {
 public:
-  CloudSymbolListDlg(const tq::EditorSources& sources, const CWnd* parent);
+  CloudSymbolListDlg(const tq::DialogSources& sources, const CWnd* parent);
 };

@@ -1,12 +1,17 @@
 #include "dialogs/editors/NameCheck.h"
 
-#include "dialogs/editors/EditorMessages.h"
+#include "dialogs/DialogMessages.h"
 #include "idlist/StorableText.h"
 #include "platform/LibraryString.h"
 #include "platform/Text.h"
 #include "platform/services/tqUtil.h"
 
 namespace tq {
+
+CString TypedName(const CCharEdit& field, const CString& before) {
+  const CString text = field.GetText();
+  return text == before ? text : field.GetInput();
+}
 
 bool NameCheck::IsGiven() const {
   return !Trimmed(ViewOf(name_)).empty() || Refuse(kMessageNoName);

@@ -4,12 +4,16 @@
 #include <functional>
 
 #include "platform/framework/CString.h"
-#include "platform/framework/window/CWnd.h"
+#include "platform/services/tqUI.h"
 
 namespace tq {
 
 // Whether another list has that name.
 using NameTest = std::function<bool(const CString& name)>;
+
+// The name in a field, without blanks at its ends. One that is as it was stays so, whatever blanks
+// an older version let it have.
+CString TypedName(const CCharEdit& field, const CString& before);
 
 // One check each. Those that fail say why in a message box, unless Silent was asked for. The
 // editors ask in different orders, so that of two faults they name different ones: both orders are

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "dialogs/editors/EditorMessages.h"
+#include "dialogs/DialogMessages.h"
 #include "dialogs/editors/ListBoxes.h"
 #include "idlist/ListKind.h"
 #include "platform/Notify.h"
@@ -11,7 +11,7 @@
 
 using namespace tq;
 
-CSymbolSetDlg::CSymbolSetDlg(const EditorSources& sources, const CWnd* parent, ListChoice before,
+CSymbolSetDlg::CSymbolSetDlg(const DialogSources& sources, const CWnd* parent, ListChoice before,
                              bool holdings)
     : CSingletonDlg(kEditorFamily, 1003, parent, 0), sources_(sources), before_(std::move(before)),
       offered_(ListSources(sources.Manager(), holdings)), user_(sources.Manager(), kUserLists),

@@ -18,7 +18,7 @@ class CSymbolSetDlg : public CSingletonDlg {
 public:
   // `before` is what the terminal had chosen: it is shown as the dialog opens. `holdings`: the
   // service's groups of holdings are offered too.
-  CSymbolSetDlg(const tq::EditorSources& sources, const CWnd* parent, tq::ListChoice before,
+  CSymbolSetDlg(const tq::DialogSources& sources, const CWnd* parent, tq::ListChoice before,
                 bool holdings);
 
   // Whether lists were changed, stored or not.
@@ -63,7 +63,7 @@ private:
   void StoreCloud(const CString& id);
   void StoreChanges();
 
-  tq::EditorSources sources_;
+  tq::DialogSources sources_;
   tq::ListChoice before_;
   std::vector<tq::ListSource> offered_;
   std::vector<tq::SourceItem> shown_; // the rows

@@ -37,6 +37,8 @@ constexpr int kDone = 1;
 constexpr int kSource = 761;
 constexpr int kUserListsSource = 1;
 constexpr int kAddSymbol = 803;
+constexpr int kFound = 781;
+constexpr int kAlways = 1; // the table is shown, even for one symbol
 
 // What does not fit between the scripts and the dialogs; empty when all is well.
 std::string& Misfit() {
@@ -72,6 +74,8 @@ public:
   void EditCloudContents();
   void SelectList();
   void AddSymbol();
+  void AddSymbols();
+  void Search();
 
 private:
   CSymbolTableMgr* Tables() { return manager_.GetSymbolTableMgr(); }
@@ -203,6 +207,30 @@ void EditorSession::AddSymbol() {
          before + "," + symbol);
 }
 
+void EditorSession::AddSymbols() {
+  const std::string before = LastIds(kUserLists);
+  Expect({[](User& user) { LookAndLeave(user, kAddSymbol); }});
+  const CString list = LastList(kUserLists).GetID();
+  const int code = CTQSymbolListMgr::DoSymbolAddUI(&manager_, Tables(), nullptr,
+                                                   SomeSymbols(3, 2).c_str(), list);
+  Report("DoSymbolAddUI: two symbols, one of which the list has", code == 1, kUserLists,
+         before + "," + SomeSymbols(4, 1));
+}
+
+void EditorSession::Search() {
+  const std::string lists = LastIds(kUserLists);
+  const std::string symbol = SomeSymbols(0, 1);
+  Expect({[](User& user) {
+    user.WaitFor([&user] { return !user.Rows(kFound).empty(); });
+    PrintScreen(user);
+    user.DoubleClick(kFound, 0);
+  }});
+  SymbolInfo found = {};
+  const int code = CTQSymbolListMgr::DoSearchUI(&manager_, Tables(), nullptr, symbol.c_str(),
+                                                &found, kAlways, nullptr);
+  Report("DoSearchUI: " + symbol, code == 1 && found.id == symbol, kUserLists, lists);
+}
+
 // One list of the user and none of the cloud.
 bool Prepare(CTQSymbolListMgr& manager, const std::string& directory) {
   CPtrArray none;
@@ -233,6 +261,8 @@ bool ShowEditors(const std::string& directory, std::string& error) {
   session.EditCloudContents();
   session.SelectList();
   session.AddSymbol();
+  session.AddSymbols();
+  session.Search();
   error = steps.Error();
   return error.empty();
 }

@@ -23,6 +23,7 @@ constexpr int kResults = 782;
 constexpr int kName = 742;
 constexpr int kDone = 1;
 constexpr int kAddSymbol = 803;
+constexpr int kFound = 781;
 
 // Two lists with headings.
 constexpr int kSystemList = 0;
@@ -73,6 +74,16 @@ int OpenSelection(CTQSymbolListMgr& manager) {
 int OpenSymbol(CTQSymbolListMgr& manager) {
   return CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr,
                                             "2881.TW");
+}
+
+int OpenSymbols(CTQSymbolListMgr& manager) {
+  return CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr,
+                                         "2330.TW,2454.TW,3711.TW", "");
+}
+
+int OpenSearch(CTQSymbolListMgr& manager) {
+  return CTQSymbolListMgr::DoSearchUI(&manager, manager.GetSymbolTableMgr(), nullptr, "28", nullptr,
+                                      0, nullptr);
 }
 
 void SelectThree(User& user, int id, int first) {
@@ -131,6 +142,11 @@ void EditList(User& user) {
   user.LeaveUp();
 }
 
+void SeeResults(User& user) {
+  user.WaitFor([&user] { return !user.SelectedRows(kFound).empty(); });
+  user.LeaveUp();
+}
+
 void StayUp(User& user) {
   user.LeaveUp();
 }
@@ -149,6 +165,8 @@ const std::vector<View>& Views() {
       {"cloud-contents", OpenCloudLists, {EditList, Search}},
       {"selection", OpenSelection, {StayUp}},
       {"symbol", OpenSymbol, {AddSymbol}},
+      {"symbols", OpenSymbols, {SelectList}},
+      {"search", OpenSearch, {SeeResults}},
       {"name-taken", OpenCloudLists, {MakeList, NameAsAnother}},
       {"economic", Indicators(InfoEconomicIndicators), {StayUp}},
       {"commodities", Indicators(InfoCommodities), {StayUp}},

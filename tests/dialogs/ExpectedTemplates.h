@@ -68,7 +68,7 @@ inline const Rows kSearch = {
     {Label, 0, "市場/類別", "市场/类别"},    {ComboBox, 761},
     {Label, 0, "產業/組合", "产业/组合"},    {ComboBox, 762},
     {Label, 0, "代碼/名稱", "代码/名称"},    {Edit, 741},
-    {Button, 801, "", "", tq::TemplateIcon}, {ListView, 781},
+    {Button, 801, "", "", tq::TemplateIcon}, {ListView, 781, "", "", tq::TemplateVirtual},
 };
 
 inline const Rows kSet = {
@@ -83,8 +83,8 @@ inline const Rows kSet = {
 
 inline const Rows kAdd = {
     {Edit, 741, "", "", tq::TemplateReadOnly},
-    {ListBox, 781},
-    {ListBox, 782},
+    {ListBox, 781, "", "", tq::TemplateOwnerDrawn},
+    {ListBox, 782, "", "", tq::TemplateOwnerDrawn},
     {Button, 803, "加入(&A)", "加入(&A)"},
     {Button, 801, "加入且修改組合內容(&M)...", "加入且修改组合内容(&M)..."},
     {Button, 802, "建立新的商品組合(&N)...", "建立新的商品组合(&N)..."},

@@ -26,7 +26,7 @@ protected:
     std::string text;
     for (const tq::ListSource& source : tq::ListSources(manager, holdings)) {
       text += text.empty() ? "" : " ";
-      text += source.code == SourceCode::Group ? "g" + std::to_string(source.groupType)
+      text += source.code == SourceCode::Group ? "g" + std::to_string(source.group.nType)
                                                : std::to_string(static_cast<int>(source.code));
     }
     return text;
@@ -34,7 +34,7 @@ protected:
   tq::ListSource GroupSource(int type) {
     const auto sources = tq::ListSources(manager, true);
     return *std::find_if(sources.begin(), sources.end(),
-                         [type](const tq::ListSource& s) { return s.groupType == type; });
+                         [type](const tq::ListSource& s) { return s.group.nType == type; });
   }
   static std::string Text(const tq::ListChoice& choice) {
     return std::to_string(choice.kind) + "/" + standin::FromAnsi(choice.text.GetString());
@@ -80,7 +80,7 @@ TEST_F(ListSourcesTest, AChoiceOfAGroupIsItsKindAndBothNames) {
   EXPECT_EQ(Text(tq::ChoiceOf(GroupSource(1), &item)), "2/上市,name");
   EXPECT_EQ(Text(tq::ChoiceOf(GroupSource(3), &item)), "3/H,name");
   EXPECT_EQ(Text(tq::ChoiceOf(GroupSource(101), &item)), "7/E,name");
-  const tq::ListSource other = {SourceCode::Group, "G", 9, "g"};
+  const tq::ListSource other = {SourceCode::Group, "G", {9, "g", "G", 0}};
   EXPECT_EQ(Text(tq::ChoiceOf(other, &item)), "2/G,name");
 }
 

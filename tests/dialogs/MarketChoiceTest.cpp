@@ -1,5 +1,5 @@
 // What the two boxes of a symbol search offer.
-#include "dialogs/editors/MarketChoice.h"
+#include "dialogs/search/MarketChoice.h"
 
 #include "platform/FieldText.h"
 #include "platform/LibraryString.h"
@@ -60,6 +60,30 @@ TEST_F(MarketChoiceTest, AllMarketsAndMarketsThatAreNotThereOfferAllAlone) {
   const tq::MarketChoice markets(manager);
   for (const int market : {0, -1, 7, 1000})
     EXPECT_EQ(Names(markets.GroupNames(market)), Texts{"全部商品"}) << market;
+}
+
+TEST_F(MarketChoiceTest, MarketsAndGroupsAreFoundByTheirIds) {
+  const tq::MarketChoice markets(manager);
+  for (int market = 1; market < 6; ++market) {
+    EXPECT_EQ(markets.FindMarket(markets.MarketId(market)), market);
+    const int groups = static_cast<int>(markets.GroupNames(market).size());
+    for (int group = 1; group < groups; ++group)
+      EXPECT_EQ(markets.FindGroup(market, markets.GroupId(market, group)), group);
+  }
+  EXPECT_NE(markets.GroupId(1, 1), markets.GroupId(1, 2));
+}
+
+TEST_F(MarketChoiceTest, AllHasNoIdAndWhatIsNotThereMeansAll) {
+  const tq::MarketChoice markets(manager);
+  for (const int none : {0, -1, 100}) {
+    EXPECT_STREQ(markets.MarketId(none), "") << none;
+    EXPECT_STREQ(markets.GroupId(1, none), "") << none;
+    EXPECT_STREQ(markets.GroupId(none, 1), "") << none;
+  }
+  for (const char* const none : {"", "nowhere"}) {
+    EXPECT_EQ(markets.FindMarket(none), 0) << none;
+    EXPECT_EQ(markets.FindGroup(1, none), 0) << none;
+  }
 }
 
 TEST_F(MarketChoiceTest, AllOfAMarketAreTheMembersOfItsGroupsEachOnce) {

@@ -1,5 +1,5 @@
 // The symbol that is meant with what was typed. Default exchanges are TW and TE.
-#include "dialogs/editors/TypedSymbol.h"
+#include "dialogs/search/TypedSymbol.h"
 
 #include "tests/interface/EditTest.h"
 
@@ -12,7 +12,7 @@ protected:
   TypedSymbolTest() { StartWith({"A/one/2330.TW"}); }
   // UTF-8. The id, "none" or "several".
   std::string Find(const std::string& text) {
-    const tq::EditorSources sources(manager, manager.GetSymbolTableMgr());
+    const tq::DialogSources sources(manager, manager.GetSymbolTableMgr());
     CString id = "was";
     switch (FindTypedSymbol(sources, standin::ToAnsi(text).c_str(), id)) {
     case TypedMatch::One:
@@ -107,7 +107,7 @@ TEST_F(TypedSymbolTest, WithoutTablesNothingIsFound) {
 
 // The terminal may start the manager anew while a dialog is up: the tables are others then.
 TEST_F(TypedSymbolTest, TheTablesOfAManagerThatWasStartedAnewAreAsked) {
-  const tq::EditorSources sources(manager, manager.GetSymbolTableMgr());
+  const tq::DialogSources sources(manager, manager.GetSymbolTableMgr());
   ASSERT_EQ(StartWithTables(), 1);
   CString id;
   EXPECT_EQ(tq::FindTypedSymbol(sources, "2330.TW", id), TypedMatch::One);

@@ -23,7 +23,7 @@ inline std::string NameOfSession(const testing::TestParamInfo<EditorSession>& se
   return session.param.name;
 }
 
-// The six editors.
+// The editors, all of them.
 std::vector<EditorSession> EditorSessions();
 
 class SessionTest : public EditTest {

@@ -76,6 +76,18 @@ void AddOneSymbol(User& user) {
   user.Click(1);
 }
 
+void AddSymbols(User& user) {
+  WhenDialogOpens(EditContents);
+  user.Click(802);
+  user.ClickRow(781, 0);
+  WhenDialogOpens(EditContents); // its name is taken, so that this one is left
+  user.Click(801);
+  if (user.IsUp())
+    user.Click(803);
+  if (user.IsUp())
+    user.Click(1);
+}
+
 int OpenLists(CTQSymbolListMgr& manager, CString&) {
   return CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr);
 }
@@ -99,6 +111,10 @@ int OpenOneSymbol(CTQSymbolListMgr& manager, CString&) {
   return CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr,
                                             "6488.TE");
 }
+int OpenSymbols(CTQSymbolListMgr& manager, CString&) {
+  return CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr,
+                                         "6488.TE,2330.TW", "A");
+}
 int OpenSelection(CTQSymbolListMgr& manager, CString& text) {
   int kind = 1;
   return CTQSymbolListMgr::DoSelectUI(&manager, manager.GetSymbolTableMgr(), nullptr, &kind, text,
@@ -113,5 +129,6 @@ std::vector<EditorSession> EditorSessions() {
           {"Contents", OpenContents, EditContents},
           {"CloudContents", OpenCloudContents, EditContents},
           {"OneSymbol", OpenOneSymbol, AddOneSymbol},
+          {"Symbols", OpenSymbols, AddSymbols},
           {"Selection", OpenSelection, Select}};
 }

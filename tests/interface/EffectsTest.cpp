@@ -224,6 +224,9 @@ TEST_F(Effects, OfEditorsThatAreClosedUntouchedAreNone) {
             LookAround);
   RunEditor([&] { CTQSymbolListMgr::DoGroupSymbolAdd(&manager, tables, nullptr, "1101.TW"); },
             LookAround);
+  RunEditor(
+      [&] { CTQSymbolListMgr::DoSearchUI(&manager, tables, nullptr, "", nullptr, 0, nullptr); },
+      LookAround);
   CString text;
   RunEditor(
       [&] { CTQSymbolListMgr::DoSelectUI(&manager, tables, nullptr, nullptr, text, 0, false); },
@@ -270,6 +273,27 @@ TEST_F(Effects, OfASymbolThatIsAddedToAListAreASaveALineAndANotification) {
       [](User& user) { user.Click(803); });
   EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoGroupSymbolAdd ", 0), 0u) << Seen();
   EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 40 ''");
+}
+
+TEST_F(Effects, OfSymbolsThatAreAddedToAListAreASaveALineAndTwoNotifications) {
+  RunEditor(
+      [&] {
+        CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr, "1101.TW",
+                                        "");
+      },
+      [](User& user) { user.Click(803); });
+  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoSymbolAddUI ", 0), 0u) << Seen();
+  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 4 '', 40 ''");
+}
+
+TEST_F(Effects, OfAddingSymbolsWithoutDoingSoAreANotification) {
+  RunEditor(
+      [&] {
+        CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr, "1101.TW",
+                                        "");
+      },
+      LookAround);
+  EXPECT_EQ(Seen(), " |  | 40 ''");
 }
 
 TEST_F(Effects, OfPuttingListsInAreNone) {

@@ -1,6 +1,8 @@
 // The dialogs. Something must end them: see PrepareServices in Subject.h.
 #include "tests/operations/Operations.h"
 
+#include "symbolid/ListID.h"
+
 namespace operations {
 namespace {
 
@@ -54,6 +56,20 @@ Table DialogOperations() {
       {"DoGroupSymbolAdd(CTQSymbolListMgr*, CSymbolTableMgr*, CWnd*, char const*)",
        [](Manager& m, const Arguments& a) {
          Manager::DoGroupSymbolAdd(&m, m.GetSymbolTableMgr(), nullptr, a.Text(a.text));
+       }},
+      {"DoSymbolAddUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*, CString const&, CString "
+       "const&)",
+       [](Manager& m, const Arguments& a) {
+         Manager::DoSymbolAddUI(&m, m.GetSymbolTableMgr(), nullptr, a.text, a.id);
+       }},
+      {"DoSearchUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*, CString const&, SymbolInfo*, int, "
+       "CListID*)",
+       [](Manager& m, const Arguments& a) {
+         SymbolInfo found = {};
+         CListID place;
+         place.SetData(ListIDGroup, a.id, 0);
+         Manager::DoSearchUI(&m, m.GetSymbolTableMgr(), nullptr, a.text, a.nulls ? nullptr : &found,
+                             a.flag, a.nulls ? nullptr : &place);
        }},
       {"DoSelectUI(CTQSymbolListMgr*, CSymbolTableMgr*, HWND__*, int*, CString&, int, bool)",
        [](Manager& m, const Arguments& a) {

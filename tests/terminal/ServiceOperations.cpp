@@ -83,6 +83,16 @@ std::vector<Operation> SymbolAndUserOperations() {
          Infos infos;
          return VLFindSymbol("2330", &infos.list, &infos.count, 0, 0, -1);
        }},
+      {"VLFindSymbol2",
+       [] {
+         Infos infos;
+         return VLFindSymbol2("2330", "1,2", &infos.list, &infos.count, 0, 0);
+       }},
+      {"VLEX2ZUID2",
+       [] {
+         Infos infos;
+         return VLEX2ZUID2("2330", &infos.list, &infos.count);
+       }},
       {"TQSGetUserInfo", [] { return TQSGetUserInfo(LoginInfoEntitledExchanges, buffer, ""); }},
       {"TQSGetUserExtraValue",
        [] { return TQSGetUserExtraValue("", "FullMenuKey", buffer, sizeof buffer); }},

@@ -118,6 +118,35 @@ TEST_F(SymbolNames, SearchCanBeLimitedToOneExchange) {
   EXPECT_EQ(VLFindSymbol("7777", &infos.list, &infos.count, 0, 0, 99), 0);
 }
 
+TEST_F(SymbolNames, SearchOverSeveralExchangesKeepsTheirOrder) {
+  const auto found = [](const char* text, const char* exchIds) {
+    Infos infos;
+    EXPECT_NE(VLFindSymbol2(text, exchIds, &infos.list, &infos.count, 0, 0), 0);
+    return Ids(infos);
+  };
+  EXPECT_EQ(found("7777", "2,1"), "7777.TE 7777.TW");
+  EXPECT_EQ(found("7777", "1,2"), "7777.TW 7777.TE");
+  EXPECT_EQ(found("7777", "99,2,,x"), "7777.TE");
+  EXPECT_EQ(found("7777", ""), "");
+  EXPECT_EQ(found("", "1,2"), "");
+}
+
+TEST_F(SymbolNames, AnExchangesOwnCodeIsTakenWhole) {
+  standin::Market market = SmallMarket();
+  market.instruments.front().exchangeCode = "x23";
+  standin::SetMarket(market);
+  const auto found = [](const char* code) {
+    Infos infos;
+    EXPECT_NE(VLEX2ZUID2(code, &infos.list, &infos.count), 0);
+    return Ids(infos);
+  };
+  EXPECT_EQ(found("X23"), "2330.TW");
+  EXPECT_EQ(found("x2"), "");
+  EXPECT_EQ(found("2330"), "");
+  EXPECT_EQ(found("7777"), "7777.TW 7777.TE");
+  EXPECT_EQ(found(""), "");
+}
+
 TEST_F(SymbolNames, SearchDoesNotTakeHalvesOfCharactersForAMatch) {
   // The second byte of a character with the first byte of the next.
   const std::string halves = NameOf("1436.TW").substr(1, 2);

@@ -1,14 +1,14 @@
-// What the editors read: the manager of the lists, and the symbol tables.
+// What the dialogs read: the manager of the lists, and the symbol tables.
 #pragma once
 
 #include "manager/TQSymbolListMgr.h"
 
 namespace tq {
 
-class EditorSources {
+class DialogSources {
 public:
   // `tables` may be null: then no typed symbol is found.
-  EditorSources(CTQSymbolListMgr& manager, CSymbolTableMgr* tables)
+  DialogSources(CTQSymbolListMgr& manager, CSymbolTableMgr* tables)
       : manager_(manager), tables_(tables), managers_(tables == manager.GetSymbolTableMgr()) {}
 
   CTQSymbolListMgr& Manager() const { return manager_; }

@@ -1,7 +1,7 @@
 // The symbol that the user means with what was typed.
 #pragma once
 
-#include "dialogs/editors/EditorSources.h"
+#include "dialogs/DialogSources.h"
 
 namespace tq {
 
@@ -11,6 +11,6 @@ enum class TypedMatch { None, One, Several };
 // service spells it. Several: the code is listed on more than one default exchange, or more than
 // one symbol has the name; which of them is meant only the user can tell. `id` is the full id of
 // the one, and stays as it is otherwise.
-TypedMatch FindTypedSymbol(const EditorSources& sources, const CString& text, CString& id);
+TypedMatch FindTypedSymbol(const DialogSources& sources, const CString& text, CString& id);
 
 } // namespace tq

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "dialogs/editors/SymbolRows.h"
+#include "dialogs/search/SymbolRows.h"
 #include "platform/framework/CString.h"
 
 class CTQSymbolListMgr;
@@ -24,6 +24,13 @@ public:
   std::vector<CString> MarketNames() const;
   std::vector<CString> GroupNames(int market) const;
 
+  // The id of a market, and of one of its groups; empty for all, and for what is not there. And
+  // back: the place of an id, or kAll.
+  CString MarketId(int market) const;
+  CString GroupId(int market, int group) const;
+  int FindMarket(const CString& id) const;
+  int FindGroup(int market, const CString& id) const;
+
   // Whether a group, or a market that is one, is chosen, and not all symbols that there are.
   static bool IsGroup(int market, int group) { return market != kAll || group != kAll; }
 
@@ -35,9 +42,10 @@ public:
 private:
   void AddMarkets(int type);
   const GroupInfo* MarketAt(int market) const;
+  std::vector<GroupInfo> GroupsOf(int market) const;
   SymbolRows AllSymbols() const;
   std::vector<SymbolInfo> MembersOf(const GroupInfo& market) const;
-  std::vector<SymbolInfo> MembersOfAllGroups(const GroupInfo& market, int groups) const;
+  std::vector<SymbolInfo> MembersOfAll(const std::vector<GroupInfo>& groups) const;
   void AppendMembers(const GroupInfo& group, std::vector<SymbolInfo>& members) const;
 
   CTQSymbolListMgr& manager_;

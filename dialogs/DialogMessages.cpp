@@ -1,4 +1,4 @@
-#include "dialogs/editors/EditorMessages.h"
+#include "dialogs/DialogMessages.h"
 
 #include "platform/LibraryString.h"
 #include "platform/Module.h"

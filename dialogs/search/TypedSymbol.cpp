@@ -1,9 +1,9 @@
-#include "dialogs/editors/TypedSymbol.h"
+#include "dialogs/search/TypedSymbol.h"
 
 #include <algorithm>
 
 #include "platform/FieldText.h"
-#include "platform/ServiceArray.h"
+#include "platform/SymbolSearch.h"
 #include "platform/Text.h"
 #include "symboltable/SymbolTableMgr.h"
 
@@ -13,19 +13,15 @@ namespace {
 constexpr int kIdField = 1;
 
 // The tables answer with the first symbol of that name. The service tells whether there are more.
-bool SeveralHaveName(const EditorSources& sources, const CString& name) {
-  constexpr int kAllExchanges = -1;
-  ServiceArray<SymbolInfo> found;
-  if (VLFindSymbol(name, found.List(), found.Count(), 0, sources.Manager().GetbCN(),
-                   kAllExchanges) == 0)
-    return false;
+bool SeveralHaveName(const DialogSources& sources, const CString& name) {
+  const auto found = FindOnAllExchanges(name, sources.Manager().GetbCN());
   const auto records = found.Records();
   return std::count_if(records.begin(), records.end(), [&name](const SymbolInfo& record) {
            return FieldText(record.name) == ViewOf(name);
          }) > 1;
 }
 
-TypedMatch FindByName(const EditorSources& sources, CSymbolTableMgr& tables, const CString& name,
+TypedMatch FindByName(const DialogSources& sources, CSymbolTableMgr& tables, const CString& name,
                       CString& id) {
   CString found;
   if (tables.LookUpNameGetSymbolID(name, found) == 0)
@@ -38,7 +34,7 @@ TypedMatch FindByName(const EditorSources& sources, CSymbolTableMgr& tables, con
 
 } // namespace
 
-TypedMatch FindTypedSymbol(const EditorSources& sources, const CString& text, CString& id) {
+TypedMatch FindTypedSymbol(const DialogSources& sources, const CString& text, CString& id) {
   CSymbolTableMgr* const tables = sources.Tables();
   if (tables == nullptr || text.IsEmpty())
     return TypedMatch::None;

@@ -1,4 +1,4 @@
-// The message boxes of the editors, and the entries of the string table that they show.
+// The message boxes of the dialogs, and the entries of the string table that they show.
 #pragma once
 
 #include "platform/framework/CString.h"
@@ -20,6 +20,7 @@ inline constexpr unsigned kMessageNothingTyped = 48022;
 inline constexpr unsigned kMessageDuplicates = 48025; // a format
 inline constexpr unsigned kMessageAddedTwice = 48029; // a format
 inline constexpr unsigned kMessageReserved = 48042;   // a format
+inline constexpr unsigned kMessageOneCharacter = 48065;
 inline constexpr unsigned kMessageBadHeading = 48101;
 // Only this library shows them.
 inline constexpr unsigned kMessageUnloadable = 48203;

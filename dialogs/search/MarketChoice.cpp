@@ -1,9 +1,10 @@
-#include "dialogs/editors/MarketChoice.h"
+#include "dialogs/search/MarketChoice.h"
 
 #include <algorithm>
 #include <string_view>
 #include <unordered_set>
 
+#include "dialogs/ServiceGroups.h"
 #include "idlist/ListKind.h"
 #include "idlist/RecordIndex.h"
 #include "manager/TQSymbolListMgr.h"
@@ -23,6 +24,30 @@ bool HasEditionMarkets(const CTQSymbolListMgr& manager) {
   const std::vector<CString>& texts = manager.GetExtraTQInfo();
   return std::any_of(texts.begin(), texts.end(),
                      [](const CString& text) { return text.Find(kEditionMark) >= 0; });
+}
+
+// The entry for all, and the groups.
+std::vector<CString> NamesOf(unsigned all, const std::vector<GroupInfo>& groups) {
+  std::vector<CString> names = {LibraryString(all)};
+  for (const GroupInfo& group : groups)
+    names.push_back(ToCString(FieldText(group.szName)));
+  return names;
+}
+
+// Of the entry at a place of a box.
+CString IdAt(const std::vector<GroupInfo>& groups, int place) {
+  if (place <= MarketChoice::kAll || place > static_cast<int>(groups.size()))
+    return {};
+  return ToCString(FieldText(groups[static_cast<std::size_t>(place - 1)].szID));
+}
+
+int PlaceOf(const std::vector<GroupInfo>& groups, const CString& id) {
+  if (id.IsEmpty())
+    return MarketChoice::kAll;
+  const auto found = std::find_if(groups.begin(), groups.end(), [&id](const GroupInfo& group) {
+    return FieldText(group.szID) == ViewOf(id);
+  });
+  return found == groups.end() ? MarketChoice::kAll : static_cast<int>(found - groups.begin()) + 1;
 }
 
 // Keeps the first of each symbol.
@@ -49,12 +74,8 @@ MarketChoice::MarketChoice(CTQSymbolListMgr& manager) : manager_(manager) {
 }
 
 void MarketChoice::AddMarkets(int type) {
-  const int count = manager_.GetGroupCount(type, nullptr);
-  for (int i = 0; i < count; ++i) {
-    GroupInfo market = {};
-    if (manager_.GetGroupInfo(type, nullptr, i, &market) != 0)
-      markets_.push_back(market);
-  }
+  const std::vector<GroupInfo> markets = TopGroups(manager_, type);
+  markets_.insert(markets_.end(), markets.begin(), markets.end());
 }
 
 const GroupInfo* MarketChoice::MarketAt(int market) const {
@@ -63,39 +84,45 @@ const GroupInfo* MarketChoice::MarketAt(int market) const {
   return &markets_[static_cast<std::size_t>(market - 1)];
 }
 
+std::vector<GroupInfo> MarketChoice::GroupsOf(int market) const {
+  const GroupInfo* const chosen = MarketAt(market);
+  return chosen == nullptr ? std::vector<GroupInfo>() : SubGroups(manager_, *chosen);
+}
+
 std::vector<CString> MarketChoice::MarketNames() const {
-  std::vector<CString> names = {LibraryString(kStringAllMarkets)};
-  for (const GroupInfo& market : markets_)
-    names.push_back(ToCString(FieldText(market.szName)));
-  return names;
+  return NamesOf(kStringAllMarkets, markets_);
 }
 
 std::vector<CString> MarketChoice::GroupNames(int market) const {
-  std::vector<CString> names = {LibraryString(kStringAllSymbols)};
-  const GroupInfo* const chosen = MarketAt(market);
-  if (chosen == nullptr)
-    return names;
-  const int count = manager_.GetGroupCounts(chosen->nType, chosen->szID);
-  for (int i = 0; i < count; ++i) {
-    GroupInfo group = {};
-    manager_.GetGroupInfos(chosen->nType, chosen->szID, i, &group);
-    names.push_back(ToCString(FieldText(group.szName)));
-  }
-  return names;
+  return NamesOf(kStringAllSymbols, GroupsOf(market));
+}
+
+CString MarketChoice::MarketId(int market) const {
+  return IdAt(markets_, market);
+}
+
+CString MarketChoice::GroupId(int market, int group) const {
+  return IdAt(GroupsOf(market), group);
+}
+
+int MarketChoice::FindMarket(const CString& id) const {
+  return PlaceOf(markets_, id);
+}
+
+int MarketChoice::FindGroup(int market, const CString& id) const {
+  return PlaceOf(GroupsOf(market), id);
 }
 
 SymbolRows MarketChoice::Symbols(int market, int group) const {
   const GroupInfo* const chosen = MarketAt(market);
   if (chosen == nullptr)
     return market == kAll ? AllSymbols() : SymbolRows();
-  const int groups = manager_.GetGroupCounts(chosen->nType, chosen->szID);
+  const std::vector<GroupInfo> groups = GroupsOf(market);
   if (group == kAll)
-    return SymbolRows(groups == 0 ? MembersOf(*chosen) : MembersOfAllGroups(*chosen, groups));
-  GroupInfo info = {};
+    return SymbolRows(groups.empty() ? MembersOf(*chosen) : MembersOfAll(groups));
   std::vector<SymbolInfo> members;
-  if (group > 0 && group <= groups &&
-      manager_.GetGroupInfos(chosen->nType, chosen->szID, group - 1, &info) != 0)
-    AppendMembers(info, members);
+  if (group > kAll && group <= static_cast<int>(groups.size()))
+    AppendMembers(groups[static_cast<std::size_t>(group - 1)], members);
   return SymbolRows(std::move(members));
 }
 
@@ -125,15 +152,11 @@ std::vector<SymbolInfo> MarketChoice::MembersOf(const GroupInfo& market) const {
   return members;
 }
 
-std::vector<SymbolInfo> MarketChoice::MembersOfAllGroups(const GroupInfo& market,
-                                                         int groups) const {
+std::vector<SymbolInfo> MarketChoice::MembersOfAll(const std::vector<GroupInfo>& groups) const {
   std::vector<SymbolInfo> members;
-  for (int i = 0; i < groups; ++i) {
-    GroupInfo group = {};
-    if (manager_.GetGroupInfos(market.nType, market.szID, i, &group) != 0)
-      AppendMembers(group, members);
-  }
-  if (groups > 1)
+  for (const GroupInfo& group : groups)
+    AppendMembers(group, members);
+  if (groups.size() > 1)
     DropRepeated(members);
   return members;
 }
