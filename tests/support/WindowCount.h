@@ -11,6 +11,10 @@ size_t ResourceSlack();
 
 // Rounds of opening and closing.
 int ManyRuns();
+// Of many cases that no language changes, whether this language's run takes the one with that
+// number: it takes all of them, or every second one where windows are real, and the other language
+// the others.
+bool TakesCase(size_t number);
 // Random actions of a user: all of them in one language, and a part in the other.
 int RandomActions();
 // Of the calls of a session how many are made to fail.

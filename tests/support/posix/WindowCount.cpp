@@ -15,6 +15,10 @@ int ManyRuns() {
   return 10000;
 }
 
+bool TakesCase(size_t) {
+  return true;
+}
+
 int RandomActions() {
   return InEitherLanguage(100000, 10000);
 }

@@ -49,6 +49,10 @@ int ManyRuns() {
   return 500;
 }
 
+bool TakesCase(size_t number) {
+  return (number % 2 == 0) == (IsTraditionChinese() != 0);
+}
+
 int RandomActions() {
   return IsTraditionChinese() != 0 ? 2000 : 200;
 }
