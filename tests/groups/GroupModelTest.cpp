@@ -17,7 +17,7 @@ int Int(size_t size) {
 class GroupModelTest : public RandomGroups {
 protected:
   // Each language takes half of the steps, others than the other one.
-  GroupModelTest() { random.seed(IsTraditionChinese() != 0 ? 31 : 32); }
+  GroupModelTest() { random_.seed(IsTraditionChinese() != 0 ? 31 : 32); }
 
   void ChangeTypes();
   void Push();
