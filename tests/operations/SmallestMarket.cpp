@@ -53,10 +53,21 @@ void PressEverything(CDialog& dialog) {
     tq::DialogAccess::Command(dialog, button, ControlEvent::Clicked);
 }
 
+// The search is the only one with a table and a field.
+void SearchForBoth(CDialog& dialog) {
+  constexpr int kSearch = 801;
+  for (const char* const text : {".2330", "23"}) {
+    CEdit(dialog, 741).SetText(text);
+    tq::DialogAccess::Command(dialog, kSearch, ControlEvent::Clicked);
+  }
+}
+
 void ActAndEnd(CDialog& dialog) {
   static int depth = 0;
   ++depth;
-  if (depth == 1)
+  if (depth == 1 && CListCtrl(dialog, 781).GetColumnCount() > 0)
+    SearchForBoth(dialog);
+  else if (depth == 1)
     PressEverything(dialog);
   --depth;
   tq::DialogAccess::Command(dialog, CDialog::Accepted, ControlEvent::Clicked);

@@ -133,6 +133,10 @@ Subject::Subject() : manager_(std::make_unique<CTQSymbolListMgr>()) {
   m.AddCloudSymbolList("z", "Z", "1101.TW", 0);
   m.UpdateTSLogin("T1");
   m.AddTSSymbolList("z", 6, "Z", "1101.TW", 0);
+  CUIntArray order;
+  order.Add(2);
+  order.Add(1);
+  m.LoadDefExchOrder(order);
   disk_.Write(kImport, kImportFile);
 }
 
