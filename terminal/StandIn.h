@@ -234,6 +234,16 @@ struct Notification {
 };
 TQSTANDIN_API const std::vector<Notification>& Notifications();
 
+// Who hears of lines, messages and notifications as they come: each when it stands in the records
+// above, a message before it is shown. What is empty hears nothing. All of it comes from within an
+// operation of the library. Replaces the listener before; Reset takes it away.
+struct Listener {
+  std::function<void(const LogLine& line)> line;
+  std::function<void(const Message& message)> message;
+  std::function<void(const Notification& notification)> notification;
+};
+TQSTANDIN_API void Listen(Listener listener);
+
 // UTF-8 to the process's code page and back; characters that it lacks become "?".
 TQSTANDIN_API std::string ToAnsi(std::string_view utf8);
 TQSTANDIN_API std::string FromAnsi(std::string_view ansi);

@@ -19,11 +19,18 @@ struct Reports {
   int answer = kButtonOk;
   std::deque<int> inTurn; // used before that one
   bool shown = false;     // messages are shown to somebody, who answers them
+  Listener listener;
 };
 
 Reports& TheReports() {
   static Reports reports;
   return reports;
+}
+
+// The listener may be replaced while it hears: so it is a copy that does, and of the report too.
+template <class REPORT> void Tell(std::function<void(const REPORT&)> hear, REPORT report) {
+  if (hear)
+    hear(report);
 }
 
 // Loggers survive a Reset: the library owns them.
@@ -66,6 +73,7 @@ std::string FromAnsi(std::string_view ansi) {
 
 void ReportLine(int level, std::string_view text) {
   TheReports().lines.push_back({level, std::string(text)});
+  Tell(TheReports().listener.line, TheReports().lines.back());
 }
 
 void ReportStorage(std::string_view directory, std::string_view base, std::string_view prefix) {
@@ -92,12 +100,18 @@ int NextAnswer() {
 
 int ReportMessage(const Message& message) {
   TheReports().messages.push_back(message);
+  Tell(TheReports().listener.message, message);
   const int pressed = TheReports().shown ? ShowBox(message) : 0;
   return pressed != 0 ? pressed : NextAnswer();
 }
 
 void ReportNotification(Notification notification) {
   TheReports().notifications.push_back(std::move(notification));
+  Tell(TheReports().listener.notification, TheReports().notifications.back());
+}
+
+void Listen(Listener listener) {
+  TheReports().listener = std::move(listener);
 }
 
 const std::vector<LogLine>& LogLines() {
