@@ -1,0 +1,153 @@
+#include "terminal/desk/DeskDialog.h"
+
+#include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CListCtrl.h"
+#include "terminal/desk/Listening.h"
+#include "terminal/desk/Resources.h"
+#include "terminal/desk/Session.h"
+
+namespace desk {
+namespace {
+
+constexpr unsigned kTemplate = 100;
+constexpr int kCloudGroups = 201;
+
+template <class ENTRIES> void Fill(CComboBox box, const ENTRIES& entries, int chosen) {
+  box.ResetContent();
+  for (const auto& entry : entries)
+    box.AddString(entry.name);
+  box.SetCurSel(chosen); // makes no event: what follows from it is done by whoever calls
+}
+
+} // namespace
+
+DeskDialog::DeskDialog(CTQSymbolListMgr& manager, News& news)
+    : CDialog(kTemplate), manager_(manager), news_(news), choice_(manager), page_(manager) {}
+
+DeskDialog::~DeskDialog() {
+  news_.Wake(CWnd());
+}
+
+bool DeskDialog::OnInitDialog() {
+  PreparePage();
+  PrepareLog();
+  ShowChoice();
+  ShowPage();
+  news_.Wake(*this);
+  CListCtrl(*this, kPage).SetFocus();
+  return false;
+}
+
+void DeskDialog::PreparePage() {
+  CListCtrl page(*this, kPage);
+  page.SetStyles(CListCtrl::FullRowSelect | CListCtrl::GridLines);
+  page.AddColumn(Text(Word::Code), 84);
+  page.AddColumn(Text(Word::Name), 142);
+  page.AddColumn(Text(Word::Exchange), 92);
+  page.AddColumn(Text(Word::ReferencePrice), 0);
+}
+
+void DeskDialog::PrepareLog() {
+  CListCtrl log(*this, kLog);
+  log.SetStyles(CListCtrl::FullRowSelect);
+  log.AddColumn(Text(Word::Time), 40);
+  log.AddColumn(Text(Word::Kind), 30);
+  log.AddColumn(Text(Word::Number), 34);
+  log.AddColumn(Text(Word::Content), 0);
+}
+
+void DeskDialog::ShowChoice() {
+  Fill(CComboBox(*this, kSource), choice_.Sources(), choice_.SourceIndex());
+  Fill(CComboBox(*this, kList), choice_.Lists(), choice_.ListIndex());
+}
+
+void DeskDialog::ShowPage() {
+  page_.Show(choice_.Chosen());
+  CListCtrl(*this, kPage).SetVirtualRows(page_.RowCount());
+  UpdateButtons();
+}
+
+// The latest line is in sight.
+void DeskDialog::ShowLog() {
+  CListCtrl log(*this, kLog);
+  log.SetVirtualRows(news_.LineCount());
+  log.EnsureVisible(news_.LineCount() - 1);
+}
+
+void DeskDialog::ReadListsAnew(News::Change change) {
+  if (change.cloudLists) // from which the cloud groups are made when they are loaded
+    manager_.LoadGroupList(kCloudGroups);
+  const CString selected = SelectedSymbol();
+  choice_.Reload();
+  ShowChoice();
+  ShowPage();
+  SelectSymbol(selected);
+}
+
+void DeskDialog::UpdateButtons() {
+  const From from = choice_.Chosen().source.from;
+  const bool isEditable = from == From::UserLists || from == From::CloudLists;
+  CWnd(*this, kEditShown).EnableWindow(isEditable && choice_.ListIndex() != -1);
+  CWnd(*this, kAddOne).EnableWindow(!SelectedSymbol().IsEmpty());
+}
+
+CString DeskDialog::SelectedSymbol() const {
+  const CListCtrl page(*this, kPage);
+  return page.GetSelectedCount() == 1 ? page_.SymbolAt(page.GetCurSel()) : CString();
+}
+
+void DeskDialog::SelectSymbol(const CString& symbol) {
+  if (!symbol.IsEmpty())
+    CListCtrl(*this, kPage).SetCurSel(page_.RowOf(symbol));
+  UpdateButtons();
+}
+
+// Escape is pressed once too often behind a dialog, and would close the terminal.
+bool DeskDialog::OnKey(int, Key key, Held) {
+  return key == Key::Escape;
+}
+
+void DeskDialog::OnCommand(int id, ControlEvent event) {
+  if (event == ControlEvent::Clicked)
+    return OnClicked(id);
+  if (event != ControlEvent::SelectionChanged)
+    return;
+  const int chosen = CComboBox(*this, id).GetCurSel();
+  if (id == kSource)
+    choice_.ChooseSource(chosen);
+  else
+    choice_.ChooseList(chosen);
+  ShowChoice();
+  ShowPage();
+}
+
+void DeskDialog::OnNotify(int id, const ListNotice& notice) {
+  if (id == kPage && notice.kind == ListNotice::Kind::SelectionChanged)
+    UpdateButtons();
+}
+
+// Also while a dialog of the library's is open over the window.
+intptr_t DeskDialog::OnMessage(unsigned code, intptr_t, intptr_t) {
+  if (code != News::kMessage)
+    return 0;
+  if (const News::Change change = news_.TakeChange(); change.lists)
+    ReadListsAnew(change);
+  ShowLog();
+  return 0;
+}
+
+CString DeskDialog::OnCellText(int id, int row, int column) {
+  return id == kPage ? page_.Cell(row, column) : news_.Cell(row, column);
+}
+
+int RunDesk(CTQSymbolListMgr& manager) {
+  News news;
+  const Listening listening(news);
+  LogIn(manager);
+  PushCloudLists(manager);
+  const tq::ResourceContext context(Resources());
+  DeskDialog dialog(manager, news);
+  return dialog.DoModal();
+}
+
+} // namespace desk

@@ -1,0 +1,237 @@
+// A session of each button: its dialog opens, and what was done is on the page and in the log.
+#include "tests/desk/DeskTest.h"
+
+namespace {
+
+using desk::DeskDialog;
+
+// Controls of the library's dialogs.
+constexpr int kLists = 781;
+constexpr int kRename = 804;
+constexpr int kListsDone = 806;
+constexpr int kCode = 741;
+constexpr int kName = 742;
+constexpr int kDone = 1;
+constexpr int kCancel = 2;
+constexpr int kSelectSource = 761;
+constexpr int kItems = 781;
+constexpr int kAdd = 803;
+constexpr int kSeries = 781;
+
+enum Sources { kUserLists, kCloudLists, kHoldings, kAllSymbols };
+
+class DeskButtons : public DeskTest {
+protected:
+  static Texts Page(const User& user) {
+    Texts codes;
+    for (const std::string& row : user.Rows(DeskDialog::kPage))
+      codes.push_back(row.substr(0, row.find(" | ")));
+    return codes;
+  }
+  static void Rename(User& user) {
+    user.ClickRow(kLists, 0);
+    user.Click(kRename);
+    user.Type("renamed");
+    user.Press(Key::Enter);
+    user.Click(kListsDone);
+  }
+  // In the editor of a list.
+  static void Enter(User& user, const char* code) {
+    user.Fill(kCode, code);
+    user.Press(Key::Enter);
+  }
+  static void Cancel(User& user) { user.Click(kCancel); }
+};
+
+TEST_F(DeskButtons, TheUsersListsAreEdited) {
+  InDesk([&](User& user) {
+    NewLines(user);
+    Open(user, DeskDialog::kEditLists, Rename);
+    EXPECT_EQ(user.Rows(DeskDialog::kList)[0], "renamed");
+    EXPECT_EQ(NewLines(user).back(), "通知 | 40 | ListNameChange");
+  });
+}
+
+TEST_F(DeskButtons, TheCloudListsAreEdited) {
+  InDesk([&](User& user) {
+    user.Select(DeskDialog::kSource, kCloudLists);
+    NewLines(user);
+    Open(user, DeskDialog::kEditCloudLists, Rename);
+    EXPECT_EQ(user.Rows(DeskDialog::kList)[0], "renamed");
+    EXPECT_NE(LineWith(NewLines(user), "41 | ListNameChange"), "");
+  });
+}
+
+TEST_F(DeskButtons, CloudGroupsFollowTheCloudLists) {
+  InDesk([&](User& user) {
+    user.Select(DeskDialog::kSource, 9);
+    Open(user, DeskDialog::kEditCloudLists, Rename);
+    EXPECT_EQ(user.Rows(DeskDialog::kList)[0], "renamed");
+  });
+}
+
+TEST_F(DeskButtons, TheListOnThePageIsEdited) {
+  InDesk([&](User& user) {
+    NewLines(user);
+    Open(user, DeskDialog::kEditShown, [](User& editor) {
+      Enter(editor, "2317");
+      editor.Click(kDone);
+    });
+    EXPECT_EQ(Page(user), (Texts{"2330", "■ Tag", "2454", "2317"}));
+    EXPECT_EQ(NewLines(user), Texts()); // the library says nothing: the terminal knows
+  });
+}
+
+TEST_F(DeskButtons, TheCloudListOnThePageIsEdited) {
+  InDesk([&](User& user) {
+    user.Select(DeskDialog::kSource, kCloudLists);
+    NewLines(user);
+    Open(user, DeskDialog::kEditShown, [](User& editor) {
+      Enter(editor, "2454");
+      editor.Click(kDone);
+    });
+    EXPECT_EQ(Page(user), (Texts{"2330", "2317", "0050", "6488", "2454"}));
+    EXPECT_EQ(LineWith(NewLines(user), "41 | "), "");
+  });
+}
+
+TEST_F(DeskButtons, WhatIsNoListCannotBeEdited) {
+  InDesk([](User& user) {
+    EXPECT_TRUE(user.IsEnabled(DeskDialog::kEditShown));
+    user.Select(DeskDialog::kSource, kHoldings);
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kEditShown));
+    user.Select(DeskDialog::kSource, kAllSymbols);
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kEditShown));
+  });
+}
+
+TEST_F(DeskButtons, ANewListIsShownAndSaved) {
+  InDesk([&](User& user) {
+    Open(user, DeskDialog::kNewList, [](User& editor) {
+      editor.Fill(kName, "fresh");
+      Enter(editor, "2317");
+      editor.Click(kDone);
+    });
+    EXPECT_EQ(user.Text(DeskDialog::kList), "fresh");
+    EXPECT_EQ(Page(user), Texts{"2317"});
+  });
+  EXPECT_NE(directory.Read("SymbolList.xml").find("fresh"), std::string::npos);
+}
+
+TEST_F(DeskButtons, ANewListMayBeEmpty) {
+  InDesk([&](User& user) {
+    Open(user, DeskDialog::kNewList, [](User& editor) {
+      editor.Fill(kName, "empty");
+      editor.Click(kDone);
+    });
+    EXPECT_EQ(user.Text(DeskDialog::kList), "empty");
+    EXPECT_EQ(Page(user), Texts());
+  });
+}
+
+TEST_F(DeskButtons, ANewCloudListIsShown) {
+  InDesk([&](User& user) {
+    NewLines(user);
+    Open(user, DeskDialog::kNewCloudList, [](User& editor) {
+      editor.Fill(kName, "fresh");
+      Enter(editor, "2317");
+      editor.Click(kDone);
+    });
+    EXPECT_EQ(user.Text(DeskDialog::kList), "fresh");
+    EXPECT_EQ(Page(user), Texts{"2317"});
+    EXPECT_NE(LineWith(NewLines(user), "4 | ListNameChange"), "");
+  });
+}
+
+TEST_F(DeskButtons, AListThatIsNotMadeIsNotThere) {
+  InDesk([&](User& user) {
+    const Texts before = user.Rows(DeskDialog::kList);
+    Open(user, DeskDialog::kNewList, Cancel);
+    Open(user, DeskDialog::kNewCloudList, Cancel);
+    Open(user, DeskDialog::kEditShown, Cancel);
+    EXPECT_EQ(user.Rows(DeskDialog::kList), before);
+  });
+}
+
+TEST_F(DeskButtons, TheSelectionOpensOnWhatIsShownAndChoosesAnother) {
+  InDesk([&](User& user) {
+    Open(user, DeskDialog::kSelect, [](User& selection) {
+      EXPECT_EQ(selection.SelectedRows(kItems), std::vector<int>{0});
+      selection.Select(kSelectSource, "上市");
+      selection.Select(kItems, "水泥");
+      selection.Click(kDone);
+    });
+    EXPECT_EQ(user.Text(DeskDialog::kSource), "上市");
+    EXPECT_EQ(user.Text(DeskDialog::kList), "水泥");
+    EXPECT_EQ(Page(user), Texts{"1101"});
+  });
+}
+
+TEST_F(DeskButtons, ASelectionThatIsCancelledChangesNothing) {
+  InDesk([&](User& user) {
+    Open(user, DeskDialog::kSelect, Cancel);
+    EXPECT_EQ(user.Text(DeskDialog::kList), "one");
+  });
+}
+
+TEST_F(DeskButtons, OneSymbolGoesToAList) {
+  InDesk([&](User& user) {
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddOne));
+    user.ClickRow(DeskDialog::kPage, 2);
+    NewLines(user);
+    Open(user, DeskDialog::kAddOne, [](User& dialog) {
+      dialog.Select(kLists, "two");
+      dialog.Click(kAdd);
+      dialog.Click(kDone);
+    });
+    EXPECT_EQ(NewLines(user).back(), "通知 | 40 | ");
+    EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), std::vector<int>{2}); // still
+    user.Select(DeskDialog::kList, "two");
+    EXPECT_EQ(Page(user), (Texts{"1101", "2454"}));
+  });
+}
+
+TEST_F(DeskButtons, AHeadingIsNoSymbol) {
+  InDesk([](User& user) {
+    user.ClickRow(DeskDialog::kPage, 1);
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddOne));
+    user.ClickRow(DeskDialog::kPage, 2);
+    EXPECT_TRUE(user.IsEnabled(DeskDialog::kAddOne));
+  });
+}
+
+struct SeriesButton {
+  int button;
+  const char* chosen[2]; // Traditional, Simplified
+};
+
+TEST_F(DeskButtons, ASeriesThatIsChosenIsNoted) {
+  const SeriesButton buttons[] = {
+      {DeskDialog::kEconomic, {"FEDFUNDS 聯邦基金利率", "FEDFUNDS 联邦基金利率"}},
+      {DeskDialog::kCommodities, {"WTI 西德州原油", "WTI 西德州原油"}},
+      {DeskDialog::kFutures, {"ES 小型標普 CME", "ES 小型标普 CME"}}};
+  InDesk([&](User& user) {
+    for (const SeriesButton& each : buttons) {
+      NewLines(user);
+      Open(user, each.button, [](User& search) { search.DoubleClick(kSeries, 0); });
+      EXPECT_EQ(NewLines(user).back(),
+                Said("終端", "终端") + " |  | " + Said(each.chosen[0], each.chosen[1]));
+      Open(user, each.button, [](User& search) { search.CloseByTitleBar(); });
+      EXPECT_EQ(NewLines(user), Texts());
+    }
+  });
+}
+
+TEST_F(DeskButtons, ADialogThatCannotOpenIsNoted) {
+  InDesk([&](User& user) {
+    standin::FailAlways("tqDoModal");
+    for (const int button :
+         {DeskDialog::kEditLists, DeskDialog::kEditCloudLists, DeskDialog::kSelect}) {
+      NewLines(user);
+      EXPECT_TRUE(user.Click(button));
+      EXPECT_EQ(NewLines(user).back(), Said("終端 |  | 視窗無法開啟", "终端 |  | 窗口无法打开"));
+    }
+  });
+}
+
+} // namespace
