@@ -1,6 +1,7 @@
 #include "terminal/viewer/Views.h"
 
 #include "terminal/StandIn.h"
+#include "terminal/desk/DeskDialog.h"
 
 using standin::Modifier;
 using standin::User;
@@ -132,6 +133,15 @@ void NameAsAnother(User& user) {
   user.LeaveUp();
 }
 
+// A symbol under a heading of the first list, to be added to another one.
+void AddFromPage(User& user) {
+  constexpr int kSymbol = 5;
+  user.Select(desk::DeskDialog::kList, kSystemList);
+  user.ClickRow(desk::DeskDialog::kPage, kSymbol);
+  user.Click(desk::DeskDialog::kAddOne);
+  user.LeaveUp();
+}
+
 void MakeList(User& user) {
   user.Click(kNewList);
   user.LeaveUp();
@@ -159,6 +169,7 @@ std::function<int(CTQSymbolListMgr&)> Indicators(InfoType type) {
 
 const std::vector<View>& Views() {
   static const std::vector<View> views = {
+      {"terminal", desk::RunDesk, {AddFromPage, AddSymbol}},
       {"lists", OpenLists, {SelectList}},
       {"contents", OpenLists, {EditList, BrowseGroup}},
       {"cloud-lists", OpenCloudLists, {SelectFirst}},

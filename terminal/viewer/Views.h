@@ -1,4 +1,5 @@
-// The views of the library's dialogs of which pictures are taken.
+// The views of which pictures are taken: of the library's dialogs, and of the stand-in terminal's
+// window.
 #pragma once
 
 #include <functional>

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "terminal/StandIn.h"
+#include "terminal/desk/Session.h"
 #include "terminal/viewer/Views.h"
 
 namespace {
@@ -51,7 +52,7 @@ std::string Usage() {
 
 int Open(const viewer::View& view, const std::string& data) {
   CTQSymbolListMgr manager;
-  if (manager.Init(data.c_str(), 0, 1, 0, nullptr, 0, 0) == 0)
+  if (!desk::StartLibrary(manager, data.c_str()))
     return Fail("the symbol tables could not be built");
   for (const standin::UserScript& script : view.scripts)
     standin::WhenDialogOpens(script, Complain);
