@@ -1,5 +1,5 @@
 // What the buttons open: each of the library's dialogs, and what a terminal has to do behind it.
-#include "platform/framework/window/CListCtrl.h"
+#include "platform/framework/window/CEdit.h"
 #include "terminal/desk/DeskDialog.h"
 #include "terminal/desk/Resources.h"
 #include "terminal/desk/Selection.h"
@@ -11,6 +11,13 @@ namespace {
 constexpr int kNew = 0;
 constexpr int kEdit = 1;
 constexpr int kNoOption = 0;
+
+CString Joined(const std::vector<CString>& symbols) {
+  CString joined;
+  for (const CString& symbol : symbols)
+    joined += (joined.IsEmpty() ? "" : ",") + symbol;
+  return joined;
+}
 
 } // namespace
 
@@ -28,8 +35,12 @@ void DeskDialog::OnClicked(int id) {
     return MakeList();
   case kNewCloudList:
     return MakeCloudList();
+  case kFind:
+    return FindSymbol();
   case kAddOne:
     return AddOneSymbol();
+  case kAddSelected:
+    return AddSelectedSymbols();
   case kEconomic:
     return FindEconomicIndicator();
   case kCommodities:
@@ -107,8 +118,45 @@ void DeskDialog::SelectPlace() {
   ShowPage();
 }
 
+// The search opens with the group that the page shows, and with all symbols for anything else. What
+// means one symbol only is answered without the user.
+void DeskDialog::FindSymbol() {
+  constexpr int kListIsForced = 0;
+  const Place& place = choice_.Chosen();
+  CListID group;
+  if (place.source.from == From::Group)
+    group.SetData(ListIDGroup, place.source.group + "," + place.list, 0);
+  SymbolInfo found = {};
+  const int code =
+      CTQSymbolListMgr::DoSearchUI(&manager_, Tables(), GetSafeHwnd(),
+                                   CEdit(*this, kInput).GetText(), &found, kListIsForced, &group);
+  NoteOpened(code);
+  if (code == Accepted)
+    ShowFound(found.id);
+}
+
+// On the page, or else among all symbols.
+void DeskDialog::ShowFound(const CString& symbol) {
+  if (page_.RowOf(symbol) == -1) {
+    choice_.Choose({{From::AllSymbols}});
+    ShowChoice();
+    ShowPage();
+  }
+  SelectSymbols({symbol});
+  CWnd(*this, kPage).SetFocus();
+}
+
 void DeskDialog::AddOneSymbol() {
   NoteOpened(CTQSymbolListMgr::DoGroupSymbolAdd(&manager_, Tables(), this, SelectedSymbol()));
+}
+
+// The list on the page is proposed when it is the user's; the dialog knows no others, and proposes
+// the one that is shown first then.
+void DeskDialog::AddSelectedSymbols() {
+  const Place& place = choice_.Chosen();
+  const CString proposed = place.source.from == From::UserLists ? place.list : CString();
+  NoteOpened(CTQSymbolListMgr::DoSymbolAddUI(&manager_, Tables(), GetSafeHwnd(),
+                                             Joined(SelectedSymbols()), proposed));
 }
 
 // The searches for series hand back a code and a name, which a chart would take; here they are

@@ -1,6 +1,9 @@
 #include "terminal/desk/DeskDialog.h"
 
+#include <unordered_set>
+
 #include "platform/framework/window/CComboBox.h"
+#include "platform/framework/window/CEdit.h"
 #include "platform/framework/window/CListCtrl.h"
 #include "terminal/desk/Listening.h"
 #include "terminal/desk/Resources.h"
@@ -31,6 +34,7 @@ DeskDialog::~DeskDialog() {
 bool DeskDialog::OnInitDialog() {
   PreparePage();
   PrepareLog();
+  PrepareSearch();
   ShowChoice();
   ShowPage();
   news_.Wake(*this);
@@ -56,6 +60,14 @@ void DeskDialog::PrepareLog() {
   log.AddColumn(Text(Word::Content), 0);
 }
 
+void DeskDialog::PrepareSearch() {
+  constexpr int kInputBytes = 30; // as a name has
+  CEdit(*this, kInput).SetLimitText(kInputBytes);
+  SetToolTip(kInput, Text(Word::SearchTip));
+  SetToolTip(kAddOne, Text(Word::AddOneTip));
+  SetToolTip(kAddSelected, Text(Word::AddSelectedTip));
+}
+
 void DeskDialog::ShowChoice() {
   Fill(CComboBox(*this, kSource), choice_.Sources(), choice_.SourceIndex());
   Fill(CComboBox(*this, kList), choice_.Lists(), choice_.ListIndex());
@@ -77,11 +89,11 @@ void DeskDialog::ShowLog() {
 void DeskDialog::ReadListsAnew(News::Change change) {
   if (change.cloudLists) // from which the cloud groups are made when they are loaded
     manager_.LoadGroupList(kCloudGroups);
-  const CString selected = SelectedSymbol();
+  const std::vector<CString> selected = SelectedSymbols();
   choice_.Reload();
   ShowChoice();
   ShowPage();
-  SelectSymbol(selected);
+  SelectSymbols(selected);
 }
 
 void DeskDialog::UpdateButtons() {
@@ -89,6 +101,7 @@ void DeskDialog::UpdateButtons() {
   const bool isEditable = from == From::UserLists || from == From::CloudLists;
   CWnd(*this, kEditShown).EnableWindow(isEditable && choice_.ListIndex() != -1);
   CWnd(*this, kAddOne).EnableWindow(!SelectedSymbol().IsEmpty());
+  CWnd(*this, kAddSelected).EnableWindow(HasSelectedSymbols());
 }
 
 CString DeskDialog::SelectedSymbol() const {
@@ -96,21 +109,50 @@ CString DeskDialog::SelectedSymbol() const {
   return page.GetSelectedCount() == 1 ? page_.SymbolAt(page.GetCurSel()) : CString();
 }
 
-void DeskDialog::SelectSymbol(const CString& symbol) {
-  if (!symbol.IsEmpty())
-    CListCtrl(*this, kPage).SetCurSel(page_.RowOf(symbol));
+// Headings that are selected too are passed over.
+std::vector<CString> DeskDialog::SelectedSymbols() const {
+  const CListCtrl page(*this, kPage);
+  std::vector<CString> symbols;
+  for (int row = page.GetNextSelected(-1); row != -1; row = page.GetNextSelected(row)) {
+    if (const CString symbol = page_.SymbolAt(row); !symbol.IsEmpty())
+      symbols.push_back(symbol);
+  }
+  return symbols;
+}
+
+// At the first one: all of a market may be selected.
+bool DeskDialog::HasSelectedSymbols() const {
+  const CListCtrl page(*this, kPage);
+  int row = page.GetNextSelected(-1);
+  while (row != -1 && page_.SymbolAt(row).IsEmpty())
+    row = page.GetNextSelected(row);
+  return row != -1;
+}
+
+// The first one is scrolled to, and the keys start there.
+void DeskDialog::SelectSymbols(const std::vector<CString>& symbols) {
+  const std::unordered_set<CString> wanted(symbols.begin(), symbols.end());
+  CListCtrl page(*this, kPage);
+  page.SetCurSel(-1);
+  for (int row = 0; !wanted.empty() && row < page_.RowCount(); ++row) {
+    if (wanted.contains(page_.SymbolAt(row)))
+      page.GetSelectedCount() == 0 ? page.SetCurSel(row) : page.SelectRow(row);
+  }
   UpdateButtons();
 }
 
-// Escape is pressed once too often behind a dialog, and would close the terminal.
-bool DeskDialog::OnKey(int, Key key, Held) {
-  return key == Key::Escape;
+// Enter in the field searches. Escape is pressed once too often behind a dialog, and would close
+// the terminal.
+bool DeskDialog::OnKey(int id, Key key, Held) {
+  if (id == kInput && key == Key::Enter)
+    FindSymbol();
+  return key == Key::Escape || (id == kInput && key == Key::Enter);
 }
 
 void DeskDialog::OnCommand(int id, ControlEvent event) {
   if (event == ControlEvent::Clicked)
     return OnClicked(id);
-  if (event != ControlEvent::SelectionChanged)
+  if (event != ControlEvent::SelectionChanged) // of a box
     return;
   const int chosen = CComboBox(*this, id).GetCurSel();
   if (id == kSource)

@@ -30,7 +30,10 @@ public:
     kEditShown = 804,
     kNewList = 805,
     kNewCloudList = 806,
-    kAddOne = 807,
+    kInput = 741,
+    kFind = 807,
+    kAddOne = 808,
+    kAddSelected = 809,
     kEconomic = 810,
     kCommodities = 811,
     kFutures = 812,
@@ -49,13 +52,16 @@ private:
   // --- The window (DeskDialog.cpp)
   void PreparePage();
   void PrepareLog();
+  void PrepareSearch();
   void ShowChoice();
   void ShowPage();
   void ShowLog();
   void ReadListsAnew(News::Change change);
   void UpdateButtons();
   CString SelectedSymbol() const; // the only one, or none
-  void SelectSymbol(const CString& symbol);
+  std::vector<CString> SelectedSymbols() const;
+  bool HasSelectedSymbols() const;
+  void SelectSymbols(const std::vector<CString>& symbols);
 
   // --- What the buttons open (DeskButtons.cpp)
   void OnClicked(int id);
@@ -65,7 +71,10 @@ private:
   void MakeList();
   void MakeCloudList();
   void SelectPlace();
+  void FindSymbol();
+  void ShowFound(const CString& symbol);
   void AddOneSymbol();
+  void AddSelectedSymbols();
   void FindEconomicIndicator();
   void FindCommodity();
   void FindFuture();

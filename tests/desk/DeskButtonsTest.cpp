@@ -17,6 +17,9 @@ constexpr int kSelectSource = 761;
 constexpr int kItems = 781;
 constexpr int kAdd = 803;
 constexpr int kSeries = 781;
+constexpr int kMarket = 761;
+constexpr int kGroup = 762;
+constexpr int kFound = 781;
 
 enum Sources { kUserLists, kCloudLists, kHoldings, kAllSymbols };
 
@@ -191,10 +194,82 @@ TEST_F(DeskButtons, OneSymbolGoesToAList) {
   });
 }
 
+TEST_F(DeskButtons, SeveralSymbolsGoToOneList) {
+  InDesk([&](User& user) {
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddSelected));
+    user.ClickRow(DeskDialog::kPage, 0);
+    user.ClickRow(DeskDialog::kPage, 2, Modifier::Shift);
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddOne));
+    NewLines(user);
+    Open(user, DeskDialog::kAddSelected, [](User& dialog) {
+      EXPECT_EQ(dialog.SelectedRows(kLists), std::vector<int>{0}); // that of the page
+      dialog.Select(kLists, "two");
+      dialog.Click(kAdd);
+    });
+    const Texts lines = NewLines(user);
+    EXPECT_EQ(Texts(lines.end() - 2, lines.end()), (Texts{"通知 | 4 | ", "通知 | 40 | "}));
+    EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), (std::vector<int>{0, 2}));
+    user.Select(DeskDialog::kList, "two");
+    EXPECT_EQ(Page(user), (Texts{"1101", "2330", "2454"}));
+  });
+}
+
+TEST_F(DeskButtons, OnAPageOfAnotherKindTheDefaultListIsProposed) {
+  manager.SetDefaultIndex(1);
+  InDesk([&](User& user) {
+    user.Select(DeskDialog::kSource, "上市");
+    user.ClickRow(DeskDialog::kPage, 0);
+    Open(user, DeskDialog::kAddSelected, [](User& dialog) {
+      EXPECT_EQ(dialog.SelectedRows(kLists), std::vector<int>{1});
+      dialog.Click(kDone);
+    });
+  });
+}
+
+TEST_F(DeskButtons, ATextThatMeansOneSymbolSelectsIt) {
+  InDesk([](User& user) {
+    user.Fill(DeskDialog::kInput, "2454");
+    WhenDialogOpens([](User& search) { search.WaitFor([] { return false; }); }); // it ends itself
+    user.Press(Key::Enter);
+    EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), std::vector<int>{2});
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kPage));
+    EXPECT_TRUE(user.IsEnabled(DeskDialog::kAddOne));
+  });
+}
+
+TEST_F(DeskButtons, ASymbolThatIsNotOnThePageIsShownAmongAll) {
+  InDesk([&](User& user) {
+    user.ClickRow(DeskDialog::kPage, 0);
+    user.Fill(DeskDialog::kInput, "23");
+    Open(user, DeskDialog::kFind, [](User& search) {
+      search.WaitFor([&search] { return !search.Rows(kFound).empty(); });
+      search.DoubleClick(kFound, 1);
+    });
+    EXPECT_EQ(user.Text(DeskDialog::kSource), "所有商品");
+    ASSERT_EQ(user.SelectedRows(DeskDialog::kPage).size(), 1U);
+    const auto row = static_cast<size_t>(user.SelectedRows(DeskDialog::kPage)[0]);
+    EXPECT_EQ(Page(user)[row], "2317");
+  });
+}
+
+TEST_F(DeskButtons, TheSearchOpensWithTheGroupOnThePage) {
+  InDesk([&](User& user) {
+    user.Select(DeskDialog::kSource, "上市");
+    user.Select(DeskDialog::kList, "水泥");
+    Open(user, DeskDialog::kFind, [](User& search) {
+      EXPECT_EQ(search.Text(kMarket), "上市");
+      EXPECT_EQ(search.Text(kGroup), "水泥");
+      search.CloseByTitleBar();
+    });
+    EXPECT_EQ(Page(user), Texts{"1101"});
+  });
+}
+
 TEST_F(DeskButtons, AHeadingIsNoSymbol) {
   InDesk([](User& user) {
     user.ClickRow(DeskDialog::kPage, 1);
     EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddOne));
+    EXPECT_FALSE(user.IsEnabled(DeskDialog::kAddSelected));
     user.ClickRow(DeskDialog::kPage, 2);
     EXPECT_TRUE(user.IsEnabled(DeskDialog::kAddOne));
   });

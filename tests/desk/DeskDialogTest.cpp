@@ -85,6 +85,20 @@ TEST_F(DeskWindow, KeepsTheSelectedSymbolWhenListsChange) {
   });
 }
 
+// In the order of the Tab key, from the page on.
+TEST_F(DeskWindow, GoesFromThePageToTheButtonsAndTheLog) {
+  InDesk([](User& user) {
+    user.Press(Key::Tab);
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kEditLists));
+    user.PressLetter('C');
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kInput));
+    user.PressLetter('J');
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kLog));
+    user.PressLetter('S');
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kSource));
+  });
+}
+
 TEST_F(DeskWindow, OpensOnNothing) {
   manager.ClearSymbolList();
   InDesk([](User& user) {
