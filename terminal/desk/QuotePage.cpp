@@ -1,9 +1,13 @@
 #include "terminal/desk/QuotePage.h"
 
+#include <cstdlib>
+
 #include "terminal/desk/Resources.h"
 
 namespace desk {
 namespace {
+
+constexpr char kNoPrice[] = "--"; // as the tables say it
 
 // A heading has a ":" behind its first character, usually at its end. No symbol has.
 bool IsHeading(const CString& entry) {
@@ -109,11 +113,18 @@ CString QuotePage::Field(int field, const CString& symbol) const {
   return value;
 }
 
-// An exchange that the user is not entitled to shows its symbols, and no prices.
+// With the decimal places of the symbol, whatever the service leaves out. An exchange that the user
+// is not entitled to shows its symbols, and no prices.
 CString QuotePage::PriceOf(const CString& symbol) const {
   CSymbolTableMgr& tables = *manager_.GetSymbolTableMgr();
-  const CString exchange = tables.GetSymbolAndExchID(symbol).second;
-  return tables.IsAuthorizedExch(exchange) != 0 ? Field(FieldReferencePrice, symbol) : "--";
+  if (tables.IsAuthorizedExch(tables.GetSymbolAndExchID(symbol).second) == 0)
+    return kNoPrice;
+  CString price = Field(FieldReferencePrice, symbol);
+  int decimals = 0;
+  if (price != kNoPrice &&
+      tables.LookUpSymbolGetInt(FieldDecimals, symbol, CString(), decimals) != 0)
+    price.Format("%.*f", decimals, std::atof(price));
+  return price;
 }
 
 } // namespace desk

@@ -15,8 +15,8 @@ TEST_F(DeskWindow, OpensOnTheListThatIsShownFirst) {
     EXPECT_EQ(user.Text(DeskDialog::kSource), Said("我的自選", "我的自选"));
     EXPECT_EQ(user.Text(DeskDialog::kList), "one");
     EXPECT_EQ(user.Rows(DeskDialog::kPage),
-              (Texts{"2330 | " + Said("台積電", "台积电") + " | 上市 | 1085", "■ Tag |  |  | ",
-                     "2454 | " + Said("聯發科", "联发科") + " | 上市 | 1390"}));
+              (Texts{"2330 | " + Said("台積電", "台积电") + " | 上市 | 1085.00", "■ Tag |  |  | ",
+                     "2454 | " + Said("聯發科", "联发科") + " | 上市 | 1390.00"}));
     EXPECT_TRUE(user.HasFocus(DeskDialog::kPage));
   });
 }

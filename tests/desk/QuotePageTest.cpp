@@ -36,8 +36,19 @@ TEST_F(QuotePageTest, AListHasItsSymbolsUnderItsHeadings) {
 
 TEST_F(QuotePageTest, ARowHasCodeNameMarketAndPrice) {
   page.Show({{From::UserLists}, "A"});
-  EXPECT_EQ(Row(0), (Texts{"2330", Said("台積電", "台积电"), "上市", "1085"}));
+  EXPECT_EQ(Row(0), (Texts{"2330", Said("台積電", "台积电"), "上市", "1085.00"}));
   EXPECT_EQ(page.SymbolAt(0), "2330.TW");
+}
+
+TEST_F(QuotePageTest, APriceHasTheDecimalPlacesOfItsSymbol) {
+  standin::Market market = standin::CurrentMarket();
+  for (standin::Instrument& instrument : market.instruments)
+    instrument.decimals = instrument.code == "2330" ? 0 : 3;
+  standin::SetMarket(market);
+  manager.GetSymbolTableMgr()->RebuildSymbolTable("TW", 1);
+  page.Show({{From::UserLists}, "A"});
+  EXPECT_EQ(Row(0).back(), "1085");
+  EXPECT_EQ(Row(2).back(), "1390.000");
 }
 
 TEST_F(QuotePageTest, ASymbolWithoutAPriceShowsADash) {
