@@ -51,7 +51,7 @@ TEST_F(DeskButtons, TheUsersListsAreEdited) {
     NewLines(user);
     Open(user, DeskDialog::kEditLists, Rename);
     EXPECT_EQ(user.Rows(DeskDialog::kList)[0], "renamed");
-    EXPECT_EQ(NewLines(user).back(), "通知 | 40 | ListNameChange");
+    EXPECT_EQ(LastOf(NewLines(user)), "通知 | 40 | ListNameChange");
   });
 }
 
@@ -187,7 +187,7 @@ TEST_F(DeskButtons, OneSymbolGoesToAList) {
       dialog.Click(kAdd);
       dialog.Click(kDone);
     });
-    EXPECT_EQ(NewLines(user).back(), "通知 | 40 | ");
+    EXPECT_EQ(LastOf(NewLines(user)), "通知 | 40 | ");
     EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), std::vector<int>{2}); // still
     user.Select(DeskDialog::kList, "two");
     EXPECT_EQ(Page(user), (Texts{"1101", "2454"}));
@@ -207,6 +207,7 @@ TEST_F(DeskButtons, SeveralSymbolsGoToOneList) {
       dialog.Click(kAdd);
     });
     const Texts lines = NewLines(user);
+    ASSERT_GE(lines.size(), 2U);
     EXPECT_EQ(Texts(lines.end() - 2, lines.end()), (Texts{"通知 | 4 | ", "通知 | 40 | "}));
     EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), (std::vector<int>{0, 2}));
     user.Select(DeskDialog::kList, "two");
@@ -289,7 +290,7 @@ TEST_F(DeskButtons, ASeriesThatIsChosenIsNoted) {
     for (const SeriesButton& each : buttons) {
       NewLines(user);
       Open(user, each.button, [](User& search) { search.DoubleClick(kSeries, 0); });
-      EXPECT_EQ(NewLines(user).back(),
+      EXPECT_EQ(LastOf(NewLines(user)),
                 Said("終端", "终端") + " |  | " + Said(each.chosen[0], each.chosen[1]));
       Open(user, each.button, [](User& search) { search.CloseByTitleBar(); });
       EXPECT_EQ(NewLines(user), Texts());
@@ -304,7 +305,7 @@ TEST_F(DeskButtons, ADialogThatCannotOpenIsNoted) {
          {DeskDialog::kEditLists, DeskDialog::kEditCloudLists, DeskDialog::kSelect}) {
       NewLines(user);
       EXPECT_TRUE(user.Click(button));
-      EXPECT_EQ(NewLines(user).back(), Said("終端 |  | 視窗無法開啟", "终端 |  | 窗口无法打开"));
+      EXPECT_EQ(LastOf(NewLines(user)), Said("終端 |  | 視窗無法開啟", "终端 |  | 窗口无法打开"));
     }
   });
 }

@@ -39,5 +39,8 @@ private:
   size_t seen_ = 0;
 };
 
+inline std::string LastOf(const Texts& lines) {
+  return lines.empty() ? "" : lines.back();
+}
 // The first of them that ends so; empty when none does.
 std::string LineWith(const Texts& lines, const std::string& end);
