@@ -65,7 +65,7 @@ void DeskDialog::EditCloudLists() {
 // nowhere then. It has stored the list by the time it returns, and leaves it to its caller to tell
 // the pages.
 void DeskDialog::EditShownList() {
-  const Place& place = choice_.Chosen();
+  const Place place = choice_.Chosen();
   CSymbolList* own = nullptr; // the manager's
   manager_.GetSymbolList(place.list, &own, KindOf(place.source.from));
   if (own == nullptr)
@@ -122,7 +122,7 @@ void DeskDialog::SelectPlace() {
 // means one symbol only is answered without the user.
 void DeskDialog::FindSymbol() {
   constexpr int kListIsForced = 0;
-  const Place& place = choice_.Chosen();
+  const Place place = choice_.Chosen();
   CListID group;
   if (place.source.from == From::Group)
     group.SetData(ListIDGroup, place.source.group + "," + place.list, 0);
@@ -153,7 +153,7 @@ void DeskDialog::AddOneSymbol() {
 // The list on the page is proposed when it is the user's; the dialog knows no others, and proposes
 // the one that is shown first then.
 void DeskDialog::AddSelectedSymbols() {
-  const Place& place = choice_.Chosen();
+  const Place place = choice_.Chosen();
   const CString proposed = place.source.from == From::UserLists ? place.list : CString();
   NoteOpened(CTQSymbolListMgr::DoSymbolAddUI(&manager_, Tables(), GetSafeHwnd(),
                                              Joined(SelectedSymbols()), proposed));

@@ -73,10 +73,11 @@ void DeskDialog::ShowChoice() {
   Fill(CComboBox(*this, kList), choice_.Lists(), choice_.ListIndex());
 }
 
-void DeskDialog::ShowPage() {
+// The buttons come last: one that is disabled for a moment only would lose the focus all the same.
+void DeskDialog::ShowPage(const std::vector<CString>& selected) {
   page_.Show(choice_.Chosen());
   CListCtrl(*this, kPage).SetVirtualRows(page_.RowCount());
-  UpdateButtons();
+  SelectSymbols(selected);
 }
 
 // The latest line is in sight.
@@ -92,8 +93,7 @@ void DeskDialog::ReadListsAnew(News::Change change) {
   const std::vector<CString> selected = SelectedSymbols();
   choice_.Reload();
   ShowChoice();
-  ShowPage();
-  SelectSymbols(selected);
+  ShowPage(selected);
 }
 
 void DeskDialog::UpdateButtons() {

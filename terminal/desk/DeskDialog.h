@@ -54,14 +54,14 @@ private:
   void PrepareLog();
   void PrepareSearch();
   void ShowChoice();
-  void ShowPage();
+  void ShowPage(const std::vector<CString>& selected = {});
   void ShowLog();
   void ReadListsAnew(News::Change change);
   void UpdateButtons();
   CString SelectedSymbol() const; // the only one, or none
   std::vector<CString> SelectedSymbols() const;
   bool HasSelectedSymbols() const;
-  void SelectSymbols(const std::vector<CString>& symbols);
+  void SelectSymbols(const std::vector<CString>& symbols); // and no others
 
   // --- What the buttons open (DeskButtons.cpp)
   void OnClicked(int id);

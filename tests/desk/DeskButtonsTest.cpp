@@ -55,6 +55,22 @@ TEST_F(DeskButtons, TheUsersListsAreEdited) {
   });
 }
 
+TEST_F(DeskButtons, AMessageOfADialogIsInTheLogWithItsText) {
+  InDesk([&](User& user) {
+    NewLines(user);
+    Open(user, DeskDialog::kEditLists, [](User& lists) {
+      lists.ClickRow(kLists, 0);
+      lists.Click(kRename);
+      lists.Type("two");
+      lists.Press(Key::Enter);
+      lists.Press(Key::Escape);
+      lists.Click(kListsDone);
+    });
+    EXPECT_EQ(NewLines(user), Texts{Said("訊息 | 48011 | 命名重複，請重新命名",
+                                         "消息 | 48011 | 命名重复，请重新命名")});
+  });
+}
+
 TEST_F(DeskButtons, TheCloudListsAreEdited) {
   InDesk([&](User& user) {
     user.Select(DeskDialog::kSource, kCloudLists);
@@ -189,6 +205,7 @@ TEST_F(DeskButtons, OneSymbolGoesToAList) {
     });
     EXPECT_EQ(LastOf(NewLines(user)), "通知 | 40 | ");
     EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), std::vector<int>{2}); // still
+    EXPECT_TRUE(user.HasFocus(DeskDialog::kAddOne));
     user.Select(DeskDialog::kList, "two");
     EXPECT_EQ(Page(user), (Texts{"1101", "2454"}));
   });

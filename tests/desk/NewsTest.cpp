@@ -34,7 +34,7 @@ TEST_F(NewsTest, HearsNotificationsLinesAndMessages) {
   tqShowDllMessage(nullptr, 48026, 0);
   EXPECT_EQ(Lines(),
             (Texts{"通知|40|ListCntChange", Said("日誌", "日志") + "|64|Add SymbolList", "通知|40|",
-                   Said("訊息", "讯息") + "||oh no", Said("訊息", "讯息") + "|48026|"}));
+                   Said("訊息", "消息") + "||oh no", Said("訊息", "消息") + "|48026|"}));
 }
 
 TEST_F(NewsTest, HearsNothingAfterwards) {
