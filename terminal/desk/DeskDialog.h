@@ -2,8 +2,8 @@
 // library, and a log of what the library tells.
 //
 // The page is filled anew when the terminal is told of a change, and at no other time: what a
-// dialog changes is seen because the library tells of it. The three operations that do not are
-// followed by News::ListsChanged.
+// dialog changes is seen because the library tells of it. What the editors of one list store without
+// a word is followed by News::ListsChanged.
 #pragma once
 
 #include "platform/framework/window/CDialog.h"
