@@ -1,9 +1,9 @@
 // The terminal's window: a quote page, what is shown on it, a button for each dialog of the
 // library, and a log of what the library tells.
 //
-// The page is filled anew when the terminal is told of a change, and at no other time: what a
-// dialog changes is seen because the library tells of it. What the editors of one list store without
-// a word is followed by News::ListsChanged.
+// Lists that changed are shown when the terminal is told of it, and at no other time: what a dialog
+// changes is seen because the library tells. What the editors of one list store without a word is
+// followed by News::ListsChanged.
 #pragma once
 
 #include "platform/framework/window/CDialog.h"

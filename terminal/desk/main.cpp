@@ -1,5 +1,5 @@
-// The stand-in terminal as a program: `./run terminal`. Without a window system its window closes by
-// itself.
+// The stand-in terminal as a program: `./run terminal`. Without a window system its window closes
+// by itself.
 #include <cstdio>
 #include <string>
 #include <string_view>
