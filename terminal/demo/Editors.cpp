@@ -9,11 +9,13 @@
 #include "terminal/demo/Sample.h"
 #include "terminal/demo/Screens.h"
 #include "terminal/demo/Steps.h"
+#include "terminal/user/DialogControls.h"
 #include "terminal/user/UserScripts.h"
 #include "tqSymbol.h"
 
 using standin::User;
 using standin::UserScript;
+using namespace standin::controls;
 
 namespace demo {
 namespace {
@@ -21,23 +23,7 @@ namespace {
 constexpr int kEdited = 1; // a list that is there, not a new one
 constexpr size_t kSymbolsUsed = 5;
 
-// Controls of the editors.
-constexpr int kLists = 781;
-constexpr int kNewList = 801;
-constexpr int kRename = 804;
-constexpr int kMakeDefault = 805;
-constexpr int kListsDone = 806;
-constexpr int kRows = 781; // of the list whose contents are edited
-constexpr int kRowDown = 802;
-constexpr int kCode = 741;
-constexpr int kHeading = 743;
-constexpr int kAddHeading = 808;
-constexpr int kName = 742;
-constexpr int kDone = 1;
-constexpr int kSource = 761;
 constexpr int kUserListsSource = 1;
-constexpr int kAddSymbol = 803;
-constexpr int kFound = 781;
 constexpr int kAlways = 1; // the table is shown, even for one symbol
 
 // What does not fit between the scripts and the dialogs; empty when all is well.

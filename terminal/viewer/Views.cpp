@@ -2,29 +2,17 @@
 
 #include "terminal/StandIn.h"
 #include "terminal/desk/DeskDialog.h"
+#include "terminal/user/DialogControls.h"
 
 using standin::Modifier;
 using standin::User;
+using namespace standin::controls;
 
 namespace viewer {
 namespace {
 
 constexpr int kUserLists = 1;
 constexpr int kCloudLists = 8;
-
-// Controls of the editors.
-constexpr int kLists = 781;
-constexpr int kNewList = 801;
-constexpr int kRows = 781; // of the list whose contents are edited
-constexpr int kMarket = 761;
-constexpr int kGroup = 762;
-constexpr int kCode = 741;
-constexpr int kFind = 805;
-constexpr int kResults = 782;
-constexpr int kName = 742;
-constexpr int kDone = 1;
-constexpr int kAddSymbol = 803;
-constexpr int kFound = 781;
 
 // Two lists with headings.
 constexpr int kSystemList = 0;

@@ -4,22 +4,7 @@
 namespace {
 
 using desk::DeskDialog;
-
-// Controls of the library's dialogs.
-constexpr int kLists = 781;
-constexpr int kRename = 804;
-constexpr int kListsDone = 806;
-constexpr int kCode = 741;
-constexpr int kName = 742;
-constexpr int kDone = 1;
-constexpr int kCancel = 2;
-constexpr int kSelectSource = 761;
-constexpr int kItems = 781;
-constexpr int kAdd = 803;
-constexpr int kSeries = 781;
-constexpr int kMarket = 761;
-constexpr int kGroup = 762;
-constexpr int kFound = 781;
+using namespace standin::controls;
 
 enum Sources { kUserLists, kCloudLists, kHoldings, kAllSymbols };
 
@@ -176,7 +161,7 @@ TEST_F(DeskButtons, TheSelectionOpensOnWhatIsShownAndChoosesAnother) {
   InDesk([&](User& user) {
     Open(user, DeskDialog::kSelect, [](User& selection) {
       EXPECT_EQ(selection.SelectedRows(kItems), std::vector<int>{0});
-      selection.Select(kSelectSource, "上市");
+      selection.Select(kSource, "上市");
       selection.Select(kItems, "水泥");
       selection.Click(kDone);
     });
@@ -200,7 +185,7 @@ TEST_F(DeskButtons, OneSymbolGoesToAList) {
     NewLines(user);
     Open(user, DeskDialog::kAddOne, [](User& dialog) {
       dialog.Select(kLists, "two");
-      dialog.Click(kAdd);
+      dialog.Click(kAddSymbol);
       dialog.Click(kDone);
     });
     EXPECT_EQ(LastOf(NewLines(user)), "通知 | 40 | ");
@@ -221,7 +206,7 @@ TEST_F(DeskButtons, SeveralSymbolsGoToOneList) {
     Open(user, DeskDialog::kAddSelected, [](User& dialog) {
       EXPECT_EQ(dialog.SelectedRows(kLists), std::vector<int>{0}); // that of the page
       dialog.Select(kLists, "two");
-      dialog.Click(kAdd);
+      dialog.Click(kAddSymbol);
     });
     const Texts lines = NewLines(user);
     ASSERT_GE(lines.size(), 2U);

@@ -6,6 +6,7 @@
 
 #include "terminal/desk/DeskDialog.h"
 #include "terminal/desk/Session.h"
+#include "terminal/user/DialogControls.h"
 #include "tests/support/GroupMarket.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"
