@@ -119,7 +119,7 @@ bool WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
       Replace(place, std::move(list));
   }
   if (!fresh.empty())
-    LogLine(kLogChange, "Kept %d lists that were added while others were edited",
+    LogLine(kLogChange, "Lists added while others were edited, kept: %d",
             static_cast<int>(fresh.size()));
   std::move(fresh.begin(), fresh.end(), std::back_inserter(lists_));
   TakeInDefault(now);

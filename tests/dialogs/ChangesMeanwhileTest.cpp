@@ -38,6 +38,31 @@ TEST_F(ChangesMeanwhile, AListThatOthersAddedComesBehindTheUsers) {
             "*A/one/2330.TW|B/mine/2317.TW|C/three/1101.TW,2454.TW|N/new/1436.TW");
 }
 
+TEST_F(ChangesMeanwhile, TheLogSaysHowManyListsWereKept) {
+  const std::size_t lines = standin::LogLines().size();
+  const auto said = [&] {
+    std::string text;
+    for (std::size_t i = lines; i < standin::LogLines().size(); ++i)
+      text += standin::LogLines()[i].text.find("kept:") != std::string::npos
+                  ? standin::LogLines()[i].text
+                  : "";
+    return text;
+  };
+  After(1, [&] { manager.InsertSymbolList("A", 9, "1436.TW", 0, 0); });
+  EXPECT_EQ(said(), "");
+  After(1, [&] { manager.AddSymbolList("N", 0, "new", "1436.TW", 0, 0); });
+  EXPECT_EQ(said(), "Lists added while others were edited, kept: 1");
+}
+
+TEST_F(ChangesMeanwhile, ADefaultThatOthersSetToAListThatTheyAddedIsTaken) {
+  EXPECT_EQ(After(1,
+                  [&] {
+                    manager.AddSymbolList("N", 0, "new", "1436.TW", 1, 0);
+                    manager.SetDefaultIndex(3);
+                  }),
+            "A/one/2330.TW|B/mine/2317.TW|C/three/1101.TW,2454.TW|*N/new/1436.TW");
+}
+
 TEST_F(ChangesMeanwhile, AListThatOthersChangedIsTakenWhenTheUserDidNotTouchIt) {
   EXPECT_EQ(After(1, [&] { manager.InsertSymbolList("A", 9, "1436.TW", 0, 0); }),
             "*A/one/2330.TW,1436.TW|B/mine/2317.TW|C/three/1101.TW,2454.TW");
