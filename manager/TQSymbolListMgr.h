@@ -621,10 +621,10 @@ public:
   // The search for one symbol. `input`, a code or a name, is searched as the dialog opens; empty
   // opens it idle. One that means a single symbol is answered without the user, unless `forceList`
   // is set. With 1 the record of the symbol is copied into `*result`; null is allowed.
-  //   `place` (null: none): the two parts of its id, GetGroupID and GetSubGroupID, are the group with
-  //   which the search opens; where there is no such group, all. Afterwards, cancelled or not, it is
-  //   the group with which the search ended: type 2, "," for all. It stays as it is with -1. Without
-  //   it the search opens with the group of the last search in the process.
+  //   `place` (null: none): the two parts of its id, GetGroupID and GetSubGroupID, are the group
+  //   with which the search opens; where there is no such group, all. Afterwards, cancelled or not,
+  //   it is the group with which the search ended: type 2, "," for all. It stays as it is with -1.
+  //   Without it the search opens with the group of the last search in the process.
   static int DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables, WindowHandle parent,
                         const CString& input, SymbolInfo* result, int forceList,
                         CListID* place) noexcept;

@@ -29,8 +29,8 @@ bool RunsInNoLanguage() {
 } // namespace
 
 #ifdef TQ_SANITIZE
-// A report tells where memory was allocated with so many calls. To note all of them at each allocation
-// takes a tenth of a run.
+// A report tells where memory was allocated with so many calls. To note all of them at each
+// allocation takes a tenth of a run.
 extern "C" const char* __asan_default_options() {
   return "malloc_context_size=10";
 }
