@@ -191,7 +191,7 @@ protected:
 
   Deed Act(User& user, const DialogLayout& layout) {
     --actionsLeft;
-    callsToTerminal = Draw(30) == 0 ? 1 + Draw(3) : 0;
+    callsToTerminal = Draw(40) == 0 ? 1 + Draw(3) : 0;
     answersYes = DrawAnswer();
     Deed deed = actionsLeft < 0 ? Deed{"title bar", 0, 0, "", user.CloseByTitleBar()}
                                 : Choose(user, layout);
@@ -202,29 +202,29 @@ protected:
   }
   Deed Choose(User& user, const DialogLayout& layout) {
     const int what = Draw(100);
-    if (what < 28)
+    if (what < 26)
       return Click(user, DrawOf(layout.buttons));
-    if (what < 56)
+    if (what < 52)
       return ClickRow(user, DrawOf(layout.lists));
-    if (what < 60)
+    if (what < 56)
       return DoubleClick(user, DrawOf(layout.lists));
-    if (what < 74)
+    if (what < 68)
       return Press(user);
-    if (what < 85 && !layout.fields.empty())
+    if (what < 79 && !layout.fields.empty())
       return Fill(user, DrawOf(layout.fields));
-    if (what < 90 && !layout.boxes.empty())
+    if (what < 84 && !layout.boxes.empty())
       return SelectIn(user, DrawOf(layout.boxes));
-    if (what < 92)
+    if (what < 86)
       return Type(user);
-    if (what < 95)
+    if (what < 89)
       return ByTerminal();
-    return what < 98 ? Close(user, layout) : Deed{"nothing"};
+    return what < 96 ? Close(user, layout) : ClickRow(user, DrawOf(layout.lists));
   }
   static Deed Click(User& user, int id) { return {"click", id, 0, "", user.Click(id)}; }
   Deed ClickRow(User& user, int id) {
     const Modifier modifiers[] = {Modifier::None, Modifier::None, Modifier::Control,
                                   Modifier::Shift};
-    const int row = Draw(9) - 1;
+    const int row = Draw(7) - 1;
     return {"click row", id, row, "", user.ClickRow(id, row, modifiers[Draw(4)])};
   }
   Deed DoubleClick(User& user, int id) {
@@ -281,7 +281,7 @@ protected:
 
   Deed ByTerminal() {
     ActAsTerminal();
-    return {"the terminal", 0, 0, "", true};
+    return {"the terminal", 0, 0, terminalDid, true};
   }
   void ActAsTerminal() {
     AsTerminal([this] { return Draw(3) == 0 ? ActOnCloud() : ActOnUserLists(); });
@@ -292,8 +292,8 @@ protected:
     if (callsToTerminal == 0 || terminalActs || depth < (entry == Entry::Select ? 2 : 1) ||
         --callsToTerminal > 0)
       return;
-    deeds.push_back({"the terminal, asked", 0, 0, "", true});
     ActAsTerminal();
+    deeds.push_back({"the terminal, asked", 0, 0, terminalDid, true});
   }
 
   // --- Model

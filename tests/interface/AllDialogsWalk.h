@@ -189,7 +189,9 @@ protected:
 
   Effect ActOnUserLists() {
     const std::string id = AnyId(known.user);
-    switch (Draw(9)) {
+    const int what = Draw(9);
+    terminalDid = "user lists " + std::to_string(what) + " " + id;
+    switch (what) {
     case 0:
     case 1:
       return AddList();
@@ -256,7 +258,9 @@ protected:
   }
 
   Effect ActOnCloud() {
-    switch (Draw(4)) {
+    const int what = Draw(4);
+    terminalDid = "cloud lists " + std::to_string(what);
+    switch (what) {
     case 0:
       return PushCloudList();
     case 1:
@@ -300,6 +304,7 @@ protected:
   std::string fileAtCall;
   Events events; // the dialog's
   int terminalActions = 0;
+  std::string terminalDid; // last, as a failure tells it
   bool terminalActs = false;
 
 private:

@@ -19,7 +19,7 @@ protected:
       if (HasFailure()) {
         FAIL() << "seed " << GetParam() << ", operation " << number << ", " << Story()
                << "before: " << testing::PrintToString(before)
-               << "\nafter what others did: " << testing::PrintToString(known)
+               << "\nafter what others did: " << testing::PrintToString(atClose)
                << "\nnow: " << testing::PrintToString(Now());
       }
       if (number % 16 == 0)
@@ -67,6 +67,7 @@ protected:
     EXPECT_TRUE(!expectedResult || result == *expectedResult) << result;
     Collect();
     const ManagerLists now = Now();
+    atClose = known;
     ExpectEffects(now);
     ExpectListsAreSound(now);
     known = now;
@@ -292,7 +293,7 @@ protected:
     for (const ListText& list : now.user) {
       const ListText* const was = FindList(before.user, list.id);
       const ListText* const is = FindList(known.user, list.id);
-      if (was == nullptr || (is != nullptr && *is == list))
+      if (was == nullptr || list == *was || (is != nullptr && *is == list))
         continue;
       ++changed;
       ASSERT_EQ(list.ids.rfind(was->ids, 0), 0u) << list.id;
@@ -372,6 +373,7 @@ protected:
   }
 
   const std::set<std::string> unknown = {"gone.TW", "none.TE", "lost.TW"};
+  ManagerLists atClose; // when the dialog closed
   CTQSymbolListMgr other;
   bool otherStarted = false;
 };
