@@ -63,6 +63,7 @@ protected:
     storedContents = 0;
     terminalActions = 0;
     shown.reset();
+    rows.reset();
     expectedResult.reset();
     edited.reset();
     mayHaveChanged = selectionChanged = cloudIsUntold = false;
@@ -85,6 +86,8 @@ protected:
     bool opened = false;
     if (layout.opens)
       WhenDialogOpens([this, &opened](User& editor) { opened = UseEditor(editor); });
+    if (isEditor)
+      LookAtContents(user);
     const Deed deed = Act(user, layout);
     const bool unused = layout.opens && TakeUnusedScripts() > 0;
     EXPECT_EQ(unused, layout.opens && !opened);
@@ -92,6 +95,8 @@ protected:
     EXPECT_TRUE(opened || !mustOpen || given.find('&') != std::string::npos) << "nothing opened";
     if (isEditor && !user.IsUp())
       storedContents += IsCancel(deed) ? 0 : 1;
+    if (!deed.IsClick(1)) // Enter may add what is typed
+      rows.reset();
     if (!user.IsUp())
       Closed(deed);
     if (entry == Entry::Select)
@@ -125,6 +130,14 @@ protected:
       return;
     if (!user.IsVisible(741) || entry == Entry::Symbols)
       shown = user.Rows(781);
+  }
+  // Ids and headings of the editor of one list, without the empty row, and the name.
+  void LookAtContents(User& user) {
+    rows = user.Rows(781);
+    rows->pop_back();
+    for (std::string& row : *rows)
+      row = row.substr(0, row.find(' '));
+    typedName = user.Text(742);
   }
   static std::string MarkOf(const ListText& list) {
     if (!IsSystem(list))
@@ -272,16 +285,33 @@ protected:
       return {"nothing"};
     return Click(user, DrawOf(layout.closers));
   }
-  static Deed End(User& user) {
-    CDialog::FromHandle(user.Dialog().GetSafeHwnd())->EndDialog(2);
-    return {"ended", 0, 2, "", true};
+  // The terminal ends any dialog with any code; a selection by its own operation too.
+  Deed End(User& user) {
+    const int code = 1 + Draw(2);
+    const WindowHandle window = user.Dialog().GetSafeHwnd();
+    if (entry == Entry::Select && depth == 1)
+      EXPECT_EQ(CTQSymbolListMgr::EndDomodal(window, code), 1);
+    else
+      CDialog::FromHandle(window)->EndDialog(code);
+    return {"ended", 0, code, "", true};
   }
 
   // --- The terminal
 
   Deed ByTerminal() {
+    if (Draw(6) == 0 && entry != Entry::OneSymbol && entry != Entry::Search)
+      return OpenAnother();
     ActAsTerminal();
     return {"the terminal", 0, 0, terminalDid, true};
+  }
+  // Of the family one is open.
+  Deed OpenAnother() {
+    AsTerminal([this] {
+      EXPECT_EQ(CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr),
+                CDialog::Failed);
+      return Effect{};
+    });
+    return {"another dialog, refused", 0, 0, "", true};
   }
   void ActAsTerminal() {
     AsTerminal([this] { return Draw(3) == 0 ? ActOnCloud() : ActOnUserLists(); });
@@ -340,6 +370,8 @@ protected:
   std::string editedId; // of the one list
   std::optional<ListText> edited;
   std::optional<std::vector<std::string>> shown; // the names before the last action
+  std::optional<std::vector<std::string>> rows;  // those of the list that is edited
+  std::string typedName;
   std::vector<Deed> deeds;
   int actionsLeft = 0;
   int depth = 0; // of the dialogs that are up
