@@ -24,9 +24,12 @@ struct DialogLayout {
   std::vector<int> boxes;
   bool opens; // a content editor, with the buttons 801 and 802
 };
-inline const DialogLayout kContents = {
-    {801, 802, 803, 804, 805, 806, 807, 808}, {1, 1, 2}, {781, 781, 782}, {741, 743, 742},
-    {761, 762},                               false};
+inline const DialogLayout kContents = {{801, 802, 803, 804, 805, 806, 807, 808},
+                                       {1, 1, 2},
+                                       {781, 781, 782},
+                                       {741, 743, 742},
+                                       {761, 762},
+                                       false};
 inline const DialogLayout kLists = {
     {801, 802, 803, 804, 805, 807, 808}, {806}, {781, 781, 782}, {741}, {}, true};
 inline const DialogLayout kLayouts[] = {
@@ -54,7 +57,7 @@ protected:
   };
 
   AllDialogsUser() {
-    standin::OnEachCall([this](std::string_view) { WithinCall(); });
+    standin::OnEachCall([this](std::string_view operation) { WithinCall(operation); });
   }
 
   void BeginRun() {
@@ -68,6 +71,8 @@ protected:
     edited.reset();
     mayHaveChanged = selectionChanged = cloudIsUntold = false;
     given = DrawOf(additions);
+    lateId.clear();
+    answersCall = Draw(6) == 0;
   }
 
   void UseDialog(User& user) {
@@ -123,8 +128,7 @@ protected:
   // names that is still open, and of one that closes the dialog.
   void LookAtNames(User& user) {
     shown.reset();
-    if (entry == Entry::Group || entry == Entry::CloudGroup ||
-        entry == Entry::Search)
+    if (entry == Entry::Group || entry == Entry::CloudGroup || entry == Entry::Search)
       return;
     if (entry == Entry::Select && source != sourceOfUser)
       return;
@@ -171,9 +175,9 @@ protected:
         EXPECT_TRUE(ok && cloudIsUntold && source == sourceOfCloud) << source;
         cloudIsUntold = false;
       } else if (event.rfind("64 CTQSymbolListMgr::UpdateCloudSymbolList ", 0) == 0) {
-        EXPECT_TRUE(std::any_of(now.cloud.begin(), now.cloud.end(),
-                                [&](const ListText& list) { return event == CloudLine(list); }))
-            << event;
+        EXPECT_TRUE(std::any_of(now.cloud.begin(), now.cloud.end(), [&](const ListText& list) {
+          return event == CloudLine(list);
+        })) << event;
         cloudTold = cloudIsUntold = selectionChanged = true;
       } else {
         EXPECT_TRUE(event.rfind("64 Kept ", 0) == 0 && terminalActions > 0) << event;
@@ -264,12 +268,12 @@ protected:
       Modifier modifier;
     };
     static const Stroke kStrokes[] = {
-        {"Enter", Key::Enter, Modifier::None},  {"Enter", Key::Enter, Modifier::None},
+        {"Enter", Key::Enter, Modifier::None},   {"Enter", Key::Enter, Modifier::None},
         {"Delete", Key::Delete, Modifier::None}, {"F2", Key::F2, Modifier::None},
-        {"F2", Key::F2, Modifier::None},        {"Up", Key::Up, Modifier::Alt},
-        {"Down", Key::Down, Modifier::Alt},     {"A", Key::A, Modifier::Control},
-        {"Tab", Key::Tab, Modifier::None},      {"Space", Key::Space, Modifier::None},
-        {"Down", Key::Down, Modifier::None},    {"Home", Key::Home, Modifier::None}};
+        {"F2", Key::F2, Modifier::None},         {"Up", Key::Up, Modifier::Alt},
+        {"Down", Key::Down, Modifier::Alt},      {"A", Key::A, Modifier::Control},
+        {"Tab", Key::Tab, Modifier::None},       {"Space", Key::Space, Modifier::None},
+        {"Down", Key::Down, Modifier::None},     {"Home", Key::Home, Modifier::None}};
     const Stroke& stroke = kStrokes[Draw(static_cast<int>(std::size(kStrokes)))];
     return {stroke.what, 0, 0, "", user.Press(stroke.key, stroke.modifier)};
   }
@@ -318,12 +322,24 @@ protected:
   }
   // From a question to a service. The selection stores on its own account: there only while an
   // editor is open over it.
-  void WithinCall() {
+  void WithinCall(std::string_view operation) {
+    if (answersCall && operation == "TQSCall" && depth == 0 && !terminalActs)
+      return AddAtCall();
     if (callsToTerminal == 0 || terminalActs || depth < (entry == Entry::Select ? 2 : 1) ||
         --callsToTerminal > 0)
       return;
     ActAsTerminal();
     deeds.push_back({"the terminal, asked", 0, 0, terminalDid, true});
+  }
+
+  // The terminal adds a list when it is told of a change: once, for it is told of that too.
+  void AddAtCall() {
+    answersCall = false;
+    terminalActs = true;
+    lateId = "L" + std::to_string(++lateCount);
+    EXPECT_EQ(manager.AddSymbolList(lateId.c_str(), 0, "late", "2330.TW", Draw(2), 0), 1);
+    terminalActs = false;
+    deeds.push_back({"the terminal, told", 0, 0, lateId, true});
   }
 
   // --- Model
@@ -345,20 +361,23 @@ protected:
   bool IsAdding() const { return entry == Entry::OneSymbol || entry == Entry::Symbols; }
 
   std::string Story() const {
-    std::string story = std::string(kEntryNames[static_cast<int>(entry)]) + " of \"" + given + "\"\n";
+    std::string story =
+        std::string(kEntryNames[static_cast<int>(entry)]) + " of \"" + given + "\"\n";
     for (const Deed& deed : deeds)
       story += "  " + std::string(deed.what) + " " + std::to_string(deed.id) + " " +
-               std::to_string(deed.row) + " " + deed.text + (deed.done ? "\n" : " (not possible)\n");
+               std::to_string(deed.row) + " " + deed.text +
+               (deed.done ? "\n" : " (not possible)\n");
     return story;
   }
 
-  const Texts additions = {"",        "2330.TW",         "lost.TW",         "2454.TW,1101.TW",
-                           "a&b.TW",  "Tag:,5483.TE",    "2330.TW,lost.TW", "2317"};
-  const Texts codes = {"2330", "2317", "6488", "none", "7777", "", "23", ".2330", "0050.TW", "1436"};
+  const Texts additions = {"",       "2330.TW",      "lost.TW",         "2454.TW,1101.TW",
+                           "a&b.TW", "Tag:,5483.TE", "2330.TW,lost.TW", "2317"};
+  const Texts codes = {"2330", "2317", "6488",  "none",    "7777",
+                       "",     "23",   ".2330", "0050.TW", "1436"};
   const Texts titles = {"A", "許功蓋", "標題9", "a b", "A-1", ""};
-  const Texts names = {"one", "Two", "two",       "中文",  "許功蓋",  "3",
-                       "",    "a'b", "x&y",       "a:b",   " four ",  "five",
-                       "x(系統)", "x(系统)", std::string(70, 'n')};
+  const Texts names = {"one",    "Two",  "two",     "中文",    "許功蓋",
+                       "3",      "",     "a'b",     "x&y",     "a:b",
+                       " four ", "five", "x(系統)", "x(系统)", std::string(70, 'n')};
   const std::string sourceOfUser = IsTraditionChinese() != 0 ? "我的商品組合" : "我的商品组合";
   const std::string sourceOfCloud = IsTraditionChinese() != 0 ? "雲自選" : "云自选";
 
@@ -376,7 +395,10 @@ protected:
   int actionsLeft = 0;
   int depth = 0; // of the dialogs that are up
   int callsToTerminal = 0;
-  int storedContents = 0; // content editors that may have been accepted
+  int storedContents = 0;   // content editors that may have been accepted
+  bool answersCall = false; // with another list
+  int lateCount = 0;
+  std::string lateId; // of the list that the terminal added when it was told
   bool answersYes = false;
   bool mayHaveChanged = false;
   bool selectionChanged = false;

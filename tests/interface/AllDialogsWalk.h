@@ -82,8 +82,9 @@ protected:
   // Of the stand-in's reports the memory must not be filled.
   static void ForgetCalls() { standin::ClearCalls(); }
 
-  ManagerLists Now() { return {ListsOf(manager, kUserLists), ListsOf(manager, kCloudLists),
-                               DefaultIndex()}; }
+  ManagerLists Now() {
+    return {ListsOf(manager, kUserLists), ListsOf(manager, kCloudLists), DefaultIndex()};
+  }
   static ListTexts ListsOf(CTQSymbolListMgr& from, int kind) {
     ListTexts lists;
     CString id;
@@ -279,7 +280,7 @@ protected:
   Effect PushCloudList() {
     const std::string id = Draw(2) == 0 ? "PICK" : "K" + std::to_string(Draw(4));
     const std::string name = Ansi(DrawOf(goodNames));
-    const std::string ids = DrawOf(symbols);
+    const std::string ids = DrawOf(id == "PICK" ? plainSymbols : symbols);
     manager.SetCloudeList(id.c_str(), name.c_str(), ids.c_str());
     Effect effect{{"64 CTQSymbolListMgr::SetCloudeList ListName=" + name + ", Symbols=" + ids}};
     if (FindList(known.cloud, id) != nullptr)
@@ -295,8 +296,9 @@ protected:
   std::string AnyId(const ListTexts& lists) { return lists.empty() ? "" : DrawOf(lists).id; }
   static std::string Ansi(const std::string& text) { return standin::ToAnsi(text); }
 
-  const Texts symbols = {"2330.TW", "2317.TW,none.TE", "Tag:,2454.TW,1101.TW", "gone.TW,6488.TE",
-                         "1436.TW,2330.TW,7777.TE", "gone.TW"};
+  const Texts symbols = {"2330.TW",         "2317.TW,none.TE",         "Tag:,2454.TW,1101.TW",
+                         "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", "gone.TW"};
+  const Texts plainSymbols = {"2330.TW", "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", ""};
   const Texts goodNames = {"one", "Two", "two", "中文", "許功蓋", "3"};
   ManagerLists known; // after the last action of either
   ManagerLists saved; // as the file has them

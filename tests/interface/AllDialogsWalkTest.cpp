@@ -11,8 +11,6 @@ namespace {
 
 class AllDialogsWalk : public AllDialogsUser, public testing::WithParamInterface<unsigned> {
 protected:
-  static constexpr int kChosen = 1;
-
   void Walk(int actions) {
     actionsLeft = actions;
     for (int number = 0; actionsLeft > 0; ++number) {
@@ -42,7 +40,8 @@ protected:
     for (const ListText& list : ListTexts(known.user)) {
       if (list.ids.size() > 120)
         AsTerminal([this, &list] {
-          manager.AddSymbolList(list.id.c_str(), 0, list.name.c_str(), DrawOf(symbols).c_str(), 0, 1);
+          manager.AddSymbolList(list.id.c_str(), 0, list.name.c_str(), DrawOf(symbols).c_str(), 0,
+                                1);
           return Effect{{"64 Add SymbolList", "40 ''"}, true};
         });
     }
@@ -70,7 +69,10 @@ protected:
     Collect();
     const ManagerLists now = Now();
     atClose = known;
-    ExpectEffects(now);
+    if (lateId.empty())
+      ExpectEffects(now);
+    else
+      ExpectAddedAtCallIsKept(now);
     ExpectListsAreSound(now);
     known = now;
   }
@@ -97,7 +99,7 @@ protected:
       CString text = textBefore.c_str();
       const int code = CTQSymbolListMgr::DoSelectUI(
           &manager, tables, nullptr, Draw(4) == 0 ? nullptr : &kind, text, 0, Draw(2) == 0);
-      EXPECT_TRUE(code == kChosen || (kind == kindBefore && textBefore == text.GetString()));
+      EXPECT_TRUE(code == 1 || (kind == kindBefore && textBefore == text.GetString()));
       return code;
     }
     default: {
@@ -131,6 +133,14 @@ protected:
       edited = {copy.GetID().GetString(), copy.GetName().GetString(), copy.GetIDs().GetString()};
     EXPECT_EQ(mode == 0 && done, editedId.empty() && edited && !edited->id.empty());
     return done ? 1 : 2;
+  }
+
+  // What else there is then is looked at by other operations.
+  void ExpectAddedAtCallIsKept(const ManagerLists& now) {
+    EXPECT_NE(FindList(now.user, lateId), nullptr) << "a list is lost";
+    file = ReadWorking();
+    saved = now;
+    EXPECT_EQ(file, FileOf(now));
   }
 
   // --- What it had to do: `known` is what was when the dialog closed
@@ -189,10 +199,12 @@ protected:
     if (changed) {
       for (const ListText& list : cloud ? lists : ListTexts())
         expected.push_back(CloudLine(list));
-      const std::string line = std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED;
+      const std::string line =
+          std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED;
       const std::string code = cloud ? "41 " : "40 ";
       if (lists.size() != old.size())
-        Append(expected, line + "(nNewSymbolListCnt != nOldSymbolListCnt)", code + "'ListCntChange'");
+        Append(expected, line + "(nNewSymbolListCnt != nOldSymbolListCnt)",
+               code + "'ListCntChange'");
       else if (lists.size() == held.size() && NamesOf(lists) != NamesOf(held))
         Append(expected, line + "(bListNameChange)", code + "'ListNameChange'");
       else
@@ -211,9 +223,8 @@ protected:
   void ExpectMerged(const ListTexts& lists, const ListTexts& held, const ListTexts& old,
                     bool mayDelete) {
     ListTexts added;
-    std::copy_if(held.begin(), held.end(), std::back_inserter(added), [&old](const ListText& list) {
-      return FindList(old, list.id) == nullptr;
-    });
+    std::copy_if(held.begin(), held.end(), std::back_inserter(added),
+                 [&old](const ListText& list) { return FindList(old, list.id) == nullptr; });
     ASSERT_GE(lists.size(), added.size());
     EXPECT_TRUE(std::equal(added.begin(), added.end(), lists.end() - Size(added)))
         << "others' lists";
@@ -263,8 +274,8 @@ protected:
     std::vector<std::string> visible;
     for (const std::string& piece : PiecesOf(list->ids)) {
       if (unknown.count(piece) == 0)
-        visible.push_back(standin::FromAnsi(IsHeadingPiece(piece) ? piece.substr(0, piece.size() - 1)
-                                                                  : piece));
+        visible.push_back(
+            standin::FromAnsi(IsHeadingPiece(piece) ? piece.substr(0, piece.size() - 1) : piece));
     }
     EXPECT_EQ(visible, *rows);
     const size_t from = typedName.find_first_not_of(' ');
@@ -293,8 +304,7 @@ protected:
     if (kept > 0 && (changed || events.size() > (entry == Entry::Symbols ? 1u : 0u)))
       expected.push_back(KeptLine(kept));
     if (changed)
-      Append(expected,
-             std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED,
+      Append(expected, std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED,
              entry == Entry::Symbols ? "4 ''" : "40 ''");
     if (entry == Entry::Symbols)
       expected.emplace_back("40 ''");
@@ -321,7 +331,8 @@ protected:
       ++changed;
       ASSERT_EQ(list.ids.rfind(was->ids, 0), 0u) << list.id;
       for (const std::string& piece : PiecesOf(list.ids.substr(was->ids.size()))) {
-        EXPECT_TRUE(piece.empty() || ("," + given + ",").find("," + piece + ",") != std::string::npos)
+        EXPECT_TRUE(piece.empty() ||
+                    ("," + given + ",").find("," + piece + ",") != std::string::npos)
             << piece;
       }
     }
@@ -337,7 +348,7 @@ protected:
       EXPECT_TRUE(!IsSystem(list) || entry == Entry::Select ||
                   FindList(now.user, list.id) != nullptr)
           << "a system list is gone";
-    if (!now.HasSameUserLists(known)) {
+    if (lateId.empty() && !now.HasSameUserLists(known)) {
       EXPECT_GE(now.defaultIndex, now.user.empty() ? -1 : 0);
       EXPECT_LT(now.defaultIndex, static_cast<int>(now.user.size()));
     }
@@ -348,6 +359,7 @@ protected:
       EXPECT_TRUE(!list.id.empty() && ids.insert(list.id).second) << "id " << list.id;
       EXPECT_TRUE(!list.name.empty() && list.name.find_first_of("'&<") == std::string::npos);
       EXPECT_LE(list.name.size(), 64u);
+      EXPECT_FALSE(HasBareMarker(list.ids)) << list.ids;
       EXPECT_FALSE(HasOneTwice(list.ids)) << list.ids;
       const ListText* const is = FindList(held, list.id);
       const ListText* const was = FindList(old, list.id);
@@ -356,6 +368,10 @@ protected:
                        (was != nullptr && KeepsWhatNobodySees(list.ids, was->ids));
       EXPECT_TRUE(has) << "lost an unknown id: " << list.ids;
     }
+  }
+  // The id of a heading's record.
+  static bool HasBareMarker(const std::string& ids) {
+    return ("," + ids + ",").find(",:,") != std::string::npos;
   }
   static bool HasOneTwice(const std::string& ids) {
     std::set<std::string> seen;
@@ -414,6 +430,6 @@ TEST_P(AllDialogsWalk, ChangesSavesAndTellsWhatAPlainModelDoes) {
   EXPECT_LE(WindowResources(), windows + ResourceSlack());
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, AllDialogsWalk, testing::Range(1U, 61U));
+INSTANTIATE_TEST_SUITE_P(Seeds, AllDialogsWalk, testing::Values(1U, 2U, 3U, 4U));
 
 } // namespace
