@@ -72,6 +72,9 @@ protected:
     mayHaveChanged = selectionChanged = cloudIsUntold = false;
     given = DrawOf(additions);
     lateId.clear();
+    copied = before;
+    marked = before.defaultIndex;
+    marksAreKnown = entry == Entry::Lists;
     answersCall = Draw(6) == 0;
   }
 
@@ -93,7 +96,10 @@ protected:
       WhenDialogOpens([this, &opened](User& editor) { opened = UseEditor(editor); });
     if (isEditor)
       LookAtContents(user);
+    const View seen = ViewOf(user);
     const Deed deed = Act(user, layout);
+    if (entry == Entry::Lists)
+      FollowDefault(deed, seen, ViewOf(user));
     const bool unused = layout.opens && TakeUnusedScripts() > 0;
     EXPECT_EQ(unused, layout.opens && !opened);
     const bool mustOpen = layout.opens && (deed.IsClick(801) || deed.IsClick(802));
@@ -143,6 +149,33 @@ protected:
       row = row.substr(0, row.find(' '));
     typedName = user.Text(742);
   }
+  // Of the editor of lists, while it is up.
+  struct View {
+    int count = 0;
+    int selected = -1;
+  };
+  View ViewOf(User& user) const {
+    if (entry != Entry::Lists || !user.IsUp())
+      return {};
+    const std::vector<int> selection = user.SelectedRows(781);
+    return {static_cast<int>(user.Rows(781).size()), selection.empty() ? -1 : selection.front()};
+  }
+  // The default list is marked by its button, goes with its list, and the list that is selected
+  // takes the place of one that is deleted.
+  void FollowDefault(const Deed& deed, const View& from, const View& to) {
+    if (deed.Is("Enter") || deed.Is("Space"))
+      marksAreKnown = false;
+    const bool isMove =
+        deed.IsClick(807) || deed.IsClick(808) || deed.Is("Alt+Up") || deed.Is("Alt+Down");
+    if (deed.IsClick(805) && from.selected >= 0)
+      marked = from.selected;
+    else if (isMove && to.selected >= 0 && (marked == from.selected || marked == to.selected))
+      marked = marked == from.selected ? to.selected : from.selected;
+    else if (to.count == from.count - 1)
+      marked = from.selected == marked ? to.selected : marked - (from.selected < marked ? 1 : 0);
+    else if (from.count == 0 && to.count == 1)
+      marked = 0;
+  }
   static std::string MarkOf(const ListText& list) {
     if (!IsSystem(list))
       return "";
@@ -185,16 +218,28 @@ protected:
     }
     EXPECT_TRUE(cloudTold || now.cloud.size() < known.cloud.size() || terminalActions > 0);
     cloudIsUntold = cloudIsUntold || now.cloud != known.cloud;
+    if (now.cloud != known.cloud)
+      ExpectOthersAreKept(now.cloud, known.cloud, std::exchange(copied.cloud, now.cloud));
     EXPECT_TRUE(ok || now.HasSameUserLists(known)) << "stored without OK";
     EXPECT_FALSE(closed && deed.IsClick(1) && source == sourceOfCloud && cloudIsUntold);
     selectionChanged = selectionChanged || !(now == known);
     if (!now.HasSameUserLists(known) || ReadWorking() != file) {
       EXPECT_TRUE(ok);
+      ExpectOthersAreKept(now.user, known.user, std::exchange(copied.user, now.user));
       known = now;
       Saved();
       EXPECT_EQ(ReadWorking(), file);
     }
     known = now;
+  }
+  // What they added since the selection read or stored its lists last.
+  static void ExpectOthersAreKept(const ListTexts& now, const ListTexts& held,
+                                  const ListTexts& copied) {
+    for (const ListText& list : held) {
+      if (FindList(copied, list.id) == nullptr) {
+        EXPECT_TRUE(std::find(now.begin(), now.end(), list) != now.end()) << "undone: " << list.id;
+      }
+    }
   }
   // At the end a line and a call, when it changed lists, stored or not.
   void ExpectSelectionReported() {
@@ -249,7 +294,7 @@ protected:
     return {"double-click row", id, row, "", user.DoubleClick(id, row)};
   }
   Deed SelectIn(User& user, int id) {
-    const int row = Draw(6);
+    const int row = entry == Entry::Select && Draw(3) > 0 ? 1 + 2 * Draw(2) : Draw(6);
     return {"select", id, row, "", user.Select(id, row)};
   }
   Deed Fill(User& user, int id) {
@@ -270,8 +315,8 @@ protected:
     static const Stroke kStrokes[] = {
         {"Enter", Key::Enter, Modifier::None},   {"Enter", Key::Enter, Modifier::None},
         {"Delete", Key::Delete, Modifier::None}, {"F2", Key::F2, Modifier::None},
-        {"F2", Key::F2, Modifier::None},         {"Up", Key::Up, Modifier::Alt},
-        {"Down", Key::Down, Modifier::Alt},      {"A", Key::A, Modifier::Control},
+        {"F2", Key::F2, Modifier::None},         {"Alt+Up", Key::Up, Modifier::Alt},
+        {"Alt+Down", Key::Down, Modifier::Alt},  {"A", Key::A, Modifier::Control},
         {"Tab", Key::Tab, Modifier::None},       {"Space", Key::Space, Modifier::None},
         {"Down", Key::Down, Modifier::None},     {"Home", Key::Home, Modifier::None}};
     const Stroke& stroke = kStrokes[Draw(static_cast<int>(std::size(kStrokes)))];
@@ -293,10 +338,11 @@ protected:
   Deed End(User& user) {
     const int code = 1 + Draw(2);
     const WindowHandle window = user.Dialog().GetSafeHwnd();
-    if (entry == Entry::Select && depth == 1)
+    if (entry == Entry::Select && depth == 1) {
       EXPECT_EQ(CTQSymbolListMgr::EndDomodal(window, code), 1);
-    else
+    } else {
       CDialog::FromHandle(window)->EndDialog(code);
+    }
     return {"ended", 0, code, "", true};
   }
 
@@ -391,6 +437,9 @@ protected:
   std::optional<std::vector<std::string>> shown; // the names before the last action
   std::optional<std::vector<std::string>> rows;  // those of the list that is edited
   std::string typedName;
+  ManagerLists copied;        // as the selection has read or stored them last
+  int marked = -1;            // the row of the default list
+  bool marksAreKnown = false; // a key may have pressed any button
   std::vector<Deed> deeds;
   int actionsLeft = 0;
   int depth = 0; // of the dialogs that are up

@@ -149,6 +149,7 @@ protected:
     switch (entry) {
     case Entry::Lists:
       ExpectEditorOfLists(now, now.user, known.user, before.user);
+      ExpectDefault(now);
       return ExpectSaved(now, !now.HasSameUserLists(known));
     case Entry::Cloud:
       EXPECT_TRUE(now.HasSameUserLists(known));
@@ -213,6 +214,23 @@ protected:
     }
     EXPECT_EQ(events, expected);
   }
+  // The one that the user left, or the one that others chose and the user did not.
+  void ExpectDefault(const ManagerLists& now) {
+    if (now.HasSameUserLists(known) || !marksAreKnown || now.user.empty())
+      return;
+    int expected = std::clamp(marked, 0, static_cast<int>(now.user.size()) - 1);
+    if (known.defaultIndex != before.defaultIndex &&
+        IdAt(now, marked) == IdAt(before, before.defaultIndex)) {
+      const ListText* const chosen = FindList(now.user, IdAt(known, known.defaultIndex));
+      expected = chosen == nullptr ? expected : static_cast<int>(chosen - now.user.data());
+    }
+    EXPECT_EQ(now.defaultIndex, expected) << "the default list";
+  }
+  static std::string IdAt(const ManagerLists& lists, int index) {
+    return index < 0 || index >= static_cast<int>(lists.user.size())
+               ? ""
+               : lists.user[static_cast<std::size_t>(index)].id;
+  }
   static void Append(Events& events, const std::string& line, const std::string& call) {
     events.push_back(line);
     events.push_back(call);
@@ -247,10 +265,11 @@ protected:
     if (shown && !othersStand) {
       EXPECT_EQ(standin::FromAnsi(list.name) + MarkOf(list), (*shown)[place]);
     }
-    if (was == nullptr)
+    if (was == nullptr) {
       EXPECT_GT(storedContents, 0) << "a new list out of nothing: " << list.id;
-    else if (!othersStand && storedContents == 0 && !IsAdding())
+    } else if (!othersStand && storedContents == 0 && !IsAdding()) {
       EXPECT_EQ(list.ids, was->ids) << "nobody edited " << list.id;
+    }
   }
 
   // One list is as the caller's, where it is there and another one.
