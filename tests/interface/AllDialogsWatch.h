@@ -184,7 +184,7 @@ protected:
   }
   Effect AddCopy() {
     CSymbolList list;
-    list.SetID(("T" + std::to_string(++added)).c_str());
+    list.SetID(("T" + std::to_string(++listsAdded)).c_str());
     list.SetName(Ansi(DrawOf(goodNames)).c_str());
     list.Update1(DrawOf(symbols).c_str());
     EXPECT_EQ(manager.AddTQSymbolList(&list, Draw(2)), 1);
@@ -268,5 +268,5 @@ protected:
 private:
   size_t notesSeen = 0;
   size_t linesSeen = 0;
-  int added = 0;
+  int listsAdded = 0;
 };
