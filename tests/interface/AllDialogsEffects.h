@@ -67,8 +67,7 @@ protected:
     if (changed) {
       for (const ListText& list : cloud ? lists : ListTexts())
         expected.push_back(CloudLine(list));
-      const std::string line =
-          std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED;
+      const std::string line = ChangeLine(entry);
       const std::string code = cloud ? "41 " : "40 ";
       if (lists.size() != old.size())
         Append(expected, line + "(nNewSymbolListCnt != nOldSymbolListCnt)",
@@ -190,8 +189,7 @@ protected:
     if (kept > 0 && (changed || events.size() > (entry == Entry::Symbols ? 1u : 0u)))
       expected.push_back(KeptLine(kept));
     if (changed)
-      Append(expected, std::string("64 ") + kEntryNames[static_cast<int>(entry)] + TQ_CHANGED,
-             entry == Entry::Symbols ? "4 ''" : "40 ''");
+      Append(expected, ChangeLine(entry), entry == Entry::Symbols ? "4 ''" : "40 ''");
     if (entry == Entry::Symbols)
       expected.emplace_back("40 ''");
     EXPECT_EQ(events, expected);

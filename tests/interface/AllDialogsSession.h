@@ -9,10 +9,14 @@
 
 #include "tests/interface/AllDialogsUser.h"
 
-#define TQ_CHANGED " \xA7\xF3\xB0\xCA SymbolList!!" // "changed", in Big5
-
 class AllDialogsSession : public AllDialogsUser {
 protected:
+  // The line of an operation that changed lists; "changed" is Big5.
+  static std::string ChangeLine(Entry of) {
+    return std::string("64 ") + kEntryNames[static_cast<int>(of)] +
+           " \xA7\xF3\xB0\xCA SymbolList!!";
+  }
+
   void BeginRun() {
     deeds.clear();
     depth = 0;
@@ -199,7 +203,7 @@ protected:
   // At the end a line and a call, when it changed lists, stored or not.
   void ExpectSelectionReported() {
     if (selectionChanged || !events.empty()) {
-      EXPECT_EQ(events, (Events{"64 DoSelectUI" TQ_CHANGED, "40 ''"}));
+      EXPECT_EQ(events, (Events{ChangeLine(entry), "40 ''"}));
     }
     EXPECT_TRUE(events.empty() || selectionChanged || mayHaveChanged);
   }

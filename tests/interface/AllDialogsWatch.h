@@ -254,6 +254,7 @@ protected:
 
   const Texts symbols = {"2330.TW",         "2317.TW,none.TE",         "Tag:,2454.TW,1101.TW",
                          "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", "gone.TW"};
+  // Of the cloud list that is a group of the market too.
   const Texts plainSymbols = {"2330.TW", "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", ""};
   const Texts goodNames = {"one", "Two", "two", "中文", "許功蓋", "3"};
   ManagerLists known; // after the last action of either
