@@ -29,6 +29,8 @@ protected:
     standin::AnswerMessages(yes ? 6 : 7);
     return yes;
   }
+  // Another walk than that of the other tests.
+  void Seed(unsigned seed) { random_.seed(seed); }
   // The recorded calls and messages would fill the memory in a long walk.
   static void Forget() { standin::ClearCalls(); }
 
