@@ -56,9 +56,11 @@ void ReportChange(const ChangeLines& lines, long code, bool countChanged, bool n
     Report(lines.other, code, "");
 }
 
+// By their texts, not by their rows: those may have to be asked for, and the terminal may add lists
+// then, which a store behind that would lose.
 bool SameList(CSymbolList& left, CSymbolList& right) {
-  return left.GetCount() == right.GetCount() && left.IsSameID(right.GetID()) &&
-         left.GetName() == right.GetName() && left.GetIDs() == right.GetIDs();
+  return left.IsSameID(right.GetID()) && left.GetName() == right.GetName() &&
+         left.GetIDs() == right.GetIDs();
 }
 
 // Puts a copy of `edited` in the place of the stored list with its id. False when there is none, or
@@ -72,8 +74,10 @@ bool PutEdited(WorkingCopy& stored, const CSymbolList& edited) {
   return true;
 }
 
-void StoreAndSave(CTQSymbolListMgr& manager, CPtrArray& lists) {
+void StoreAndSave(CTQSymbolListMgr& manager, WorkingCopy& copy) {
+  CPtrArray lists = copy.Pointers();
   manager.SetSymbolList(&lists);
+  copy.ReportKept();
   manager.SaveSymbolList();
 }
 
@@ -84,7 +88,7 @@ bool StoreIfModified(CTQSymbolListMgr& manager, WorkingCopy& copy) {
   CPtrArray lists = copy.Pointers();
   if (!manager.IsModifyList(&lists, index))
     return false;
-  StoreAndSave(manager, lists);
+  StoreAndSave(manager, copy);
   return true;
 }
 
@@ -97,7 +101,7 @@ void CommitLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBefore) 
     return;
   const bool nameChanged = NamesDiffer(WorkingCopy(manager, kUserLists), copy);
   manager.SetDefaultIndex(copy.DefaultIndex()); // SetSymbolList brings it into range
-  StoreAndSave(manager, lists);
+  StoreAndSave(manager, copy);
   copy.Clear();
   ReportChange(kListLines, kNotifyUserLists, manager.GetSymbolListCount(kUserLists) != countBefore,
                nameChanged);
@@ -110,6 +114,7 @@ void CommitCloudLists(CTQSymbolListMgr& manager, WorkingCopy& copy, int countBef
     return;
   const bool nameChanged = NamesDiffer(WorkingCopy(manager, kCloudLists), copy);
   manager.SetCloudSymbolList(&lists, kCloudLists);
+  copy.ReportKept();
   for (int i = 0; i < copy.Count(); ++i)
     manager.UpdateCloudSymbolList(copy.At(i).GetID(), copy.At(i).GetName(), copy.At(i).GetIDs());
   copy.Clear();
@@ -135,8 +140,7 @@ bool CommitEditedList(CTQSymbolListMgr& manager, const CSymbolList& edited) {
   WorkingCopy stored(manager, kUserLists);
   if (!PutEdited(stored, edited))
     return false;
-  CPtrArray lists = stored.Pointers();
-  StoreAndSave(manager, lists);
+  StoreAndSave(manager, stored);
   return true;
 }
 

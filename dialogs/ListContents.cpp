@@ -69,7 +69,7 @@ std::vector<int> ListContents::RowsOf(std::span<const CString> ids) const {
 }
 
 bool ListContents::CanHold(std::string_view id) {
-  return IsOneToken(id) && !tq::IsHeading(id) && IsLoadable(id);
+  return IsOneToken(id) && !tq::IsHeading(id) && id != kHeadingMarker && IsLoadable(id);
 }
 
 bool ListContents::Holds(std::string_view id) const {

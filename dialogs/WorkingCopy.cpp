@@ -118,12 +118,16 @@ bool WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
     else if (place >= 0)
       Replace(place, std::move(list));
   }
-  if (!fresh.empty())
-    LogLine(kLogChange, "Lists added while others were edited, kept: %d",
-            static_cast<int>(fresh.size()));
+  kept_ = static_cast<int>(fresh.size());
   std::move(fresh.begin(), fresh.end(), std::back_inserter(lists_));
   TakeInDefault(now);
   return true;
+}
+
+void WorkingCopy::ReportKept() {
+  if (kept_ > 0)
+    LogLine(kLogChange, "Lists added while others were edited, kept: %d", kept_);
+  kept_ = 0;
 }
 
 void WorkingCopy::TakeInDefault(const WorkingCopy& now) {

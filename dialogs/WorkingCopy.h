@@ -44,6 +44,9 @@ public:
   bool TakeInChanges(CTQSymbolListMgr& manager);
   // The manager has these lists now.
   void Committed();
+  // Writes into the log how many lists were taken in as new. To be called when they are stored: the
+  // log service may add lists, which a store behind that would lose.
+  void ReportKept();
 
   // The lists as the manager's operations take them. The pointers are valid until the lists change.
   CPtrArray Pointers() const;
@@ -96,6 +99,7 @@ private:
   std::vector<Known> known_;
   int knownDefault_ = -1;
   CString knownDefaultId_;
+  int kept_ = 0; // new lists that were taken in and are not reported
 };
 
 } // namespace tq

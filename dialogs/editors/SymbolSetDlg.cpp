@@ -198,6 +198,7 @@ void CSymbolSetDlg::StoreCloud(const CString& id) {
   CPtrArray lists = cloud_.Pointers();
   manager.SetCloudSymbolList(&lists, kCloudLists);
   cloud_.Committed();
+  cloud_.ReportKept();
   const int place = id.IsEmpty() ? -1 : cloud_.Find(id);
   if (place >= 0)
     manager.UpdateCloudSymbolList(id, cloud_.At(place).GetName(), cloud_.At(place).GetIDs());
@@ -210,8 +211,9 @@ void CSymbolSetDlg::StoreChanges() {
       CPtrArray lists = user_.Pointers();
       manager.SetSymbolList(&lists);
       manager.SetDefaultIndex(user_.DefaultIndex());
-      manager.SaveSymbolList();
       user_.Committed();
+      user_.ReportKept();
+      manager.SaveSymbolList();
     }
     userChanged_ = false;
     committed_ = true;

@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "dialogs/ServiceGroups.h"
+#include "idlist/IdString.h"
 #include "idlist/ListKind.h"
 #include "idlist/RecordIndex.h"
 #include "manager/TQSymbolListMgr.h"
@@ -48,6 +49,12 @@ int PlaceOf(const std::vector<GroupInfo>& groups, const CString& id) {
     return FieldText(group.szID) == ViewOf(id);
   });
   return found == groups.end() ? MarketChoice::kAll : static_cast<int>(found - groups.begin()) + 1;
+}
+
+// A group that is made of a cloud list has the rows of its headings too, which are no symbols.
+void AppendSymbol(const SymbolInfo& member, std::vector<SymbolInfo>& members) {
+  if (IdOf(member) != kHeadingMarker)
+    members.push_back(member);
 }
 
 // Keeps the first of each symbol.
@@ -147,7 +154,7 @@ std::vector<SymbolInfo> MarketChoice::MembersOf(const GroupInfo& market) const {
   for (int i = 0; i < count && handle != nullptr; ++i) {
     SymbolInfo member = {};
     if (manager_.GetGroupSymbolInfo(handle, i, &member) != 0)
-      members.push_back(member);
+      AppendSymbol(member, members);
   }
   return members;
 }
@@ -167,7 +174,7 @@ void MarketChoice::AppendMembers(const GroupInfo& group, std::vector<SymbolInfo>
   for (int i = 0; i < count; ++i) {
     SymbolInfo member;
     if (manager_.GetGroupSymbolInfo(group.nType, group.szID, i, &member) != 0)
-      members.push_back(member);
+      AppendSymbol(member, members);
   }
 }
 

@@ -24,6 +24,7 @@ protected:
     Rename(copy, index, "mine");
     others();
     copy.TakeInChanges(manager);
+    copy.ReportKept();
     return Text(copy);
   }
 };

@@ -229,7 +229,7 @@ protected:
     }));
   }
   static std::string KeptLine(int count) {
-    return "64 Kept " + std::to_string(count) + " lists that were added while others were edited";
+    return "64 Lists added while others were edited, kept: " + std::to_string(count);
   }
   static Texts NamesOf(const ListTexts& lists) {
     Texts texts;

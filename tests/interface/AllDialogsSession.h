@@ -172,7 +172,7 @@ protected:
         })) << event;
         cloudTold = cloudIsUntold = selectionChanged = true;
       } else {
-        EXPECT_TRUE(event.rfind("64 Kept ", 0) == 0 && terminalActions > 0) << event;
+        EXPECT_TRUE(event.rfind("64 Lists added while ", 0) == 0 && terminalActions > 0) << event;
       }
     }
     EXPECT_TRUE(cloudTold || now.cloud.size() < known.cloud.size() || terminalActions > 0);

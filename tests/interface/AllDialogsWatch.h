@@ -236,7 +236,7 @@ protected:
   Effect PushCloudList() {
     const std::string id = Draw(2) == 0 ? "PICK" : "K" + std::to_string(Draw(4));
     const std::string name = Ansi(DrawOf(goodNames));
-    const std::string ids = DrawOf(id == "PICK" ? plainSymbols : symbols);
+    const std::string ids = DrawOf(symbols);
     manager.SetCloudeList(id.c_str(), name.c_str(), ids.c_str());
     Effect effect{{"64 CTQSymbolListMgr::SetCloudeList ListName=" + name + ", Symbols=" + ids}};
     if (FindList(known.cloud, id) != nullptr)
@@ -254,8 +254,6 @@ protected:
 
   const Texts symbols = {"2330.TW",         "2317.TW,none.TE",         "Tag:,2454.TW,1101.TW",
                          "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", "gone.TW"};
-  // Of the cloud list that is a group of the market too.
-  const Texts plainSymbols = {"2330.TW", "gone.TW,6488.TE", "1436.TW,2330.TW,7777.TE", ""};
   const Texts goodNames = {"one", "Two", "two", "中文", "許功蓋", "3"};
   ManagerLists known; // after the last action of either
   ManagerLists saved; // as the file has them
