@@ -38,8 +38,8 @@ public:
   // The rows of the symbols with these ids, letter case ignored, ascending. In one pass, however
   // many they are.
   std::vector<int> RowsOf(std::span<const CString> ids) const;
-  // Whether a list can have this id: one token that is no heading, nor the id of a heading's record,
-  // and that the list file carries.
+  // Whether a list can have this id: one token that is no heading, nor the id of a heading's
+  // record, and that the list file carries.
   static bool CanHold(std::string_view id);
   // Whether the symbol is in the list, with a row or without.
   bool Holds(std::string_view id) const;
