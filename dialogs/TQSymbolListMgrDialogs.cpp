@@ -45,6 +45,15 @@ bool EditOneList(CTQSymbolListMgr& manager, CSymbolTableMgr* tables, CSymbolList
   return true;
 }
 
+// Whether its result goes through a commit, so that only its user may end it. The selection is of
+// the editors' family and is none.
+bool IsEditor(const CDialog& dialog) {
+  if (dynamic_cast<const CSymbolSetDlg*>(&dialog) != nullptr)
+    return false;
+  return dynamic_cast<const CSingletonDlg*>(&dialog) != nullptr ||
+         dynamic_cast<const CGroupSymbolAdd*>(&dialog) != nullptr;
+}
+
 // As the terminal stores a group.
 CString ListIdOf(const CSymbolSearchDlg::Place& place) {
   CString text;
@@ -164,7 +173,7 @@ int CTQSymbolListMgr::EndDomodal(WindowHandle dialog, int result) noexcept {
   if (m_bDoModal == 0)
     return 0;
   CDialog* const running = CDialog::FromHandle(dialog);
-  if (running == nullptr || dynamic_cast<tq::ContentEditor*>(running) != nullptr)
+  if (running == nullptr || IsEditor(*running))
     return 0;
   running->EndDialog(result);
   return 1;

@@ -631,7 +631,7 @@ public:
   // 1 exactly while the list selection is open, else 0.
   static int m_bDoModal;
   // Ends the dialog that runs in that window with an end code of the caller's. Only while
-  // m_bDoModal is set, and never an editor over the selection: it must not be closed over its
+  // m_bDoModal is set, and never an editor of lists or contents: it must not be closed over its
   // user's head. 0 when nothing was ended, else 1.
   static int EndDomodal(WindowHandle dialog, int result) noexcept;
 

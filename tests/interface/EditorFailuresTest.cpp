@@ -1,5 +1,6 @@
 // Editors while the terminal's services fail, call back, or refuse windows.
 #include <algorithm>
+#include <utility>
 
 #include "tests/interface/EditorSession.h"
 
@@ -108,6 +109,20 @@ TEST_P(AnyEditor, KeepsAListThatTheTerminalAddsMeanwhile) {
   ASSERT_TRUE(added);
   EXPECT_EQ(manager.CheckSymbolListExist("NEW", 1), 1);
   ExpectNothingLost();
+}
+
+// As a terminal might open it while the selection is up.
+TEST_P(AnyEditor, IsNotEndedByTheTerminalUnlessItIsTheSelection) {
+  int ended = -2;
+  WhenDialogOpens([&ended](User& user) {
+    const int before = std::exchange(CTQSymbolListMgr::m_bDoModal, 1);
+    ended = CTQSymbolListMgr::EndDomodal(user.Dialog().GetSafeHwnd(), CDialog::Accepted);
+    CTQSymbolListMgr::m_bDoModal = before;
+    user.CloseByTitleBar();
+  });
+  CString text = "A";
+  GetParam().open(manager, text);
+  EXPECT_EQ(ended, std::string(GetParam().name) == "Selection" ? 1 : 0);
 }
 
 TEST_P(AnyEditor, AWindowThatCannotBeMadeChangesNothing) {
