@@ -1,92 +1,8 @@
 // The side effects of each operation of the manager: files written, lines in the log,
 // notifications. docs/notifications.md has the same table.
-#include <string>
-#include <vector>
-
-#include "platform/framework/CMapStringToString.h"
-#include "terminal/StandIn.h"
-#include "tests/interface/GroupsTest.h"
-#include "tests/support/User.h"
+#include "tests/interface/EffectsTest.h"
 
 namespace {
-
-// The initial state: user lists a and b, the six system lists, a cloud list PICK that is also a
-// group of type 201, and the trading system T1 with account 9801, logged in.
-class Effects : public GroupsTest {
-protected:
-  Effects() {
-    standin::Market market = GroupMarket();
-    market.tradingSystems = {
-        {"T1", "甲證券", "甲证券", true, {{1, "9801", "9801-*", "2330.TW,2317.TW"}}}};
-    standin::SetMarket(market);
-    WriteWorking(Document("<List ID='a' Name='A' Value='2330.TW,2317.TW'/>"
-                          "<List ID='b' Name='B' Value='2454.TW'/>"));
-    CStringArray names;
-    names.Add("S1");
-    EXPECT_EQ(manager.Init(directory.Path().c_str(), 0, 1, 1, &names, 0, 1), 1);
-    manager.UpdateTSLogin("T1");
-    manager.SetCloudeList("PICK", "P", "2330.TW");
-    for (const char* file : kFiles)
-      directory.Write(file, Marked(file));
-    told_ = standin::Notifications().size();
-    logged_ = standin::LogLines().size();
-  }
-
-  // Files, lines and notifications since the start: "SymbolList.xml
-  // 64 Add SymbolList
-  // 40 ".
-  std::string Seen() const {
-    std::string files;
-    for (const char* file : kFiles) {
-      if (directory.Read(file) != Marked(file))
-        files += (files.empty() ? "" : ", ") + std::string(file);
-    }
-    std::string lines;
-    for (size_t i = logged_; i < standin::LogLines().size(); ++i) {
-      const standin::LogLine& line = standin::LogLines()[i];
-      if (TellsOfMark(line.text))
-        continue;
-      lines += (lines.empty() ? "" : ", ") + std::to_string(line.level) + " " +
-               standin::FromAnsi(line.text);
-    }
-    std::string told;
-    for (size_t i = told_; i < standin::Notifications().size(); ++i) {
-      const standin::Notification& note = standin::Notifications()[i];
-      EXPECT_EQ(note.target, "");
-      EXPECT_EQ(note.reserved, -1);
-      told += (told.empty() ? "" : ", ") + std::to_string(note.code) + " '" + note.reason + "'";
-    }
-    return files + " | " + lines + " | " + told;
-  }
-
-  static std::string Document(const std::string& lists) {
-    return "<Result><SymbolList DefaultIdx='0'>" + lists + "</SymbolList></Result>";
-  }
-  static CSymbolList List(const char* id) {
-    CSymbolList list;
-    list.SetID(id);
-    list.SetName(id);
-    list.Update1("2330.TW");
-    return list;
-  }
-
-private:
-  static constexpr const char* kFiles[] = {"SymbolList.xml", "SymbolList_Backup.xml", "TSList.xml"};
-
-  // A document that the library reads but would write differently.
-  static std::string Marked(const std::string& file) {
-    return Document("<List ID='" + file + "' Name='N' Value='2330.TW'/>") + "\n";
-  }
-
-  // The file now counts as written by another program, so a save keeps a copy first. The line about
-  // the copy is not the operation's own.
-  static bool TellsOfMark(const std::string& line) {
-    return line.starts_with("List file ") && line.find(" is kept as ") != std::string::npos;
-  }
-
-  size_t told_ = 0;
-  size_t logged_ = 0;
-};
 
 // --- Operations that only need a line ------------------------------------------------------------
 
@@ -95,8 +11,6 @@ struct Operation {
   void (*call)(CTQSymbolListMgr& manager);
   const char* seen;
 };
-
-constexpr char kNothing[] = " |  | ";
 
 const Operation kOperations[] = {
     // Whole lists.
@@ -197,104 +111,6 @@ std::string NameOf(const testing::TestParamInfo<Operation>& tested) {
 INSTANTIATE_TEST_SUITE_P(Operation, EffectsOf, testing::ValuesIn(kOperations), NameOf);
 
 // --- Operations on lists, maps and handles -------------------------------------------------------
-
-// Opens an editor, which the user closes after `act`.
-template <typename Open> void RunEditor(Open open, UserScript act) {
-  WhenDialogOpens([act](User& user) {
-    act(user);
-    user.CloseByTitleBar();
-  });
-  open();
-}
-void LookAround(User&) {}
-void RenameTheFirst(User& user) {
-  user.ClickRow(781, 0);
-  user.Press(Key::F2);
-  user.Type("renamed");
-  user.Press(Key::Enter);
-}
-
-TEST_F(Effects, OfEditorsThatAreClosedUntouchedAreNone) {
-  CSymbolTableMgr* const tables = manager.GetSymbolTableMgr();
-  CSymbolList* list = nullptr;
-  manager.GetSymbolList("a", &list, 1);
-  RunEditor([&] { CTQSymbolListMgr::DoSymbolListUI(&manager, tables, nullptr); }, LookAround);
-  RunEditor([&] { manager.DoCloudSymbolListUI(&manager, tables, nullptr); }, LookAround);
-  RunEditor([&] { CTQSymbolListMgr::DoGroupListUI(&manager, tables, list, 1, nullptr, 0); },
-            LookAround);
-  RunEditor([&] { CTQSymbolListMgr::DoGroupSymbolAdd(&manager, tables, nullptr, "1101.TW"); },
-            LookAround);
-  RunEditor(
-      [&] { CTQSymbolListMgr::DoSearchUI(&manager, tables, nullptr, "", nullptr, 0, nullptr); },
-      LookAround);
-  CString text;
-  RunEditor(
-      [&] { CTQSymbolListMgr::DoSelectUI(&manager, tables, nullptr, nullptr, text, 0, false); },
-      LookAround);
-  EXPECT_EQ(Seen(), kNothing);
-}
-
-TEST_F(Effects, OfAListThatIsRenamedInItsEditorAreASaveALineAndANotification) {
-  RunEditor(
-      [&] { CTQSymbolListMgr::DoSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr); },
-      RenameTheFirst);
-  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoSymbolListUI ", 0), 0u) << Seen();
-  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 40 'ListNameChange'");
-}
-
-TEST_F(Effects, OfACloudListThatIsRenamedInItsEditorAreLinesAndANotification) {
-  RunEditor([&] { manager.DoCloudSymbolListUI(&manager, manager.GetSymbolTableMgr(), nullptr); },
-            RenameTheFirst);
-  EXPECT_EQ(Seen().rfind(" | 64 CTQSymbolListMgr::UpdateCloudSymbolList ", 0), 0u) << Seen();
-  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 41 'ListNameChange'");
-}
-
-TEST_F(Effects, OfAListWhoseContentsAreEditedAreASave) {
-  CSymbolList* list = nullptr;
-  manager.GetSymbolList("a", &list, 1);
-  RunEditor(
-      [&] {
-        CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), list, 1, nullptr, 0);
-      },
-      [](User& user) {
-        user.Fill(741, "1101");
-        user.Press(Key::Enter);
-        user.Click(1);
-      });
-  EXPECT_EQ(Seen(), "SymbolList.xml |  | ");
-}
-
-TEST_F(Effects, OfASymbolThatIsAddedToAListAreASaveALineAndANotification) {
-  RunEditor(
-      [&] {
-        CTQSymbolListMgr::DoGroupSymbolAdd(&manager, manager.GetSymbolTableMgr(), nullptr,
-                                           "1101.TW");
-      },
-      [](User& user) { user.Click(803); });
-  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoGroupSymbolAdd ", 0), 0u) << Seen();
-  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 40 ''");
-}
-
-TEST_F(Effects, OfSymbolsThatAreAddedToAListAreASaveALineAndTwoNotifications) {
-  RunEditor(
-      [&] {
-        CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr, "1101.TW",
-                                        "");
-      },
-      [](User& user) { user.Click(803); });
-  EXPECT_EQ(Seen().rfind("SymbolList.xml | 64 DoSymbolAddUI ", 0), 0u) << Seen();
-  EXPECT_EQ(Seen().substr(Seen().rfind('|')), "| 4 '', 40 ''");
-}
-
-TEST_F(Effects, OfAddingSymbolsWithoutDoingSoAreANotification) {
-  RunEditor(
-      [&] {
-        CTQSymbolListMgr::DoSymbolAddUI(&manager, manager.GetSymbolTableMgr(), nullptr, "1101.TW",
-                                        "");
-      },
-      LookAround);
-  EXPECT_EQ(Seen(), " |  | 40 ''");
-}
 
 TEST_F(Effects, OfPuttingListsInAreNone) {
   CSymbolList list = List("n");
