@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
+#include "bench/DialogUser.h"
 #include "bench/Universe.h"
 #include "platform/framework/window/CListBox.h"
 #include "platform/framework/window/CListCtrl.h"
-#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/UserInput.h"
 #include "platform/services/VLProxy.h"
 #include "terminal/StandIn.h"
@@ -30,21 +30,12 @@ constexpr int kRows = 781;
 constexpr int kResults = 782;
 constexpr int kCode = 741;
 constexpr int kAddAll = 807;
-constexpr int kCancel = 2;
-
-std::function<void(CDialog&)> user;
-
-void ActAsUser(CDialog& dialog) {
-  user(dialog);
-  tq::headless::Click(CWnd(dialog, kCancel).GetSafeHwnd());
-}
 
 // Opens the content editor on a list and cancels it when `act` has acted.
 void Edit(CTQSymbolListMgr& manager, CSymbolList& list, std::function<void(CDialog&)> act) {
-  user = std::move(act);
-  tq::SetModalHandler(ActAsUser);
-  CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), &list, 1, nullptr, 0);
-  tq::SetModalHandler(nullptr);
+  WithUser(std::move(act), [&] {
+    CTQSymbolListMgr::DoGroupListUI(&manager, manager.GetSymbolTableMgr(), &list, 1, nullptr, 0);
+  });
 }
 
 void Pick(CDialog& dialog, int box, int entry) {
@@ -53,16 +44,6 @@ void Pick(CDialog& dialog, int box, int entry) {
 
 int Shown(CDialog& dialog) {
   return CListCtrl(dialog, kResults).GetRowCount();
-}
-
-// Asks for the rows in sight, as drawing them does.
-void DrawSight(CDialog& dialog) {
-  constexpr int kInSight = 20;
-  const CListCtrl table(dialog, kResults);
-  for (int row = 0; row < kInSight; ++row) {
-    for (const int column : {0, 1})
-      table.GetCellText(row, column);
-  }
 }
 
 // The market that the services serve, with one group that has these members.
@@ -89,7 +70,7 @@ void MeasureShowing(Report& report, std::size_t few, std::size_t many, std::size
     Edit(manager, list, [&](CDialog& dialog) {
       seconds = Computing([&] {
         Pick(dialog, kMarkets, 0);
-        DrawSight(dialog);
+        DrawSight(dialog, kResults);
       });
       rows = Shown(dialog);
     });

@@ -1,14 +1,13 @@
 #include "bench/Search.h"
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "bench/DialogUser.h"
 #include "bench/Universe.h"
 #include "platform/framework/window/CListBox.h"
 #include "platform/framework/window/CListCtrl.h"
-#include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/UserInput.h"
 #include "platform/services/VLProxy.h"
 #include "terminal/StandIn.h"
@@ -24,31 +23,6 @@ constexpr double kGoalOpeningAdd = 2;
 constexpr int kInput = 741;
 constexpr int kTable = 781;
 constexpr int kListBox = 781;
-constexpr int kEscape = 2;
-
-std::function<void(CDialog&)> searcher;
-
-void ActAsSearcher(CDialog& dialog) {
-  searcher(dialog);
-  dialog.EndDialog(kEscape);
-}
-
-void WithUser(std::function<void(CDialog&)> act, const std::function<void()>& open) {
-  searcher = std::move(act);
-  tq::SetModalHandler(ActAsSearcher);
-  open();
-  tq::SetModalHandler(nullptr);
-}
-
-// Asks for the rows in sight, as drawing them does.
-void DrawTable(CDialog& dialog) {
-  constexpr int kInSight = 20;
-  const CListCtrl table(dialog, kTable);
-  for (int row = 0; row < kInSight; ++row) {
-    for (const int column : {0, 1})
-      table.GetCellText(row, column);
-  }
-}
 
 // From Enter until the rows in sight are shown, over what the service takes.
 class SearchedMarket {
@@ -91,7 +65,7 @@ private:
     tq::headless::TypeText(dialog.GetSafeHwnd(), text.c_str());
     const double seconds = Computing([&] {
       tq::headless::PressKey(dialog.GetSafeHwnd(), Key::Enter, tq::headless::Modifier::None);
-      DrawTable(dialog);
+      DrawSight(dialog, kTable);
     });
     shown = CListCtrl(dialog, kTable).GetRowCount();
     return seconds;
