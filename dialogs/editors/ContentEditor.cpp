@@ -22,8 +22,8 @@ bool ContentEditor::OnInitDialog() {
     SetText(LibraryString(kind_.editTitle));
   PrepareControls();
   CEdit(*this, kName).SetText(task_.list.GetName());
-  FillBox(kMarket, markets_.MarketNames());
-  FillBox(kGroup, markets_.GroupNames(MarketChoice::kAll));
+  FillBox(CComboBox(*this, kMarket), markets_.MarketNames(), MarketChoice::kAll);
+  FillBox(CComboBox(*this, kGroup), markets_.GroupNames(MarketChoice::kAll), MarketChoice::kAll);
   EnterSymbols();
   FillList();
   UpdateButtons();
@@ -51,10 +51,7 @@ void ContentEditor::PrepareControls() {
   CCharEdit(*this, kName, kNameBytes);
   CCharEdit(*this, kHeading, kNameBytes);
   CListBox(*this, kRows).SetRowTips(true);
-  CListCtrl results(*this, kResults);
-  results.SetStyles(CListCtrl::FullRowSelect);
-  results.AddColumn(LibraryString(kStringCode), kCodeWidth);
-  results.AddColumn(LibraryString(kStringName), 0);
+  results_.Open(*this, kResults, kCodeWidth);
 }
 
 void ContentEditor::OnCommand(int id, ControlEvent event) {

@@ -12,6 +12,7 @@
 #include "dialogs/ListContents.h"
 #include "dialogs/editors/NameCheck.h"
 #include "dialogs/search/MarketChoice.h"
+#include "dialogs/search/SearchControls.h"
 #include "platform/services/tqUI.h"
 
 namespace tq {
@@ -53,7 +54,7 @@ protected:
   void OnNotify(int id, const ListNotice& notice) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
   bool OnKey(int id, Key key, Held held) override;
-  CString OnCellText(int id, int row, int column) override;
+  CString OnCellText(int, int row, int column) override { return results_.CellText(row, column); }
   void OnItemLook(int id, int row, ItemLook& look) override;
 
 private:
@@ -102,10 +103,8 @@ private:
   void TellDuplicates();
 
   // --- The search (ContentEditorSearch.cpp)
-  void FillBox(int id, const std::vector<CString>& entries);
   void ChooseMarket();
   void ShowMarket();
-  void ShowResults(SymbolRows results);
   void AddPicked();
   void AddTyped();
   void AddOne(const SymbolInfo& symbol);
@@ -118,7 +117,7 @@ private:
   Task task_;
   MarketChoice markets_;
   ListContents contents_;
-  SymbolRows results_;
+  ResultTable results_;
   bool stored_ = false;
   std::vector<CString> duplicates_; // of the symbols to be entered those that the list has
 };

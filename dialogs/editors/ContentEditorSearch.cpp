@@ -5,45 +5,24 @@
 #include "dialogs/editors/ContentEditor.h"
 #include "dialogs/search/TypedSymbol.h"
 #include "idlist/RecordIndex.h"
-#include "platform/FieldText.h"
 #include "platform/SymbolSearch.h"
 #include "platform/Text.h"
-#include "platform/framework/window/CComboBox.h"
 #include "platform/framework/window/CListCtrl.h"
 #include "platform/framework/window/CWaitCursor.h"
 
 namespace tq {
 
-void ContentEditor::FillBox(int id, const std::vector<CString>& entries) {
-  CComboBox box(*this, id);
-  box.ResetContent();
-  for (const CString& entry : entries)
-    box.AddString(entry);
-  box.SetCurSel(MarketChoice::kAll);
-}
-
 void ContentEditor::ChooseMarket() {
-  FillBox(kGroup, markets_.GroupNames(CComboBox(*this, kMarket).GetCurSel()));
+  FillBox(CComboBox(*this, kGroup), markets_.GroupNames(CComboBox(*this, kMarket).GetCurSel()),
+          MarketChoice::kAll);
   ShowMarket();
 }
 
 void ContentEditor::ShowMarket() {
   const CWaitCursor reading;
-  ShowResults(markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(),
-                               CComboBox(*this, kGroup).GetCurSel()));
+  results_.Show(markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(),
+                                 CComboBox(*this, kGroup).GetCurSel()));
   UpdateButtons();
-}
-
-void ContentEditor::ShowResults(SymbolRows results) {
-  results_ = std::move(results);
-  CListCtrl(*this, kResults).SetVirtualRows(results_.Count());
-}
-
-CString ContentEditor::OnCellText(int, int row, int column) {
-  if (!results_.Has(row))
-    return {};
-  const SymbolInfo& symbol = results_.At(row);
-  return ToCString(column == 0 ? IdOf(symbol) : FieldText(symbol.name));
 }
 
 // The symbols that were picked, in front of the caret row. They are not picked any more then: what
@@ -52,8 +31,8 @@ void ContentEditor::AddPicked() {
   CListCtrl results(*this, kResults);
   std::vector<SymbolInfo> picked;
   for (int row = results.GetNextSelected(-1); row >= 0; row = results.GetNextSelected(row)) {
-    if (results_.Has(row))
-      picked.push_back(results_.At(row));
+    if (results_.Rows().Has(row))
+      picked.push_back(results_.Rows().At(row));
   }
   results.SetCurSel(-1);
   const int row = CListBox(*this, kRows).GetCaretIndex();
@@ -124,7 +103,7 @@ void ContentEditor::FindSimilar() {
 }
 
 void ContentEditor::FindSimilarTo(const CString& text) {
-  ShowResults({});
+  results_.Show({});
   if (text.IsEmpty()) {
     if (AskUser(kMessageNothingTyped))
       ShowMarket();
@@ -135,7 +114,7 @@ void ContentEditor::FindSimilarTo(const CString& text) {
   if (records.size() == 1)
     AddOne(records.front());
   else if (!records.empty())
-    ShowResults(SymbolRows(std::move(found)));
+    results_.Show(SymbolRows(std::move(found)));
   else if (AskUser(kMessageNothingSimilar))
     ShowMarket();
 }

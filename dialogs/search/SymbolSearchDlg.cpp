@@ -1,15 +1,9 @@
 #include "dialogs/search/SymbolSearchDlg.h"
 
-#include <utility>
-
 #include "dialogs/DialogMessages.h"
 #include "dialogs/search/SymbolFind.h"
-#include "idlist/RecordIndex.h"
 #include "platform/CodePage.h"
-#include "platform/FieldText.h"
 #include "platform/LibraryString.h"
-#include "platform/Text.h"
-#include "platform/framework/window/CComboBox.h"
 #include "platform/framework/window/CListCtrl.h"
 #include "platform/framework/window/CWaitCursor.h"
 #include "platform/services/tqUI.h"
@@ -57,26 +51,16 @@ bool CSymbolSearchDlg::OnInitDialog() {
 void CSymbolSearchDlg::PrepareControls() {
   constexpr int kCodeWidth = 100; // in dialog units
   CTQIconButton(*this, kSearch, ButtonIcon::Search);
-  CListCtrl results(*this, kResults);
-  results.SetStyles(CListCtrl::FullRowSelect);
-  results.AddColumn(LibraryString(kStringCode), kCodeWidth);
-  results.AddColumn(LibraryString(kStringName), 0);
+  results_.Open(*this, kResults, kCodeWidth);
 }
 
 // A market or a group that is not offered any more is all of them.
 void CSymbolSearchDlg::ShowPlace(const Place& place) {
   const int market = markets_.FindMarket(place.market);
-  FillBox(kMarket, markets_.MarketNames(), market);
-  FillBox(kGroup, markets_.GroupNames(market), markets_.FindGroup(market, place.group));
+  FillBox(CComboBox(*this, kMarket), markets_.MarketNames(), market);
+  FillBox(CComboBox(*this, kGroup), markets_.GroupNames(market),
+          markets_.FindGroup(market, place.group));
   Remember();
-}
-
-void CSymbolSearchDlg::FillBox(int id, const std::vector<CString>& entries, int chosen) {
-  CComboBox box(*this, id);
-  box.ResetContent();
-  for (const CString& entry : entries)
-    box.AddString(entry);
-  box.SetCurSel(chosen);
 }
 
 void CSymbolSearchDlg::OnCommand(int id, ControlEvent event) {
@@ -92,7 +76,7 @@ void CSymbolSearchDlg::OnCommand(int id, ControlEvent event) {
 
 void CSymbolSearchDlg::ChooseMarket() {
   const int market = CComboBox(*this, kMarket).GetCurSel();
-  FillBox(kGroup, markets_.GroupNames(market), MarketChoice::kAll);
+  FillBox(CComboBox(*this, kGroup), markets_.GroupNames(market), MarketChoice::kAll);
   Remember();
   ShowMarket();
 }
@@ -106,9 +90,9 @@ void CSymbolSearchDlg::Remember() {
 
 void CSymbolSearchDlg::ShowMarket() {
   const CWaitCursor reading;
-  Show({});
-  Show(markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(),
-                        CComboBox(*this, kGroup).GetCurSel()));
+  results_.Show({});
+  results_.Show(markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(),
+                                 CComboBox(*this, kGroup).GetCurSel()));
 }
 
 // Each tick sets the cursor again, for moving the mouse takes it back.
@@ -155,22 +139,17 @@ void CSymbolSearchDlg::SearchFor(const CString& text) {
   if (text.IsEmpty())
     return ShowMarket();
   const CWaitCursor searching;
-  Show({});
-  Show(FindSymbols(sources_, {text, chosen_.market, exchanges_}));
-  if (rows_.Count() == 1 && !forceList_)
+  results_.Show({});
+  results_.Show(FindSymbols(sources_, {text, chosen_.market, exchanges_}));
+  if (results_.Rows().Count() == 1 && !forceList_)
     return Choose(0);
   CEdit(*this, kInput).SelectAll();
 }
 
-void CSymbolSearchDlg::Show(SymbolRows rows) {
-  rows_ = std::move(rows);
-  CListCtrl(*this, kResults).SetVirtualRows(rows_.Count());
-}
-
 void CSymbolSearchDlg::Choose(int row) {
-  if (!rows_.Has(row))
+  if (!results_.Rows().Has(row))
     return;
-  found_ = rows_.At(row);
+  found_ = results_.Rows().At(row);
   EndDialog(Accepted);
 }
 
@@ -205,11 +184,4 @@ bool CSymbolSearchDlg::OnInputKey(Key key) {
     return false;
   }
   return true;
-}
-
-CString CSymbolSearchDlg::OnCellText(int, int row, int column) {
-  if (!rows_.Has(row))
-    return {};
-  const SymbolInfo& symbol = rows_.At(row);
-  return ToCString(column == 0 ? IdOf(symbol) : FieldText(symbol.name));
 }

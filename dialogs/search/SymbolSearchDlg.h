@@ -9,6 +9,7 @@
 
 #include "dialogs/DialogSources.h"
 #include "dialogs/search/MarketChoice.h"
+#include "dialogs/search/SearchControls.h"
 #include "platform/framework/window/CDialog.h"
 #include "platform/framework/window/CWaitCursor.h"
 
@@ -39,7 +40,7 @@ protected:
   void OnTimer(unsigned id) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
   bool OnKey(int id, Key key, Held held) override;
-  CString OnCellText(int id, int row, int column) override;
+  CString OnCellText(int, int row, int column) override { return results_.CellText(row, column); }
 
 private:
   enum Control : int {
@@ -54,14 +55,12 @@ private:
 
   void PrepareControls();
   void ShowPlace(const Place& place);
-  void FillBox(int id, const std::vector<CString>& entries, int chosen);
   void ChooseMarket();
   void Remember();
   void ShowMarket();
   void SearchFirst();
   void SearchTyped();
   void SearchFor(const CString& text);
-  void Show(tq::SymbolRows rows);
   void Choose(int row);
   bool OnInputKey(Key key);
 
@@ -70,7 +69,7 @@ private:
   CString exchanges_; // where the user looks first
   bool forceList_;
   tq::MarketChoice markets_;
-  tq::SymbolRows rows_;
+  tq::ResultTable results_;
   std::optional<SymbolInfo> found_;
   Place chosen_;
   // The first search runs behind the opening, so that the user sees the dialog at once.
