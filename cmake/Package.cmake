@@ -36,10 +36,13 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/Storage.h
   platform/framework/StringData.h
   platform/framework/window/WindowTypes.h
+  platform/interface/TQSymbolVersion.h
+  tqSymbolApi.h
   platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h
-  tqSymbolApi.h
+  platform/interface/TQSymbolOptions.h
+  platform/interface/TQSymbolProblem.h
   groups/GroupInfo.h
   groups/GroupSet.h
   platform/services/TQSProxy.h

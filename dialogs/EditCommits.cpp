@@ -7,6 +7,7 @@
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
+#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 namespace {
@@ -79,6 +80,7 @@ void StoreAndSave(CTQSymbolListMgr& manager, WorkingCopy& copy) {
   manager.SetSymbolList(&lists);
   copy.ReportKept();
   manager.SaveSymbolList();
+  Operation::TakeOverProblem();
 }
 
 bool StoreIfModified(CTQSymbolListMgr& manager, WorkingCopy& copy) {

@@ -1,13 +1,16 @@
 #include "exchanges/AllSymbols.h"
 
+#include <algorithm>
 #include <cstring>
 #include <new>
+#include <set>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "exchanges/DefaultExchanges.h"
 #include "platform/ServiceArray.h"
+#include "platform/diagnostics/DebugMode.h"
 #include "symboltable/ExchangeService.h"
 
 namespace tq {
@@ -20,7 +23,7 @@ std::vector<ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, b
   std::vector<ServiceArray<SymbolInfo>> lists;
   lists.reserve(static_cast<size_t>(exchanges.GetSize()));
   for (const unsigned exchange : exchanges) {
-    ServiceArray<SymbolInfo> list;
+    ServiceArray<SymbolInfo> list("VLGetSymbolInfos2");
     if (VLGetSymbolInfos2(static_cast<int>(exchange), kAllSections, list.List(), list.Count(), 0) ==
         0)
       complete = false;
@@ -33,6 +36,29 @@ std::vector<ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, b
 // Null without memory: there are hundreds of bytes for each symbol of a market, in one piece.
 std::unique_ptr<SymbolInfo[]> RoomFor(size_t count) {
   return std::unique_ptr<SymbolInfo[]>(new (std::nothrow) SymbolInfo[count]);
+}
+
+// The copies that are with the terminal: those of the debug mode, and how many there are besides.
+std::set<const SymbolInfo*> handedOut;
+int handedOutBefore = 0;
+
+void NoteHandedOut(const SymbolInfo* infos) {
+  if (IsDebugging())
+    handedOut.insert(infos);
+  else
+    ++handedOutBefore;
+}
+
+bool MayFree(const SymbolInfo* infos) {
+  if (infos == nullptr || handedOut.erase(infos) != 0)
+    return true;
+  if (handedOutBefore > 0 || !IsDebugging()) {
+    handedOutBefore = std::max(handedOutBefore - 1, 0);
+    return true;
+  }
+  ReportMistake(TQProblemMisuse,
+                "FreeSymbolInfos: infos was released before, or is of another operation");
+  return false;
 }
 
 } // namespace
@@ -85,12 +111,15 @@ int AllSymbols::Copy(SymbolInfo** out, int* count) const {
   if (copy == nullptr)
     return 0;
   std::memcpy(copy.get(), infos_.get(), static_cast<size_t>(count_) * sizeof(SymbolInfo));
+  NoteHandedOut(copy.get());
   *out = copy.release();
   *count = count_;
   return 1;
 }
 
 void AllSymbols::Free(SymbolInfo* infos) {
+  if (!MayFree(infos))
+    return;
   const std::unique_ptr<SymbolInfo[]> released(infos);
 }
 

@@ -32,7 +32,7 @@
 //  9. Which operations save, write a line to the log and tell the terminal by TQSCall stands in one
 //     table, docs/notifications.md.
 //
-// In this order: start; the list file; the list shown first; the lists in memory; editing whole
+// In this order: start; what went wrong, and the log; the list file; the list shown first; the lists in memory; editing whole
 // lists, and the entries of one; checks; system lists; queries; default exchanges and the order of
 // exchanges; lots, and symbols that change; groups; cloud lists; lists from trading accounts; lists
 // of other products, extra information; dialogs; switches.
@@ -48,6 +48,8 @@
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
 #include "platform/framework/window/WindowTypes.h"
+#include "platform/interface/TQSymbolOptions.h"
+#include "platform/interface/TQSymbolProblem.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStockFields.h"
@@ -102,8 +104,48 @@ public:
   int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
 
+  // The same with named options. Besides, returns 0 and changes nothing when the terminal was
+  // compiled with headers of a later minor or of another major version than the library's.
+  int Init(const TQInitOptions& options) noexcept;
+
   // The tables that Init built, or null before it. The manager's; gone with the next Init.
   CSymbolTableMgr* GetSymbolTableMgr() const noexcept;
+
+  // --- What went wrong, and the log --------------------------------------------------------------
+  // All of it is the process's, whatever the manager.
+
+  // Why the latest operation failed, or what its user should know of it: a code, and a text for the
+  // terminal's programmer that begins with the operation's name and names the step, and the path,
+  // the list or the service that it failed at. TQProblemNone and an empty text when there was
+  // nothing. Every operation below counts but for queries, checks and look-ups, which leave it as it
+  // is. An operation may succeed and yet have a problem: a load, which always answers 1, of a file
+  // that is damaged; a save that had to copy another program's lists aside first
+  // (TQProblemFileShared). While an operation runs, those that the terminal calls from within it
+  // have problems of their own.
+  static TQProblem GetLastProblem(CString& text) noexcept;
+  // 1 when a save would change what the list file holds: the latest change of the user's lists, or
+  // of the default index, has not reached the disk, or another program has written other lists
+  // there. Without a data directory 1 when there are lists. Writes nothing; makes the text of a
+  // save to compare, and reads the file when another program has written it.
+  int HasUnsavedChanges() const noexcept;
+  // Where the lines of the library's log go, from now on and for the whole process; may be called
+  // before the first Init.
+  //   directory   where the file is, "tqSymbol_<yyyymmdd>.log", joined by backslashes and without
+  //               one at the end; its last level is created when missing. Null or empty: "Log"
+  //               beside the library
+  //   level       lines of lower levels are dropped; 0: none
+  //   callback    takes each line in the place of the file, with `context`; null: the file
+  // Texts are copied. Returns 0 when the file could not be opened: lines are dropped then.
+  static int SetLog(const char* directory, int level, TQLogCallback callback,
+                    void* context) noexcept;
+  // Looks for mistakes from now on, and names each in the log (level 512; without a log on the
+  // error stream), with operation and argument: calls on another thread than that of the first
+  // call, texts that are not of the code page, handles of groups that are gone, arrays that are
+  // released twice, records of services that break their headers' contracts. A call with a handle or
+  // an array that is not good does nothing then. The environment variable TQSYMBOL_DEBUG, "log" or
+  // "stop", sets it without a call when the first manager is made. Off, it costs nothing that could
+  // be measured.
+  static void SetDebugMode(TQDebugMode mode) noexcept;
 
   // --- The list file -----------------------------------------------------------------------------
   // A save never destroys lists that were not loaded. Unless the file on the disk is exactly what
@@ -246,6 +288,13 @@ public:
   // apostrophe, "&", "<", bytes that are no characters. 0 when it can; the empty id can, a GUID
   // takes its place.
   int CheckValidSymbolList(const CString& id, int kind) noexcept;
+  // What a name has against being a list's, as bits of TQTextFault: empty (1), cut at 64 bytes (2),
+  // an apostrophe, "&" or "<", with which the list file does not load again (4), bytes that are left
+  // out (8). 0: it is kept as it is. Whether another list has it is CheckNameExist's matter.
+  static int CheckListName(const CString& name) noexcept;
+  // The same for ids joined by ","; 2: an id of more than 19 bytes, which has no row; 16: an empty
+  // entry. Whether a service knows them is not asked.
+  static int CheckSymbolIds(const CString& symbols) noexcept;
   // Takes the first field off a parameter string: `before` gets the text up to `separator`, `text`
   // keeps what is behind it. Without a separator all of it is taken. An empty text changes nothing.
   static void CutStringAndGetParamBefore(CString& text, char separator, CString& before) noexcept;

@@ -31,8 +31,8 @@ std::string Arguments::Records() const {
 
 const Table& ManagerOperations() {
   static const Table kTable =
-      Joined({ListOperations(), QueryOperations(), ExchangeOperations(), GroupOperations(),
-              CloudOperations(), TradingOperations(), DialogOperations()});
+      Joined({ListOperations(), DiagnosisOperations(), QueryOperations(), ExchangeOperations(),
+              GroupOperations(), CloudOperations(), TradingOperations(), DialogOperations()});
   return kTable;
 }
 
@@ -43,8 +43,9 @@ const Table& All() {
 }
 
 bool IsQuestion(const Operation& operation) {
-  constexpr std::string_view kQuestions[] = {"Get",   "Is",       "Check", "Find", "LookUp", "Map",
-                                             "Holds", "JoinRows", "ToXml", "Cut",  "Handle"};
+  constexpr std::string_view kQuestions[] = {"Get",      "Is",    "Check", "Find",
+                                             "LookUp",   "Map",   "Has",   "Holds",
+                                             "JoinRows", "ToXml", "Cut",   "Handle"};
   std::string_view name = NameIn(operation.signature);
   if (const std::size_t scope = name.rfind(':'); scope != name.npos)
     name.remove_prefix(scope + 1);
