@@ -11,6 +11,7 @@
 //   COptFutID          symbolid/OptFutID.h          combination orders of options and futures
 //   SymbolInfo         platform/services/VLProxy.h     one symbol
 //   GroupInfo          groups/GroupInfo.h              one group
+//   TQFromUtf8 ...     platform/interface/TQSymbolText.h   text of a terminal in UTF-8, paths
 //
 // The library calls the terminal's services (platform/services/) and is not linked to them: the
 // process that loads it provides them, on Windows as DLLs of their names.
@@ -19,6 +20,9 @@
 #include "groups/GroupInfo.h"
 #include "groups/GroupSet.h"
 #include "manager/TQSymbolListMgr.h"
+#include "platform/interface/TQSymbolNames.h"
+#include "platform/interface/TQSymbolStrings.h"
+#include "platform/interface/TQSymbolText.h"
 #include "symbolid/IDConvert.h"
 #include "symbolid/ListID.h"
 #include "symbolid/OptFutID.h"

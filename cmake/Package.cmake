@@ -42,6 +42,9 @@ set(TQ_SYMBOL_HEADERS
   tqSymbolApi.h
   groups/GroupInfo.h
   groups/GroupSet.h
+  platform/interface/TQSymbolNames.h
+  platform/interface/TQSymbolStrings.h
+  platform/interface/TQSymbolText.h
   platform/services/TQSProxy.h
   platform/services/VLProxy.h
   platform/services/VLRecords.h

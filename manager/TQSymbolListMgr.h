@@ -14,7 +14,8 @@
 //     are joined by "," without blanks.
 //  4. Lists are addressed by a kind (1: the user's lists, 6: lists from trading accounts, 8: cloud
 //     lists; any other kind has none) and either by position from 0 or by identifier. Identifiers
-//     are compared ignoring letter case.
+//     are compared ignoring letter case. Kinds, and the other plain numbers of this header, have
+//     names in TQSymbolNames.h.
 //  5. The manager owns its lists and tables and frees them. What it hands out are copies, which
 //     belong to the caller, unless an operation says otherwise.
 //  6. The user's lists come from the list file, groups from the symbol-data service, cloud lists
@@ -48,6 +49,7 @@
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
 #include "platform/framework/window/WindowTypes.h"
+#include "platform/interface/TQSymbolNames.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStockFields.h"

@@ -41,5 +41,5 @@ void CTQSymbolListMgr::UpdateCloudGroup(void* handle) noexcept {
 
 void CTQSymbolListMgr::RefreshCloudeSymbol() noexcept {
   state_->groups.Load(tq::kCloudGroupType);
-  tq::Notify(tq::kNotifySymbols, tq::kReasonNames);
+  tq::Notify(tq::kNotifySymbols, TQReasonListNames);
 }

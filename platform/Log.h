@@ -1,13 +1,14 @@
 // The process-wide log of the library.
 #pragma once
 
+#include "platform/interface/TQSymbolNames.h"
 #include "platform/services/TQLog.h"
 
 namespace tq {
 
-// Levels of the library's lines. Terminals filter by them: do not change.
-inline constexpr int kLogChange = 64; // lists and groups changed, or something was wrong with them
-inline constexpr int kLogGeneral = 256;
+// Levels of the library's lines.
+inline constexpr int kLogChange = TQLogChange;
+inline constexpr int kLogGeneral = TQLogGeneral;
 
 // The logger, or null before OpenLog and after CloseLog. It is created once and lives until the
 // library is unloaded.
