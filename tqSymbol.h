@@ -20,6 +20,7 @@
 #include "groups/GroupInfo.h"
 #include "groups/GroupSet.h"
 #include "manager/TQSymbolListMgr.h"
+#include "manager/TQSymbolOwned.h"
 #include "platform/interface/TQSymbolNames.h"
 #include "platform/interface/TQSymbolStrings.h"
 #include "platform/interface/TQSymbolText.h"

@@ -54,6 +54,7 @@ set(TQ_SYMBOL_HEADERS
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h
   manager/TQSymbolListMgr.h
+  manager/TQSymbolOwned.h
   symbolid/IDConvert.h
   symbolid/OptFutID.h
   symboltable/SymbolTableMgr.h)
