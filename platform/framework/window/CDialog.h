@@ -1,5 +1,5 @@
 // CDialog: a modal dialog. A dialog derives from it, names its template, and overrides the handlers
-// that it needs. docs/dialogs.md shows one from beginning to end.
+// that it needs. dialogs.md shows one from beginning to end.
 //
 // The order of events in a run, the same on every system:
 //  1. The window is made of the template, hidden. OnInitDialog is called. Then it is shown, and its
