@@ -92,7 +92,7 @@ int AccountLists::Update(const CString& id, int kind, const CString& name, const
   // The whole string, ids that the service does not know yet included: they get no row until it
   // does.
   list->Update1(symbols);
-  Notify(kNotifyUserLists, kReasonTrading);
+  Notify(kNotifyUserLists, TQReasonTradingLists);
   return 1;
 }
 

@@ -45,6 +45,9 @@ set(TQ_SYMBOL_HEADERS
   platform/interface/TQSymbolProblem.h
   groups/GroupInfo.h
   groups/GroupSet.h
+  platform/interface/TQSymbolNames.h
+  platform/interface/TQSymbolStrings.h
+  platform/interface/TQSymbolText.h
   platform/services/TQSProxy.h
   platform/services/VLProxy.h
   platform/services/VLRecords.h
@@ -54,6 +57,7 @@ set(TQ_SYMBOL_HEADERS
   symbollist/SymbolList.h
   symbollist/TQSymbolListInfo.h
   manager/TQSymbolListMgr.h
+  manager/TQSymbolOwned.h
   symbolid/IDConvert.h
   symbolid/OptFutID.h
   symboltable/SymbolTableMgr.h)

@@ -50,9 +50,9 @@ bool NamesDiffer(const WorkingCopy& stored, const WorkingCopy& copy) {
 
 void ReportChange(const ChangeLines& lines, long code, bool countChanged, bool nameChanged) {
   if (countChanged)
-    Report(lines.count, code, "ListCntChange");
+    Report(lines.count, code, TQReasonListCount);
   else if (nameChanged)
-    Report(lines.name, code, kReasonNames);
+    Report(lines.name, code, TQReasonListNames);
   else
     Report(lines.other, code, "");
 }

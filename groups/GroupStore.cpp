@@ -15,7 +15,7 @@ constexpr auto kFullLoad = [] {
   constexpr int kNumbered = 21; // from 1 on
   std::array<int, kNumbered + 2> types = {};
   std::iota(types.begin(), types.begin() + kNumbered, 1);
-  types[kNumbered] = 101;
+  types[kNumbered] = TQGroupTypeEditionMarkets;
   types[kNumbered + 1] = kCloudGroupType;
   return types;
 }();

@@ -16,7 +16,10 @@ int CTQSymbolListMgr::CheckIDandName(const CString& id, const CString& name, int
   const CSymbolList* const list = state_->ListsOf(kind).Find(id);
   if (list == nullptr)
     return 0;
-  return list->IsSameName(name) ? 3 : 1;
+  int bits = TQIdExists;
+  if (list->IsSameName(name))
+    bits |= TQNameMatches;
+  return bits;
 }
 
 int CTQSymbolListMgr::CheckSymbolListExist(const CString& id, int kind) noexcept {

@@ -50,5 +50,5 @@ void CTQSymbolListMgr::UpdateCloudGroup(void* handle) noexcept {
 void CTQSymbolListMgr::RefreshCloudeSymbol() noexcept {
   const tq::Operation operation("RefreshCloudeSymbol");
   state_->groups.Load(tq::kCloudGroupType);
-  tq::Notify(tq::kNotifySymbols, tq::kReasonNames);
+  tq::Notify(tq::kNotifySymbols, TQReasonListNames);
 }

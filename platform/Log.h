@@ -3,15 +3,16 @@
 #pragma once
 
 #include "platform/framework/CString.h"
+#include "platform/interface/TQSymbolNames.h"
 #include "platform/interface/TQSymbolOptions.h"
 #include "platform/services/TQLog.h"
 
 namespace tq {
 
-// Levels of the library's lines. Terminals filter by them: do not change.
-inline constexpr int kLogChange = 64; // lists and groups changed, or something was wrong with them
-inline constexpr int kLogGeneral = 256;
-inline constexpr int kLogMisuse = 512; // what the debug mode finds
+// Levels of the library's lines.
+inline constexpr int kLogChange = TQLogChange;
+inline constexpr int kLogGeneral = TQLogGeneral;
+inline constexpr int kLogMisuse = TQLogMistakes;
 
 // Where lines go.
 struct LogTarget {

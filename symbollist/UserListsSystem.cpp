@@ -76,7 +76,7 @@ void UserLists::UpdateSystemLists(const CMapStringToString& symbols,
     anyName = anyName || nameChanged != 0;
   }
   Save();
-  Notify(kNotifySymbols, anyName ? kReasonNames : "");
+  Notify(kNotifySymbols, anyName ? TQReasonListNames : "");
 }
 
 } // namespace tq

@@ -44,7 +44,7 @@ CString DuplicatesText(const std::vector<CString>& ids) {
 
 } // namespace
 
-void ContentEditor::OnItemLook(int, int row, ItemLook& look) {
+void ContentEditor::OnItemLook(int, int row, WindowItemLook& look) {
   CListBoxContents::Look(contents_, row, look);
 }
 

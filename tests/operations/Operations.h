@@ -60,6 +60,8 @@ const Table& ManagerOperations();
 // manager's and its copies.
 Table SymbolTableOperations();
 Table OneListOperations();
+// Those of no class.
+Table TextOperations();
 // All operations.
 const Table& All();
 
