@@ -11,6 +11,9 @@
 //   SymbolInfo         VLRecords.h          one symbol
 //   GroupInfo          GroupInfo.h          one group
 //   TQListKindUser ... TQSymbolNames.h      names for kinds, types, codes and bits
+//   TQProblem ...      TQSymbolProblem.h    why an operation failed
+//   TQInitOptions ...  TQSymbolOptions.h    how the library starts, where its log goes
+//   tqSymbolVersion    TQSymbolVersion.h    versions of headers and libraries
 //   TQFromUtf8 ...     TQSymbolText.h       text of a terminal in UTF-8, paths
 //   tqSymbolString     TQSymbolStrings.h    the library's texts by number
 //   TQOwnedLists ...   TQSymbolOwned.h      owners for what is handed out
@@ -24,8 +27,11 @@
 #include "manager/TQSymbolListMgr.h"
 #include "manager/TQSymbolOwned.h"
 #include "platform/interface/TQSymbolNames.h"
+#include "platform/interface/TQSymbolOptions.h"
+#include "platform/interface/TQSymbolProblem.h"
 #include "platform/interface/TQSymbolStrings.h"
 #include "platform/interface/TQSymbolText.h"
+#include "platform/interface/TQSymbolVersion.h"
 #include "symbolid/IDConvert.h"
 #include "symbolid/ListID.h"
 #include "symbolid/OptFutID.h"

@@ -55,6 +55,7 @@ TEST(SymbolNames, BitsAndLevelsStay) {
   EXPECT_EQ(TQIdUnloadable, 4);
   EXPECT_EQ(TQLogChange, 64);
   EXPECT_EQ(TQLogGeneral, 256);
+  EXPECT_EQ(TQLogMistakes, 512);
 }
 
 TEST(SymbolNames, NotificationsAndTextsStay) {
