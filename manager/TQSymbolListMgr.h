@@ -149,8 +149,8 @@ public:
   // call, texts that are not of the code page, handles of groups that are gone, arrays that are
   // released twice, records of services that break their headers' contracts. A call with a handle or
   // an array that is not good does nothing then. The environment variable TQSYMBOL_DEBUG, "log" or
-  // "stop", sets it without a call when the first manager is made. Off, it costs nothing that could
-  // be measured.
+  // "stop", sets it without a call when the first manager is made. Off, a call looks at one
+  // variable for it, and that is all.
   static void SetDebugMode(TQDebugMode mode) noexcept;
 
   // --- The list file -----------------------------------------------------------------------------

@@ -53,17 +53,22 @@ inline std::string_view BytesOf(const CString& text) {
   return ViewOf(text);
 }
 
-// An operation of the interface begins: it comes from the terminal's one thread, and its texts are
-// of the process's code page. `names` are those of the texts, joined by ",".
+// What CheckCall does in the debug mode. Out of line, so that an operation is as small as without.
 template <typename... Texts>
-void CheckCall(const char* operation, [[maybe_unused]] std::string_view names = {},
-               const Texts&... texts) {
-  if (!IsDebugging()) [[likely]]
-    return;
+TQ_RARE void CheckCallNow(const char* operation, [[maybe_unused]] const char* names,
+                          const Texts&... texts) {
   if (!CheckThread(operation))
     return;
   [[maybe_unused]] int index = 0;
   (CheckText(operation, names, index++, BytesOf(texts)), ...);
+}
+
+// An operation of the interface begins: it comes from the terminal's one thread, and its texts are
+// of the process's code page. `names` are those of the texts, joined by ",".
+template <typename... Texts>
+inline void CheckCall(const char* operation, const char* names = "", const Texts&... texts) {
+  if (IsDebugging()) [[unlikely]]
+    CheckCallNow(operation, names, texts...);
 }
 
 } // namespace tq
