@@ -11,12 +11,7 @@ set(TQ_STANDIN_HEADERS
 
 # What a program links: all of it.
 add_library(tqStandInTerminal INTERFACE)
-target_link_libraries(tqStandInTerminal INTERFACE tqUser tqStandIn)
-if(NOT WIN32)
-  # There tqSymbol asks the program for the services; on Windows it loads their DLLs itself.
-  target_link_libraries(tqStandInTerminal INTERFACE ${TQ_SERVICES})
-endif()
-
+target_link_libraries(tqStandInTerminal INTERFACE tqUser tqStandIn ${TQ_SERVICES})
 set_target_properties(tqStandInTerminal PROPERTIES EXPORT_NAME StandIn)
 set_target_properties(tqStandIn ${TQ_SERVICES} PROPERTIES INSTALL_RPATH "\$ORIGIN")
 target_include_directories(tqStandIn INTERFACE $<INSTALL_INTERFACE:${TQ_INCLUDE_DIR}>)
@@ -27,10 +22,10 @@ tq_install_headers(StandIn ${TQ_STANDIN_HEADERS})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/market ${PROJECT_SOURCE_DIR}/data/lists
   DESTINATION ${TQ_SAMPLES_DIR} COMPONENT StandIn)
 
-set(TQ_STANDIN_LIBS "-ltqStandIn")
+list(TRANSFORM TQ_SERVICES PREPEND -l OUTPUT_VARIABLE TQ_STANDIN_LIBS)
+list(JOIN TQ_STANDIN_LIBS " " TQ_STANDIN_LIBS)
 if(NOT WIN32)
-  list(TRANSFORM TQ_SERVICES PREPEND -l OUTPUT_VARIABLE services)
-  list(JOIN services " " services)
-  string(PREPEND TQ_STANDIN_LIBS "-Wl,--push-state,--no-as-needed ${services} -Wl,--pop-state ")
+  # tqSymbol calls the services, and perhaps nothing else does: a linker may not drop them.
+  set(TQ_STANDIN_LIBS "-Wl,--push-state,--no-as-needed ${TQ_STANDIN_LIBS} -Wl,--pop-state")
 endif()
 tq_install_pc(StandIn tqStandIn)
