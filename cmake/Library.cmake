@@ -19,6 +19,7 @@ if(WIN32)
     "${TQ_RESOURCE_TEXTS}")
 endif()
 tq_version_resource(tqSymbol "自選商品組合與商品代碼" "自选商品组合与商品代码")
+tq_keep_symbols_apart(tqSymbol)
 target_link_libraries(tqSymbol PUBLIC tqFramework PRIVATE tqOptions tqPlatformLibs tqServices)
 
 # The same objects for tests of what the library does not export.

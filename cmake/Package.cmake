@@ -104,7 +104,6 @@ function(tq_package_library target)
   target_compile_features(${target} INTERFACE cxx_std_20)
   tq_install_targets(Library tqSymbolTargets ${target})
   tq_install_pc(Library ${target})
-  tq_keep_symbols_apart(${target})
 endfunction()
 
 tq_package_library(tqFramework)
