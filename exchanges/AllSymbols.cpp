@@ -1,6 +1,5 @@
 #include "exchanges/AllSymbols.h"
 
-#include <algorithm>
 #include <cstring>
 #include <new>
 #include <set>
@@ -38,27 +37,32 @@ std::unique_ptr<SymbolInfo[]> RoomFor(size_t count) {
   return std::unique_ptr<SymbolInfo[]>(new (std::nothrow) SymbolInfo[count]);
 }
 
-// The copies that are with the terminal: those of the debug mode, and how many there are besides.
+// Of the debug mode: the copies that are with the terminal, and those that it has released since.
+// Others were handed out before, and some of those are released by delete[], so that nothing is
+// known of them.
 std::set<const SymbolInfo*> handedOut;
-int handedOutBefore = 0;
+std::set<const SymbolInfo*> released;
+bool anyBefore = false;
 
 void NoteHandedOut(const SymbolInfo* infos) {
-  if (IsDebugging())
-    handedOut.insert(infos);
-  else
-    ++handedOutBefore;
+  if (!IsDebugging()) {
+    anyBefore = true;
+    return;
+  }
+  handedOut.insert(infos);
+  released.erase(infos);
 }
 
 bool MayFree(const SymbolInfo* infos) {
-  if (infos == nullptr || handedOut.erase(infos) != 0)
+  if (infos == nullptr || !IsDebugging())
     return true;
-  if (handedOutBefore > 0 || !IsDebugging()) {
-    handedOutBefore = std::max(handedOutBefore - 1, 0);
-    return true;
+  if (handedOut.erase(infos) == 0 && (released.contains(infos) || !anyBefore)) {
+    ReportMistake(TQProblemMisuse,
+                  "FreeSymbolInfos: infos was released before, or is of another operation");
+    return false;
   }
-  ReportMistake(TQProblemMisuse,
-                "FreeSymbolInfos: infos was released before, or is of another operation");
-  return false;
+  released.insert(infos);
+  return true;
 }
 
 } // namespace
