@@ -42,13 +42,8 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
   tqSymbol.h
-  platform/interface/TQSymbolOptions.h
-  platform/interface/TQSymbolProblem.h
   groups/GroupInfo.h
   groups/GroupSet.h
-  platform/interface/TQSymbolNames.h
-  platform/interface/TQSymbolStrings.h
-  platform/interface/TQSymbolText.h
   idlist/IDList.h
   symbolid/ListID.h
   symbollist/SymbolList.h
@@ -63,7 +58,7 @@ set(TQ_SYMBOL_HEADERS
 file(GLOB interface RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/platform/interface/*.h ${PROJECT_SOURCE_DIR}/platform/services/*.h)
 list(APPEND TQ_SYMBOL_HEADERS ${interface})
-list(REMOVE_DUPLICATES TQ_SYMBOL_HEADERS)
+list(REMOVE_ITEM TQ_SYMBOL_HEADERS platform/interface/TQSymbolVersion.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
 set(TQ_SAMPLES_DIR ${CMAKE_INSTALL_DATADIR}/tqSymbol)
