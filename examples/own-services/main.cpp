@@ -5,10 +5,13 @@
 #include <tqSymbol.h>
 
 int main(int argc, char** argv) {
-  const char* const directory = argc > 1 ? argv[1] : ".";
+  TQInitOptions options;
+  options.dataDirectory = argc > 1 ? argv[1] : ".";
   CTQSymbolListMgr manager;
-  if (!manager.Init(directory, 0, 1, 0, nullptr, 0, 0)) {
-    std::fprintf(stderr, "the symbol tables could not be built: see VLProxy.cpp\n");
+  if (!manager.Init(options)) {
+    CString why; // names the service that failed
+    CTQSymbolListMgr::GetLastProblem(why);
+    std::fprintf(stderr, "%s\n", why.GetString());
     return 1;
   }
   // A list of the same identifier and name gets these symbols, so that this may run again.

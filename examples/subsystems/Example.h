@@ -8,11 +8,6 @@
 #include <StandIn.h>
 #include <tqSymbol.h>
 
-// The kinds of lists.
-inline constexpr int kUserLists = 1;
-inline constexpr int kAccountLists = 6;
-inline constexpr int kCloudLists = 8;
-
 // Ends the program when a result is not what it should be.
 inline void Expect(bool holds, const char* what) {
   if (holds)
@@ -23,10 +18,10 @@ inline void Expect(bool holds, const char* what) {
 
 // Texts of the library are in the process's code page; what is printed is UTF-8.
 inline std::string Shown(const char* text) {
-  return standin::FromAnsi(text);
+  return TQToUtf8(text).GetString();
 }
 inline CString Text(const char* utf8) {
-  return standin::ToAnsi(utf8).c_str();
+  return TQFromUtf8(utf8);
 }
 
 // Every example works on the sample market and on lists of its own, in the directory that is its

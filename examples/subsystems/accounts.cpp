@@ -10,14 +10,14 @@ int main(int argc, char** argv) {
   // The proxy says that a login is complete.
   manager.UpdateTSLogin("VTS01");
   std::printf("After the login\n");
-  PrintLists(manager, kAccountLists);
+  PrintLists(manager, TQListKindTrading);
 
   // The user buys: the proxy answers with more holdings from now on, and the terminal says so.
   constexpr TqsAccType stocks = static_cast<TqsAccType>(1);
   Expect(standin::SetHoldings("VTS01", "9801234567", stocks, "2330.TW,2454.TW"), "bought");
   manager.UpDataTSAccHodling("VTS01", "9801234567", stocks);
   std::printf("After a purchase\n");
-  PrintLists(manager, kAccountLists);
+  PrintLists(manager, TQListKindTrading);
 
   CString held;
   Expect(manager.GetTSAccHodling("VTS01", "9801234567", held) != 0, "the account");

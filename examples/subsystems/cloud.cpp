@@ -8,9 +8,9 @@ int main(int argc, char** argv) {
 
   // As a list of kind 8, and into the map from which the cloud groups are made.
   manager.SetCloudeList("VORNG0101", Text("雲端觀察"), "2330.TW,2317.TW");
-  Expect(manager.GetSymbolListCount(kCloudLists) == 1, "one cloud list");
+  Expect(manager.GetSymbolListCount(TQListKindCloud) == 1, "one cloud list");
   std::printf("Cloud lists\n");
-  PrintLists(manager, kCloudLists);
+  PrintLists(manager, TQListKindCloud);
 
   // The group with the list's identifier takes name and members of it.
   manager.RefreshCloudeSymbol();

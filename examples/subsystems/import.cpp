@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
 
   CTQSymbolListMgr manager;
   Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "Init");
-  PrintLists(manager, kUserLists);
+  PrintLists(manager, TQListKindUser);
 
   // Each list is logged and told as if the user had made it.
   Expect(standin::Notifications().size() == 2, "told of two lists");

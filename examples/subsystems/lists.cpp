@@ -18,11 +18,11 @@ int main(int argc, char** argv) {
   CTQSymbolListMgr later;
   Expect(later.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "the second Init");
   CString name;
-  Expect(later.GetSymbolListName("CHIPS", name, kUserLists) != 0, "the list is there");
+  Expect(later.GetSymbolListName("CHIPS", name, TQListKindUser) != 0, "the list is there");
   std::printf("%s\n", Shown(name).c_str());
   // Its rows: ids that the service knows, and headings, which have a ":" behind their text.
   CString rows;
-  Expect(later.GetSymoblIDList("CHIPS", rows, kUserLists) != 0, "its rows");
+  Expect(later.GetSymoblIDList("CHIPS", rows, TQListKindUser) != 0, "its rows");
   int at = 0;
   for (CString row = rows.Tokenize(",", at); at >= 0; row = rows.Tokenize(",", at)) {
     CString symbol;

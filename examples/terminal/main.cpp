@@ -17,6 +17,6 @@ int main() {
     TQSymbolListInfo info;
     if (manager.GetTQSymbolListInfo(i, &info, 1))
       std::printf("%3d symbols  %s\n", manager.GetTQSymbolCount(info.ID, 1),
-                  standin::FromAnsi(info.Name).c_str());
+                  TQToUtf8(info.Name).GetString());
   }
 }
