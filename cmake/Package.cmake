@@ -97,3 +97,6 @@ configure_package_config_file(cmake/tqSymbolConfig.cmake.in tqSymbolConfig.cmake
 write_basic_package_version_file(tqSymbolConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfigVersion.cmake DESTINATION ${TQ_PACKAGE_DIR})
+
+# The checker of services, as source: it is linked with the terminal's own.
+install(DIRECTORY conformance DESTINATION ${CMAKE_INSTALL_DATADIR}/tqSymbol COMPONENT Library)
