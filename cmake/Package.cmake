@@ -123,3 +123,6 @@ write_basic_package_version_file(tqSymbolConfigVersion.cmake COMPATIBILITY SameM
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfigVersion.cmake DESTINATION ${TQ_PACKAGE_DIR}
   COMPONENT Library)
+
+# The checker of services, as source: it is linked with the terminal's own.
+install(DIRECTORY conformance DESTINATION ${TQ_SAMPLES_DIR} COMPONENT Library)
