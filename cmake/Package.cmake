@@ -57,7 +57,7 @@ set(TQ_SYMBOL_HEADERS
 file(GLOB interface RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/platform/interface/*.h ${PROJECT_SOURCE_DIR}/platform/services/*.h)
 list(APPEND TQ_SYMBOL_HEADERS ${interface})
-list(REMOVE_DUPLICATES TQ_SYMBOL_HEADERS)
+list(REMOVE_ITEM TQ_SYMBOL_HEADERS platform/interface/TQSymbolVersion.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
 set(TQ_SAMPLES_DIR ${CMAKE_INSTALL_DATADIR}/tqSymbol)
@@ -121,3 +121,6 @@ write_basic_package_version_file(tqSymbolConfigVersion.cmake COMPATIBILITY SameM
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
   ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfigVersion.cmake DESTINATION ${TQ_PACKAGE_DIR}
   COMPONENT Library)
+
+# The checker of services, as source: it is linked with the terminal's own.
+install(DIRECTORY conformance DESTINATION ${TQ_SAMPLES_DIR} COMPONENT Library)

@@ -1,4 +1,4 @@
-# Debug symbols of the two libraries in files beside them, "libtqSymbol.so.1.1.0.debug" or
+# Debug symbols of the two libraries in files beside them, "libtqSymbol.so.2.0.0.debug" or
 # "tqSymbol.dll.debug", which a debugger finds by the name that the library holds. They are the component
 # Symbols: kept with each release, not shipped with it.
 if(TQ_SYMBOLS_APART)

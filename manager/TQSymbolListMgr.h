@@ -37,10 +37,10 @@
 //     Hodling, Restor, Cloude, Domodal). They are marked, and are not mended.
 // 11. Pages that are named here (trust.md) are those of the library's documentation.
 //
-// In this order: start; what went wrong, and the log; the list file; the list shown first; the lists in memory; editing whole
-// lists, and the entries of one; checks; system lists; queries; default exchanges and the order of
-// exchanges; lots, and symbols that change; groups; cloud lists; lists from trading accounts; lists
-// of other products, extra information; dialogs; switches.
+// In this order: start; what went wrong, and the log; the list file; the list shown first; the
+// lists in memory; editing whole lists, and the entries of one; checks; system lists; queries;
+// default exchanges and the order of exchanges; lots, and symbols that change; groups; cloud lists;
+// lists from trading accounts; lists of other products, extra information; dialogs; switches.
 #pragma once
 
 #include <memory>
@@ -123,9 +123,9 @@ public:
   // Why the latest operation failed, or what its user should know of it: a code, and a text for the
   // terminal's programmer that begins with the operation's name and names the step, and the path,
   // the list or the service that it failed at. TQProblemNone and an empty text when there was
-  // nothing. Every operation below counts but for queries, checks and look-ups, which leave it as it
-  // is. An operation may succeed and yet have a problem: a load, which always answers 1, of a file
-  // that is damaged; a save that had to copy another program's lists aside first
+  // nothing. Every operation below counts but for queries, checks and look-ups, which leave it as
+  // it is. An operation may succeed and yet have a problem: a load, which always answers 1, of a
+  // file that is damaged; a save that had to copy another program's lists aside first
   // (TQProblemFileShared). While an operation runs, those that the terminal calls from within it
   // have problems of their own.
   static TQProblem GetLastProblem(CString& text) noexcept;
@@ -147,9 +147,9 @@ public:
   // Looks for mistakes from now on, and names each in the log (level 512; without a log on the
   // error stream), with operation and argument: calls on another thread than that of the first
   // call, texts that are not of the code page, handles of groups that are gone, arrays that are
-  // released twice, records of services that break their headers' contracts. A call with a handle or
-  // an array that is not good does nothing then. The environment variable TQSYMBOL_DEBUG, "log" or
-  // "stop", sets it without a call when the first manager is made. Off, a call looks at one
+  // released twice, records of services that break their headers' contracts. A call with a handle
+  // or an array that is not good does nothing then. The environment variable TQSYMBOL_DEBUG, "log"
+  // or "stop", sets it without a call when the first manager is made. Off, a call looks at one
   // variable for it, and that is all.
   static void SetDebugMode(TQDebugMode mode) noexcept;
 
@@ -297,8 +297,8 @@ public:
   // takes its place.
   int CheckValidSymbolList(const CString& id, int kind) noexcept;
   // What a name has against being a list's, as bits of TQTextFault: empty (1), cut at 64 bytes (2),
-  // an apostrophe, "&" or "<", with which the list file does not load again (4), bytes that are left
-  // out (8). 0: it is kept as it is. Whether another list has it is CheckNameExist's matter.
+  // an apostrophe, "&" or "<", with which the list file does not load again (4), bytes that are
+  // left out (8). 0: it is kept as it is. Whether another list has it is CheckNameExist's matter.
   static int CheckListName(const CString& name) noexcept;
   // The same for ids joined by ","; 2: an id of more than 19 bytes, which has no row; 16: an empty
   // entry. Whether a service knows them is not asked.

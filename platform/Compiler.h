@@ -15,6 +15,16 @@
 #define TQ_IMPORT
 #endif
 
+// TQ_SERVICE_API stands in front of what a service of the terminal provides. Who builds a service
+// defines TQ_SERVICE_BUILD for its sources, and the service's module then shows these names without
+// a list of exports; a service that has such a list (a .def file) needs neither. For whoever calls
+// the service it is empty.
+#if defined(TQ_SERVICE_BUILD)
+#define TQ_SERVICE_API TQ_EXPORT
+#else
+#define TQ_SERVICE_API
+#endif
+
 // TQ_PRINTF_MEMBER behind a printf-style member lets the compiler hold the arguments against the
 // format, which is the member's first argument (the object counts as one). With MinGW the format is
 // the C standard's, not the system library's.

@@ -11,8 +11,8 @@ namespace {
 TQLog* theLog = nullptr;
 bool isOpen = false;
 
-// Lines are written until the library is gone, so these are plain values; the directory is asked for
-// only when a file is opened.
+// Lines are written until the library is gone, so these are plain values; the directory is asked
+// for only when a file is opened.
 int leastLevel = 0;
 TQLogCallback callback = nullptr;
 void* callbackContext = nullptr;

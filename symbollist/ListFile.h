@@ -27,7 +27,7 @@ std::string ListFileText(const ListVector& lists, int defaultIndex);
 
 enum class TextResult {
   Made,
-  TooMuch, // it exceeds the limits for loading (platform/xml/XmlText.h): it could not be loaded again
+  TooMuch, // beyond the limits for loading (platform/xml/XmlText.h): it could not be loaded again
   NoMemory,
 };
 

@@ -19,8 +19,8 @@ inline constexpr Listed kMarket[] = {
 };
 inline constexpr int kMarketSize = 3;
 
-// What VLProxy writes into the part of a BaseAttr that is the service's own, and tqStock reads there:
-// which of the symbols it is.
+// What VLProxy writes into the part of a BaseAttr that is the service's own, and tqStock reads
+// there: which of the symbols it is.
 inline void SetNumber(BaseAttr& record, int number) {
   record.rest[0] = static_cast<char>(number);
 }

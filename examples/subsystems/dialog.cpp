@@ -1,5 +1,5 @@
-// A dialog of the library, with a script for its user. On Windows it is a real window, elsewhere one
-// in memory, where scripts are the only users; either way a terminal opens it as is done here.
+// A dialog of the library, with a script for its user. On Windows it is a real window, elsewhere
+// one in memory, where scripts are the only users; either way a terminal opens it as is done here.
 #include <DialogControls.h>
 #include <UserScripts.h>
 

@@ -30,8 +30,8 @@ int main(int argc, char** argv) {
   for (const char* id : {"2330.TW", "2330", "AAPL.NASD", "TXFL6.TF", "NOSUCH.TW"})
     Print(tables, id);
 
-  // Of several symbols that a text may mean, only one whose code it is counts: names that begin alike
-  // are left to the dialog of the search.
+  // Of several symbols that a text may mean, only one whose code it is counts: names that begin
+  // alike are left to the dialog of the search.
   std::printf("Typed texts\n");
   for (const char* typed : {"2330", "台積電", "nvda", "nothing"}) {
     SymbolInfo symbol = {};

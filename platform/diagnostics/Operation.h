@@ -42,10 +42,10 @@ private:
   static Operation* innermost_;
 };
 
-// Notes what is wrong with the operation that runs. Of several the first one is kept, for the others
-// mostly follow from it; what kept nothing from being done (a copy of a file, what the debug mode
-// finds) gives way to any other. The text is printf-style: user text is an argument. Without an
-// operation nothing happens. Returns 0, which is what most operations answer then.
+// Notes what is wrong with the operation that runs. Of several the first one is kept, for the
+// others mostly follow from it; what kept nothing from being done (a copy of a file, what the debug
+// mode finds) gives way to any other. The text is printf-style: user text is an argument. Without
+// an operation nothing happens. Returns 0, which is what most operations answer then.
 class ProblemNote {
 public:
   static int Note(TQProblem problem, const CString& text);

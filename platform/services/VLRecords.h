@@ -10,7 +10,8 @@
 // One symbol. What a list holds of a symbol is this record.
 struct SymbolInfo {
   short exchId;      // the exchange's number
-  char id[20];       // full symbol id: code, ".", exchange name; ":" for a heading row of a list
+  char id[20];       // full symbol id: code, ".", exchange name; ":" for a heading row of a list.
+                     // Printable ASCII without blanks and commas
   char reserved[20]; // the service's own
   char code[20];     // the exchange's own code
   char name[31];     // display name
@@ -19,7 +20,8 @@ struct SymbolInfo {
 // One exchange, as VLGetExch lists them.
 struct ExchInfo {
   short id;       // the exchange's number
-  char name[20];  // its short code: the text after the last "." of a full symbol id
+  char name[20];  // its short code: the text after the last "." of a full symbol id. Printable
+                  // ASCII without dots, blanks and commas
   char rest[162]; // the service's own
 };
 
@@ -41,7 +43,7 @@ struct ExtAttr {
 // One group or sub-group. bHasSubGroup is 4 bytes at an address that need not be a multiple of 4.
 struct GroupInfo {
   short nType;      // group type, 1 to 201
-  char szID[17];    // the key of every look-up
+  char szID[17];    // the key of every look-up; printable ASCII
   char szName[49];  // display name
   int bHasSubGroup; // non-zero: there are sub-groups to ask for
 };

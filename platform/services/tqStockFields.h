@@ -5,7 +5,7 @@
 // Codes of the attributes that the library asks for.
 enum Field : int {
   FieldSymbolId = 1,   // text: full symbol id
-  FieldSymbolName = 2, // text: display name
+  FieldSymbolName = 2, // text: display name, that of SymbolInfo or longer where its field cuts it
   FieldTradeCode = 81, // text, trading data: the code under which orders are placed
   FieldMark = 109,     // text of one character, the kind at a glance; a blank when there is none
   FieldKind = 110,     // number: kind of instrument, see InstrumentKind
@@ -20,7 +20,7 @@ enum Field : int {
   FieldReferencePrice = 170, // text of a decimal number, trading data
   FieldPreviousClose = 171,  // text of a decimal number, trading data
   FieldExpiryDate = 172,     // number: yyyymmdd, 0 for what does not expire
-  FieldTradeLot = 176,       // number: units in one board lot
+  FieldTradeLot = 176,       // number above 0: units in one board lot
   FieldOddLot = 178,         // number, trading data: the least number of units that can be traded
   FieldOpeningReference = 179, // text of a decimal number, trading data
   FieldExchangeCode = 184,     // text: the exchange's own code

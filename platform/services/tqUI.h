@@ -1,7 +1,10 @@
 // tqUI: what the terminal's dialogs have in common. All of it runs on the terminal's user-interface
-// thread. Nothing throws.
+// thread. Nothing throws. Objects are made by whoever calls, and the library derives its dialogs
+// from CSingletonDlg: members, their order, sizes and the order of virtual functions are part of
+// the binary interface and do not change.
 #pragma once
 
+#include "platform/Compiler.h"
 #include "platform/framework/window/CButton.h"
 #include "platform/framework/window/CDialog.h"
 #include "platform/framework/window/CEdit.h"
@@ -15,7 +18,7 @@
 // that runs. Any other is refused: DoModal brings that innermost one to the front and returns
 // Failed at once, no handler having been called. A dialog may be built and destroyed at any time;
 // only runs count.
-class CSingletonDlg : public CDialog {
+class TQ_SERVICE_API CSingletonDlg : public CDialog {
 public:
   // `key` is copied and compared byte by byte; null counts as empty. `parent` as with CDialog.
   // `option` is the terminal's and is passed as 0.
@@ -32,7 +35,7 @@ private:
 
 // A button with a picture of the terminal's. As all control objects it is made while its dialog is
 // up, and is a handle that owns nothing.
-class CTQIconButton : public CButton {
+class TQ_SERVICE_API CTQIconButton : public CButton {
 public:
   // Gives the icon button `id` of the dialog its picture. Without such a button nothing happens.
   CTQIconButton(const CWnd& dialog, int id, WindowButtonIcon icon);
@@ -40,7 +43,7 @@ public:
 
 // The tips of one dialog: the text that appears when the mouse rests on a control. They go with the
 // window. The dialog must outlive the object.
-class CTQToolTip {
+class TQ_SERVICE_API CTQToolTip {
 public:
   explicit CTQToolTip(CDialog& dialog);
 
@@ -53,7 +56,7 @@ private:
 };
 
 // An edit for a name or a code: it takes as many bytes as there is room for where the text goes.
-class CCharEdit : public CEdit {
+class TQ_SERVICE_API CCharEdit : public CEdit {
 public:
   // Limits the edit `id` of the dialog to `bytes` bytes of the process's ANSI code page, of which a
   // double-byte character takes two or is not taken; 0 is no limit. Without such an edit nothing
@@ -63,3 +66,6 @@ public:
   // The text without blanks at its ends.
   CString GetInput() const;
 };
+
+static_assert(sizeof(CTQIconButton) == sizeof(CButton) && sizeof(CCharEdit) == sizeof(CEdit));
+static_assert(sizeof(CTQToolTip) == sizeof(void*));

@@ -59,10 +59,11 @@ TEST_F(InitOptionsTest, WithoutTablesNothingIsAskedForThem) {
   EXPECT_EQ(standin::CountCalls("VLGetBaseAttrs2"), 0);
 }
 
-TEST_F(InitOptionsTest, ATerminalOfALaterVersionIsRefusedAndNothingChanges) {
+TEST_F(InitOptionsTest, ATerminalOfALaterOrAnotherMajorVersionIsRefusedAndNothingChanges) {
   StartWith({"a/A/2330.TW"});
   TQInitOptions options = Options();
-  for (const int version : {TQSYMBOL_VERSION + 100, TQSYMBOL_VERSION + 10000, 0, -1}) {
+  for (const int version :
+       {TQSYMBOL_VERSION + 100, TQSYMBOL_VERSION + 10000, TQSYMBOL_VERSION - 10000, 0, -1}) {
     options.version = version;
     EXPECT_EQ(manager.Init(options), 0) << version;
     CString text;
