@@ -37,7 +37,6 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/Storage.h
   platform/framework/StringData.h
   platform/framework/window/WindowTypes.h
-  platform/interface/TQSymbolVersion.h
   tqSymbolApi.h
   platform/framework/tqFramework.h)
 set(TQ_SYMBOL_HEADERS
@@ -65,8 +64,6 @@ set(TQ_SAMPLES_DIR ${CMAKE_INSTALL_DATADIR}/tqSymbol)
 set(TQ_PACKAGE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/tqSymbol)
 file(RELATIVE_PATH TQ_PREFIX_FROM_PC /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 
-# The number in the name of the .so is the interface's: it changes when a terminal has to be compiled
-# anew.
 # Installs libraries that are found under the name of an export set.
 function(tq_install_targets component export)
   install(TARGETS ${ARGN} EXPORT ${export}
@@ -76,8 +73,7 @@ function(tq_install_targets component export)
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${component})
 endfunction()
 
-# Installs headers, which are given by their places in the tree. They take a line each in
-# cmake/InstallHeaders.cmake.
+# Installs headers, which are given by their places in the tree.
 function(tq_install_headers component)
   list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/ OUTPUT_VARIABLE headers)
   install(CODE "set(TQ_HEADERS \"${headers}\")
@@ -93,6 +89,8 @@ function(tq_install_pc component name)
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT ${component})
 endfunction()
 
+# The number in the name of the .so is the interface's: it changes when a terminal has to be compiled
+# anew.
 function(tq_package_library target)
   target_include_directories(${target} INTERFACE $<INSTALL_INTERFACE:${TQ_INCLUDE_DIR}>)
   set_target_properties(${target} PROPERTIES

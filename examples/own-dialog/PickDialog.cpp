@@ -58,23 +58,23 @@ private:
 
 CString ListModel::IdOf(int list) const {
   TQSymbolListInfo info = {};
-  manager_.GetTQSymbolListInfo(list, &info, 1);
+  manager_.GetTQSymbolListInfo(list, &info, TQListKindUser);
   return info.ID;
 }
 
 CString ListModel::ListName(int list) const {
   CString name;
-  manager_.GetSymbolListName(IdOf(list), name, 1);
+  manager_.GetSymbolListName(IdOf(list), name, TQListKindUser);
   return name;
 }
 
 int ListModel::RowCount(int list) const {
-  return manager_.GetTQSymbolCount(IdOf(list), 1);
+  return manager_.GetTQSymbolCount(IdOf(list), TQListKindUser);
 }
 
 SymbolInfo ListModel::Row(int list, int row) const {
   SymbolInfo symbol = {};
-  manager_.GetTQSymbolInfo(IdOf(list), row, &symbol, 1);
+  manager_.GetTQSymbolInfo(IdOf(list), row, &symbol, TQListKindUser);
   return symbol;
 }
 

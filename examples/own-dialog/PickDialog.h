@@ -9,7 +9,7 @@ class ListModel {
 public:
   explicit ListModel(CTQSymbolListMgr& manager) : manager_(manager) {}
 
-  int ListCount() const { return manager_.GetSymbolListCount(1); }
+  int ListCount() const { return manager_.GetSymbolListCount(TQListKindUser); }
   CString ListName(int list) const;
   int RowCount(int list) const;
   SymbolInfo Row(int list, int row) const;

@@ -26,9 +26,11 @@ void Complain(const std::string& why) {
 
 int main() {
   std::string error;
+  const std::string lists = standin::SampleLists();
+  TQInitOptions options;
+  options.dataDirectory = lists.c_str();
   CTQSymbolListMgr manager;
-  if (!standin::ServeSampleMarket(error) ||
-      !manager.Init(standin::SampleLists().c_str(), 0, 1, 0, nullptr, 0, 0))
+  if (!standin::ServeSampleMarket(error) || !manager.Init(options))
     return Fail("no sample market");
   bool shown = false;
   WhenDialogOpens(
@@ -41,5 +43,5 @@ int main() {
   SymbolInfo picked = {};
   if (PickSymbol(manager, nullptr, picked) != CDialog::Accepted || !shown)
     return Fail("nothing was picked");
-  std::printf("%s %s\n", picked.id, standin::FromAnsi(picked.name).c_str());
+  std::printf("%s %s\n", picked.id, TQToUtf8(picked.name).GetString());
 }

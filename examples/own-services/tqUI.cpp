@@ -32,7 +32,8 @@ int CSingletonDlg::DoModal() {
   return code;
 }
 
-CTQIconButton::CTQIconButton(const CWnd& dialog, int id, ButtonIcon icon) : CButton(dialog, id) {
+CTQIconButton::CTQIconButton(const CWnd& dialog, int id, WindowButtonIcon icon)
+    : CButton(dialog, id) {
   SetIcon(icon);
 }
 

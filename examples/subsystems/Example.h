@@ -8,20 +8,15 @@
 #include <StandIn.h>
 #include <tqSymbol.h>
 
-// Ends the program when a result is not what it should be.
+// Ends the program when a result is not what it should be. What the library has to say of it is that of
+// its latest operation.
 inline void Expect(bool holds, const char* what) {
   if (holds)
     return;
-  std::fprintf(stderr, "not as expected: %s\n", what);
+  CString problem;
+  CTQSymbolListMgr::GetLastProblem(problem);
+  std::fprintf(stderr, "not as expected: %s (%s)\n", what, problem.GetString());
   std::exit(1);
-}
-
-// Texts of the library are in the process's code page; what is printed is UTF-8.
-inline std::string Shown(const char* text) {
-  return TQToUtf8(text).GetString();
-}
-inline CString Text(const char* utf8) {
-  return TQFromUtf8(utf8);
 }
 
 // Every example works on the sample market and on lists of its own, in the directory that is its
@@ -32,11 +27,19 @@ inline std::string Begin(int argc, char** argv) {
   return argc > 1 ? argv[1] : ".";
 }
 
-// A row for each list of a kind.
-inline void PrintLists(CTQSymbolListMgr& manager, int kind) {
+// Starts the library there.
+inline void Start(CTQSymbolListMgr& manager, const std::string& directory) {
+  TQInitOptions options;
+  options.dataDirectory = directory.c_str();
+  Expect(manager.Init(options) != 0, "Init");
+}
+
+// A row for each list of a kind. Texts of the library are in the process's code page; what is printed
+// is UTF-8.
+inline void PrintLists(CTQSymbolListMgr& manager, TQListKind kind) {
   CString id;
   CString name;
   CString symbols;
   for (int i = 0; manager.GetSymbolListInfo(i, id, name, symbols, kind); ++i)
-    std::printf("  %s: %s\n", Shown(name).c_str(), Shown(symbols).c_str());
+    std::printf("  %s: %s\n", TQToUtf8(name).GetString(), TQToUtf8(symbols).GetString());
 }

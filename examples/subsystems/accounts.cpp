@@ -4,8 +4,10 @@
 int main(int argc, char** argv) {
   const std::string directory = Begin(argc, argv);
   CTQSymbolListMgr manager;
-  constexpr int tradingLists = 1; // the last argument: they are wanted
-  Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, tradingLists) != 0, "Init");
+  TQInitOptions options;
+  options.dataDirectory = directory.c_str();
+  options.accountLists = true;
+  Expect(manager.Init(options) != 0, "Init");
 
   // The proxy says that a login is complete.
   manager.UpdateTSLogin("VTS01");

@@ -8,7 +8,7 @@
 int main(int argc, char** argv) {
   const std::string directory = Begin(argc, argv);
   CTQSymbolListMgr manager;
-  Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "Init");
+  Start(manager, directory);
 
   const auto complain = [](const std::string& why) { Expect(false, why.c_str()); };
   standin::WhenDialogOpens(
@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
   SymbolInfo chosen = {};
   constexpr int forceList = 1; // the table is shown for a single hit too
   const int code = CTQSymbolListMgr::DoSearchUI(&manager, manager.GetSymbolTableMgr(), nullptr,
-                                                Text("台積電"), &chosen, forceList, nullptr);
-  Expect(code == CDialog::Accepted, "the user has chosen");
-  std::printf("chosen: %s %s\n", chosen.id, Shown(chosen.name).c_str());
+                                                TQFromUtf8("台積電"), &chosen, forceList, nullptr);
+  Expect(code == TQDialogDone, "the user has chosen");
+  std::printf("chosen: %s %s\n", chosen.id, TQToUtf8(chosen.name).GetString());
 }

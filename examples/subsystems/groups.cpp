@@ -4,9 +4,9 @@
 int main(int argc, char** argv) {
   const std::string directory = Begin(argc, argv);
   CTQSymbolListMgr manager;
-  Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "Init");
+  Start(manager, directory);
 
-  constexpr int type = 1; // industries; Init has loaded it
+  constexpr int type = TQGroupTypeMarkets; // Init has loaded it
   const int groups = manager.GetGroupCount(type, nullptr);
   Expect(groups > 0, "the sample market has groups");
   for (int i = 0; i < groups; ++i) {
@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     void* handle = nullptr; // good until the type is loaded anew
     Expect(manager.GetGroupInfo(type, nullptr, i, &group) != 0, "a group");
     Expect(manager.GetGroupHandle(type, group.szID, &handle, 0) != 0, "its handle");
-    std::printf("%s, %d groups\n", Shown(group.szName).c_str(),
+    std::printf("%s, %d groups\n", TQToUtf8(group.szName).GetString(),
                 manager.GetGroupCount(type, handle));
   }
 
@@ -24,6 +24,6 @@ int main(int argc, char** argv) {
   for (int i = 0; i < manager.GetGroupSymbolCount(handle); ++i) {
     SymbolInfo member = {};
     Expect(manager.GetGroupSymbolInfo(handle, i, &member) != 0, "a member");
-    std::printf("  %s %s\n", member.id, Shown(member.name).c_str());
+    std::printf("  %s %s\n", member.id, TQToUtf8(member.name).GetString());
   }
 }

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
                          "</HaldeUserList>\n";
 
   CTQSymbolListMgr manager;
-  Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "Init");
+  Start(manager, directory);
   PrintLists(manager, TQListKindUser);
 
   // Each list is logged and told as if the user had made it.

@@ -14,7 +14,8 @@ void Print(CSymbolTableMgr& tables, const char* id) {
   }
   tables.LookUpSymbolGetString(FieldReferencePrice, id, "", price);
   tables.LookUpSymbolGetInt(FieldTradeLot, id, "", lot);
-  std::printf("  %-10s %s, %s, lots of %d\n", id, Shown(name).c_str(), price.GetString(), lot);
+  std::printf("  %-10s %s, %s, lots of %d\n", id, TQToUtf8(name).GetString(), price.GetString(),
+              lot);
 }
 
 } // namespace
@@ -22,7 +23,7 @@ void Print(CSymbolTableMgr& tables, const char* id) {
 int main(int argc, char** argv) {
   const std::string directory = Begin(argc, argv);
   CTQSymbolListMgr manager;
-  Expect(manager.Init(directory.c_str(), 0, 1, 0, nullptr, 0, 0) != 0, "Init");
+  Start(manager, directory);
   CSymbolTableMgr& tables = *manager.GetSymbolTableMgr(); // there is one after Init
 
   std::printf("Attributes\n");
@@ -34,11 +35,11 @@ int main(int argc, char** argv) {
   std::printf("Typed texts\n");
   for (const char* typed : {"2330", "台積電", "nvda", "nothing"}) {
     SymbolInfo symbol = {};
-    const bool found = manager.IsValidSymbol(Text(typed), &symbol) != 0;
+    const bool found = manager.IsValidSymbol(TQFromUtf8(typed), &symbol) != 0;
     std::printf("  %s: %s\n", typed, found ? symbol.id : "no symbol");
   }
 
   CString id;
-  Expect(tables.LookUpNameGetSymbolID(Text("台積電"), id) != 0, "a symbol of that name");
+  Expect(tables.LookUpNameGetSymbolID(TQFromUtf8("台積電"), id) != 0, "a symbol of that name");
   Expect(id == "2330.TW", "its id");
 }

@@ -1,44 +1,34 @@
-// What a terminal's programmer asks when something does not work.
+// Why an operation failed, what can be asked before it is called, and the log.
 #include "Example.h"
 
 namespace {
 
-// In the place of the log's file. The text is good until the call returns.
-void PrintLine(void* /*context*/, int level, const char* text) {
-  std::printf("log %d: %s\n", level, Shown(text).c_str());
-}
-
-void PrintProblem() {
-  CString text;
-  const TQProblem problem = CTQSymbolListMgr::GetLastProblem(text);
-  std::printf("problem %d: %s\n", problem, Shown(text).c_str());
+// In the place of the log file. The context is what SetLog was given.
+void Print(void*, int level, const char* text) {
+  std::printf("log: %d %s\n", level, TQToUtf8(text).GetString());
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
   const std::string directory = Begin(argc, argv);
-  CTQSymbolListMgr::SetLog(nullptr, TQLogChange, PrintLine, nullptr);
-
-  TQInitOptions options;
-  options.dataDirectory = directory.c_str();
+  CTQSymbolListMgr::SetLog(nullptr, TQLogChange, Print, nullptr);
   CTQSymbolListMgr manager;
-  Expect(manager.Init(options) != 0, "Init");
+  Start(manager, directory);
 
-  // The result says that it failed, the problem says why.
-  Expect(manager.AddSymbolList("A", 0, Text("甲"), "2330.TW", 1, 0) != 0, "added");
-  Expect(manager.AddSymbolList("A", 0, Text("乙"), "2317.TW", 1, 0) == 0, "it has another name");
-  PrintProblem();
+  Expect(manager.AddSymbolList("TECH", 0, "Technology", "2330.TW", 1, 0) != 0, "added");
+  // The identifier is taken by a list of another name.
+  Expect(manager.AddSymbolList("TECH", 0, "Banks", "2881.TW", 1, 0) == 0, "refused");
+  CString text;
+  const TQProblem problem = CTQSymbolListMgr::GetLastProblem(text);
+  Expect(problem == TQProblemTaken, "the reason");
+  std::printf("%s\n", text.GetString());
 
-  // Names that the user typed are looked at before they are given to a list.
-  Expect(CTQSymbolListMgr::CheckListName("R&D") == TQTextUnloadable, "no file could hold it");
+  // With such a name the list file could not be loaded again: a terminal asks before it sets one.
+  Expect(CTQSymbolListMgr::CheckListName("Fish & chips") == TQTextUnloadable, "a bad name");
+  Expect(CTQSymbolListMgr::CheckListName("Banks") == 0, "a good name");
 
-  // Edits of entries do not save.
-  Expect(manager.InsertSymbolList("A", 0, "2454.TW", 0, 0) != 0, "a symbol");
-  Expect(manager.HasUnsavedChanges() != 0, "not on the disk yet");
-  Expect(manager.SaveSymbolList() != 0 && manager.HasUnsavedChanges() == 0, "saved");
-
-  // Half a character: without the debug mode it would be left out without a word.
-  CTQSymbolListMgr::SetDebugMode(TQDebugLog);
-  manager.AddSymbolList("B", 0, "B\xA4", "2330.TW", 1, 0);
+  Expect(manager.HasUnsavedChanges() == 0, "AddSymbolList saves");
+  manager.InsertSymbolList("TECH", 0, "2454.TW", 0, 0);
+  Expect(manager.HasUnsavedChanges() != 0, "edits of entries do not");
 }
