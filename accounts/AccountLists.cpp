@@ -10,10 +10,15 @@
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
 #include "platform/ServiceArray.h"
+#include "platform/diagnostics/Operation.h"
 #include "symbollist/ListName.h"
 
 namespace tq {
 namespace {
+
+int NoteOff() {
+  return NoteProblem(TQProblemOff, "Init was told not to keep lists from trading accounts");
+}
 
 struct SystemList {
   CString id;
@@ -28,8 +33,9 @@ void AddKnownSymbols(CSymbolList& list, const CString& symbols) {
   CStringArray tokens;
   const SplitIds split = SplitIdString(symbols, tokens);
   const CString ids = split.plain ? symbols : LookupString(symbols);
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLGetSymbolInfos");
   if (!ids.IsEmpty() && VLGetSymbolInfos(ids, found.List(), found.Count()) != 0) {
+    found.Check();
     const int count = *found.Count();
     list.Update2(found.Release(), count);
   }
@@ -51,8 +57,12 @@ void AccountLists::SetPath(const CString& path) {
 
 int AccountLists::Add(const CString& id, int kind, const CString& name, const CString& symbols,
                       bool allowEmpty) {
-  if (Table() == nullptr || name.IsEmpty() || (symbols.IsEmpty() && !allowEmpty))
-    return 0;
+  if (Table() == nullptr)
+    return NoteOff();
+  if (name.IsEmpty())
+    return NoteProblem(TQProblemName, "the name is empty");
+  if (symbols.IsEmpty() && !allowEmpty)
+    return NoteProblem(TQProblemSymbols, "there are no symbols");
   const OwnedLists& withNames = listsOfKind_(kind);
   const OwnedLists& withIds = listsOfKind_(KindOfIds(kind));
   const CString suffix = "-" + LibraryString(kStringUpdate);
@@ -65,28 +75,33 @@ int AccountLists::Add(const CString& id, int kind, const CString& name, const CS
     freeName = SuffixedName(name, suffix, taken);
     return !taken(freeName);
   };
-  return lists_.AddResolved(id, freeName, allowed,
-                            [&symbols](CSymbolList& list) { AddKnownSymbols(list, symbols); });
+  const int added = lists_.AddResolved(
+      id, freeName, allowed, [&symbols](CSymbolList& list) { AddKnownSymbols(list, symbols); });
+  return added != 0 ? added
+                    : NoteProblem(TQProblemTaken, "no new list can bear '%s' and the name '%s'",
+                                  id.GetString(), name.GetString());
 }
 
 int AccountLists::Update(const CString& id, int kind, const CString& name, const CString& symbols,
                          bool allowEmpty) {
   if (Table() == nullptr)
-    return 0;
+    return NoteOff();
   CSymbolList* const list = lists_.Find(id);
   if (list == nullptr)
     return Add(id, kind, name, symbols, allowEmpty);
   // The whole string, ids that the service does not know yet included: they get no row until it
   // does.
   list->Update1(symbols);
-  Notify(kNotifyUserLists, kReasonTrading);
+  Notify(kNotifyUserLists, TQReasonTradingLists);
   return 1;
 }
 
 int AccountLists::Delete(const CString& id) {
-  CSymbolList* const list = Table() == nullptr ? nullptr : lists_.Find(id);
+  if (Table() == nullptr)
+    return NoteOff();
+  CSymbolList* const list = lists_.Find(id);
   if (list == nullptr)
-    return 0;
+    return NoteProblem(TQProblemNoList, "there is no list '%s'", id.GetString());
   lists_.Delete(list);
   return 1;
 }

@@ -15,9 +15,6 @@
 
 namespace tq {
 
-// Why lists changed, as the terminal is told. It knows this text: do not change.
-inline constexpr char kReasonTrading[] = "TSSymbolList";
-
 class AccountLists {
 public:
   // The lists of a kind against which a new list's id and name are checked; empty ones for a kind

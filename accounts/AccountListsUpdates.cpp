@@ -9,9 +9,6 @@
 namespace tq {
 namespace {
 
-// The terminal knows this id: do not change.
-constexpr char kAllHoldings[] = "ALLMYSTOCKLISTS";
-
 struct AccountList {
   explicit AccountList(const CAccount& account)
       : id(account.ListId()), name(account.DisplayId()), symbols(account.holdings) {}
@@ -34,9 +31,9 @@ const CTS* AccountLists::FindSystem(const CString& tsId) const {
 }
 
 int AccountLists::AddAllHoldings() {
-  if (Table() == nullptr || lists_.Find(kAllHoldings) != nullptr)
+  if (Table() == nullptr || lists_.Find(TQListIdAllHoldings) != nullptr)
     return 0;
-  return Add(kAllHoldings, kUserLists, LibraryString(kStringAllHoldings), CString(), true);
+  return Add(TQListIdAllHoldings, kUserLists, LibraryString(kStringAllHoldings), CString(), true);
 }
 
 // Whenever the service is asked or the terminal is told, the terminal may log in, change holdings
@@ -53,13 +50,13 @@ void AccountLists::UpdateLogin(const CString& tsId) {
   table_->Put(tsId, available, std::move(fresh));
   UpdateAllHoldings(tsId);
   UpdateListsOf(tsId);
-  Notify(kNotifySymbols, kReasonTrading);
+  Notify(kNotifySymbols, TQReasonTradingLists);
 }
 
 void AccountLists::UpdateAllHoldings(const CString& tsId) {
   if (const CTS* const system = FindSystem(tsId))
-    Update(kAllHoldings, kUserLists, LibraryString(kStringAllHoldings), system->MergedHoldings(),
-           true);
+    Update(TQListIdAllHoldings, kUserLists, LibraryString(kStringAllHoldings),
+           system->MergedHoldings(), true);
 }
 
 void AccountLists::UpdateListsOf(const CString& tsId) {
@@ -89,7 +86,7 @@ void AccountLists::UpdateHoldings(const CString& tsId, const CString& accountId,
     Update(list.id, kTradingLists, list.name, list.symbols, true);
   }
   UpdateAllHoldings(tsId);
-  Notify(kNotifySymbols, kReasonTrading);
+  Notify(kNotifySymbols, TQReasonTradingLists);
 }
 
 int AccountLists::HoldingsOf(const CString& tsId, const CString& accountId,

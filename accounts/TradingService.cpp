@@ -4,6 +4,7 @@
 
 #include "accounts/Holdings.h"
 #include "platform/Text.h"
+#include "platform/diagnostics/ServiceChecks.h"
 
 namespace tq {
 namespace {
@@ -30,7 +31,10 @@ bool FindInfo(const CString& tsId, TQS_TSINFO& found) {
   const int count = std::min(TQSGetTSCount(), kMostSystems);
   for (int i = 0; i < count; ++i) {
     TQS_TSINFO info = {};
-    if (TQSGetTSInfo(i, &info) != 0 && FieldText(info.id) == wanted) {
+    if (TQSGetTSInfo(i, &info) == 0)
+      continue;
+    CheckRecord("TQSGetTSInfo", info);
+    if (FieldText(info.id) == wanted) {
       found = info;
       return true;
     }
@@ -48,6 +52,7 @@ bool FetchTradingSystem(const CString& tsId, CTS& system) {
     CAccount account;
     if (TQSGetTSAccount(tsId, i, &account.info) == 0)
       continue;
+    CheckRecord("TQSGetTSAccount", account.info);
     FetchHoldings(tsId, account.Id(), account.info.type, account.holdings);
     system.accounts.push_back(std::move(account));
   }

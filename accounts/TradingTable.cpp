@@ -6,6 +6,7 @@
 #include "accounts/TradingService.h"
 #include "platform/FileAccess.h"
 #include "platform/Text.h"
+#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 
@@ -70,7 +71,8 @@ void TradingTable::Changed() {
   if (path_.IsEmpty())
     return;
   const std::string text = TradingFileText(systems_);
-  Files().SaveWholeFile(path_, text.data(), text.size());
+  if (Files().SaveWholeFile(path_, text.data(), text.size()) != SaveResult::Saved)
+    NoteProblem(TQProblemFileNotWritten, "%s could not be written", path_.GetString());
 }
 
 } // namespace tq

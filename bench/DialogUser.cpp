@@ -12,7 +12,7 @@ std::function<void(CDialog&)> user;
 
 void ActAsUser(CDialog& dialog) {
   user(dialog);
-  tq::DialogAccess::Command(dialog, CDialog::Cancelled, ControlEvent::Clicked);
+  tq::DialogAccess::Command(dialog, CDialog::Cancelled, WindowEvent::Clicked);
 }
 
 } // namespace

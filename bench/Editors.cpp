@@ -206,7 +206,7 @@ private:
     Click(dialog, kCode);
     for (std::size_t i = 0; i < kMore; ++i) {
       tq::headless::TypeText(dialog.GetSafeHwnd(), ids_[size_ + i].c_str());
-      tq::headless::PressKey(dialog.GetSafeHwnd(), Key::Enter, tq::headless::Modifier::None);
+      tq::headless::PressKey(dialog.GetSafeHwnd(), WindowKey::Enter, tq::headless::Modifier::None);
     }
   }
 

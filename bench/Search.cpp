@@ -64,7 +64,7 @@ private:
     tq::headless::Click(CWnd(dialog, kInput).GetSafeHwnd());
     tq::headless::TypeText(dialog.GetSafeHwnd(), text.c_str());
     const double seconds = Computing([&] {
-      tq::headless::PressKey(dialog.GetSafeHwnd(), Key::Enter, tq::headless::Modifier::None);
+      tq::headless::PressKey(dialog.GetSafeHwnd(), WindowKey::Enter, tq::headless::Modifier::None);
       DrawSight(dialog, kTable);
     });
     shown = CListCtrl(dialog, kTable).GetRowCount();

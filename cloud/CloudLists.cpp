@@ -6,6 +6,7 @@
 #include "platform/Log.h"
 #include "platform/Notify.h"
 #include "platform/Text.h"
+#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 namespace {
@@ -51,11 +52,16 @@ void CloudLists::Update(const CString& id, const CString& name, const CString& s
 
 int CloudLists::Add(const CString& id, const CString& name, const CString& symbols,
                     bool allowEmpty) {
-  if (StorableText(name).IsEmpty() || (symbols.IsEmpty() && !allowEmpty))
-    return 0;
-  return lists_.AddResolved(
+  if (StorableText(name).IsEmpty())
+    return NoteProblem(TQProblemName, "the name is empty");
+  if (symbols.IsEmpty() && !allowEmpty)
+    return NoteProblem(TQProblemSymbols, "there are no symbols");
+  const int added = lists_.AddResolved(
       id, name, [&] { return lists_.ProblemsOfNewId(id) == 0; },
       [&symbols](CSymbolList& list) { list.Update1(WithoutEmptyPieces(symbols)); });
+  return added != 0
+             ? added
+             : NoteProblem(TQProblemId, "no new list can bear the identifier '%s'", id.GetString());
 }
 
 void CloudLists::UpdateGroup(void* handle) const {

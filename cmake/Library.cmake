@@ -8,9 +8,7 @@ add_library(tqSymbol SHARED ${TQ_SUBSYSTEMS})
 set_target_properties(tqSymbol PROPERTIES PREFIX "${CMAKE_SHARED_LIBRARY_PREFIX}" LINKER_LANGUAGE CXX)
 if(WIN32)
   set_target_properties(tqSymbol PROPERTIES PREFIX "")
-  enable_language(RC)
-  configure_file(dialogs/resources/Version.rc.in Version.rc @ONLY)
-  set(resources dialogs/resources/tqSymbol.rc ${CMAKE_CURRENT_BINARY_DIR}/Version.rc)
+  set(resources dialogs/resources/tqSymbol.rc)
   target_sources(tqSymbol PRIVATE ${resources})
   set_source_files_properties(${resources} PROPERTIES COMPILE_OPTIONS "-c65001")
   # The resource compiler does not tell which files it includes.
@@ -20,6 +18,8 @@ if(WIN32)
   set_source_files_properties(dialogs/resources/tqSymbol.rc PROPERTIES OBJECT_DEPENDS
     "${TQ_RESOURCE_TEXTS}")
 endif()
+tq_version_resource(tqSymbol "自選商品組合與商品代碼" "自选商品组合与商品代码")
+tq_keep_symbols_apart(tqSymbol)
 target_link_libraries(tqSymbol PUBLIC tqFramework PRIVATE tqOptions tqPlatformLibs tqServices)
 
 # The same objects for tests of what the library does not export.

@@ -22,7 +22,8 @@ endif()
 
 add_library(tqOptions INTERFACE)
 target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
-  -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Werror
+  -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+  $<$<BOOL:${TQ_WERROR}>:-Werror>
   # GCC 12 sees overlapping copies in every optimised assignment of a literal to a std::string.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})

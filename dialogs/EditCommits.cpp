@@ -7,6 +7,7 @@
 #include "manager/TQSymbolListMgr.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
+#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 namespace {
@@ -49,9 +50,9 @@ bool NamesDiffer(const WorkingCopy& stored, const WorkingCopy& copy) {
 
 void ReportChange(const ChangeLines& lines, long code, bool countChanged, bool nameChanged) {
   if (countChanged)
-    Report(lines.count, code, "ListCntChange");
+    Report(lines.count, code, TQReasonListCount);
   else if (nameChanged)
-    Report(lines.name, code, kReasonNames);
+    Report(lines.name, code, TQReasonListNames);
   else
     Report(lines.other, code, "");
 }
@@ -79,6 +80,7 @@ void StoreAndSave(CTQSymbolListMgr& manager, WorkingCopy& copy) {
   manager.SetSymbolList(&lists);
   copy.ReportKept();
   manager.SaveSymbolList();
+  Operation::TakeOverProblem();
 }
 
 bool StoreIfModified(CTQSymbolListMgr& manager, WorkingCopy& copy) {

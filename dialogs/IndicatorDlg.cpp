@@ -111,14 +111,14 @@ void IndicatorDlg::SelectRow(int row) {
 // Enter chooses nothing: closing with OK would look like a double-click.
 void IndicatorDlg::OnOK() {}
 
-void IndicatorDlg::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::SelectionChanged && (id == kRegions || id == kCategories))
+void IndicatorDlg::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::SelectionChanged && (id == kRegions || id == kCategories))
     FillList();
 }
 
-void IndicatorDlg::OnNotify(int id, const ListNotice& notice) {
+void IndicatorDlg::OnNotify(int id, const WindowListNotice& notice) {
   const CListCtrl list(*this, kList);
-  if (id != kList || notice.kind != ListNotice::Kind::DoubleClicked || notice.row < 0 ||
+  if (id != kList || notice.kind != WindowListNotice::Kind::DoubleClicked || notice.row < 0 ||
       list.GetSelectedCount() > 1)
     return;
   chosen_ = table_.Texts(static_cast<int>(list.GetItemData(notice.row)));

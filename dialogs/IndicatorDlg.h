@@ -32,8 +32,8 @@ protected:
 
   bool OnInitDialog() override;
   void OnOK() override;
-  void OnCommand(int id, ControlEvent event) override;
-  void OnNotify(int id, const ListNotice& notice) override;
+  void OnCommand(int id, WindowEvent event) override;
+  void OnNotify(int id, const WindowListNotice& notice) override;
 
 private:
   void PrepareList();

@@ -10,6 +10,7 @@
 #include "dialogs/search/SymbolSearchDlg.h"
 #include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
+#include "platform/diagnostics/Operation.h"
 #include "platform/services/tqCommon.h"
 #include "symbolid/ListID.h"
 
@@ -19,9 +20,21 @@ int CTQSymbolListMgr::m_bDoModal = 0;
 
 namespace {
 
+int WithReason(int result) {
+  if (result == CDialog::Failed)
+    tq::NoteProblem(TQProblemDialog,
+                    "the dialog could not be made, or another one of its family is open");
+  return result;
+}
+
 // As the terminal runs the dialogs that are bound to a manager.
 int RunAsTerminal(CDialog& dialog) {
-  return tqDoModal(&dialog, 0, 1, 0);
+  return WithReason(tqDoModal(&dialog, 0, 1, 0));
+}
+
+int NoteNoManager() {
+  tq::NoteProblem(TQProblemNull, "there is no manager, or no list");
+  return CDialog::Failed;
 }
 
 // The editor has a copy, so that a list of the manager's differs from it when it is stored.
@@ -33,7 +46,7 @@ bool EditOneList(CTQSymbolListMgr& manager, CSymbolTableMgr* tables, CSymbolList
   const bool isOwn = own == &list;
   CSymbolList edited(list);
   const auto task = mode == 0 ? ContentEditor::Mode::New : ContentEditor::Mode::Edit;
-  if (tq::RunContentEditor(kind, {manager, tables}, parent, {edited, task, nullptr}) !=
+  if (WithReason(tq::RunContentEditor(kind, {manager, tables}, parent, {edited, task, nullptr})) !=
       CDialog::Accepted)
     return false;
   if (!isOwn) { // the manager's own may be gone by now, and is behind the commit
@@ -66,8 +79,9 @@ CString ListIdOf(const CSymbolSearchDlg::Place& place) {
 
 int CTQSymbolListMgr::DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                      WindowHandle parent) noexcept {
+  const tq::Operation operation("DoSymbolListUI");
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   const int countBefore = manager->GetSymbolListCount(tq::kUserLists);
   const CWnd window(parent);
@@ -79,8 +93,9 @@ int CTQSymbolListMgr::DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr*
 
 int CTQSymbolListMgr::DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                           WindowHandle parent) noexcept {
+  const tq::Operation operation("DoCloudSymbolListUI");
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   const int countBefore = manager->GetSymbolListCount(tq::kCloudLists);
   const CWnd window(parent);
@@ -92,16 +107,22 @@ int CTQSymbolListMgr::DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTabl
 
 bool CTQSymbolListMgr::DoGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                      CSymbolList* list, int mode, CWnd* parent, int) noexcept {
-  if (manager == nullptr || list == nullptr)
+  const tq::Operation operation("DoGroupListUI");
+  if (manager == nullptr || list == nullptr) {
+    NoteNoManager();
     return false;
+  }
   const tq::ResourceContext context(tq::LibraryResources());
   return EditOneList(*manager, tables, *list, tq::kUserLists, mode, parent, tq::CommitEditedList);
 }
 
 bool CTQSymbolListMgr::DoCloudGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                           CSymbolList* list, int mode, CWnd* parent, int) noexcept {
-  if (manager == nullptr || list == nullptr)
+  const tq::Operation operation("DoCloudGroupListUI");
+  if (manager == nullptr || list == nullptr) {
+    NoteNoManager();
     return false;
+  }
   const tq::ResourceContext context(tq::LibraryResources());
   return EditOneList(*manager, tables, *list, tq::kCloudLists, mode, parent,
                      tq::CommitEditedCloudList);
@@ -109,8 +130,9 @@ bool CTQSymbolListMgr::DoCloudGroupListUI(CTQSymbolListMgr* manager, CSymbolTabl
 
 int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                        CWnd* parent, const char* symbol) noexcept {
+  const tq::Operation operation("DoGroupSymbolAdd", "symbol", symbol);
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   CGroupSymbolAdd dialog({*manager, tables}, parent, symbol);
   const int result = RunAsTerminal(dialog);
@@ -121,8 +143,9 @@ int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMg
 int CTQSymbolListMgr::DoSymbolAddUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                     WindowHandle parent, const CString& symbols,
                                     const CString& listId) noexcept {
+  const tq::Operation operation("DoSymbolAddUI", "symbols,listId", symbols, listId);
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   const CWnd window(parent);
   CSymbolAddDlg dialog({*manager, tables}, &window, symbols, listId);
@@ -134,8 +157,9 @@ int CTQSymbolListMgr::DoSymbolAddUI(CTQSymbolListMgr* manager, CSymbolTableMgr* 
 int CTQSymbolListMgr::DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                  WindowHandle parent, const CString& input, SymbolInfo* result,
                                  int forceList, CListID* place) noexcept {
+  const tq::Operation operation("DoSearchUI", "input", input);
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   if (place != nullptr)
     CSymbolSearchDlg::Remembered() = {place->GetGroupID(), place->GetSubGroupID()};
@@ -152,8 +176,9 @@ int CTQSymbolListMgr::DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tab
 int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tables,
                                  WindowHandle parent, int* kind, CString& text, int,
                                  bool holdings) noexcept {
+  const tq::Operation operation("DoSelectUI");
   if (manager == nullptr)
-    return CDialog::Failed;
+    return NoteNoManager();
   const tq::ResourceContext context(tq::LibraryResources());
   const CWnd window(parent);
   CSymbolSetDlg dialog({*manager, tables}, &window, {kind == nullptr ? 0 : *kind, text}, holdings);
@@ -170,6 +195,7 @@ int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tab
 }
 
 int CTQSymbolListMgr::EndDomodal(WindowHandle dialog, int result) noexcept {
+  tq::CheckCall("EndDomodal");
   if (m_bDoModal == 0)
     return 0;
   CDialog* const running = CDialog::FromHandle(dialog);
@@ -181,19 +207,23 @@ int CTQSymbolListMgr::EndDomodal(WindowHandle dialog, int result) noexcept {
 
 int CTQSymbolListMgr::DoSearchFinIndi(WindowHandle parent, const CString& input, CString& name,
                                       CString& code) noexcept {
+  const tq::Operation operation("DoSearchFinIndi", "input", input);
   const tq::ResourceContext context(tq::LibraryResources());
-  return CFinIndiSearchDlg(CWnd(parent), input).Search(name, code);
+  return WithReason(CFinIndiSearchDlg(CWnd(parent), input).Search(name, code));
 }
 
 int CTQSymbolListMgr::DoSearchCommIndi(WindowHandle parent, const CString& input, CString& name,
                                        CString& code, const CString& input2, const CString& input3,
                                        InfoType type) noexcept {
+  const tq::Operation operation("DoSearchCommIndi", "input,input2,input3", input, input2, input3);
   const tq::ResourceContext context(tq::LibraryResources());
-  return CNationalCommodityDlg(CWnd(parent), type, {input, input2, input3}).Search(name, code);
+  return WithReason(
+      CNationalCommodityDlg(CWnd(parent), type, {input, input2, input3}).Search(name, code));
 }
 
 int CTQSymbolListMgr::DoSearchOptionIndi(WindowHandle parent, const CString& input, CString& name,
                                          CString& code, CString& market) noexcept {
+  const tq::Operation operation("DoSearchOptionIndi", "input", input);
   const tq::ResourceContext context(tq::LibraryResources());
-  return CNationalOptionDlg(CWnd(parent), input).Search(name, code, &market);
+  return WithReason(CNationalOptionDlg(CWnd(parent), input).Search(name, code, &market));
 }

@@ -2,12 +2,14 @@
 
 #include <cstring>
 #include <new>
+#include <set>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "exchanges/DefaultExchanges.h"
 #include "platform/ServiceArray.h"
+#include "platform/diagnostics/DebugMode.h"
 #include "symboltable/ExchangeService.h"
 
 namespace tq {
@@ -20,7 +22,7 @@ std::vector<ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, b
   std::vector<ServiceArray<SymbolInfo>> lists;
   lists.reserve(static_cast<size_t>(exchanges.GetSize()));
   for (const unsigned exchange : exchanges) {
-    ServiceArray<SymbolInfo> list;
+    ServiceArray<SymbolInfo> list("VLGetSymbolInfos2");
     if (VLGetSymbolInfos2(static_cast<int>(exchange), kAllSections, list.List(), list.Count(), 0) ==
         0)
       complete = false;
@@ -33,6 +35,34 @@ std::vector<ServiceArray<SymbolInfo>> ReadSymbols(const CUIntArray& exchanges, b
 // Null without memory: there are hundreds of bytes for each symbol of a market, in one piece.
 std::unique_ptr<SymbolInfo[]> RoomFor(size_t count) {
   return std::unique_ptr<SymbolInfo[]>(new (std::nothrow) SymbolInfo[count]);
+}
+
+// Of the debug mode: the copies that are with the terminal, and those that it has released since.
+// Others were handed out before, and some of those are released by delete[], so that nothing is
+// known of them.
+std::set<const SymbolInfo*> handedOut;
+std::set<const SymbolInfo*> released;
+bool anyBefore = false;
+
+void NoteHandedOut(const SymbolInfo* infos) {
+  if (!IsDebugging()) {
+    anyBefore = true;
+    return;
+  }
+  handedOut.insert(infos);
+  released.erase(infos);
+}
+
+bool MayFree(const SymbolInfo* infos) {
+  if (infos == nullptr || !IsDebugging())
+    return true;
+  if (handedOut.erase(infos) == 0 && (released.contains(infos) || !anyBefore)) {
+    ReportMistake(TQProblemMisuse,
+                  "FreeSymbolInfos: infos was released before, or is of another operation");
+    return false;
+  }
+  released.insert(infos);
+  return true;
 }
 
 } // namespace
@@ -85,12 +115,15 @@ int AllSymbols::Copy(SymbolInfo** out, int* count) const {
   if (copy == nullptr)
     return 0;
   std::memcpy(copy.get(), infos_.get(), static_cast<size_t>(count_) * sizeof(SymbolInfo));
+  NoteHandedOut(copy.get());
   *out = copy.release();
   *count = count_;
   return 1;
 }
 
 void AllSymbols::Free(SymbolInfo* infos) {
+  if (!MayFree(infos))
+    return;
   const std::unique_ptr<SymbolInfo[]> released(infos);
 }
 

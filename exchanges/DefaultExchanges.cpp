@@ -54,7 +54,7 @@ int DefaultExchanges::Init() {
   // until then.
   CUIntArray ids;
   Read(ids, useUsers_ != 0);
-  ServiceArray<ExchInfo> list;
+  ServiceArray<ExchInfo> list("VLGetExch");
   const int result = VLGetExch(list.List(), list.Count(), 1);
   const std::span<const ExchInfo> records =
       result == 0 ? std::span<const ExchInfo>() : list.Records();

@@ -51,6 +51,15 @@ void GroupLevel::SetNameAt(int index, const char* name) {
     SetGroupName(records_[Place(index)], name);
 }
 
+bool GroupLevel::Holds(const CGroupList* list) const {
+  for (int i = 0; i < static_cast<int>(parts_.size()); ++i) {
+    const GroupLevel* const subs = SubsAt(i);
+    if (KnownListAt(i) == list || (subs != nullptr && subs->Holds(list)))
+      return true;
+  }
+  return false;
+}
+
 int GroupLevel::Find(const FoldedId& id) {
   if (Count() <= kSmallLevel)
     return Scan(id);

@@ -42,6 +42,8 @@ public:
   int SubCountAt(int index) const;
   void SetNameAt(int index, const char* name);
 
+  // Whether it is a list of this level, or of one below. Looks at every group.
+  bool Holds(const CGroupList* list) const;
   // The index of the first group with that id, ignoring letter case, or -1.
   int Find(const FoldedId& id);
   int Find(const char* id);

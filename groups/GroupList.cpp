@@ -4,6 +4,7 @@
 
 #include "groups/GroupLevel.h"
 #include "platform/Log.h"
+#include "platform/diagnostics/ServiceChecks.h"
 
 CGroupList::CGroupList(const GroupInfo& info) : CGroupList(info, nullptr) {}
 
@@ -66,6 +67,8 @@ int CGroupList::LoadSymbols() {
       VLFree(records);
     return 0;
   }
+  if (tq::IsDebugging())
+    tq::CheckArray("VLGetGroupSymbol", records, count);
   // Members that the terminal has set meanwhile, those of a cloud list for example, are kept.
   if (!CIDList::GetIDs().IsEmpty()) {
     if (records != nullptr)

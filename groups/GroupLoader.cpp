@@ -23,7 +23,7 @@ bool GroupLoader::Fill(const Asked& asked, GroupLevel& level) {
 // The array is released before the levels below are asked for, so that a tree costs the service
 // one array at a time.
 bool GroupLoader::Ask(const Asked& asked, GroupLevel& level, bool& haveSubs) {
-  ServiceArray<GroupInfo> array;
+  ServiceArray<GroupInfo> array("VLGetSubGroup");
   if (VLGetSubGroup(asked.type, asked.id, array.List(), array.Count()) == 0)
     return false;
   const std::span<const GroupInfo> records = array.Records();

@@ -23,7 +23,8 @@ void CGroupMgr::Empty() {
 
 int CGroupMgr::Load() {
   Empty();
-  return tq::GroupLoader().Load(type_, groups_) ? 1 : 0;
+  failed_ = !tq::GroupLoader().Load(type_, groups_);
+  return failed_ ? 0 : 1;
 }
 
 tq::GroupLevel& CGroupMgr::EditGroups() {

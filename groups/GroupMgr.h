@@ -17,6 +17,9 @@ public:
   // Frees all groups.
   void Empty();
 
+  // Whether the service failed at the latest load.
+  bool HasFailed() const { return failed_; }
+
   int GetType() const { return type_; }
   // The top-level groups, in order. Null for an index out of range and for an unknown id.
   int GetCount() const { return groups_.Count(); }
@@ -50,6 +53,7 @@ private:
   CGroupList* ListAt(const SubPlace& place);
 
   int type_;
+  bool failed_ = false;
   tq::GroupLevel groups_;
   // Sorted by id, those of one id in their order; built lazily. A sorted array of a hundred
   // thousand ids is built and dropped in a tenth of the time that a hash table takes.

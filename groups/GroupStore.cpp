@@ -5,6 +5,8 @@
 #include <numeric>
 #include <utility>
 
+#include "platform/diagnostics/Operation.h"
+
 namespace tq {
 namespace {
 
@@ -13,7 +15,7 @@ constexpr auto kFullLoad = [] {
   constexpr int kNumbered = 21; // from 1 on
   std::array<int, kNumbered + 2> types = {};
   std::iota(types.begin(), types.begin() + kNumbered, 1);
-  types[kNumbered] = 101;
+  types[kNumbered] = TQGroupTypeEditionMarkets;
   types[kNumbered + 1] = kCloudGroupType;
   return types;
 }();
@@ -25,6 +27,15 @@ bool IsServiceType(int type) {
 // Only groups of these types can be searched for a symbol; the service defines what they are.
 bool IsSearchedForSymbols(int type) {
   return type == 2 || type == 7 || type == 8;
+}
+
+int NoteType(int type) {
+  return NoteProblem(TQProblemRange, "there are no groups of type %d", type);
+}
+
+void NoteFailure(const CGroupMgr& manager) {
+  if (manager.HasFailed())
+    NoteProblem(TQProblemService, "VLGetSubGroup fails for type %d", manager.GetType());
 }
 
 int CopyRecord(const GroupLevel* level, int index, GroupInfo* out) {
@@ -74,12 +85,13 @@ int GroupStore::LoadAll() {
 
 int GroupStore::Load(int type) {
   if (!IsServiceType(type) && type != kCloudGroupType)
-    return 0;
+    return NoteType(type);
   const auto present = FirstOf(type);
   if (present == managers_.end())
     return Add(type);
   (*present)->Empty();
   Manager loaded = MakeLoaded(type);
+  NoteFailure(*loaded);
   const auto place = FirstOf(type); // the terminal may have moved or removed it
   if (place == managers_.end())
     return 0;
@@ -91,8 +103,9 @@ int GroupStore::Load(int type) {
 // added at the end changes no other entry of the map, stale ones included.
 int GroupStore::Add(int type) {
   if (!IsServiceType(type))
-    return 0;
+    return NoteType(type);
   Manager manager = MakeLoaded(type);
+  NoteFailure(*manager);
   const auto greater = std::find_if(managers_.begin(), managers_.end(),
                                     [=](const Manager& other) { return other->GetType() > type; });
   const int index = static_cast<int>(greater - managers_.begin());
@@ -114,10 +127,10 @@ int GroupStore::Update(int type) {
 // The other entries of the map are not renumbered: see the top of GroupStore.h.
 int GroupStore::Remove(int type) {
   if (!IsServiceType(type))
-    return 0;
+    return NoteType(type);
   const auto found = FirstOf(type);
   if (found == managers_.end())
-    return 0;
+    return NoteProblem(TQProblemNoList, "type %d of groups is not loaded", type);
   managers_.erase(found);
   indexes_.erase(type);
   return 1;
@@ -171,6 +184,11 @@ int GroupStore::CopyInfo(int type, const CGroupList* handle, int index, GroupInf
 int GroupStore::CopyInfo(int type, const char* id, int index, GroupInfo* out) const {
   CGroupMgr* const manager = Loaded(type);
   return manager == nullptr ? 0 : CopyRecord(LevelOf(*manager, id), index, out);
+}
+
+bool GroupStore::Holds(const CGroupList* handle) const {
+  return std::any_of(managers_.begin(), managers_.end(),
+                     [=](const Manager& manager) { return manager->Groups().Holds(handle); });
 }
 
 CGroupList* GroupStore::FindHandle(int type, std::string_view id) const {

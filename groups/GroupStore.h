@@ -60,6 +60,8 @@ public:
   int CountGroups(int type, const char* id) const;
   int CopyInfo(int type, const CGroupList* handle, int index, GroupInfo* out) const;
   int CopyInfo(int type, const char* id, int index, GroupInfo* out) const;
+  // Whether it is a group's handle that is good now. Looks at every group.
+  bool Holds(const CGroupList* handle) const;
   // Null when there is none.
   CGroupList* FindHandle(int type, std::string_view id) const;
   CGroupList* FindSub(int type, std::string_view id) const;

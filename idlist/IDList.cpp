@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "idlist/IdString.h"
@@ -159,11 +160,13 @@ bool CIDList::Ask(int headings, const CString& lookup) {
   const CString asked = ids_;
   const tq::LifeWatch watch(watch_);
   {
-    tq::ServiceArray<SymbolInfo> answer;
-    const int answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count());
+    tq::ServiceArray<SymbolInfo> answer("VLGetSymbolInfos");
+    const bool answered = VLGetSymbolInfos(lookup, answer.List(), answer.Count()) != 0;
+    const std::span<const SymbolInfo> found =
+        answered ? answer.Records() : std::span<const SymbolInfo>();
     // If the terminal changed the list during the call, this answer is to an outdated question.
-    if (!watch.IsGone() && answered != 0 && ids_ == asked)
-      TakeRows(answer.Records().data(), static_cast<int>(answer.Records().size()), headings);
+    if (!watch.IsGone() && answered && ids_ == asked)
+      TakeRows(found.data(), static_cast<int>(found.size()), headings);
   }
   return !watch.IsGone();
 }

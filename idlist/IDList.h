@@ -88,7 +88,7 @@ protected:
   // Drops the records, so that the next GetCount or GetAt asks the service anew.
   void DiscardRecords() noexcept;
 
-  // The innermost watch on this list's life, see idlist/LifeWatch.h.
+  // The innermost of the operations under way that have to know when the list is deleted.
   tq::LifeWatch* watch_;
 
 private:

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/framework/CString.h"
+#include "platform/interface/TQSymbolNames.h"
 
 namespace tq {
 
@@ -14,7 +15,7 @@ inline constexpr char kImportFileName[] = "\\OldOTVList.xml";
 inline constexpr char kImportedFileName[] = "\\Added_OldOTVList.xml";
 
 // The product whose file is imported at a start.
-inline constexpr int kImportedProduct = 1;
+inline constexpr int kImportedProduct = TQImportEOrvel;
 
 struct ImportedList {
   CString id;

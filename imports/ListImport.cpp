@@ -7,6 +7,7 @@
 #include "platform/FileAccess.h"
 #include "platform/Log.h"
 #include "platform/Notify.h"
+#include "platform/diagnostics/Operation.h"
 #include "symbollist/ListName.h"
 
 namespace tq {
@@ -54,8 +55,12 @@ void Announce(int taken) {
 
 int ImportFile(UserLists& lists, const CString& path, int product) {
   std::vector<ImportedList> imported;
-  if (path.IsEmpty() || !ReadImportFile(path, product, imported))
-    return 0;
+  if (path.IsEmpty())
+    return NoteProblem(TQProblemNoFile, "the path is empty");
+  if (!ReadImportFile(path, product, imported))
+    return NoteProblem(TQProblemFileUnreadable,
+                       "%s cannot be read as lists of product %d, or there is no such product",
+                       path.GetString(), product);
   int taken = 0;
   TakeAllIn(lists, imported, taken);
   Announce(taken);
@@ -75,7 +80,7 @@ int ImportOnce(UserLists& lists) {
   }
   std::vector<ImportedList> imported;
   if (!ReadImportFile(path, kImportedProduct, imported))
-    return 0;
+    return NoteProblem(TQProblemFileUnreadable, "%s cannot be read", path.GetString());
   int taken = 0;
   // Lists that are not on the disk yet would be lost with the file.
   if (TakeAllIn(lists, imported, taken) != 0)

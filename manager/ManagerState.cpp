@@ -4,6 +4,8 @@
 #include "idlist/ListKind.h"
 #include "imports/ListImport.h"
 #include "platform/Log.h"
+#include "platform/diagnostics/Versions.h"
+#include "platform/interface/TQSymbolVersion.h"
 #include "symboltable/MovedSymbols.h"
 
 namespace tq {
@@ -15,6 +17,9 @@ ManagerState::ManagerState()
       groups([this](CGroupMgr& cloudGroups) { cloudLists.RefreshGroups(cloudGroups); }) {}
 
 int ManagerState::Start(const StartOptions& options) {
+  if (!VersionFits(tqSymbolVersion(), tqFrameworkVersion()))
+    return NoteProblem(TQProblemVersion, "tqFramework is of version %d, tqSymbol of version %d",
+                       tqFrameworkVersion(), tqSymbolVersion());
   userLists.WantSystemLists(options.systemLists);
   accountLists.Want(options.accountLists);
   defaultExchanges.UseUsers(options.useUserDefExch);
@@ -51,8 +56,25 @@ bool ManagerState::BuildSymbolTables(bool load) {
   symbolTables.reset();
   OpenLog();
   symbolTables = std::make_unique<CSymbolTableMgr>();
-  return !load || (symbolTables->Init() != 0 && symbolTables->InitAllSymbolTable() != 0 &&
-                   symbolTables->InitAuthorizedExch() != 0);
+  if (!load)
+    return true;
+  symbolTables->Init();
+  if (symbolTables->InitAllSymbolTable() == 0) {
+    NoteProblem(TQProblemService, "the symbol tables: VLGetExch or VLGetBaseAttrs2 fails");
+    return false;
+  }
+  if (symbolTables->InitAuthorizedExch() == 0) {
+    NoteProblem(TQProblemService, "the user's exchanges: TQSGetUserInfo fails");
+    return false;
+  }
+  return true;
+}
+
+bool ManagerState::IsGroup(const char* operation, const void* handle) const {
+  if (handle == nullptr || groups.Holds(static_cast<const CGroupList*>(handle)))
+    return true;
+  ReportMistake(TQProblemMisuse, "%s: handle is of no group that there is now", operation);
+  return false;
 }
 
 void ManagerState::PassDefaultsToTables() {

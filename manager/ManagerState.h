@@ -10,6 +10,7 @@
 #include "exchanges/AllSymbols.h"
 #include "exchanges/DefaultExchanges.h"
 #include "groups/GroupStore.h"
+#include "platform/diagnostics/Operation.h"
 #include "symbollist/UserLists.h"
 #include "symboltable/SymbolTableMgr.h"
 
@@ -37,6 +38,11 @@ struct ManagerState {
   static bool HasKind(int kind);
   bool RenameSymbols(CString& ids, const CString& oldExchange, const CString& newExchange) const;
   void ReloadDefaultExchanges(bool force);
+  // Whether a group's handle may be used. The debug mode looks for it among the groups that there
+  // are, and reports one that is not; without it every handle may.
+  bool IsUsable(const char* operation, const void* handle) const {
+    return !IsDebugging() || IsGroup(operation, handle);
+  }
 
   std::unique_ptr<CSymbolTableMgr> symbolTables; // null before the first start
   DefaultExchanges defaultExchanges;
@@ -50,6 +56,7 @@ struct ManagerState {
 
 private:
   bool BuildSymbolTables(bool load);
+  bool IsGroup(const char* operation, const void* handle) const;
   void PassDefaultsToTables();
   RenameMoved RenameByTables();
 

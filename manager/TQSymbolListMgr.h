@@ -7,16 +7,18 @@
 //  2. Results are int, non-zero for success and 0 for failure or not found, unless an operation
 //     says otherwise. Nothing throws: without memory for a block that a file or a service makes
 //     large an operation fails as its description says, without memory for anything else the
-//     process is stopped (docs/trust.md). A null text is taken as an empty one. An output may be
+//     process is stopped (trust.md). A null text is taken as an empty one. An output may be
 //     the object that an input is; when two outputs are one object, it gets the text of the last
 //     one.
 //  3. Text is in the process's ANSI code page, Big5 (950) or GB2312 (936). Symbol ids in one string
 //     are joined by "," without blanks.
 //  4. Lists are addressed by a kind (1: the user's lists, 6: lists from trading accounts, 8: cloud
 //     lists; any other kind has none) and either by position from 0 or by identifier. Identifiers
-//     are compared ignoring letter case.
+//     are compared ignoring letter case. Kinds, and the other plain numbers of this header, have
+//     names in TQSymbolNames.h.
 //  5. The manager owns its lists and tables and frees them. What it hands out are copies, which
-//     belong to the caller, unless an operation says otherwise.
+//     belong to the caller, unless an operation says otherwise. What is released, and by what
+//     (delete, VLFree, FreeSymbolInfos), stands in ownership.md; TQSymbolOwned.h does it.
 //  6. The user's lists come from the list file, groups from the symbol-data service, cloud lists
 //     from the terminal, and lists from trading accounts from the trading-system proxy. A group is
 //     addressed by type and id or by a handle, which is good until its type is loaded anew, removed
@@ -30,12 +32,15 @@
 //     an empty one no file is read or written. A save leaves the old file or the new one, never a
 //     part.
 //  9. Which operations save, write a line to the log and tell the terminal by TQSCall stands in one
-//     table, docs/notifications.md.
+//     table, notifications.md.
+// 10. The spelling of some names is the interface's, as its callers have always had it (Symobl,
+//     Hodling, Restor, Cloude, Domodal). They are marked, and are not mended.
+// 11. Pages that are named here (trust.md) are those of the library's documentation.
 //
-// In this order: start; the list file; the list shown first; the lists in memory; editing whole
-// lists, and the entries of one; checks; system lists; queries; default exchanges and the order of
-// exchanges; lots, and symbols that change; groups; cloud lists; lists from trading accounts; lists
-// of other products, extra information; dialogs; switches.
+// In this order: start; what went wrong, and the log; the list file; the list shown first; the
+// lists in memory; editing whole lists, and the entries of one; checks; system lists; queries;
+// default exchanges and the order of exchanges; lots, and symbols that change; groups; cloud lists;
+// lists from trading accounts; lists of other products, extra information; dialogs; switches.
 #pragma once
 
 #include <memory>
@@ -48,6 +53,9 @@
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
 #include "platform/framework/window/WindowTypes.h"
+#include "platform/interface/TQSymbolNames.h"
+#include "platform/interface/TQSymbolOptions.h"
+#include "platform/interface/TQSymbolProblem.h"
 #include "platform/services/TQSProxy.h"
 #include "platform/services/VLProxy.h"
 #include "platform/services/tqStockFields.h"
@@ -102,8 +110,48 @@ public:
   int Init(const char* dataDirectory, int bCN, int initSymbolTables, int loadSystemLists,
            CStringArray* systemListNames, int useUserDefExch, int loadTradingLists) noexcept;
 
+  // The same with named options. Besides, returns 0 and changes nothing when the terminal was
+  // compiled with headers of a later minor or of another major version than the library's.
+  int Init(const TQInitOptions& options) noexcept;
+
   // The tables that Init built, or null before it. The manager's; gone with the next Init.
   CSymbolTableMgr* GetSymbolTableMgr() const noexcept;
+
+  // --- What went wrong, and the log --------------------------------------------------------------
+  // All of it is the process's, whatever the manager.
+
+  // Why the latest operation failed, or what its user should know of it: a code, and a text for the
+  // terminal's programmer that begins with the operation's name and names the step, and the path,
+  // the list or the service that it failed at. TQProblemNone and an empty text when there was
+  // nothing. Every operation below counts but for queries, checks and look-ups, which leave it as
+  // it is. An operation may succeed and yet have a problem: a load, which always answers 1, of a
+  // file that is damaged; a save that had to copy another program's lists aside first
+  // (TQProblemFileShared). While an operation runs, those that the terminal calls from within it
+  // have problems of their own.
+  static TQProblem GetLastProblem(CString& text) noexcept;
+  // 1 when a save would change what the list file holds: the latest change of the user's lists, or
+  // of the default index, has not reached the disk, or another program has written other lists
+  // there. Without a data directory 1 when there are lists. Writes nothing; makes the text of a
+  // save to compare, and reads the file when another program has written it.
+  int HasUnsavedChanges() const noexcept;
+  // Where the lines of the library's log go, from now on and for the whole process; may be called
+  // before the first Init.
+  //   directory   where the file is, "tqSymbol_<yyyymmdd>.log", joined by backslashes and without
+  //               one at the end; its last level is created when missing. Null or empty: "Log"
+  //               beside the library
+  //   level       lines of lower levels are dropped; 0: none
+  //   callback    takes each line in the place of the file, with `context`; null: the file
+  // Texts are copied. Returns 0 when the file could not be opened: lines are dropped then.
+  static int SetLog(const char* directory, int level, TQLogCallback callback,
+                    void* context) noexcept;
+  // Looks for mistakes from now on, and names each in the log (level 512; without a log on the
+  // error stream), with operation and argument: calls on another thread than that of the first
+  // call, texts that are not of the code page, handles of groups that are gone, arrays that are
+  // released twice, records of services that break their headers' contracts. A call with a handle
+  // or an array that is not good does nothing then. The environment variable TQSYMBOL_DEBUG, "log"
+  // or "stop", sets it without a call when the first manager is made. Off, a call looks at one
+  // variable for it, and that is all.
+  static void SetDebugMode(TQDebugMode mode) noexcept;
 
   // --- The list file -----------------------------------------------------------------------------
   // A save never destroys lists that were not loaded. Unless the file on the disk is exactly what
@@ -126,10 +174,12 @@ public:
   int SaveSymbolList() noexcept;
   // The same with the backup file.
   int BackupSymbolList() noexcept;
+  // (The spelling is the interface's.)
   // As LoadSymbolList, but from the backup file. The working file is not written, unless the backup
   // contains no list: then it is written at once, empty. A missing backup leaves no lists.
   int RestorSymbolList() noexcept;
-  // Data directory and name of the backup file.
+  // Data directory and name of the backup file, joined with a backslash. TQSystemPath
+  // (TQSymbolText.h) makes of it what the system's own functions open.
   CString GetBackSymbolListPath() noexcept;
   // Writes the working file without any list, whatever is in memory. Results as SaveSymbolList.
   int CreateEmptySymbolListFile() noexcept;
@@ -246,6 +296,13 @@ public:
   // apostrophe, "&", "<", bytes that are no characters. 0 when it can; the empty id can, a GUID
   // takes its place.
   int CheckValidSymbolList(const CString& id, int kind) noexcept;
+  // What a name has against being a list's, as bits of TQTextFault: empty (1), cut at 64 bytes (2),
+  // an apostrophe, "&" or "<", with which the list file does not load again (4), bytes that are
+  // left out (8). 0: it is kept as it is. Whether another list has it is CheckNameExist's matter.
+  static int CheckListName(const CString& name) noexcept;
+  // The same for ids joined by ","; 2: an id of more than 19 bytes, which has no row; 16: an empty
+  // entry. Whether a service knows them is not asked.
+  static int CheckSymbolIds(const CString& symbols) noexcept;
   // Takes the first field off a parameter string: `before` gets the text up to `separator`, `text`
   // keeps what is behind it. Without a separator all of it is taken. An empty text changes nothing.
   static void CutStringAndGetParamBefore(CString& text, char separator, CString& before) noexcept;
@@ -299,6 +356,7 @@ public:
   // when there is none.
   int GetSymbolListIDs(int kind, const CString& id, CString& symbols,
                        CStringArray* tokens) noexcept;
+  // (The spelling is the interface's.)
   // The rows of a list joined by ",": what the service knows, and the headings. `out` is emptied
   // when there is no such list.
   int GetSymoblIDList(const CString& id, CString& out, int kind) noexcept;
@@ -370,9 +428,10 @@ public:
   int LoadDefExchOrder(CUIntArray& order) noexcept;
   void GetDefExchOrder(CUIntArray& order) noexcept;
   static int CheckExchOrder(CUIntArray& order) noexcept;
-  // Builds the buffer of all symbols: the exchanges that are no default ones go towards the end, in
-  // the order that exchanges/DefaultExchanges.h describes. When the service fails a buffer that
-  // is there stays as it is.
+  // Builds the buffer of all symbols, exchange by exchange, those that are no default ones towards
+  // the end: from the first place on, such a one is put behind the last, and the next place is
+  // looked at; what slid into the place just left is passed over. When the service fails a buffer
+  // that is there stays as it is.
   void SortAllSymbolByExch() noexcept;
   // 1 when there is no buffer of all symbols, or an empty one.
   int CheckAllSymbolByExch() noexcept;
@@ -450,6 +509,7 @@ public:
   int GetGroupSymbolCount(void* handle) noexcept;
   int GetGroupSymbolInfo(int type, const char* id, int index, SymbolInfo* out) noexcept;
   int GetGroupSymbolInfo(void* handle, int index, SymbolInfo* out) noexcept;
+  // (The spelling is the interface's.)
   // 1 when the text stands anywhere in the member ids of a group of type 2, 7 or 8, inside of a
   // longer id too. The text behind the group id's first comma counts.
   int FindSymoblInGroupList(int type, const CString& groupId, const CString& symbol) noexcept;
@@ -478,6 +538,7 @@ public:
   // twice: as lists of kind 8, and in the cloud map, from which groups of type 201 take names and
   // members when they are loaded. Symbols are ids joined by ",".
 
+  // (The spelling is the interface's.)
   // Puts a list into the map and, with the same symbols, into the lists of kind 8. Of one that is
   // there already the terminal is told as by UpdateCloudSymbolList below.
   void SetCloudeList(const CString& id, const CString& name, const CString& symbols) noexcept;
@@ -496,10 +557,12 @@ public:
   // Replaces the lists of kind 8 by copies of the CSymbolList pointers in `lists`, which stay the
   // caller's; moved symbols are renamed in both. The number is not used. 0 when `lists` is null.
   int SetCloudSymbolList(CPtrArray* lists, int unused) noexcept;
+  // (The spelling is the interface's.)
   // The map as text: <Cloud>, a List element for each list, </Cloud>.
   CString GetCloudeList() noexcept;
   // Gives a cloud group without sub-groups name and members of the list of its id in the map.
   void UpdateCloudGroup(void* handle) noexcept;
+  // (The spelling is the interface's.)
   // Loads the cloud groups anew and tells the terminal with TQSCall("", -1, 4, "ListNameChange").
   void RefreshCloudeSymbol() noexcept;
 
@@ -518,6 +581,7 @@ public:
   // TQSCall("", -1, 4, "TSSymbolList"). One of the table that is not available any more, or not
   // listed, loses its account lists, and all holdings become empty; an unknown one changes no list.
   void UpdateTSLogin(CString tsId) noexcept;
+  // (The spelling is the interface's.)
   // An account's holdings changed: the same for this account and "ALLMYSTOCKLISTS". What the
   // service cannot tell stays as it was; an account that is not in the table has no list.
   void UpDataTSAccHodling(CString tsId, CString accountId, TqsAccType type) noexcept;
@@ -536,6 +600,7 @@ public:
                          int allowEmpty) noexcept;
   // Deletes the first list of kind 6 with that id.
   int DeleteTSSymbolList(CString id) noexcept;
+  // (The spelling of the first is the interface's.)
   // Holdings joined by ",": of an account; of the first account of that id and type; of all
   // accounts of a type, each symbol once (1, and empty, when there is none of the type). 0,
   // `symbols` untouched, when the table has no such trading system or account.
@@ -545,7 +610,7 @@ public:
   int GetTSSymbolLists(const CString& tsId, TqsAccType type, CString& symbols) noexcept;
 
   // --- Lists of other products, extra information ------------------------------------------------
-  // Adds the lists of an older product's file (docs/import-file.md) behind the user's lists,
+  // Adds the lists of an older product's file (import-file.md) behind the user's lists,
   // numbered by their places in the file, and saves once. Each list is logged and told as by
   // AddSymbolList. `product` 0 to 2 chooses ids and names. 0 when the file could not be read.
   int DoLoadOtherProductList(CString& path, int product) noexcept;
@@ -579,7 +644,7 @@ public:
 
   // The editors of lists. `manager` has the lists, `tables` (may be null: then nothing that is
   // typed is found) the symbols that are typed; the parent is copied. They work on copies, which
-  // are stored when the dialog has closed; the terminal is told then (docs/notifications.md). Those
+  // are stored when the dialog has closed; the terminal is told then (notifications.md). Those
   // but the one for a single symbol are one family: while one of them is open, another one is
   // refused with -1, unless it is opened from within. Without a manager -1, or false.
 
@@ -630,6 +695,7 @@ public:
                         CListID* place) noexcept;
   // 1 exactly while the list selection is open, else 0.
   static int m_bDoModal;
+  // (The spelling is the interface's.)
   // Ends the dialog that runs in that window with an end code of the caller's. Only while
   // m_bDoModal is set, and never an editor of lists or contents: it must not be closed over its
   // user's head. 0 when nothing was ended, else 1.

@@ -6,20 +6,24 @@
 #include "manager/TQSymbolListMgr.h"
 
 int CTQSymbolListMgr::DoLoadOtherProductList(CString& path, int product) noexcept {
+  const tq::Operation operation("DoLoadOtherProductList");
   return tq::ImportFile(state_->userLists, path, product);
 }
 
 int CTQSymbolListMgr::LoadOtherProductList() noexcept {
+  const tq::Operation operation("LoadOtherProductList");
   return tq::ImportOnce(state_->userLists);
 }
 
 void CTQSymbolListMgr::AddExtraTQInfo(const CString& info) noexcept {
+  tq::CheckCall("AddExtraTQInfo", "info", info);
   std::vector<CString>& infos = state_->extraInfo;
   if (!info.IsEmpty() && std::find(infos.begin(), infos.end(), info) == infos.end())
     infos.push_back(info);
 }
 
 void CTQSymbolListMgr::RemoveExtraTQInfo(const CString& info) noexcept {
+  tq::CheckCall("RemoveExtraTQInfo", "info", info);
   std::vector<CString>& infos = state_->extraInfo;
   const auto found = std::find(infos.begin(), infos.end(), info);
   if (found != infos.end())
@@ -27,5 +31,6 @@ void CTQSymbolListMgr::RemoveExtraTQInfo(const CString& info) noexcept {
 }
 
 const std::vector<CString>& CTQSymbolListMgr::GetExtraTQInfo() const noexcept {
+  tq::CheckCall("GetExtraTQInfo");
   return state_->extraInfo;
 }

@@ -36,13 +36,17 @@
 #define TQ_PRINTF_MEMBER
 #endif
 
-// TQ_NOINLINE in front of a function keeps it out of its callers.
+// TQ_NOINLINE in front of a function keeps it out of its callers. TQ_RARE does so too, for one that
+// is hardly ever called: the way to it is laid aside.
 #if defined(__GNUC__)
 #define TQ_NOINLINE __attribute__((noinline))
+#define TQ_RARE __attribute__((noinline, cold))
 #elif defined(_MSC_VER)
 #define TQ_NOINLINE __declspec(noinline)
+#define TQ_RARE TQ_NOINLINE
 #else
 #define TQ_NOINLINE
+#define TQ_RARE
 #endif
 
 namespace tq {

@@ -4,12 +4,19 @@
 #include <utility>
 
 #include "platform/Module.h"
-#include "platform/framework/CString.h"
 
 namespace tq {
 namespace {
 
 TQLog* theLog = nullptr;
+bool isOpen = false;
+
+// Lines are written until the library is gone, so these are plain values; the directory is asked
+// for only when a file is opened.
+int leastLevel = 0;
+TQLogCallback callback = nullptr;
+void* callbackContext = nullptr;
+CString logDirectory;
 
 // Constructed after the logger, so it is destroyed before everything that the log service had
 // constructed by then, in whatever order the two libraries were loaded.
@@ -17,29 +24,71 @@ struct LogEnd {
   ~LogEnd() { CloseLog(); }
 };
 
+void DeleteLogger() {
+  TQLog* const log = std::exchange(theLog, nullptr);
+  if (!ProcessIsEnding())
+    delete log;
+}
+
+CString DirectoryOfLog() {
+  if (!logDirectory.IsEmpty())
+    return logDirectory;
+  CString directory;
+  directory.Format("%s\\%s", OwnModuleDirectory().c_str(), "Log");
+  return directory;
+}
+
+// 0 also without memory for a logger.
+int OpenFile() {
+  if (theLog == nullptr)
+    theLog = new (std::nothrow) TQLog;
+  return theLog == nullptr ? 0 : theLog->storage(DirectoryOfLog(), "tqSymbol", "TQ", true, false);
+}
+
 } // namespace
 
 TQLog* Log() {
   return theLog;
 }
 
+bool LogTakes(int level) {
+  return level >= leastLevel && (theLog != nullptr || callback != nullptr);
+}
+
+void HandLine(int level, const CString& line) {
+  if (callback != nullptr)
+    callback(callbackContext, level, line);
+}
+
+int SetLogTarget(const LogTarget& target) {
+  logDirectory = target.directory;
+  leastLevel = target.level;
+  callback = target.callback;
+  callbackContext = target.context;
+  if (callback == nullptr)
+    return !isOpen || OpenFile() != 0 ? 1 : 0;
+  DeleteLogger();
+  return 1;
+}
+
 void OpenLog() {
-  if (theLog != nullptr)
+  if (isOpen)
     return;
-  theLog = new (std::nothrow) TQLog;
-  if (theLog == nullptr)
+  isOpen = true; // opening asks a service, from where the terminal may start once more
+  if (callback == nullptr) {
+    OpenFile();
+    isOpen = theLog != nullptr;
+  }
+  if (!isOpen)
     return;
-  CString directory;
-  directory.Format("%s\\%s", OwnModuleDirectory().c_str(), "Log");
-  theLog->storage(directory, "tqSymbol", "TQ", true, false);
   LogLine(kLogGeneral, "CTQSymbolListMgr::Init Log init");
   static const LogEnd end;
 }
 
 void CloseLog() {
-  TQLog* const log = std::exchange(theLog, nullptr);
-  if (!ProcessIsEnding())
-    delete log;
+  isOpen = false;
+  callback = nullptr;
+  DeleteLogger();
 }
 
 } // namespace tq

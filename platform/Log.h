@@ -1,32 +1,62 @@
-// The process-wide log of the library.
+// The process-wide log of the library: a file of the terminal's logging library, or a function of
+// the terminal's in its place.
 #pragma once
 
+#include "platform/framework/CString.h"
+#include "platform/interface/TQSymbolNames.h"
+#include "platform/interface/TQSymbolOptions.h"
 #include "platform/services/TQLog.h"
 
 namespace tq {
 
-// Levels of the library's lines. Terminals filter by them: do not change.
-inline constexpr int kLogChange = 64; // lists and groups changed, or something was wrong with them
-inline constexpr int kLogGeneral = 256;
+// Levels of the library's lines.
+inline constexpr int kLogChange = TQLogChange;
+inline constexpr int kLogGeneral = TQLogGeneral;
+inline constexpr int kLogMisuse = TQLogMistakes;
 
-// The logger, or null before OpenLog and after CloseLog. It is created once and lives until the
-// library is unloaded.
+// Where lines go.
+struct LogTarget {
+  CString directory;                // of the file; empty: "Log" beside this library
+  int level = 0;                    // lines of lower levels are dropped
+  TQLogCallback callback = nullptr; // in the place of the file
+  void* context = nullptr;
+};
+
+// From now on; a file that is open is closed. Before OpenLog no file is opened. 0 when the file
+// cannot be opened: lines are dropped then.
+int SetLogTarget(const LogTarget& target);
+
+// The logger, or null before OpenLog, after CloseLog, and while there is a callback. It is created
+// once and lives until the library is unloaded.
 TQLog* Log();
 
-// Creates the logger, unless there is one, and writes its first line. Its file is in the
-// subdirectory "Log" of the directory of this library. Without memory there is no logger.
+// Whether a line of that level goes anywhere.
+bool LogTakes(int level);
+
+// Hands a line to the terminal's function. Only while there is one.
+void HandLine(int level, const CString& line);
+
+// Creates the logger, unless there is one or a callback, and writes its first line. Without memory
+// there is no logger.
 void OpenLog();
 
-// Destroys the logger, if there is one. Managers may outlive it: their lines are then dropped. When
-// the process ends and other libraries must not be called (ProcessIsEnding), the logger is only
-// forgotten.
+// Destroys the logger, if there is one, and forgets the callback. Managers may outlive it: their
+// lines are then dropped. When the process ends and other libraries must not be called
+// (ProcessIsEnding), the logger is only forgotten.
 void CloseLog();
 
-// Writes one line when there is a logger. User text is an argument, never the format.
+// Writes one line where lines go. User text is an argument, never the format.
 template <typename... Arguments>
 void LogLine(int level, const char* format, Arguments... arguments) {
-  if (TQLog* log = Log())
+  if (!LogTakes(level))
+    return;
+  if (TQLog* log = Log()) {
     (*log)(level).write(format, arguments...);
+    return;
+  }
+  CString line;
+  line.Format(format, arguments...);
+  HandLine(level, line);
 }
 
 // The same for a text that is not a format.

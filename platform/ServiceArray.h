@@ -5,6 +5,7 @@
 #include <span>
 #include <utility>
 
+#include "platform/diagnostics/ServiceChecks.h"
 #include "platform/services/VLProxy.h"
 
 namespace tq {
@@ -13,9 +14,11 @@ namespace tq {
 // array to the service, also after a failed call.
 template <typename Record> class ServiceArray {
 public:
-  ServiceArray() = default;
+  // `operation` is the service's, a literal: the debug mode names it.
+  explicit ServiceArray(const char* operation) : operation_(operation) {}
   ServiceArray(ServiceArray&& other) noexcept
-      : list_(std::exchange(other.list_, nullptr)), count_(std::exchange(other.count_, 0)) {}
+      : list_(std::exchange(other.list_, nullptr)), count_(std::exchange(other.count_, 0)),
+        operation_(other.operation_), isChecked_(other.isChecked_) {}
   ServiceArray& operator=(ServiceArray&&) = delete;
   ~ServiceArray() {
     if (list_ != nullptr)
@@ -27,9 +30,16 @@ public:
 
   // Only after a successful call.
   std::span<const Record> Records() const {
+    Check();
     if (list_ == nullptr || count_ <= 0)
       return {};
     return {list_, static_cast<std::size_t>(count_)};
+  }
+
+  // What the debug mode has to say of it, once. Only after a successful call.
+  void Check() const {
+    if (IsDebugging() && !std::exchange(isChecked_, true))
+      CheckArray(operation_, list_, count_);
   }
 
   // Transfers the array to the caller, who releases it with VLFree.
@@ -38,6 +48,8 @@ public:
 private:
   Record* list_ = nullptr;
   int count_ = 0;
+  const char* operation_;
+  mutable bool isChecked_ = false;
 };
 
 } // namespace tq

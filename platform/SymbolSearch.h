@@ -12,9 +12,9 @@ namespace tq {
 // `bCN` is the terminal's switch for Simplified Chinese names.
 inline ServiceArray<SymbolInfo> FindOnAllExchanges(const CString& text, int bCN) {
   constexpr int kAllExchanges = -1;
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLFindSymbol");
   if (VLFindSymbol(text, found.List(), found.Count(), 0, bCN, kAllExchanges) == 0)
-    return {};
+    return ServiceArray<SymbolInfo>("VLFindSymbol");
   return found;
 }
 

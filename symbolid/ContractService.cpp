@@ -34,7 +34,7 @@ CString ServiceId(const CString& code) {
 
 int ReadWeek(const CString& serviceId, ContractWeek& week) {
   week = {};
-  ServiceArray<ExtAttr> attributes;
+  ServiceArray<ExtAttr> attributes("VLGetExtendAttr");
   if (!VLGetExtendAttr(serviceId, ExtAttrWeekly, attributes.List(), attributes.Count()) ||
       attributes.Records().empty())
     return 0;
@@ -58,7 +58,7 @@ ContractWeek WeekOfCode(const CString& code) {
 
 int ReadShortName(const CString& serviceId, CString& name) {
   name.Empty();
-  ServiceArray<ExtAttr> attributes;
+  ServiceArray<ExtAttr> attributes("VLGetExtendAttr");
   if (!VLGetExtendAttr(serviceId, ExtAttrShortName, attributes.List(), attributes.Count()) ||
       attributes.Records().size() != 1)
     return 0;

@@ -79,16 +79,17 @@ public:
                  int check) noexcept;
 
   // Writes the description of a combination of two option codes to `text` and side2 to `side`.
-  //   "TXO 202612 S 21000 CALL - B 22000 CALL"   one month, two strikes
+  //   "TXO 202612 S 22000 CALL - B 21000 CALL"   one month, two strikes
   //   "TXO 202612 21000 B CALL - S PUT"          a call and a put that are not such: the first's
   //                                              month and strike
   //   "TXO CALL S 202612 - B 202701"             two months; the strike is left out
   // Fails with 19 for different commodities and, with `check` non-zero, for what ChkCommID refuses.
+  // SeparateID holds combinations to other rules; combination-ids.md lists the differences.
   int MergeID(CString& text, char& side, const CString& id1, char side1, const CString& id2,
               char side2, int check) noexcept;
 
   // The same in one form for all combinations, blanks around the ids ignored:
-  //   "TXO S 202612TF TX1 21000 CALL - B 202612TF TX1 22000 CALL"
+  //   "TXO S 202612TF TX1 22000 CALL - B 202612TF TX1 21000 CALL"
   // Behind each month stands the exchange of the leg (field 113 of `tables`), then its short name
   // as the service has it, strike and kind. Exchange and short name are left out for a leg that the
   // service does not know, when it has no answer, and when `tables`, which stays the caller's, is

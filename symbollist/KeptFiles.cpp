@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/Log.h"
+#include "platform/diagnostics/Operation.h"
 #include "platform/xml/XmlDocument.h"
 #include "symbollist/KeptCopies.h"
 
@@ -48,9 +49,19 @@ const char* WhyUnknown(LoadOutcome outcome) {
   return "the lists in memory do not come from it";
 }
 
-void Say(const CString& line) {
-  if (!line.IsEmpty())
-    LogLine(kLogChange, "%s", line.GetString());
+void Say(const KeptLine& line) {
+  if (line.text.IsEmpty())
+    return;
+  NoteProblem(line.problem, "%s", line.text.GetString());
+  LogLine(kLogChange, "%s", line.text.GetString());
+}
+
+void NoteSave(SaveResult result, const CString& path) {
+  if (result == SaveResult::NotOpened)
+    NoteProblem(TQProblemFileNotWritten, "%s cannot be opened for writing", path.GetString());
+  else if (result == SaveResult::Failed)
+    NoteProblem(TQProblemFileNotWritten, "%s could not be written; it is as it was",
+                path.GetString());
 }
 
 } // namespace
@@ -99,13 +110,16 @@ bool KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents c
 // Logs only after the save: logging may let the terminal save newer lists, which these older bytes
 // must not overwrite.
 SaveResult KeptFiles::Save(const CString& path, std::string bytes) {
-  CString line;
+  KeptLine line;
   SaveResult result = SaveResult::NotOpened;
-  if (MayWrite(path, line))
+  const bool may = MayWrite(path, line);
+  if (may)
     result = Files().SaveWholeFile(path, bytes.data(), bytes.size());
   if (result == SaveResult::Saved)
     NoteSaved(path, std::move(bytes));
   Say(line);
+  if (may)
+    NoteSave(result, path);
   return result;
 }
 
@@ -122,14 +136,23 @@ void KeptFiles::NoteSaved(const CString& path, std::string bytes) {
   file.contents.bytes = std::move(bytes);
 }
 
+const FileContents* KeptFiles::Known(const CString& path) const {
+  FileStamp stamp;
+  Files().StateOf(path, stamp);
+  for (const File& file : files_)
+    if (file.path == path && Knows(file) && stamp == file.contents.stamp && IsStamped(stamp))
+      return &file.contents;
+  return nullptr;
+}
+
 bool KeptFiles::MayWrite(const CString& path) {
-  CString line;
+  KeptLine line;
   const bool may = MayWrite(path, line);
   Say(line);
   return may;
 }
 
-bool KeptFiles::MayWrite(const CString& path, CString& line) {
+bool KeptFiles::MayWrite(const CString& path, KeptLine& line) {
   FileStamp stamp;
   const FileState state = Files().StateOf(path, stamp);
   if (state == FileState::Missing || state == FileState::Other)
@@ -142,8 +165,9 @@ bool KeptFiles::MayWrite(const CString& path, CString& line) {
   if (result == ReadResult::Missing)
     return true;
   if (result != ReadResult::Ok) {
-    line.Format("List file %s is not saved: what it holds cannot be read and kept",
-                path.GetString());
+    line.problem = TQProblemFileNotKept;
+    line.text.Format("List file %s is not saved: what it holds cannot be read and kept",
+                     path.GetString());
     return false;
   }
   const bool same = Knows(file) && now.bytes == file.contents.bytes;
@@ -155,20 +179,26 @@ bool KeptFiles::MayWrite(const CString& path, CString& line) {
 }
 
 // `now` is the file's present contents. Once copied, the file counts as known.
-bool KeptFiles::Keep(File& file, FileContents now, CString& line) {
+bool KeptFiles::Keep(File& file, FileContents now, KeptLine& line) {
   const bool same = file.known && now.bytes == file.contents.bytes;
   const char* why = WhyUnknown(file.outcome);
-  if (Knows(file))
-    why = same ? "it holds what cannot be written back" : "another program has written it";
+  line.problem = TQProblemFileKept;
+  if (Knows(file) && same) {
+    why = "it holds what cannot be written back";
+  } else if (Knows(file)) {
+    why = "another program has written it";
+    line.problem = TQProblemFileShared;
+  }
   const KeepResult result = KeepCopy(file.path, now.bytes, file.lastCopy);
   if (result == KeepResult::Failed) {
-    line.Format("List file %s is not saved: what it holds cannot be kept beside it",
-                file.path.GetString());
+    line.problem = TQProblemFileNotKept;
+    line.text.Format("List file %s is not saved: what it holds cannot be kept beside it",
+                     file.path.GetString());
     return false;
   }
   if (result == KeepResult::Kept)
-    line.Format("List file %s is kept as %s: %s", file.path.GetString(),
-                KeptCopyPath(file.path, file.lastCopy).GetString(), why);
+    line.text.Format("List file %s is kept as %s: %s", file.path.GetString(),
+                     KeptCopyPath(file.path, file.lastCopy).GetString(), why);
   file.known = true;
   file.contents = std::move(now);
   return true;

@@ -12,6 +12,7 @@
 
 #include "platform/FileAccess.h"
 #include "platform/framework/CString.h"
+#include "platform/interface/TQSymbolProblem.h"
 
 namespace tq {
 
@@ -41,6 +42,12 @@ struct FileContents {
 // Reads a whole file with its stamp. Results as FileAccess::ReadWholeFile.
 ReadResult ReadContents(const CString& path, std::size_t limit, FileContents& contents);
 
+// What is said of a file that had to be copied, or could not be.
+struct KeptLine {
+  CString text; // empty: nothing is said
+  TQProblem problem = TQProblemNone;
+};
+
 class KeptFiles {
 public:
   // Forgets all files: the lists in memory come from none of them.
@@ -56,6 +63,10 @@ public:
   // Saves `bytes`, the manager's lists, which makes the file known. Results as
   // FileAccess::SaveWholeFile; NotOpened also when MayWrite says no.
   SaveResult Save(const CString& path, std::string bytes);
+
+  // What the file holds, while it is known and unchanged; else null. Good until the next load or
+  // save.
+  const FileContents* Known(const CString& path) const;
 
   // Whether the file may be overwritten: it is missing, holds no list, or is known and unchanged.
   // Otherwise it is copied first (KeptCopies.h), with a line in the log that says why. False, also
@@ -77,8 +88,8 @@ private:
   File& FileAt(const CString& path);
   // As MayWrite, but leaves the line to the caller, who logs it last: logging may let the terminal
   // save, load or start anew.
-  bool MayWrite(const CString& path, CString& line);
-  bool Keep(File& file, FileContents now, CString& line);
+  bool MayWrite(const CString& path, KeptLine& line);
+  bool Keep(File& file, FileContents now, KeptLine& line);
 
   std::vector<File> files_; // seldom more than two
   int loads_ = 0;           // in progress

@@ -117,16 +117,30 @@ std::string ListFileText(const ListVector& lists, int defaultIndex) {
   return text;
 }
 
-bool MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text) {
+TextResult MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text) {
   constexpr int kFrameElements = 2;
   if (lists.size() > size_t{kXmlPieceLimit - kFrameElements})
-    return false;
+    return TextResult::TooMuch;
   try {
     text = ListFileText(lists, defaultIndex);
   } catch (const std::bad_alloc&) {
-    return false;
+    return TextResult::NoMemory;
   }
-  return text.size() <= kXmlSizeLimit;
+  return text.size() <= kXmlSizeLimit ? TextResult::Made : TextResult::TooMuch;
+}
+
+bool HoldsSameLists(const std::string& file, const std::string& text) {
+  if (file == text)
+    return true;
+  XmlDocument stored;
+  XmlDocument wanted;
+  CString index;
+  CString wantedIndex;
+  if (!stored.Load(file.data(), file.size()) || !wanted.Load(text.data(), text.size()))
+    return false;
+  stored.SelectSingle("/Result/SymbolList").Attribute("DefaultIdx", index);
+  wanted.SelectSingle("/Result/SymbolList").Attribute("DefaultIdx", wantedIndex);
+  return index == wantedIndex && ComesBack(file, stored, text);
 }
 
 } // namespace tq
@@ -174,8 +188,9 @@ tq::LoadOutcome CXMLDOMParser::ReadDocument(const Finish& finish, tq::ListVector
     lists.push_back(std::move(list));
   }
   std::string text;
-  contents_.returns = tq::MakeListFileText(lists, std::max(defaultIndex, 0), text) &&
-                      ComesBack(contents_.bytes, document_, text);
+  contents_.returns =
+      tq::MakeListFileText(lists, std::max(defaultIndex, 0), text) == tq::TextResult::Made &&
+      ComesBack(contents_.bytes, document_, text);
   return elements.empty() ? tq::LoadOutcome::Empty : tq::LoadOutcome::Whole;
 }
 

@@ -25,10 +25,18 @@ const char* FileDeclaration();
 // is in the process's ANSI code page, unescaped.
 std::string ListFileText(const ListVector& lists, int defaultIndex);
 
-// The same for a save. False, with `text` not to be used, when the text exceeds the limits for
-// loading (platform/xml/XmlText.h), so that what is saved can be loaded again, or when there is no
-// memory for it.
-bool MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text);
+enum class TextResult {
+  Made,
+  TooMuch, // beyond the limits for loading (platform/xml/XmlText.h): it could not be loaded again
+  NoMemory,
+};
+
+// The same for a save. Unless Made, `text` is not to be used.
+TextResult MakeListFileText(const ListVector& lists, int defaultIndex, std::string& text);
+
+// Whether `file`, the bytes of a list file, holds the default index and the lists that `text`, of
+// ListFileText, holds: identifiers, names and symbol strings.
+bool HoldsSameLists(const std::string& file, const std::string& text);
 
 // An upper bound of that text's length, a little more than it.
 size_t ListFileLength(const ListVector& lists);

@@ -37,16 +37,13 @@ int OwnedLists::PositionOf(const CSymbolList* list) const {
 }
 
 int OwnedLists::ProblemsOfNewId(const CString& id) const {
-  constexpr int kTaken = 1;
-  constexpr int kTooLong = 2;
-  constexpr int kNotForAFile = 4;
   int problems = 0;
   if (Find(id) != nullptr)
-    problems |= kTaken;
+    problems |= TQIdTaken;
   if (id.GetLength() > kListIdLimit)
-    problems |= kTooLong;
+    problems |= TQIdTooLong;
   if (!IsLoadable(ViewOf(id)))
-    problems |= kNotForAFile;
+    problems |= TQIdUnloadable;
   return problems;
 }
 

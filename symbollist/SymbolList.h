@@ -71,6 +71,6 @@ private:
 
   TQSymbolListInfo info_;
   int flag_;
-  tq::ListFollower* follower_ = nullptr; // the index that finds this list (ListIndex.h)
+  tq::ListFollower* follower_ = nullptr; // the index that finds this list
   long long order_ = 0;                  // its order number there
 };

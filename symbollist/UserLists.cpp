@@ -7,13 +7,48 @@
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
 #include "platform/Module.h"
+#include "platform/diagnostics/Operation.h"
 #include "platform/services/tqCommon.h"
+#include "platform/xml/XmlText.h"
 #include "symbollist/ListFile.h"
 
 namespace tq {
 namespace {
 
 constexpr unsigned kButtonOk = 0;
+
+int NoteNoFile() {
+  return NoteProblem(TQProblemNoFile, "there is no data directory, or the path is empty");
+}
+
+// Why a file gave no lists, or not all of them.
+void NoteOutcome(LoadOutcome outcome, const CString& path) {
+  switch (outcome) {
+  case LoadOutcome::Missing:
+    NoteProblem(TQProblemFileMissing, "%s: there is no such file", path.GetString());
+    break;
+  case LoadOutcome::TooLarge:
+    NoteProblem(TQProblemFileTooLarge, "%s is larger than any file that is read", path.GetString());
+    break;
+  case LoadOutcome::Unreadable:
+    NoteProblem(TQProblemFileUnreadable, "%s cannot be read", path.GetString());
+    break;
+  case LoadOutcome::Damaged:
+    NoteProblem(TQProblemFileDamaged, "%s is damaged: no well-formed document", path.GetString());
+    break;
+  case LoadOutcome::NoListFile:
+    NoteProblem(TQProblemFileForeign, "%s is no list file", path.GetString());
+    break;
+  case LoadOutcome::EndedEarly:
+    NoteProblem(TQProblemFileCutShort, "%s has a bad list: it and those behind it are not loaded",
+                path.GetString());
+    break;
+  case LoadOutcome::Whole:
+  case LoadOutcome::Empty:
+  case LoadOutcome::NotTried:
+    break;
+  }
+}
 
 // What a save returns, after the message for one that failed.
 int Report(SaveResult result) {
@@ -62,18 +97,31 @@ int UserLists::Restore() {
 int UserLists::SaveEmpty() {
   const CString path = PathOf(kListFileName);
   if (path.IsEmpty())
-    return 0;
+    return NoteNoFile();
   return Report(keptFiles_.Save(path, ListFileText({}, defaultIndex_)));
+}
+
+SaveResult UserLists::SaveText(const CString& path) {
+  std::string text;
+  switch (MakeListFileText(lists_.All(), SavedIndex(), text)) {
+  case TextResult::Made:
+    return keptFiles_.Save(path, std::move(text));
+  case TextResult::TooMuch:
+    NoteProblem(TQProblemTooMuch, "%s is not written: the lists are more than a list file holds",
+                path.GetString());
+    break;
+  case TextResult::NoMemory:
+    NoteProblem(TQProblemMemory, "%s is not written: there is no memory for its text",
+                path.GetString());
+    break;
+  }
+  return SaveResult::NotOpened;
 }
 
 int UserLists::SaveTo(const CString& path) {
   if (path.IsEmpty())
-    return 0;
-  const int index = defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_;
-  std::string text;
-  const SaveResult result = MakeListFileText(lists_.All(), index, text)
-                                ? keptFiles_.Save(path, std::move(text))
-                                : SaveResult::NotOpened;
+    return NoteNoFile();
+  const SaveResult result = SaveText(path);
   // Looked at again, for a save may log, and the terminal work on the lists from there.
   if (result != SaveResult::NotOpened && defaultIndex_ < 0 && !lists_.IsEmpty())
     defaultIndex_ = 0;
@@ -83,6 +131,7 @@ int UserLists::SaveTo(const CString& path) {
 int UserLists::LoadFrom(const CString& path) {
   if (path.IsEmpty()) {
     Reset();
+    NoteNoFile();
     return 1;
   }
   keptFiles_.BeginLoad();
@@ -98,12 +147,27 @@ int UserLists::LoadFrom(const CString& path) {
   defaultIndex_ = defaultIndex;
   const LoadOutcome outcome = parser.Outcome();
   const bool saved = keptFiles_.EndLoad(path, outcome, parser.TakeContents());
+  NoteOutcome(outcome, path);
   if (outcome == LoadOutcome::Empty)
     Save(); // anew at once, to the working file whichever file it was
   // What was saved meanwhile were the lists of before, or none at a start. A copy of it is kept.
   else if (saved && outcome == LoadOutcome::Whole)
     SaveTo(path);
   return 1;
+}
+
+bool UserLists::HasUnsavedChanges() const {
+  const CString path = PathOf(kListFileName);
+  std::string text;
+  if (path.IsEmpty())
+    return !lists_.IsEmpty();
+  if (MakeListFileText(lists_.All(), SavedIndex(), text) != TextResult::Made)
+    return true;
+  if (const FileContents* const known = keptFiles_.Known(path))
+    return !HoldsSameLists(known->bytes, text);
+  FileContents stored;
+  return ReadContents(path, kXmlSizeLimit, stored) != ReadResult::Ok ||
+         !HoldsSameLists(stored.bytes, text);
 }
 
 void UserLists::LoadWithSystemLists() {

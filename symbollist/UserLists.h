@@ -8,6 +8,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/diagnostics/Operation.h"
 #include "platform/framework/CMapStringToString.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
@@ -17,6 +18,11 @@
 #include "symbollist/SymbolChanges.h"
 
 namespace tq {
+
+// That there is no list with that identifier. Returns 0.
+inline int NoteNoList(const CString& id) {
+  return NoteProblem(TQProblemNoList, "there is no list '%s'", id.GetString());
+}
 
 class UserLists {
 public:
@@ -44,6 +50,8 @@ public:
   // Writes an empty list file where the directory has none.
   void CreateMissingFile();
   int Load();
+  // Whether a save would change what the list file holds.
+  bool HasUnsavedChanges() const;
   int Save();
   int Backup();
   int Restore();
@@ -86,6 +94,9 @@ public:
   void UpdateSystemLists(const CMapStringToString& symbols, const CMapStringToString* names);
 
 private:
+  // The index that a save writes.
+  int SavedIndex() const { return defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_; }
+  SaveResult SaveText(const CString& path);
   void Insert(std::unique_ptr<CSymbolList> list, bool append);
   bool AddNew(const CString& id, const CString& name, const CString& symbols, bool append);
 

@@ -10,6 +10,7 @@
 #include "platform/Log.h"
 #include "platform/Notify.h"
 #include "platform/Text.h"
+#include "platform/diagnostics/Operation.h"
 #include "symbollist/ListIds.h"
 #include "symbollist/ListName.h"
 #include "symbollist/ReplaceIds.h"
@@ -23,8 +24,12 @@ int UserLists::Add(const CString& id, const CString& name, const CString& symbol
   // another one, and is no symbol.
   const CString keptName = StorableText(name);
   const CString keptSymbols = StorableText(symbols);
-  if (keptName.IsEmpty() || keptSymbols.IsEmpty() || !IsKeptWhole(id))
-    return 0;
+  if (keptName.IsEmpty())
+    return NoteProblem(TQProblemName, "the name is empty");
+  if (keptSymbols.IsEmpty())
+    return NoteProblem(TQProblemSymbols, "there are no symbols");
+  if (!IsKeptWhole(id))
+    return NoteProblem(TQProblemId, "no list can bear the identifier '%s'", id.GetString());
   CSymbolList* const list = id.IsEmpty() ? nullptr : Find(id);
   if (list == nullptr) {
     if (!AddNew(id, keptName, keptSymbols, append))
@@ -32,7 +37,8 @@ int UserLists::Add(const CString& id, const CString& name, const CString& symbol
   } else {
     // A list of another name is overwritten only when the caller says so; its name stays.
     if (!list->IsSameName(keptName) && !overwrite)
-      return 0;
+      return NoteProblem(TQProblemTaken, "the list '%s' has another name, '%s'", id.GetString(),
+                         list->GetName().GetString());
     list->Update1(keptSymbols);
   }
   EnsureDefault();
@@ -45,11 +51,16 @@ int UserLists::Add(const CString& id, const CString& name, const CString& symbol
 bool UserLists::AddNew(const CString& id, const CString& name, const CString& symbols,
                        bool append) {
   const CString freeName = FreeName(name);
-  if (lists_.HasName(freeName))
+  if (lists_.HasName(freeName)) {
+    NoteProblem(TQProblemTaken, "lists have the name '%s' and all of its numbers",
+                name.GetString());
     return false;
+  }
   const CString listId = IdOfNewList(id);
-  if (listId.IsEmpty())
+  if (listId.IsEmpty()) {
+    NoteProblem(TQProblemId, "the system gives no new identifier");
     return false;
+  }
   Put(listId, freeName, symbols, append);
   return true;
 }
@@ -97,7 +108,7 @@ void UserLists::Replace(const CPtrArray& lists) {
 int UserLists::Delete(const CString& id) {
   CSymbolList* const list = Find(id);
   if (list == nullptr)
-    return 0;
+    return NoteNoList(id);
   // Only deleting the default list itself, as the last one, moves the index. A list deleted in
   // front of it leaves the index, which then means the next list: terminals rely on that.
   const int index = lists_.PositionOf(list);
@@ -113,6 +124,7 @@ int UserLists::ReplaceIds(const CStringArray& oldIds, const CStringArray& newIds
   // none is renamed twice.
   std::vector<ReplacedIds> replaced;
   if (!ReplaceInAll(lists_, oldIds, newIds, replaced)) {
+    NoteProblem(TQProblemTooMuch, "no list file can hold the lists after it");
     LogLine(kLogChange, "ReplaceID is refused: no list file can hold the lists after it");
     return 0;
   }
@@ -143,9 +155,13 @@ int UserLists::InsertEntry(const CString& id, int position, const CString& text,
   // list is looked for: what is left out is logged, and the terminal may delete lists meanwhile.
   const CString kept = StorableText(text);
   CSymbolList* const list = Find(id);
-  if (list == nullptr || !IsOneToken(ViewOf(kept)))
-    return 0;
-  return list->InsertEntry(position, heading ? kept + ":" : kept, before);
+  if (list == nullptr)
+    return NoteNoList(id);
+  if (!IsOneToken(ViewOf(kept)) ||
+      !list->InsertEntry(position, heading ? kept + ":" : kept, before))
+    return NoteProblem(TQProblemEntry, "'%s' cannot be an entry of the list, or is one already",
+                       text.GetString());
+  return 1;
 }
 
 } // namespace tq

@@ -36,7 +36,7 @@ int UserLists::UpdateSystemList(const CString& id, const CString& name, const CS
                                 int& nameChanged) {
   CSymbolList* list = Find(id);
   if (list == nullptr)
-    return 0;
+    return NoteNoList(id);
   list->Update1(symbols);
   nameChanged = 0;
   list = Find(id); // which the terminal may have deleted while the service was asked
@@ -51,10 +51,12 @@ int UserLists::UpdateSystemList(const CString& id, const CString& name, const CS
 
 int UserLists::UpdateSystemList(int index, const CString& symbols, bool replace) {
   if (index < 0 || index >= kSystemListCount || index >= systemListNames_.GetSize())
-    return 0;
+    return NoteProblem(TQProblemRange, "Init named no system list %d", index);
   CSymbolList* const list = Find(SystemListId(index));
-  if (list == nullptr || (!replace && !list->GetIDs().IsEmpty()))
-    return 0;
+  if (list == nullptr)
+    return NoteNoList(SystemListId(index));
+  if (!replace && !list->GetIDs().IsEmpty())
+    return NoteProblem(TQProblemTaken, "system list %d has symbols already", index);
   list->Update1(symbols);
   return 1;
 }
@@ -74,7 +76,7 @@ void UserLists::UpdateSystemLists(const CMapStringToString& symbols,
     anyName = anyName || nameChanged != 0;
   }
   Save();
-  Notify(kNotifySymbols, anyName ? kReasonNames : "");
+  Notify(kNotifySymbols, anyName ? TQReasonListNames : "");
 }
 
 } // namespace tq

@@ -36,7 +36,7 @@ public:
   }
 
 private:
-  ServiceArray<ExchInfo> exchanges_;
+  ServiceArray<ExchInfo> exchanges_{"VLGetExch"};
   int result_;
 };
 

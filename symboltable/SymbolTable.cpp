@@ -151,7 +151,7 @@ std::size_t CSymbolTable::Footprint() const {
 int CSymbolTable::Load() {
   constexpr int allSections = -1;
   Clear();
-  tq::ServiceArray<BaseAttr> symbols;
+  tq::ServiceArray<BaseAttr> symbols("VLGetBaseAttrs2");
   if (!VLGetBaseAttrs2(exchId_, allSections, symbols.List(), symbols.Count(), 0, 1))
     return 0;
   // A separate table is filled: while attributes are read, the terminal may load, change or empty
@@ -188,7 +188,7 @@ void CSymbolTable::InsertAll(std::span<const BaseAttr> records) {
 }
 
 int CSymbolTable::Add(const CString& symbols) {
-  tq::ServiceArray<BaseAttr> added;
+  tq::ServiceArray<BaseAttr> added("VLGetBaseAttrs");
   if (!VLGetBaseAttrs(symbols, added.List(), added.Count(), 1))
     return 0;
   InsertAll(added.Records());
@@ -196,7 +196,7 @@ int CSymbolTable::Add(const CString& symbols) {
 }
 
 int CSymbolTable::Update(const CString& symbols) {
-  tq::ServiceArray<BaseAttr> updated;
+  tq::ServiceArray<BaseAttr> updated("VLGetBaseAttrs");
   if (!VLGetBaseAttrs(symbols, updated.List(), updated.Count(), 1))
     return 0;
   tq::ItemTextReader reader;

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/diagnostics/DebugMode.h"
 #include "platform/framework/CUIntArray.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
@@ -15,6 +16,7 @@ CSymbolTableMgr::~CSymbolTableMgr() {
 }
 
 int CSymbolTableMgr::Init() noexcept {
+  tq::CheckCall("Init");
   // Tables are forgotten, not deleted, as the header says. CleanALL cannot reach them afterwards.
   slots_->Forget();
   slots_->SetDefaults({});
@@ -22,6 +24,7 @@ int CSymbolTableMgr::Init() noexcept {
 }
 
 int CSymbolTableMgr::InitAllSymbolTable() noexcept {
+  tq::CheckCall("InitAllSymbolTable");
   const tq::ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList exchanges;
   int result = exchanges.Result();
@@ -38,6 +41,7 @@ int CSymbolTableMgr::InitAllSymbolTable() noexcept {
 }
 
 int CSymbolTableMgr::InitAuthorizedExch() noexcept {
+  tq::CheckCall("InitAuthorizedExch");
   const tq::ExchangeTables::Use slots(*slots_);
   int mask[tq::ExchangeTables::kCount] = {};
   if (!GetAuthMask(mask))
@@ -49,6 +53,7 @@ int CSymbolTableMgr::InitAuthorizedExch() noexcept {
 }
 
 int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) noexcept {
+  tq::CheckCall("InitDefaultExchList");
   std::vector<int> exchIds;
   exchIds.reserve(static_cast<std::size_t>(ids.GetSize()));
   for (int i = 0; i < ids.GetSize(); ++i)
@@ -58,6 +63,7 @@ int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) noexcept {
 }
 
 void CSymbolTableMgr::CleanALL() noexcept {
+  tq::CheckCall("CleanALL");
   slots_->Clear();
 }
 

@@ -158,7 +158,8 @@ public:
   // Returns 0 when `id` is empty, no exchange can be found, the symbol is not in the exchange's
   // table, or the symbol has no such field. `value` is left alone when the symbol was not found.
   // When the symbol lacks the field, text is empty ("--" for fields 170, 171 and 179) and numbers
-  // are -1 (1 for field 186).
+  // are -1 (1 for field 186). Prices as numbers are counted in their smallest step ("100.5" with
+  // two decimals is 10050). look-ups.md has a table of what each field is as text and as number.
   int LookUpSymbolGetString(int field, CString id, CString exchName, CString& value) noexcept;
   int LookUpSymbolGetInt(int field, CString id, CString exchName, int& value) noexcept;
   int LookUpSymbolGetValue(int field, CString id, CString exchName, long& value) noexcept;

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "platform/Text.h"
+#include "platform/diagnostics/DebugMode.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
 #include "symboltable/SymbolTableMgr.h"
@@ -9,10 +10,12 @@
 using tq::ExchangeTables;
 
 int CSymbolTableMgr::FindExchID(int exchId, CString& name) noexcept {
+  tq::CheckCall("FindExchID");
   return tq::ReadExchangeName(exchId, name);
 }
 
 int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
+  tq::CheckCall("IsAuthorizedExch", "exchName", exchName);
   if (exchName.IsEmpty())
     return 0;
   const int slot = slots_->FindName(tq::ViewOf(exchName));
@@ -20,12 +23,14 @@ int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
 }
 
 int CSymbolTableMgr::IsSupportUJKExch() noexcept {
+  tq::CheckCall("IsSupportUJKExch");
   int mask[ExchangeTables::kCount] = {};
   return GetAuthMask(mask) &&
          std::ranges::all_of(tq::kFamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
 }
 
 CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
+  tq::CheckCall("MapExchIDsToExchName", "exchIds", exchIds);
   const ExchangeTables::Use slots(*slots_);
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
@@ -51,6 +56,7 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
 }
 
 std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) noexcept {
+  tq::CheckCall("GetSymbolAndExchID", "id", id);
   const auto [symbol, suffix] = tq::SplitId(tq::ViewOf(id));
   CString upperSuffix = tq::ToCString(suffix);
   upperSuffix.MakeUpper();
@@ -60,6 +66,7 @@ std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& i
 }
 
 CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) noexcept {
+  tq::CheckCall("HandleDefaultExchangeSymbol", "id", id);
   const std::pair<CString, CString> parts = GetSymbolAndExchID(id);
   if (parts.second.IsEmpty())
     return id;
@@ -70,6 +77,7 @@ CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) noexcept
 }
 
 int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) noexcept {
+  tq::CheckCall("GetDefaultExchange", "symbol", symbol);
   const CSymbolTable* last = nullptr;
   int count = 0;
   for (const CSymbolTable* table : slots_->Defaults()) {

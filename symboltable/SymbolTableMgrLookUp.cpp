@@ -1,6 +1,7 @@
 // Look-ups of symbols, by id and by name.
 #include <utility>
 
+#include "platform/diagnostics/DebugMode.h"
 #include "platform/services/tqStockFields.h"
 #include "symbolid/UpperId.h"
 #include "symboltable/ExchangeTables.h"
@@ -60,6 +61,7 @@ int GetLong(const tq::FoundSymbol& found, int field, long& value) {
 } // namespace
 
 int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) noexcept {
+  tq::CheckCall("LookUpNameGetSymbolID", "name", name);
   if (name.IsEmpty())
     return 0;
   for (int slot = 0; slot < tq::ExchangeTables::kCount; ++slot) {
@@ -73,6 +75,7 @@ int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) noe
 
 int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchName,
                                            CString& value) noexcept {
+  tq::CheckCall("LookUpSymbolGetString", "id,exchName", id, exchName);
   if (id.IsEmpty())
     return 0;
   tq::UpperBuffer idBuffer;
@@ -100,15 +103,18 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
 
 int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName,
                                         int& value) noexcept {
+  tq::CheckCall("LookUpSymbolGetInt", "id,exchName", id, exchName);
   return GetNumber(FindForNumber(*slots_, id, exchName), field, value);
 }
 
 int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName,
                                           long& value) noexcept {
+  tq::CheckCall("LookUpSymbolGetValue", "id,exchName", id, exchName);
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }
 
 int CSymbolTableMgr::LookUpSymbolGetExAttr(int field, CString id, CString exchName,
                                            long& value) noexcept {
+  tq::CheckCall("LookUpSymbolGetExAttr", "id,exchName", id, exchName);
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }

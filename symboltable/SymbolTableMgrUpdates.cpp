@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/Text.h"
+#include "platform/diagnostics/DebugMode.h"
 #include "symbolid/SymbolRecords.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
@@ -50,6 +51,7 @@ int MakeTable(ExchangeTables& tables, const CString& exchName, int exchId) {
 } // namespace
 
 int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noexcept {
+  tq::CheckCall("AddSymbols");
   const ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == ExchangeTables::kNone)
@@ -59,6 +61,7 @@ int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noex
 }
 
 int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) noexcept {
+  tq::CheckCall("UpdateSymbols");
   const ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == ExchangeTables::kNone)
@@ -68,6 +71,7 @@ int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) n
 }
 
 int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) noexcept {
+  tq::CheckCall("RemoveSymbols");
   const int slot = MapToSymbolTableIndex(exchId);
   if (slot == ExchangeTables::kNone)
     return 0;
@@ -78,6 +82,7 @@ int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) n
 }
 
 int CSymbolTableMgr::RebuildSymbolTable() noexcept {
+  tq::CheckCall("RebuildSymbolTable");
   const ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList list;
   if (!list.Result())
@@ -114,6 +119,7 @@ int CSymbolTableMgr::RebuildSymbolTable() noexcept {
 }
 
 int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) noexcept {
+  tq::CheckCall("RebuildSymbolTable", "exchName", exchName);
   constexpr int allExchanges = -1;
   if (exchId == allExchanges)
     return RebuildSymbolTable();

@@ -113,6 +113,15 @@ struct Market {
 // leaves `market` unchanged.
 TQSTANDIN_API bool LoadMarket(const std::string& directory, Market& market, std::string& error);
 
+// The directory of the sample market and lists that are installed with this library: "market",
+// "lists/tw" and "lists/cn" in it. The environment variable TQ_SAMPLES names another one.
+TQSTANDIN_API std::string SampleDirectory();
+// The sample lists in the interface language, a data directory for CTQSymbolListMgr::Init. They are
+// everybody's: a program that saves works on a copy.
+TQSTANDIN_API std::string SampleLists();
+// LoadMarket with the sample market, then SetMarket.
+TQSTANDIN_API bool ServeSampleMarket(std::string& error);
+
 // Makes the services serve this market. Arrays handed out earlier stay valid until released.
 // Instruments of an exchange that the market does not list are not served.
 TQSTANDIN_API void SetMarket(Market market);

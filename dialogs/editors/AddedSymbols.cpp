@@ -69,7 +69,7 @@ bool AreLoadable(const CString& symbols) {
 
 // One question for all names. An id that the service does not know has none.
 void TellAddedTwice(const std::vector<CString>& held) {
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLGetSymbolInfos");
   const int done = VLGetSymbolInfos(Joined(held).c_str(), found.List(), found.Count());
   RecordIndex records(done != 0 ? found.Records() : std::span<const SymbolInfo>());
   std::string text;

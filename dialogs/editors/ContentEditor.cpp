@@ -35,11 +35,11 @@ bool ContentEditor::OnInitDialog() {
 
 void ContentEditor::PrepareControls() {
   constexpr int kCodeWidth = 80; // of the first column, in dialog units
-  CTQIconButton(*this, kUp, ButtonIcon::Up);
-  CTQIconButton(*this, kDown, ButtonIcon::Down);
-  CTQIconButton(*this, kRemove, ButtonIcon::Remove);
-  CTQIconButton(*this, kAdd, ButtonIcon::Left);
-  CTQIconButton(*this, kAddHeading, ButtonIcon::Left);
+  CTQIconButton(*this, kUp, WindowButtonIcon::Up);
+  CTQIconButton(*this, kDown, WindowButtonIcon::Down);
+  CTQIconButton(*this, kRemove, WindowButtonIcon::Remove);
+  CTQIconButton(*this, kAdd, WindowButtonIcon::Left);
+  CTQIconButton(*this, kAddHeading, WindowButtonIcon::Left);
   CTQToolTip tips(*this);
   for (const auto& [id, text] : {std::pair{kUp, 48013U},
                                  {kDown, 48014U},
@@ -54,16 +54,16 @@ void ContentEditor::PrepareControls() {
   results_.Open(*this, kResults, kCodeWidth);
 }
 
-void ContentEditor::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::Clicked)
+void ContentEditor::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::Clicked)
     OnClicked(id);
-  else if (id == kRows && event == ControlEvent::DoubleClicked)
+  else if (id == kRows && event == WindowEvent::DoubleClicked)
     EditHeading(CListBox(*this, kRows).GetCurSel());
-  else if (event == ControlEvent::SelectionChanged && id == kRows)
+  else if (event == WindowEvent::SelectionChanged && id == kRows)
     UpdateButtons();
-  else if (event == ControlEvent::SelectionChanged && id == kMarket)
+  else if (event == WindowEvent::SelectionChanged && id == kMarket)
     ChooseMarket();
-  else if (event == ControlEvent::SelectionChanged && id == kGroup)
+  else if (event == WindowEvent::SelectionChanged && id == kGroup)
     ShowMarket();
 }
 
@@ -89,8 +89,8 @@ void ContentEditor::OnClicked(int id) {
   }
 }
 
-void ContentEditor::OnNotify(int id, const ListNotice& notice) {
-  if (id == kResults && notice.kind == ListNotice::Kind::DoubleClicked && notice.row >= 0)
+void ContentEditor::OnNotify(int id, const WindowListNotice& notice) {
+  if (id == kResults && notice.kind == WindowListNotice::Kind::DoubleClicked && notice.row >= 0)
     AddPicked();
 }
 
@@ -101,10 +101,10 @@ intptr_t ContentEditor::OnMessage(unsigned code, intptr_t, intptr_t) {
 }
 
 // Enter in a field does what the button beside the field does, and not Done.
-bool ContentEditor::OnKey(int id, Key key, Held held) {
+bool ContentEditor::OnKey(int id, WindowKey key, WindowHeldKeys held) {
   if (id == kRows)
     return OnListKey(key, held);
-  if (key != Key::Enter || held.alt || held.control)
+  if (key != WindowKey::Enter || held.alt || held.control)
     return false;
   if (id == kCode)
     AddTyped();
@@ -117,12 +117,12 @@ bool ContentEditor::OnKey(int id, Key key, Held held) {
   return true;
 }
 
-bool ContentEditor::OnListKey(Key key, Held held) {
-  if (held.alt && (key == Key::Up || key == Key::Down))
-    MoveSelected(key == Key::Up);
-  else if (key == Key::Delete)
+bool ContentEditor::OnListKey(WindowKey key, WindowHeldKeys held) {
+  if (held.alt && (key == WindowKey::Up || key == WindowKey::Down))
+    MoveSelected(key == WindowKey::Up);
+  else if (key == WindowKey::Delete)
     RemoveSelected();
-  else if (key == Key::F2)
+  else if (key == WindowKey::F2)
     EditHeading(CListBox(*this, kRows).GetCurSel());
   else
     return false;

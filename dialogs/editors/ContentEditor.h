@@ -50,12 +50,12 @@ protected:
 
   bool OnInitDialog() override;
   void OnOK() override;
-  void OnCommand(int id, ControlEvent event) override;
-  void OnNotify(int id, const ListNotice& notice) override;
+  void OnCommand(int id, WindowEvent event) override;
+  void OnNotify(int id, const WindowListNotice& notice) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
-  bool OnKey(int id, Key key, Held held) override;
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
   CString OnCellText(int, int row, int column) override { return results_.CellText(row, column); }
-  void OnItemLook(int id, int row, ItemLook& look) override;
+  void OnItemLook(int id, int row, WindowItemLook& look) override;
 
 private:
   enum Control : int {
@@ -81,7 +81,7 @@ private:
   // --- Opening and closing (ContentEditor.cpp)
   void PrepareControls();
   void OnClicked(int id);
-  bool OnListKey(Key key, Held held);
+  bool OnListKey(WindowKey key, WindowHeldKeys held);
   bool IsNameTaken(const CString& name) const;
   bool Accepts(const CString& name);
   bool Store(const CString& name);

@@ -44,7 +44,7 @@ CString DuplicatesText(const std::vector<CString>& ids) {
 
 } // namespace
 
-void ContentEditor::OnItemLook(int, int row, ItemLook& look) {
+void ContentEditor::OnItemLook(int, int row, WindowItemLook& look) {
   CListBoxContents::Look(contents_, row, look);
 }
 
@@ -196,7 +196,7 @@ void ContentEditor::EnterSymbols() {
     if (contents_.Holds(id))
       duplicates_.push_back(ToCString(Trimmed(id)));
   });
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLGetSymbolInfos");
   if (VLGetSymbolInfos(task_.symbols, found.List(), found.Count()) != 0)
     contents_.Insert(contents_.RowCount(), found.Records());
 }

@@ -19,12 +19,12 @@ bool CGroupSymbolAdd::OnInitDialog() {
   return true;
 }
 
-void CGroupSymbolAdd::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::Clicked)
+void CGroupSymbolAdd::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::Clicked)
     OnClicked(id);
-  else if (event == ControlEvent::SelectionChanged && id == ListsPane::kLists)
+  else if (event == WindowEvent::SelectionChanged && id == ListsPane::kLists)
     lists_.ShowContents();
-  else if (event == ControlEvent::DoubleClicked && id == ListsPane::kLists)
+  else if (event == WindowEvent::DoubleClicked && id == ListsPane::kLists)
     lists_.EditSelected(symbol_);
   UpdateButtons();
 }

@@ -13,7 +13,7 @@ public:
   using CListBox::CListBox;
 
   void Fill(const tq::WorkingCopy& lists);
-  static void Look(bool isDefault, ItemLook& look) { look.bold = look.marked = isDefault; }
+  static void Look(bool isDefault, WindowItemLook& look) { look.bold = look.marked = isDefault; }
 };
 
 // The rows of one list. Headings are bold.
@@ -22,7 +22,7 @@ public:
   using CListBox::CListBox;
 
   void Fill(const tq::ListContents& contents);
-  static void Look(const tq::ListContents& contents, int row, ItemLook& look) {
+  static void Look(const tq::ListContents& contents, int row, WindowItemLook& look) {
     look.bold = row >= 0 && row < contents.RowCount() && contents.IsHeading(row);
   }
 };

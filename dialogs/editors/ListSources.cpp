@@ -14,16 +14,16 @@ namespace {
 
 constexpr unsigned kStringUserLists = 48003;
 constexpr unsigned kStringHoldings = 48030;
-constexpr int kHoldingsGroups = 3;
 
 struct GroupKind {
   int type;
   int choice; // its kind as a terminal has it
 };
 constexpr std::array<GroupKind, 4> kGroupKinds = {
-    {{1, 2}, {kHoldingsGroups, 3}, {101, 7}, {kCloudGroupType, kCloudLists}}};
-constexpr int kOtherGroupChoice = 2;
-constexpr int kAllSymbolsChoice = 4;
+    {{TQGroupTypeMarkets, TQSelectGroup},
+     {TQGroupTypeHoldings, TQSelectHoldingsGroup},
+     {TQGroupTypeEditionMarkets, TQSelectEditionGroup},
+     {TQGroupTypeCloud, TQSelectCloudListOrGroup}}};
 
 void AddGroups(CTQSymbolListMgr& manager, int type, std::vector<ListSource>& sources) {
   for (const GroupInfo& group : TopGroups(manager, type))
@@ -50,7 +50,7 @@ int GroupChoice(int type) {
     if (kind.type == type)
       return kind.choice;
   }
-  return kOtherGroupChoice;
+  return TQSelectGroup;
 }
 
 } // namespace
@@ -63,7 +63,7 @@ std::vector<ListSource> ListSources(CTQSymbolListMgr& manager, bool holdings) {
       {SourceCode::Cloud, LibraryString(kStringCloudList)},
   };
   for (const GroupKind& kind : kGroupKinds) {
-    if (kind.type != kHoldingsGroups || holdings)
+    if (kind.type != TQGroupTypeHoldings || holdings)
       AddGroups(manager, kind.type, sources);
   }
   return sources;
@@ -87,13 +87,13 @@ ListChoice ChoiceOf(const ListSource& source, const SourceItem* item) {
   const SourceItem& chosen = item == nullptr ? kNone : *item;
   switch (source.code) {
   case SourceCode::AllSymbols:
-    return {kAllSymbolsChoice, chosen.name};
+    return {TQSelectAllSymbols, chosen.name};
   case SourceCode::UserLists:
-    return {kUserLists, chosen.id};
+    return {TQSelectUserList, chosen.id};
   case SourceCode::Holdings:
-    return {kTradingLists, chosen.id};
+    return {TQSelectTradingList, chosen.id};
   case SourceCode::Cloud:
-    return {kCloudLists, chosen.id};
+    return {TQSelectCloudListOrGroup, chosen.id};
   default:
     return {GroupChoice(source.group.nType), source.name + "," + chosen.name};
   }

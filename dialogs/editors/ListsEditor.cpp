@@ -10,23 +10,23 @@ ListsEditor::ListsEditor(const Kind& kind, const DialogSources& sources, const C
       pane_(sources, kind.lists, kind.hasDefault) {}
 
 bool ListsEditor::OnInitDialog() {
-  CTQIconButton(*this, kUp, ButtonIcon::Up);
-  CTQIconButton(*this, kDown, ButtonIcon::Down);
+  CTQIconButton(*this, kUp, WindowButtonIcon::Up);
+  CTQIconButton(*this, kDown, WindowButtonIcon::Down);
   const CListBoxEdit limited(*this, kNameField); // its length, from the start
   pane_.Open(*this, kind_.hasDefault ? Copy().DefaultIndex() : 0);
   UpdateButtons();
   return true;
 }
 
-void ListsEditor::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::Clicked) {
+void ListsEditor::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::Clicked) {
     OnClicked(id);
-  } else if (id == kLists && event == ControlEvent::SelectionChanged) {
+  } else if (id == kLists && event == WindowEvent::SelectionChanged) {
     pane_.ShowContents();
     UpdateButtons();
-  } else if (id == kLists && event == ControlEvent::DoubleClicked) {
+  } else if (id == kLists && event == WindowEvent::DoubleClicked) {
     EditList();
-  } else if (id == kNameField && event == ControlEvent::FocusLost) {
+  } else if (id == kNameField && event == WindowEvent::FocusLost) {
     Rename(NameCheck::Voice::Silent);
   }
 }
@@ -59,14 +59,14 @@ intptr_t ListsEditor::OnMessage(unsigned code, intptr_t first, intptr_t second) 
   return Copy().HasName(reinterpret_cast<const char*>(first), static_cast<int>(second)) ? 1 : 0;
 }
 
-bool ListsEditor::OnKey(int id, Key key, Held held) {
+bool ListsEditor::OnKey(int id, WindowKey key, WindowHeldKeys held) {
   if (id == kLists)
     return OnListKey(key, held);
   if (id != kNameField || held.alt || held.control)
     return false;
-  if (key == Key::Enter)
+  if (key == WindowKey::Enter)
     Rename(NameCheck::Voice::Spoken);
-  else if (key == Key::Escape)
+  else if (key == WindowKey::Escape)
     EndRenaming(Focus::ToLists);
   else
     return false;
@@ -79,12 +79,12 @@ void ListsEditor::OnCancel() {
   CSingletonDlg::OnCancel();
 }
 
-bool ListsEditor::OnListKey(Key key, Held held) {
-  if (held.alt && (key == Key::Up || key == Key::Down))
-    MoveList(key == Key::Up);
-  else if (key == Key::F2)
+bool ListsEditor::OnListKey(WindowKey key, WindowHeldKeys held) {
+  if (held.alt && (key == WindowKey::Up || key == WindowKey::Down))
+    MoveList(key == WindowKey::Up);
+  else if (key == WindowKey::F2)
     StartRenaming();
-  else if (key == Key::Delete)
+  else if (key == WindowKey::Delete)
     DeleteList();
   else
     return false;

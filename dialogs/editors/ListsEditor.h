@@ -28,11 +28,11 @@ protected:
   ListsEditor(const Kind& kind, const DialogSources& sources, const CWnd* parent);
 
   bool OnInitDialog() override;
-  void OnCommand(int id, ControlEvent event) override;
+  void OnCommand(int id, WindowEvent event) override;
   void OnCancel() override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
-  bool OnKey(int id, Key key, Held held) override;
-  void OnItemLook(int id, int row, ItemLook& look) override { pane_.Look(id, row, look); }
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
+  void OnItemLook(int id, int row, WindowItemLook& look) override { pane_.Look(id, row, look); }
 
 private:
   enum Control : int {
@@ -49,7 +49,7 @@ private:
   };
 
   void OnClicked(int id);
-  bool OnListKey(Key key, Held held);
+  bool OnListKey(WindowKey key, WindowHeldKeys held);
   void UpdateButtons();
 
   void NewList();

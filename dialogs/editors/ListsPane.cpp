@@ -61,7 +61,7 @@ bool ListsPane::Edit(CSymbolList& list, ContentEditor::Mode mode, int row, const
   return RunWithin(kind_, sources_, dialog_, {list, mode, isTaken, symbols}) == CDialog::Accepted;
 }
 
-void ListsPane::Look(int id, int row, ItemLook& look) const {
+void ListsPane::Look(int id, int row, WindowItemLook& look) const {
   if (id == kLists)
     CListBoxMain::Look(marksDefault_ && row == copy_.DefaultIndex(), look);
   else

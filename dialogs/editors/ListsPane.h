@@ -39,7 +39,7 @@ public:
   bool MakeList(const CString& symbols = {});
 
   // Headings and the default list look different.
-  void Look(int id, int row, ItemLook& look) const;
+  void Look(int id, int row, WindowItemLook& look) const;
 
 private:
   bool Edit(CSymbolList& list, ContentEditor::Mode mode, int row, const CString& symbols);

@@ -1,10 +1,10 @@
 #include "dialogs/editors/NameCheck.h"
 
 #include "dialogs/DialogMessages.h"
-#include "idlist/StorableText.h"
 #include "platform/LibraryString.h"
 #include "platform/Text.h"
 #include "platform/services/tqUtil.h"
+#include "symbollist/TextFaults.h"
 
 namespace tq {
 
@@ -35,7 +35,8 @@ bool NameCheck::IsUnreserved() const {
 }
 
 bool NameCheck::CanBeLoaded() const {
-  return IsLoadable(ViewOf(name_)) || Refuse(kMessageUnloadable);
+  return (FaultsOfName(name_) & (TQTextUnloadable | TQTextBroken)) == 0 ||
+         Refuse(kMessageUnloadable);
 }
 
 bool NameCheck::Refuse(unsigned message) const {

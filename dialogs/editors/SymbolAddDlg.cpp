@@ -24,12 +24,12 @@ int CSymbolAddDlg::StartRow() const {
   return row >= 0 ? row : lists_.Copy().DefaultIndex();
 }
 
-void CSymbolAddDlg::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::Clicked)
+void CSymbolAddDlg::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::Clicked)
     OnClicked(id);
-  else if (event == ControlEvent::SelectionChanged && id == ListsPane::kLists)
+  else if (event == WindowEvent::SelectionChanged && id == ListsPane::kLists)
     lists_.ShowContents();
-  else if (event == ControlEvent::DoubleClicked && id == ListsPane::kLists)
+  else if (event == WindowEvent::DoubleClicked && id == ListsPane::kLists)
     AddAndEdit();
   UpdateButtons();
 }

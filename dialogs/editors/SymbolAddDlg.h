@@ -15,8 +15,8 @@ public:
 
 protected:
   bool OnInitDialog() override;
-  void OnCommand(int id, ControlEvent event) override;
-  void OnItemLook(int id, int row, ItemLook& look) override { lists_.Look(id, row, look); }
+  void OnCommand(int id, WindowEvent event) override;
+  void OnItemLook(int id, int row, WindowItemLook& look) override { lists_.Look(id, row, look); }
 
 private:
   enum Control : int {

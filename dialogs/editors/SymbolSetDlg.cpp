@@ -50,22 +50,22 @@ int CSymbolSetDlg::RowOfBefore(const ListSource& source) {
   return found == items.end() ? -1 : static_cast<int>(found - items.begin());
 }
 
-void CSymbolSetDlg::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::SelectionChanged && id == kSources)
+void CSymbolSetDlg::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::SelectionChanged && id == kSources)
     ChooseSource();
-  else if (event == ControlEvent::SelectionChanged && id == kItems)
+  else if (event == WindowEvent::SelectionChanged && id == kItems)
     UpdateButtons();
-  else if (event == ControlEvent::Clicked && id == kNewItem)
+  else if (event == WindowEvent::Clicked && id == kNewItem)
     NewList();
-  else if ((event == ControlEvent::Clicked && id == kEditItem) ||
-           (event == ControlEvent::DoubleClicked && id == kItems))
+  else if ((event == WindowEvent::Clicked && id == kEditItem) ||
+           (event == WindowEvent::DoubleClicked && id == kItems))
     EditList();
-  else if (event == ControlEvent::Clicked && id == kDeleteItem)
+  else if (event == WindowEvent::Clicked && id == kDeleteItem)
     DeleteList();
 }
 
-bool CSymbolSetDlg::OnKey(int id, Key key, Held held) {
-  if (id != kItems || key != Key::Delete || held.alt)
+bool CSymbolSetDlg::OnKey(int id, WindowKey key, WindowHeldKeys held) {
+  if (id != kItems || key != WindowKey::Delete || held.alt)
     return false;
   DeleteList();
   return true;

@@ -29,8 +29,8 @@ public:
 protected:
   bool OnInitDialog() override;
   void OnOK() override;
-  void OnCommand(int id, ControlEvent event) override;
-  bool OnKey(int id, Key key, Held held) override;
+  void OnCommand(int id, WindowEvent event) override;
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
 
 private:
   enum Control : int {

@@ -3,8 +3,8 @@
 #include <iterator>
 
 #include "platform/Module.h"
+#include "platform/interface/TQSymbolStrings.h"
 #include "platform/services/tqCommon.h"
-#include "platform/texts/StringTable.h"
 #include "platform/xml/XmlText.h"
 
 namespace tq {

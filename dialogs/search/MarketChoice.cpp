@@ -16,15 +16,10 @@
 namespace tq {
 namespace {
 
-// Public, and the terminal's: do not change.
-constexpr int kMarkets = 1;
-constexpr int kEditionMarkets = 101;
-constexpr char kEditionMark[] = "OTV01";
-
 bool HasEditionMarkets(const CTQSymbolListMgr& manager) {
   const std::vector<CString>& texts = manager.GetExtraTQInfo();
   return std::any_of(texts.begin(), texts.end(),
-                     [](const CString& text) { return text.Find(kEditionMark) >= 0; });
+                     [](const CString& text) { return text.Find(TQExtraInfoEditionMarkets) >= 0; });
 }
 
 // The entry for all, and the groups.
@@ -74,9 +69,9 @@ void DropRepeated(std::vector<SymbolInfo>& symbols) {
 } // namespace
 
 MarketChoice::MarketChoice(CTQSymbolListMgr& manager) : manager_(manager) {
-  AddMarkets(kMarkets);
+  AddMarkets(TQGroupTypeMarkets);
   if (HasEditionMarkets(manager))
-    AddMarkets(kEditionMarkets);
+    AddMarkets(TQGroupTypeEditionMarkets);
   AddMarkets(kCloudGroupType);
 }
 

@@ -15,7 +15,7 @@ SymbolRows RowsOf(int done, ServiceArray<SymbolInfo> found) {
 }
 
 SymbolRows FindByExchangeCode(const CString& code) {
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLEX2ZUID2");
   const int done = VLEX2ZUID2(code, found.List(), found.Count());
   return RowsOf(done, std::move(found));
 }
@@ -27,7 +27,7 @@ SymbolRows FindInMarket(const DialogSources& sources, const SymbolQuery& query) 
   if (tables == nullptr || query.market.IsEmpty() || query.text.Find('.') >= 0 ||
       tables->LookUpSymbolGetString(kIdField, query.text + "." + query.market, "", id) == 0)
     return {};
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLGetSymbolInfos");
   const int done = VLGetSymbolInfos(id, found.List(), found.Count());
   return RowsOf(done, std::move(found));
 }
@@ -36,7 +36,7 @@ SymbolRows FindOnExchanges(const DialogSources& sources, const SymbolQuery& quer
   const int bCN = sources.Manager().GetbCN();
   if (query.exchanges.IsEmpty())
     return SymbolRows(FindOnAllExchanges(query.text, bCN));
-  ServiceArray<SymbolInfo> found;
+  ServiceArray<SymbolInfo> found("VLFindSymbol2");
   const int done = VLFindSymbol2(query.text, query.exchanges, found.List(), found.Count(), 0, bCN);
   return RowsOf(done, std::move(found));
 }

@@ -50,7 +50,7 @@ bool CSymbolSearchDlg::OnInitDialog() {
 
 void CSymbolSearchDlg::PrepareControls() {
   constexpr int kCodeWidth = 100; // in dialog units
-  CTQIconButton(*this, kSearch, ButtonIcon::Search);
+  CTQIconButton(*this, kSearch, WindowButtonIcon::Search);
   results_.Open(*this, kResults, kCodeWidth);
 }
 
@@ -63,13 +63,13 @@ void CSymbolSearchDlg::ShowPlace(const Place& place) {
   Remember();
 }
 
-void CSymbolSearchDlg::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::SelectionChanged && id == kMarket) {
+void CSymbolSearchDlg::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::SelectionChanged && id == kMarket) {
     ChooseMarket();
-  } else if (event == ControlEvent::SelectionChanged && id == kGroup) {
+  } else if (event == WindowEvent::SelectionChanged && id == kGroup) {
     Remember();
     ShowMarket();
-  } else if (event == ControlEvent::Clicked && id == kSearch) {
+  } else if (event == WindowEvent::Clicked && id == kSearch) {
     SearchTyped();
   }
 }
@@ -104,7 +104,7 @@ void CSymbolSearchDlg::OnTimer(unsigned) {
   }
   if (!waiting_)
     waiting_.emplace();
-  SetCursorShape(CursorShape::Wait);
+  SetWindowCursor(WindowCursor::Wait);
   if (start_ == Start::Waiting && Post(kFirstSearch))
     start_ = Start::Posted;
 }
@@ -153,30 +153,30 @@ void CSymbolSearchDlg::Choose(int row) {
   EndDialog(Accepted);
 }
 
-void CSymbolSearchDlg::OnNotify(int id, const ListNotice& notice) {
-  if (id == kResults && notice.kind == ListNotice::Kind::DoubleClicked &&
+void CSymbolSearchDlg::OnNotify(int id, const WindowListNotice& notice) {
+  if (id == kResults && notice.kind == WindowListNotice::Kind::DoubleClicked &&
       CListCtrl(*this, kResults).GetSelectedCount() <= 1)
     Choose(notice.row);
 }
 
-bool CSymbolSearchDlg::OnKey(int id, Key key, Held held) {
+bool CSymbolSearchDlg::OnKey(int id, WindowKey key, WindowHeldKeys held) {
   if (held.alt || held.control || held.shift)
     return false;
   if (id == kInput)
     return OnInputKey(key);
   const CListCtrl results(*this, kResults);
-  if (id != kResults || key != Key::Enter || results.GetSelectedCount() != 1)
+  if (id != kResults || key != WindowKey::Enter || results.GetSelectedCount() != 1)
     return false;
   Choose(results.GetCurSel());
   return true;
 }
 
 // Down goes to the results, as in every field with a list below.
-bool CSymbolSearchDlg::OnInputKey(Key key) {
+bool CSymbolSearchDlg::OnInputKey(WindowKey key) {
   CListCtrl results(*this, kResults);
-  if (key == Key::Enter) {
+  if (key == WindowKey::Enter) {
     SearchTyped();
-  } else if (key == Key::Down && results.GetRowCount() > 0) {
+  } else if (key == WindowKey::Down && results.GetRowCount() > 0) {
     results.SetFocus();
     if (results.GetSelectedCount() == 0)
       results.SetCurSel(0);

@@ -35,11 +35,11 @@ public:
 protected:
   bool OnInitDialog() override;
   void OnOK() override {} // Enter is the field's and the table's
-  void OnCommand(int id, ControlEvent event) override;
-  void OnNotify(int id, const ListNotice& notice) override;
+  void OnCommand(int id, WindowEvent event) override;
+  void OnNotify(int id, const WindowListNotice& notice) override;
   void OnTimer(unsigned id) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
-  bool OnKey(int id, Key key, Held held) override;
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
   CString OnCellText(int, int row, int column) override { return results_.CellText(row, column); }
 
 private:
@@ -62,7 +62,7 @@ private:
   void SearchTyped();
   void SearchFor(const CString& text);
   void Choose(int row);
-  bool OnInputKey(Key key);
+  bool OnInputKey(WindowKey key);
 
   tq::DialogSources sources_;
   CString input_;

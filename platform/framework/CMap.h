@@ -19,9 +19,12 @@
 #include "platform/framework/InvalidArgument.h"
 #include "platform/framework/MapStorage.h"
 
-// A position in an iteration over a map; null is the end.
+namespace tq {
 struct MapPosition;
-using POSITION = MapPosition*;
+}
+
+// A position in an iteration over a map; null is the end.
+using POSITION = tq::MapPosition*;
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap {
 public:

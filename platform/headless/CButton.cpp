@@ -4,7 +4,7 @@
 
 using namespace tq::headless;
 
-bool CButton::SetIcon(ButtonIcon icon) {
+bool CButton::SetIcon(WindowButtonIcon icon) {
   Control* const button = FindControl(handle_, tq::ControlKind::Button);
   if (button == nullptr || (button->style & tq::TemplateIcon) == 0)
     return false;
@@ -12,7 +12,7 @@ bool CButton::SetIcon(ButtonIcon icon) {
   return true;
 }
 
-ButtonIcon CButton::GetIcon() const {
+WindowButtonIcon CButton::GetIcon() const {
   const Control* const button = FindControl(handle_, tq::ControlKind::Button);
-  return button == nullptr ? ButtonIcon::None : button->icon;
+  return button == nullptr ? WindowButtonIcon::None : button->icon;
 }

@@ -43,7 +43,7 @@ void FocusFirst(Dialog& dialog) {
 
 // Nothing is left that could end the dialog: as if the user gave up.
 void GiveUp(CDialog& object) {
-  tq::DialogAccess::Command(object, CDialog::Cancelled, ControlEvent::Clicked);
+  tq::DialogAccess::Command(object, CDialog::Cancelled, WindowEvent::Clicked);
   if (!tq::DialogAccess::HasEnded(object))
     tq::DialogAccess::SetEnd(object, CDialog::Cancelled);
 }

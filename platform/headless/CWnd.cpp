@@ -10,7 +10,7 @@ using tq::ControlKind;
 
 namespace {
 
-CursorShape cursor = CursorShape::Arrow;
+WindowCursor cursor = WindowCursor::Arrow;
 
 WindowHandle ControlOf(WindowHandle dialogHandle, int id) {
   const Dialog* const dialog = FindDialog(dialogHandle);
@@ -116,10 +116,10 @@ intptr_t CWnd::Send(unsigned code, intptr_t first, intptr_t second) const {
   return tq::DialogAccess::Message(*dialog->object, code, first, second);
 }
 
-void SetCursorShape(CursorShape shape) {
+void SetWindowCursor(WindowCursor shape) {
   cursor = shape;
 }
 
-CursorShape GetCursorShape() {
+WindowCursor GetWindowCursor() {
   return cursor;
 }

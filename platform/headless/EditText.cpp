@@ -63,12 +63,12 @@ bool DeleteForward(Control& edit) {
   return true;
 }
 
-void PutCaret(Control& edit, Key key, bool selects) {
-  if (key != Key::Home && key != Key::End)
+void PutCaret(Control& edit, WindowKey key, bool selects) {
+  if (key != WindowKey::Home && key != WindowKey::End)
     return;
   if (!selects)
-    PutCaretAt(edit, key == Key::Home ? 0 : edit.text.GetLength());
-  else if (key == Key::Home)
+    PutCaretAt(edit, key == WindowKey::Home ? 0 : edit.text.GetLength());
+  else if (key == WindowKey::Home)
     edit.selectionStart = 0;
   else
     edit.selectionEnd = edit.text.GetLength();

@@ -11,6 +11,6 @@ bool TypeCharacter(Control& edit, const CString& character);
 // The Delete key: deletes the selection, or the character behind the caret. True as above.
 bool DeleteForward(Control& edit);
 // The Home and End keys; with `selects` the caret selects what it passes.
-void PutCaret(Control& edit, Key key, bool selects);
+void PutCaret(Control& edit, WindowKey key, bool selects);
 
 } // namespace tq::headless

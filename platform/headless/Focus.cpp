@@ -7,7 +7,7 @@ namespace tq::headless {
 
 namespace {
 
-void Tell(Control& control, ControlEvent event) {
+void Tell(Control& control, WindowEvent event) {
   if (control.kind == ControlKind::Edit)
     DialogAccess::Command(*control.owner->object, control.id, event);
 }
@@ -60,10 +60,10 @@ bool MoveFocus(Control& control) {
     return true;
   dialog.focus = &control;
   if (before != nullptr)
-    Tell(*before, ControlEvent::FocusLost);
+    Tell(*before, WindowEvent::FocusLost);
   if (dialog.focus != &control || DialogAccess::HasEnded(*dialog.object))
     return false;
-  Tell(control, ControlEvent::FocusGained);
+  Tell(control, WindowEvent::FocusGained);
   return dialog.focus == &control && !DialogAccess::HasEnded(*dialog.object);
 }
 
@@ -92,7 +92,7 @@ void LeaveIfClosed(const Control& control) {
 void Choose(Dialog& dialog, int id) {
   const Control* const button = dialog.Find(id);
   if (button == nullptr || button->enabled)
-    DialogAccess::Command(*dialog.object, id, ControlEvent::Clicked);
+    DialogAccess::Command(*dialog.object, id, WindowEvent::Clicked);
 }
 
 bool PressMnemonic(Dialog& dialog, char letter) {

@@ -22,6 +22,6 @@ void Choose(Dialog& dialog, int id);
 bool PressMnemonic(Dialog& dialog, char letter);
 
 // A key in the list that has the focus. False when it is none of a list's keys.
-bool PressInRows(Control& list, Key key, Held held);
+bool PressInRows(Control& list, WindowKey key, WindowHeldKeys held);
 
 } // namespace tq::headless

@@ -42,17 +42,17 @@ private:
 
 } // namespace
 
-bool PressInRows(Control& list, Key key, Held held) {
+bool PressInRows(Control& list, WindowKey key, WindowHeldKeys held) {
   const bool isCombo = list.kind == ControlKind::ComboBox;
-  if (isCombo && (key == Key::Space || held.alt))
+  if (isCombo && (key == WindowKey::Space || held.alt))
     return false;
   RowsOfControl rows(list);
   const ListKeyResult result = PressInList(rows, key, held);
   CDialog& object = *list.owner->object;
   if (result == ListKeyResult::Selected && list.kind == ControlKind::ListView)
-    DialogAccess::Notify(object, list.id, {ListNotice::Kind::SelectionChanged, -1});
+    DialogAccess::Notify(object, list.id, {WindowListNotice::Kind::SelectionChanged, -1});
   else if (result == ListKeyResult::Selected)
-    DialogAccess::Command(object, list.id, ControlEvent::SelectionChanged);
+    DialogAccess::Command(object, list.id, WindowEvent::SelectionChanged);
   return result != ListKeyResult::Unknown;
 }
 

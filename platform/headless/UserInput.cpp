@@ -74,9 +74,9 @@ bool SelectByMouse(Control& control, int row, Modifier modifier) {
 void TellSelection(Control& control, bool changed) {
   CDialog& object = *control.owner->object;
   if (control.kind == ControlKind::ListBox)
-    DialogAccess::Command(object, control.id, ControlEvent::SelectionChanged);
+    DialogAccess::Command(object, control.id, WindowEvent::SelectionChanged);
   else if (changed)
-    DialogAccess::Notify(object, control.id, {ListNotice::Kind::SelectionChanged, -1});
+    DialogAccess::Notify(object, control.id, {WindowListNotice::Kind::SelectionChanged, -1});
 }
 
 // Beside the rows of a list box there is nothing.
@@ -114,7 +114,7 @@ bool Click(WindowHandle handle) {
   if (control->kind == ControlKind::Edit)
     control->selectionStart = control->selectionEnd = control->text.GetLength();
   if (MoveFocus(*control) && control->kind == ControlKind::Button)
-    DialogAccess::Command(*control->owner->object, control->id, ControlEvent::Clicked);
+    DialogAccess::Command(*control->owner->object, control->id, WindowEvent::Clicked);
   return true;
 }
 
@@ -134,9 +134,9 @@ bool DoubleClickRow(WindowHandle handle, int row, Modifier modifier) {
     return true;
   CDialog& object = *list->owner->object;
   if (list->kind == ControlKind::ListBox)
-    DialogAccess::Command(object, list->id, ControlEvent::DoubleClicked);
+    DialogAccess::Command(object, list->id, WindowEvent::DoubleClicked);
   else
-    DialogAccess::Notify(object, list->id, {ListNotice::Kind::DoubleClicked, row});
+    DialogAccess::Notify(object, list->id, {WindowListNotice::Kind::DoubleClicked, row});
   return true;
 }
 
@@ -162,7 +162,7 @@ bool PickEntry(WindowHandle handle, int index) {
   if (!MoveFocus(*control))
     return true;
   control->rows.SelectOnly(index);
-  DialogAccess::Command(*control->owner->object, control->id, ControlEvent::SelectionChanged);
+  DialogAccess::Command(*control->owner->object, control->id, WindowEvent::SelectionChanged);
   return true;
 }
 

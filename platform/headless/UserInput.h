@@ -41,7 +41,7 @@ TQFRAMEWORK_API bool PickEntry(WindowHandle control, int index);
 // Types into the edit that has the focus, a character at a time, until the dialog has ended or the
 // focus is somewhere else; "\b" takes back.
 TQFRAMEWORK_API bool TypeText(WindowHandle dialog, const char* text);
-TQFRAMEWORK_API bool PressKey(WindowHandle dialog, Key key, Modifier modifier);
+TQFRAMEWORK_API bool PressKey(WindowHandle dialog, WindowKey key, Modifier modifier);
 // A letter or digit; with Control only A. Without Control and Alt not where a list has the focus:
 // lists in memory know no letters.
 TQFRAMEWORK_API bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);

@@ -36,23 +36,23 @@ void PressEnter(Dialog& dialog) {
 }
 
 void TellTextChanged(const Control& edit) {
-  DialogAccess::Command(*edit.owner->object, edit.id, ControlEvent::TextChanged);
+  DialogAccess::Command(*edit.owner->object, edit.id, WindowEvent::TextChanged);
 }
 
-void PressInEdit(Control& edit, Key key, Held held) {
-  if (key == Key::A && held.control)
+void PressInEdit(Control& edit, WindowKey key, WindowHeldKeys held) {
+  if (key == WindowKey::A && held.control)
     return SelectText(edit);
   PutCaret(edit, key, held.shift);
-  const bool changed = (key == Key::Delete && DeleteForward(edit)) ||
-                       (key == Key::Space && TypeCharacter(edit, " "));
+  const bool changed = (key == WindowKey::Delete && DeleteForward(edit)) ||
+                       (key == WindowKey::Space && TypeCharacter(edit, " "));
   if (changed)
     TellTextChanged(edit);
 }
 
-void PressInControl(Dialog& dialog, Key key, Held held) {
+void PressInControl(Dialog& dialog, WindowKey key, WindowHeldKeys held) {
   if (held.alt && !(dialog.focus != nullptr && dialog.focus->HasRows()))
     return;
-  if (HasFocusOn(dialog, ControlKind::Button) && key == Key::Space)
+  if (HasFocusOn(dialog, ControlKind::Button) && key == WindowKey::Space)
     return Choose(dialog, dialog.focus->id);
   if (HasFocusOn(dialog, ControlKind::Edit))
     return PressInEdit(*dialog.focus, key, held);
@@ -60,22 +60,22 @@ void PressInControl(Dialog& dialog, Key key, Held held) {
     PressInRows(*dialog.focus, key, held);
 }
 
-Held HeldBy(Modifier modifier) {
+WindowHeldKeys HeldBy(Modifier modifier) {
   return {modifier == Modifier::Shift, modifier == Modifier::Control, modifier == Modifier::Alt};
 }
 
 // With Alt the dialog hears of the keys that move up and down, and Enter, Escape and Tab are the
 // system's.
-bool IsOffered(Key key, Held held) {
-  return !held.alt || key == Key::Up || key == Key::Down;
+bool IsOffered(WindowKey key, WindowHeldKeys held) {
+  return !held.alt || key == WindowKey::Up || key == WindowKey::Down;
 }
 
-void PressInDialog(Dialog& dialog, Key key, Held held) {
-  if (key == Key::Enter)
+void PressInDialog(Dialog& dialog, WindowKey key, WindowHeldKeys held) {
+  if (key == WindowKey::Enter)
     PressEnter(dialog);
-  else if (key == Key::Escape)
+  else if (key == WindowKey::Escape)
     Choose(dialog, CDialog::Cancelled);
-  else if (key == Key::Tab)
+  else if (key == WindowKey::Tab)
     FocusNext(dialog, held.shift);
   else
     PressInControl(dialog, key, held);
@@ -110,11 +110,11 @@ bool TypeText(WindowHandle handle, const char* text) {
   return true;
 }
 
-bool PressKey(WindowHandle handle, Key key, Modifier modifier) {
+bool PressKey(WindowHandle handle, WindowKey key, Modifier modifier) {
   Dialog* const dialog = Listening(handle);
   if (dialog == nullptr)
     return false;
-  const Held held = HeldBy(modifier);
+  const WindowHeldKeys held = HeldBy(modifier);
   if (!IsOffered(key, held))
     return true;
   const int id = dialog->focus == nullptr ? 0 : dialog->focus->id;
@@ -130,7 +130,7 @@ bool PressLetter(WindowHandle handle, char letter, Modifier modifier) {
   if (dialog == nullptr || AsMnemonic(letter) == '\0')
     return false;
   if (modifier == Modifier::Control)
-    return AsMnemonic(letter) == 'A' && PressKey(handle, Key::A, modifier);
+    return AsMnemonic(letter) == 'A' && PressKey(handle, WindowKey::A, modifier);
   if (modifier != Modifier::Alt)
     return TypeLetter(*dialog, letter);
   PressMnemonic(*dialog, AsMnemonic(letter));

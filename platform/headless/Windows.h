@@ -48,7 +48,7 @@ struct Control : Node {
   int limit = 0;          // edit: bytes, 0 none
   int selectionStart = 0; // edit: bytes, whole characters
   int selectionEnd = 0;   // the caret
-  ButtonIcon icon = ButtonIcon::None;
+  WindowButtonIcon icon = WindowButtonIcon::None;
 
   bool TakesInput() const { return enabled && visible; }
   bool TakesFocus() const { return kind != ControlKind::Label && TakesInput(); }

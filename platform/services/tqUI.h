@@ -38,7 +38,7 @@ private:
 class TQ_SERVICE_API CTQIconButton : public CButton {
 public:
   // Gives the icon button `id` of the dialog its picture. Without such a button nothing happens.
-  CTQIconButton(const CWnd& dialog, int id, ButtonIcon icon);
+  CTQIconButton(const CWnd& dialog, int id, WindowButtonIcon icon);
 };
 
 // The tips of one dialog: the text that appears when the mouse rests on a control. They go with the

@@ -1,4 +1,4 @@
-#include "platform/texts/StringTable.h"
+#include "platform/interface/TQSymbolStrings.h"
 
 #include <string_view>
 
@@ -22,7 +22,7 @@ constexpr Entry kEntries[] = {
 
 } // namespace
 
-const char* tqSymbolString(unsigned id, int traditional) {
+const char* tqSymbolString(unsigned id, int traditional) noexcept {
   for (const Entry& entry : kEntries) {
     if (entry.id == id)
       return traditional != 0 ? entry.traditional : entry.simplified;

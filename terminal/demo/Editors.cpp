@@ -42,7 +42,7 @@ std::string Said(const char* traditional, const char* simplified) {
 
 void EnterSymbol(User& user, size_t number) {
   user.Fill(kCode, SomeSymbols(number, 1));
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
 }
 
 void LookAndLeave(User& user, int button) {
@@ -116,7 +116,7 @@ void EditorSession::EditLists() {
     user.Click(kNewList);
     user.Click(kRename);
     user.Type(renamed);
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     user.Click(kMakeDefault);
     LookAndLeave(user, kListsDone);
   };

@@ -143,16 +143,16 @@ void DeskDialog::SelectSymbols(const std::vector<CString>& symbols) {
 
 // Enter in the field searches. Escape is pressed once too often behind a dialog, and would close
 // the terminal.
-bool DeskDialog::OnKey(int id, Key key, Held) {
-  if (id == kInput && key == Key::Enter)
+bool DeskDialog::OnKey(int id, WindowKey key, WindowHeldKeys) {
+  if (id == kInput && key == WindowKey::Enter)
     FindSymbol();
-  return key == Key::Escape || (id == kInput && key == Key::Enter);
+  return key == WindowKey::Escape || (id == kInput && key == WindowKey::Enter);
 }
 
-void DeskDialog::OnCommand(int id, ControlEvent event) {
-  if (event == ControlEvent::Clicked)
+void DeskDialog::OnCommand(int id, WindowEvent event) {
+  if (event == WindowEvent::Clicked)
     return OnClicked(id);
-  if (event != ControlEvent::SelectionChanged) // of a box
+  if (event != WindowEvent::SelectionChanged) // of a box
     return;
   const int chosen = CComboBox(*this, id).GetCurSel();
   if (id == kSource)
@@ -163,8 +163,8 @@ void DeskDialog::OnCommand(int id, ControlEvent event) {
   ShowPage();
 }
 
-void DeskDialog::OnNotify(int id, const ListNotice& notice) {
-  if (id == kPage && notice.kind == ListNotice::Kind::SelectionChanged)
+void DeskDialog::OnNotify(int id, const WindowListNotice& notice) {
+  if (id == kPage && notice.kind == WindowListNotice::Kind::SelectionChanged)
     UpdateButtons();
 }
 

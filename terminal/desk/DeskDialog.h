@@ -42,9 +42,9 @@ public:
 protected:
   bool OnInitDialog() override;
   void OnOK() override {} // Enter in the page is not an order to leave
-  bool OnKey(int id, Key key, Held held) override;
-  void OnCommand(int id, ControlEvent event) override;
-  void OnNotify(int id, const ListNotice& notice) override;
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
+  void OnCommand(int id, WindowEvent event) override;
+  void OnNotify(int id, const WindowListNotice& notice) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
   CString OnCellText(int id, int row, int column) override;
 

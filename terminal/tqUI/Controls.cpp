@@ -1,7 +1,8 @@
 // tqUI: the terminal's controls, which are controls of the window layer with defaults.
 #include "platform/services/tqUI.h"
 
-CTQIconButton::CTQIconButton(const CWnd& dialog, int id, ButtonIcon icon) : CButton(dialog, id) {
+CTQIconButton::CTQIconButton(const CWnd& dialog, int id, WindowButtonIcon icon)
+    : CButton(dialog, id) {
   SetIcon(icon);
 }
 

@@ -87,7 +87,7 @@ bool User::Fill(int id, const std::string& text) {
   return Type(text.empty() ? "\b" : text);
 }
 
-bool User::Press(Key key, Modifier modifier) {
+bool User::Press(WindowKey key, Modifier modifier) {
   return IsUp() && Settled(actions::PressKey(dialog_.GetSafeHwnd(), key, modifier));
 }
 

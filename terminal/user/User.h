@@ -38,7 +38,7 @@ public:
   bool Type(const std::string& text);
   // In the place of the text of that edit.
   bool Fill(int id, const std::string& text);
-  bool Press(Key key, Modifier modifier = Modifier::None);
+  bool Press(WindowKey key, Modifier modifier = Modifier::None);
   // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With
   // Control only A. Without Alt and Control not where a list has the focus.
   bool PressLetter(char letter, Modifier modifier = Modifier::Alt);

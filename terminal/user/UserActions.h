@@ -28,7 +28,7 @@ bool DoubleClickRow(WindowHandle control, int row, Modifier modifier);
 bool HoverRow(WindowHandle control, int row);
 bool PickEntry(WindowHandle control, int index);
 bool TypeText(WindowHandle dialog, const char* ansi);
-bool PressKey(WindowHandle dialog, Key key, Modifier modifier);
+bool PressKey(WindowHandle dialog, WindowKey key, Modifier modifier);
 bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
 bool IsRowInSight(WindowHandle control, int row);
 bool CloseByTitleBar(WindowHandle dialog);

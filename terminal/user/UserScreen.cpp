@@ -54,7 +54,7 @@ std::string ColumnsOf(const CListCtrl& view) {
 
 // How the dialog wants the row drawn.
 std::string LookOf(CDialog& dialog, int id, int row) {
-  const ItemLook look = tq::DialogAccess::Look(dialog, id, row);
+  const WindowItemLook look = tq::DialogAccess::Look(dialog, id, row);
   return std::string(look.marked ? "(*) " : "") + (look.bold ? "(bold) " : "");
 }
 

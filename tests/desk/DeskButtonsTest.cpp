@@ -20,13 +20,13 @@ protected:
     user.ClickRow(kLists, 0);
     user.Click(kRename);
     user.Type("renamed");
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     user.Click(kListsDone);
   }
   // In the editor of a list.
   static void Enter(User& user, const char* code) {
     user.Fill(kCode, code);
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
   }
   static void Cancel(User& user) { user.Click(kCancel); }
 };
@@ -47,8 +47,8 @@ TEST_F(DeskButtons, AMessageOfADialogIsInTheLogWithItsText) {
       lists.ClickRow(kLists, 0);
       lists.Click(kRename);
       lists.Type("two");
-      lists.Press(Key::Enter);
-      lists.Press(Key::Escape);
+      lists.Press(WindowKey::Enter);
+      lists.Press(WindowKey::Escape);
       lists.Click(kListsDone);
     });
     EXPECT_EQ(NewLines(user), Texts{Said("訊息 | 48011 | 命名重複，請重新命名",
@@ -233,7 +233,7 @@ TEST_F(DeskButtons, ATextThatMeansOneSymbolSelectsIt) {
   InDesk([](User& user) {
     user.Fill(DeskDialog::kInput, "2454");
     WhenDialogOpens([](User& search) { search.WaitFor([] { return false; }); }); // it ends itself
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(user.SelectedRows(DeskDialog::kPage), std::vector<int>{2});
     EXPECT_TRUE(user.HasFocus(DeskDialog::kPage));
     EXPECT_TRUE(user.IsEnabled(DeskDialog::kAddOne));

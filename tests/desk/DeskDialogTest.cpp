@@ -65,9 +65,9 @@ TEST_F(DeskWindow, FollowsAFill) {
 
 TEST_F(DeskWindow, StaysOpenForEnterAndEscape) {
   InDesk([](User& user) {
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_TRUE(user.IsUp());
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
     EXPECT_TRUE(user.IsUp());
     user.CloseByTitleBar();
     EXPECT_FALSE(user.IsUp());
@@ -88,7 +88,7 @@ TEST_F(DeskWindow, KeepsTheSelectedSymbolWhenListsChange) {
 // In the order of the Tab key, from the page on.
 TEST_F(DeskWindow, GoesFromThePageToTheButtonsAndTheLog) {
   InDesk([](User& user) {
-    user.Press(Key::Tab);
+    user.Press(WindowKey::Tab);
     EXPECT_TRUE(user.HasFocus(DeskDialog::kEditLists));
     user.PressLetter('C');
     EXPECT_TRUE(user.HasFocus(DeskDialog::kInput));

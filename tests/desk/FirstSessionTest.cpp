@@ -12,7 +12,7 @@ protected:
     Open(user, DeskDialog::kNewList, [](User& editor) {
       editor.Fill(kName, "mine");
       editor.Fill(kCode, "2330");
-      editor.Press(Key::Enter);
+      editor.Press(WindowKey::Enter);
       editor.Click(kDone);
     });
   }
@@ -32,7 +32,7 @@ protected:
       lists.Select(kLists, "mine");
       lists.Click(kRename);
       lists.Type("yours");
-      lists.Press(Key::Enter);
+      lists.Press(WindowKey::Enter);
       lists.Click(kListsDone);
     });
   }

@@ -117,16 +117,16 @@ protected:
   Deed Press(User& user) {
     struct Stroke {
       const char* what;
-      Key key;
+      WindowKey key;
       Modifier modifier;
     };
     static const Stroke kStrokes[] = {
-        {"Enter", Key::Enter, Modifier::None},   {"Enter", Key::Enter, Modifier::None},
-        {"Delete", Key::Delete, Modifier::None}, {"F2", Key::F2, Modifier::None},
-        {"F2", Key::F2, Modifier::None},         {"Alt+Up", Key::Up, Modifier::Alt},
-        {"Alt+Down", Key::Down, Modifier::Alt},  {"A", Key::A, Modifier::Control},
-        {"Tab", Key::Tab, Modifier::None},       {"Space", Key::Space, Modifier::None},
-        {"Down", Key::Down, Modifier::None},     {"Home", Key::Home, Modifier::None}};
+        {"Enter", WindowKey::Enter, Modifier::None},   {"Enter", WindowKey::Enter, Modifier::None},
+        {"Delete", WindowKey::Delete, Modifier::None}, {"F2", WindowKey::F2, Modifier::None},
+        {"F2", WindowKey::F2, Modifier::None},         {"Alt+Up", WindowKey::Up, Modifier::Alt},
+        {"Alt+Down", WindowKey::Down, Modifier::Alt},  {"A", WindowKey::A, Modifier::Control},
+        {"Tab", WindowKey::Tab, Modifier::None},       {"Space", WindowKey::Space, Modifier::None},
+        {"Down", WindowKey::Down, Modifier::None},     {"Home", WindowKey::Home, Modifier::None}};
     const Stroke& stroke = kStrokes[Draw(static_cast<int>(std::size(kStrokes)))];
     return {stroke.what, 0, 0, "", user.Press(stroke.key, stroke.modifier)};
   }
@@ -135,7 +135,7 @@ protected:
     if (how == 0)
       return {"title bar", 0, 0, "", user.CloseByTitleBar()};
     if (how == 1)
-      return {"Escape", 0, 0, "", user.Press(Key::Escape)};
+      return {"Escape", 0, 0, "", user.Press(WindowKey::Escape)};
     if (how == 2 && Draw(3) == 0)
       return End(user);
     if (layout.closers.empty())

@@ -15,9 +15,9 @@ protected:
     WhenDialogOpens([this](User& user) {
       AddFromTerminal("first", "2317.TW");
       EXPECT_TRUE(user.ClickRow(781, 0));
-      EXPECT_TRUE(user.Press(Key::F2));
+      EXPECT_TRUE(user.Press(WindowKey::F2));
       EXPECT_TRUE(user.Type("renamed"));
-      EXPECT_TRUE(user.Press(Key::Enter));
+      EXPECT_TRUE(user.Press(WindowKey::Enter));
       EXPECT_TRUE(user.Click(806));
       isClosed = true;
     });

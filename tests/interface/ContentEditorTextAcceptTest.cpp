@@ -242,7 +242,7 @@ TEST_P(ContentAcceptText, TheFieldHoldsWholeCharacters) {
 TEST_P(ContentAcceptText, EnterAndTheLetterOfTheButtonAcceptToo) {
   EXPECT_TRUE(Edit("A", [](User& user) {
     user.Fill(kName, "three");
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
   }));
   EXPECT_TRUE(Edit("B", [](User& user) {
     user.Fill(kName, "four");

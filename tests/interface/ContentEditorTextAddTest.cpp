@@ -187,7 +187,7 @@ TEST_P(ContentAddText, EnterInTheFieldAdds) {
   EXPECT_EQ(After([](User& user) {
               user.ClickRow(kRows, 2);
               user.Fill(kCode, "2881");
-              user.Press(Key::Enter);
+              user.Press(WindowKey::Enter);
               EXPECT_TRUE(user.IsUp());
             }),
             "2330.TW,2317.TW,2881.TW");
@@ -273,7 +273,7 @@ TEST_P(ContentAddText, TheCaretRowCountsAndNotTheSelectedOne) {
   EXPECT_EQ(After([](User& user) {
               ShowWafers(user);
               user.ClickRow(kRows, 0);
-              user.Press(Key::Down, Modifier::Control);
+              user.Press(WindowKey::Down, Modifier::Control);
               user.ClickRow(kFound, 0);
               user.Click(kAdd);
             }),

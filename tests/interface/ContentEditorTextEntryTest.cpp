@@ -131,7 +131,7 @@ TEST_P(ContentEntryText, CancelStoresNothing) {
 TEST_P(ContentEntryText, EscapeStoresNothing) {
   EXPECT_FALSE(Edit("A", [](User& user) {
     AddAtEnd(user);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   }));
   EXPECT_EQ(All(), untouched);
 }

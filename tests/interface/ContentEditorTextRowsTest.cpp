@@ -95,10 +95,10 @@ TEST_P(ContentRowsText, WithoutASelectedRowNothingMoves) {
 TEST_P(ContentRowsText, AltAndTheArrowsMoveRows) {
   EXPECT_EQ(After([](User& user) {
               user.ClickRow(kRows, 1);
-              user.Press(Key::Down, Modifier::Alt);
-              user.Press(Key::Down, Modifier::Alt);
+              user.Press(WindowKey::Down, Modifier::Alt);
+              user.Press(WindowKey::Down, Modifier::Alt);
               user.ClickRow(kRows, 1);
-              user.Press(Key::Up, Modifier::Alt);
+              user.Press(WindowKey::Up, Modifier::Alt);
             }),
             "2454.TW,2330.TW,1101.TW,2317.TW");
 }
@@ -172,7 +172,7 @@ TEST_P(ContentRowsText, TheKeyDeleteRemovesTheSelectedRows) {
   EXPECT_EQ(After([](User& user) {
               user.ClickRow(kRows, 1);
               user.ClickRow(kRows, 2, Modifier::Shift);
-              user.Press(Key::Delete);
+              user.Press(WindowKey::Delete);
             }),
             "2330.TW,1101.TW");
 }
@@ -181,8 +181,8 @@ TEST_P(ContentRowsText, TheKeyDeleteInAFieldRemovesNoRow) {
   In([](User& user) {
     user.ClickRow(kRows, 1);
     user.Fill(kCode, "2881");
-    user.Press(Key::Home);
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Home);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(kCode), "881");
     EXPECT_EQ(user.Rows(kRows).size(), 5U);
   });
@@ -192,7 +192,7 @@ TEST_P(ContentRowsText, ControlAAndDeleteEmptyTheList) {
   EXPECT_EQ(After([](User& user) {
               user.ClickRow(kRows, 0);
               user.PressLetter('A', Modifier::Control);
-              user.Press(Key::Delete);
+              user.Press(WindowKey::Delete);
               EXPECT_EQ(user.Rows(kRows), Lines{""});
             }),
             "");

@@ -130,7 +130,7 @@ protected:
     const std::size_t shown = standin::Messages().size();
     const int place = Place(user);
     EXPECT_TRUE(user.Fill(kCode, id.substr(0, id.find('.'))));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(user.Text(kCode), "");
     EXPECT_EQ(standin::Messages().size() > shown, model.Has(id));
     if (model.Has(id)) {
@@ -148,7 +148,7 @@ protected:
     const int place = Place(user);
     const std::string text = DrawOf(titles);
     EXPECT_TRUE(user.Fill(kSubTitle, text));
-    EXPECT_TRUE(Draw(2) == 0 ? user.Press(Key::Enter) : user.Click(808));
+    EXPECT_TRUE(Draw(2) == 0 ? user.Press(WindowKey::Enter) : user.Click(808));
     if (place < model.Count() && ContentsModel::IsHeading(*model.PlaceOf(place)))
       *model.PlaceOf(place) = text + ":";
     else

@@ -201,7 +201,7 @@ TEST_F(EditorsEnded, AListOfTheManagersThatSharesItsIdentifierIsNotTouchedOnceIt
   WhenDialogOpens([](User& editor) {
     EXPECT_TRUE(editor.Fill(742, "edited"));
     EXPECT_TRUE(editor.Fill(741, "2317"));
-    EXPECT_TRUE(editor.Press(Key::Enter));
+    EXPECT_TRUE(editor.Press(WindowKey::Enter));
     EXPECT_TRUE(editor.Click(1));
   });
   EXPECT_TRUE(

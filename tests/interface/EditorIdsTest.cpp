@@ -48,7 +48,7 @@ protected:
 TEST_F(EditorIds, OneThatNoFileCarriesIsNotAddedWhenItIsTyped) {
   EditA([](User& user) {
     EXPECT_TRUE(user.Fill(kCode, "A&B.NYSE"));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(standin::Messages().back().id, kUnloadable);
     EXPECT_TRUE(user.HasFocus(kCode));
     EXPECT_EQ(user.Rows(kRows).size(), 2u);
@@ -163,11 +163,11 @@ TEST_F(EditorIds, F2OnASubTitleTakesItsTextToTheField) {
   StartWith({"A/one/Head:,2317.TW"});
   EditA([](User& user) {
     EXPECT_TRUE(user.ClickRow(kRows, 0));
-    EXPECT_TRUE(user.Press(Key::F2));
+    EXPECT_TRUE(user.Press(WindowKey::F2));
     EXPECT_TRUE(user.HasFocus(743));
     EXPECT_EQ(user.Text(743), "Head");
     EXPECT_TRUE(user.Type("Tail"));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(user.Rows(kRows)[0], "Tail");
     EXPECT_TRUE(user.Click(1));
   });
@@ -178,8 +178,8 @@ TEST_F(EditorIds, DeleteTakesAllThatControlASelects) {
   StartWith({"A/one/Head:,2317.TW,gone.TW,1101.TW"});
   EditA([](User& user) {
     EXPECT_TRUE(user.ClickRow(kRows, 1));
-    EXPECT_TRUE(user.Press(Key::A, Modifier::Control));
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::A, Modifier::Control));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(user.Rows(kRows), std::vector<std::string>{""});
     EXPECT_TRUE(standin::Messages().empty());
     EXPECT_TRUE(user.Click(1));
@@ -191,11 +191,11 @@ TEST_F(EditorIds, TheRowInThePlaceOfARemovedOneIsSelected) {
   StartWith({"A/one/2317.TW,1101.TW,2330.TW"});
   EditA([](User& user) {
     EXPECT_TRUE(user.ClickRow(kRows, 1));
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(user.SelectedRows(kRows), std::vector<int>{1});
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(user.SelectedRows(kRows), std::vector<int>{1}); // the empty row
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(user.Rows(kRows).size(), 2u);
     EXPECT_TRUE(user.Click(2));
   });
@@ -205,11 +205,11 @@ TEST_F(EditorIds, EnterOnResultsAddsThemAndInTheNameIsDone) {
   EditA([](User& user) {
     ChooseMix(user);
     EXPECT_TRUE(user.ClickRow(782, 0));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(user.Rows(kRows).size(), 3u);
     EXPECT_TRUE(user.SelectedRows(782).empty());
     EXPECT_TRUE(user.Fill(742, "two"));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_FALSE(user.IsUp());
   });
   EXPECT_EQ(Shape(), "A/two/2317.TW,2330.TW");
@@ -218,9 +218,9 @@ TEST_F(EditorIds, EnterOnResultsAddsThemAndInTheNameIsDone) {
 TEST_F(EditorIds, EscapeChangesNothing) {
   EditA([](User& user) {
     EXPECT_TRUE(user.Fill(kCode, "2330"));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_TRUE(user.Fill(742, "two"));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     EXPECT_FALSE(user.IsUp());
   });
   EXPECT_EQ(Shape(), "A/one/2317.TW");

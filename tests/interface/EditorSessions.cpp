@@ -6,7 +6,7 @@ namespace {
 void EditContents(User& editor) {
   editor.Fill(742, "edited");
   editor.Fill(741, "2317");
-  editor.Press(Key::Enter);
+  editor.Press(WindowKey::Enter);
   editor.Fill(743, "Title");
   editor.Click(808);
   editor.Select(761, 1);
@@ -16,12 +16,12 @@ void EditContents(User& editor) {
   editor.Click(802);
   editor.Click(804);
   editor.ClickRow(781, 1);
-  editor.Press(Key::Delete);
+  editor.Press(WindowKey::Delete);
   editor.Fill(741, "23");
   editor.Click(805);
   editor.DoubleClick(782, 0);
   editor.Fill(741, "7777");
-  editor.Press(Key::Enter);
+  editor.Press(WindowKey::Enter);
   editor.Fill(742, "edited");
   editor.Click(1);
   if (editor.IsUp())
@@ -33,11 +33,11 @@ void EditLists(User& user) {
   WhenDialogOpens(EditContents);
   user.Click(802);
   user.ClickRow(781, 0);
-  user.Press(Key::F2);
+  user.Press(WindowKey::F2);
   user.Type("renamed");
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
   if (user.IsVisible(741)) // the name was refused
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   user.ClickRow(781, 1);
   user.Click(807);
   WhenDialogOpens(EditContents);

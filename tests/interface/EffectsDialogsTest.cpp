@@ -15,9 +15,9 @@ template <typename Open> void RunEditor(Open open, UserScript act) {
 void LookAround(User&) {}
 void RenameTheFirst(User& user) {
   user.ClickRow(781, 0);
-  user.Press(Key::F2);
+  user.Press(WindowKey::F2);
   user.Type("renamed");
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
 }
 
 TEST_F(Effects, OfEditorsThatAreClosedUntouchedAreNone) {
@@ -64,7 +64,7 @@ TEST_F(Effects, OfAListWhoseContentsAreEditedAreASave) {
       },
       [](User& user) {
         user.Fill(741, "1101");
-        user.Press(Key::Enter);
+        user.Press(WindowKey::Enter);
         user.Click(1);
       });
   EXPECT_EQ(Seen(), "SymbolList.xml |  | ");

@@ -77,14 +77,14 @@ TEST_F(HeldByLists, AnImportHoldsNothing) {
 class HeldByDialogs : public IndicatorTest {};
 
 TEST_F(HeldByDialogs, DialogsThatAreOpenedAndClosedHoldNothing) {
-  SearchEconomic([](User& user) { user.Press(Key::Escape); });
+  SearchEconomic([](User& user) { user.Press(WindowKey::Escape); });
   const long before = HeldObjects();
   for (int again = 0; again < 3; ++again) {
-    SearchEconomic([](User& user) { user.Press(Key::Escape); });
+    SearchEconomic([](User& user) { user.Press(WindowKey::Escape); });
     SearchCommodity([](User& user) { user.DoubleClick(kList, 0); });
     SearchFuture([this](User& user) {
-      SearchEconomic([](User& inner) { inner.Press(Key::Escape); });
-      user.Press(Key::Escape);
+      SearchEconomic([](User& inner) { inner.Press(WindowKey::Escape); });
+      user.Press(WindowKey::Escape);
     });
     EXPECT_EQ(before, HeldObjects());
   }
@@ -93,7 +93,7 @@ TEST_F(HeldByDialogs, DialogsThatAreOpenedAndClosedHoldNothing) {
 TEST_F(HeldByDialogs, ADialogWithoutItsTableHoldsNothing) {
   const long before = HeldObjects();
   standin::FailCall("CStockKey::GetInfoArray", 1);
-  SearchEconomic([](User& user) { user.Press(Key::Escape); });
+  SearchEconomic([](User& user) { user.Press(WindowKey::Escape); });
   EXPECT_EQ(before, HeldObjects());
 }
 

@@ -58,7 +58,7 @@ TEST_F(IndicatorChoice, ADoubleClickWithSeveralRowsSelectedChoosesNone) {
     EXPECT_TRUE(user.DoubleClick(kList, 2, Modifier::Shift));
     EXPECT_EQ(user.SelectedRows(kList), (std::vector<int>{0, 1, 2}));
     EXPECT_TRUE(user.IsUp());
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
   EXPECT_EQ(result, 2);
   EXPECT_EQ(Outputs(), untouched);
@@ -69,7 +69,7 @@ TEST_F(IndicatorChoice, AClickSelectsAndChoosesNothing) {
     EXPECT_TRUE(user.ClickRow(kList, 1));
     EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
     EXPECT_TRUE(user.IsUp());
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
   EXPECT_EQ(Outputs(), untouched);
 }

@@ -52,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(Of, AnyIndicatorSearch,
 TEST_P(AnyIndicatorSearch, EscapeCancels) {
   EXPECT_EQ(Open([](User& user) {
               EXPECT_TRUE(user.ClickRow(kList, 0));
-              EXPECT_TRUE(user.Press(Key::Escape));
+              EXPECT_TRUE(user.Press(WindowKey::Escape));
             }),
             2);
   EXPECT_EQ(Outputs(), untouched);
@@ -67,9 +67,9 @@ TEST_P(AnyIndicatorSearch, TheTitleBarCancels) {
 TEST_P(AnyIndicatorSearch, EnterDoesNothing) {
   EXPECT_EQ(Open([](User& user) {
               EXPECT_TRUE(user.ClickRow(kList, 0));
-              EXPECT_TRUE(user.Press(Key::Enter));
+              EXPECT_TRUE(user.Press(WindowKey::Enter));
               EXPECT_TRUE(user.IsUp());
-              user.Press(Key::Escape);
+              user.Press(WindowKey::Escape);
             }),
             2);
   EXPECT_EQ(Outputs(), untouched);
@@ -83,9 +83,9 @@ TEST_P(AnyIndicatorSearch, AnEmptyTableCanOnlyBeCancelled) {
               EXPECT_EQ(user.Rows(kList), Lines{});
               EXPECT_EQ(user.Rows(kCategories), Lines{Text("所有類別", "所有类别")});
               user.DoubleClick(kList, 0);
-              user.Press(Key::Enter);
+              user.Press(WindowKey::Enter);
               EXPECT_TRUE(user.IsUp());
-              EXPECT_TRUE(user.Press(Key::Escape));
+              EXPECT_TRUE(user.Press(WindowKey::Escape));
             }),
             2);
   EXPECT_EQ(Outputs(), untouched);
@@ -95,7 +95,7 @@ TEST_P(AnyIndicatorSearch, ATableThatCannotBeReadIsEmpty) {
   standin::FailAlways("CStockKey::GetInfoArray");
   EXPECT_EQ(Open([](User& user) {
               EXPECT_EQ(user.Rows(kList), Lines{});
-              user.Press(Key::Escape);
+              user.Press(WindowKey::Escape);
             }),
             2);
   EXPECT_TRUE(standin::Messages().empty());
@@ -125,7 +125,7 @@ TEST_P(AnyIndicatorSearch, ARowUnderTheMouseIsSelected) {
     EXPECT_TRUE(user.Hover(kList, 0));
     EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{0});
     EXPECT_TRUE(user.IsUp());
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -134,7 +134,7 @@ TEST_P(AnyIndicatorSearch, ARowUnderTheMouseIsSelected) {
 UserScript ExpectSelected(std::vector<int> rows) {
   return [rows](User& user) {
     EXPECT_EQ(user.SelectedRows(781), rows);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   };
 }
 
@@ -254,7 +254,7 @@ TEST_P(AnyIndicatorSearch, TheLibrarysResourcesAreInForceWhileItRuns) {
   const tq::ResourceContext context(TerminalResources());
   Open([](User& user) {
     EXPECT_NE(tq::ResourceContext::Current().string, TerminalString);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -266,7 +266,7 @@ TEST_P(AnyIndicatorSearch, TheTerminalsResourcesAreBackAfterAChoice) {
 
 TEST_P(AnyIndicatorSearch, TheTerminalsResourcesAreBackAfterACancel) {
   const tq::ResourceContext context(TerminalResources());
-  EXPECT_EQ(Open([](User& user) { user.Press(Key::Escape); }), 2);
+  EXPECT_EQ(Open([](User& user) { user.Press(WindowKey::Escape); }), 2);
   EXPECT_EQ(tq::ResourceContext::Current().string, TerminalString);
 }
 

@@ -36,7 +36,7 @@ table 781: 经济指标名称
     台灣物價
     出口
 )"));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -56,7 +56,7 @@ table 781: 国际商品指标名称
     原油
     玉米
 )"));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -78,7 +78,7 @@ combo 762: 所有类别
 table 781: 国际期货指标名称
     日經
 )"));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -87,7 +87,7 @@ TEST_F(IndicatorSearch, TheBoxesHaveAnEntryForAllAndEachTextOnce) {
     EXPECT_EQ(user.Rows(kRegions), (Lines{Text("所有地區", "所有地区"), "台灣", "美國"}));
     EXPECT_EQ(user.Rows(kCategories),
               (Lines{Text("所有類別", "所有类别"), "物價", "貿易", "就業"}));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -95,7 +95,7 @@ TEST_F(IndicatorSearch, TheTableIsTheOneThatWasAskedFor) {
   Serve(static_cast<InfoType>(42), {{"", "", "X", "另一個"}});
   WhenDialogOpens([](User& user) {
     EXPECT_EQ(user.Rows(kList), Lines{"另一個"});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
   CTQSymbolListMgr::DoSearchCommIndi(nullptr, "", name, code, "", "", static_cast<InfoType>(42));
   EXPECT_EQ(standin::CountCalls("CStockKey::GetInfoArray"), 1);
@@ -107,7 +107,7 @@ TEST_F(IndicatorSearch, ARegionLeavesItsRows) {
   SearchEconomic([](User& user) {
     EXPECT_TRUE(user.Select(kRegions, "美國"));
     EXPECT_EQ(user.Rows(kList), (Lines{"美國物價", "USNFP"}));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -116,7 +116,7 @@ TEST_F(IndicatorSearch, ACategoryLeavesItsRows) {
     ShowAllRegions(user);
     EXPECT_TRUE(user.Select(kCategories, "物價"));
     EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "美國物價"}));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -125,7 +125,7 @@ TEST_F(IndicatorSearch, BothTogetherLeaveTheRowsThatHaveBoth) {
     EXPECT_TRUE(user.Select(kRegions, "美國"));
     EXPECT_TRUE(user.Select(kCategories, "指數"));
     EXPECT_EQ(user.Rows(kList), Lines{"標普"});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -133,7 +133,7 @@ TEST_F(IndicatorSearch, ACommodityIsNarrowedDownByItsCategory) {
   SearchCommodity([](User& user) {
     EXPECT_TRUE(user.Select(kCategories, "農產品"));
     EXPECT_EQ(user.Rows(kList), Lines{"玉米"});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -142,7 +142,7 @@ TEST_F(IndicatorSearch, AChoiceThatNoRowHasLeavesNone) {
     EXPECT_TRUE(user.Select(kRegions, "台灣"));
     EXPECT_TRUE(user.Select(kCategories, "就業"));
     EXPECT_EQ(user.Rows(kList), Lines{});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -151,7 +151,7 @@ TEST_F(IndicatorSearch, TheEntryForAllBringsTheRowsBack) {
     EXPECT_TRUE(user.Select(kRegions, "台灣"));
     EXPECT_TRUE(user.Select(kRegions, 0));
     EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "美國物價", "出口", "USNFP"}));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -161,7 +161,7 @@ TEST_F(IndicatorSearch, NarrowingDownTakesTheSelectionAway) {
     EXPECT_TRUE(user.ClickRow(kList, 1));
     EXPECT_TRUE(user.Select(kRegions, "美國"));
     EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -184,7 +184,7 @@ TEST_F(IndicatorSearch, AnInputWhoseRowHasNoRegionOpensAllOfThem) {
       [](User& user) {
         EXPECT_EQ(user.Rows(kList), (Lines{"台灣物價", "全球"}));
         EXPECT_EQ(user.SelectedRows(kList), std::vector<int>{1});
-        user.Press(Key::Escape);
+        user.Press(WindowKey::Escape);
       },
       "WGDP");
 }
@@ -194,7 +194,7 @@ TEST_F(IndicatorSearch, ATableWithoutRegionsOpensOnAllOfThem) {
   SearchEconomic([](User& user) {
     EXPECT_EQ(user.Rows(kRegions), Lines{Text("所有地區", "所有地区")});
     EXPECT_EQ(user.Rows(kList), (Lines{"物價", "出口"}));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -217,7 +217,7 @@ TEST_F(IndicatorSearch, ANameThatIsShownOnceStandsAlone) {
     EXPECT_EQ(user.Rows(kList), (Lines{"失業率", "出口"}));
     EXPECT_TRUE(user.Select(kRegions, "美國"));
     EXPECT_EQ(user.Rows(kList), Lines{"失業率"});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 

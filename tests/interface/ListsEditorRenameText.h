@@ -15,7 +15,7 @@ protected:
   static void RenameTo(User& user, int row, const std::string& name) {
     Rename(user, row);
     EXPECT_TRUE(user.Type(name));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   }
   // The editor has stayed open for another try.
   static void ExpectStillEditing(User& user) {
@@ -24,7 +24,7 @@ protected:
     EXPECT_TRUE(user.HasFocus(kNameEditor));
   }
   static void GiveUp(User& user) {
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     EXPECT_TRUE(user.Click(kDone));
   }
   static std::string Reserved() {

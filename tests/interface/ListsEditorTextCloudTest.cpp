@@ -12,7 +12,7 @@ protected:
     EXPECT_TRUE(user.Select(kLists, row));
     EXPECT_TRUE(user.Click(kRename));
     EXPECT_TRUE(user.Type(name));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   }
   static void Delete(User& user, int row) {
     standin::AnswerMessages(kYes);
@@ -245,7 +245,7 @@ TEST_F(ListsEditorTextCloud, AnotherCloudListsNameIsRefused) {
     Rename(user, 1, "three");
     EXPECT_EQ(Shown(), "48011/0");
     EXPECT_TRUE(user.HasFocus(kNameEditor));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
 }
@@ -256,7 +256,7 @@ TEST_F(ListsEditorTextCloud, TheReservedTextIsRefused) {
     Rename(user, 1, "two" + SystemMark());
     EXPECT_EQ(Shown(),
               Text("(系統) 此字串為系統所用，請勿使用/0", "(系统) 此字串为系统所用，请勿使用/0"));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
 }
@@ -268,7 +268,7 @@ TEST_F(ListsEditorTextCloud, TheNameEditorTakesSixtyFourCharacters) {
     EXPECT_TRUE(user.Click(kRename));
     EXPECT_TRUE(user.Type(std::string(70, 'x')));
     EXPECT_EQ(user.Text(kNameEditor), std::string(64, 'x'));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
 }
@@ -371,7 +371,7 @@ TEST_F(ListsEditorTextCloud, AChangeIsKeptHoweverTheDialogIsClosed) {
   StartWithCloud();
   EXPECT_EQ(EditCloudLists([](User& user) {
               Rename(user, 1, "zwei");
-              EXPECT_TRUE(user.Press(Key::Escape));
+              EXPECT_TRUE(user.Press(WindowKey::Escape));
             }),
             2);
   EXPECT_EQ(CloudShape(), "C1/one/2330.TW|C2/zwei/2317.TW|C3/three/1101.TW,2454.TW");

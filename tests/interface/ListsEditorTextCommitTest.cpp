@@ -12,7 +12,7 @@ protected:
     EXPECT_TRUE(user.Select(kLists, row));
     EXPECT_TRUE(user.Click(kRename));
     EXPECT_TRUE(user.Type(name));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   }
   static void Delete(User& user, int row) {
     standin::AnswerMessages(kYes);
@@ -167,7 +167,7 @@ TEST_F(ListsEditorTextCommit, AChangeIsKeptHoweverTheDialogIsClosed) {
   StartWithThree();
   EXPECT_EQ(EditLists([](User& user) {
               Rename(user, 1, "zwei");
-              EXPECT_TRUE(user.Press(Key::Escape));
+              EXPECT_TRUE(user.Press(WindowKey::Escape));
             }),
             2);
   EXPECT_EQ(Happened(), "saved; told 40:ListNameChange" + Logged(kOperation, NameDiffers()));

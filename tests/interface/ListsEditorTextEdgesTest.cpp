@@ -11,7 +11,7 @@ protected:
     EXPECT_TRUE(user.Select(kLists, row));
     EXPECT_TRUE(user.Click(kRename));
     EXPECT_TRUE(user.Type(name));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   }
   void StartWithCloud() { StartCloud({"C1/one/2330.TW", "C2/two/2317.TW", "C3/three/1101.TW"}); }
 };
@@ -23,10 +23,10 @@ TEST_F(ListsEditorTextEdges, TheKeysOfTheListDoNothingWithoutLists) {
   Mark();
   standin::AnswerMessages(kYes);
   EditLists([this](User& user) {
-    for (const Key key : {Key::F2, Key::Delete, Key::Up, Key::Down})
+    for (const WindowKey key : {WindowKey::F2, WindowKey::Delete, WindowKey::Up, WindowKey::Down})
       user.Press(key);
-    user.Press(Key::Up, Modifier::Alt);
-    user.Press(Key::Down, Modifier::Alt);
+    user.Press(WindowKey::Up, Modifier::Alt);
+    user.Press(WindowKey::Down, Modifier::Alt);
     EXPECT_TRUE(user.IsUp());
     EXPECT_FALSE(user.IsVisible(kNameEditor));
     EXPECT_EQ(Shown(), "");
@@ -88,7 +88,7 @@ TEST_F(ListsEditorTextEdges, ANameThatAnotherListHasAlreadyIsRefusedToBothOfThem
   EditLists([this](User& user) {
     Rename(user, 1, "same");
     EXPECT_EQ(Shown(), "48011/0");
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
   EXPECT_EQ(Happened(), "not saved");
@@ -126,7 +126,7 @@ TEST_F(ListsEditorTextEdges, TheNameEditorTakesThirtyTwoDoubleByteCharacters) {
     EXPECT_TRUE(user.Click(kRename));
     EXPECT_TRUE(user.Type(thirtyTwo + "台台"));
     EXPECT_EQ(user.Text(kNameEditor), thirtyTwo);
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
 }
@@ -154,7 +154,7 @@ TEST_F(ListsEditorTextEdges, MessagesComeFromTheModuleThatTheManagersComeFrom) {
     EXPECT_TRUE(user.Select(kLists, 1));
     EXPECT_TRUE(user.Click(kDelete)); // 48012, by the dialog
     Rename(user, 0, "three");         // 48011, by the dialog
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone); // 48026, by the manager
   });
   ASSERT_EQ(Shown(), "48012/4 48011/0 48026/0");
@@ -192,13 +192,13 @@ TEST_F(ListsEditorTextEdges, TheKeysOfTheCloudListsAreTheSame) {
   standin::AnswerMessages(kYes);
   EditCloudLists([this](User& user) {
     EXPECT_TRUE(user.Select(kLists, 1));
-    EXPECT_TRUE(user.Press(Key::Up, Modifier::Alt));
+    EXPECT_TRUE(user.Press(WindowKey::Up, Modifier::Alt));
     EXPECT_EQ(user.Rows(kLists), (Lines{"two", "one", "three"}));
-    EXPECT_TRUE(user.Press(Key::F2));
+    EXPECT_TRUE(user.Press(WindowKey::F2));
     EXPECT_TRUE(user.HasFocus(kNameEditor));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     EXPECT_TRUE(user.Select(kLists, 0));
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(Shown(), "48012/4");
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "three"}));
     user.Click(kDone);
@@ -233,7 +233,7 @@ TEST_F(ListsEditorTextEdges, ACloudListsNameThatNoFileCanHaveIsRefused) {
     Rename(user, 1, "a:b");
     EXPECT_EQ(standin::Messages().size(), 1u);
     EXPECT_TRUE(user.HasFocus(kNameEditor));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
   EXPECT_EQ(Happened(), "not saved");
@@ -244,7 +244,7 @@ TEST_F(ListsEditorTextEdges, ACloudListsNameThatNoListFileCanCarryIsRefused) {
   EditCloudLists([this](User& user) {
     Rename(user, 1, "a'b");
     EXPECT_EQ(Shown(), "48203/0");
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
 }

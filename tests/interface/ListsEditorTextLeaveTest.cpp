@@ -73,7 +73,7 @@ TEST_F(ListsEditorTextLeave, TheTabKeyTakesAGoodName) {
   StartWithThree();
   EditLists([](User& user) {
     TypeOverTwo(user, "zwei");
-    EXPECT_TRUE(user.Press(Key::Tab));
+    EXPECT_TRUE(user.Press(WindowKey::Tab));
     ExpectClosed(user);
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "zwei", "three"}));
     user.Click(kDone);

@@ -22,7 +22,7 @@ TEST_F(ListsEditorTextRename, AfterADuplicateAllOfTheNameIsSelected) {
     RenameTo(user, 1, "three");
     EXPECT_TRUE(user.Type("zwei"));
     EXPECT_EQ(user.Text(kNameEditor), "zwei");
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(user.Rows(kLists)[1], "zwei");
     user.Click(kDone);
   });

@@ -121,7 +121,7 @@ TEST_F(ListsEditorTextOrder, TheDeleteKeyAsksAndDeletes) {
   standin::AnswerMessages(kYes);
   EditLists([this](User& user) {
     EXPECT_TRUE(user.Select(kLists, 1));
-    EXPECT_TRUE(user.Press(Key::Delete));
+    EXPECT_TRUE(user.Press(WindowKey::Delete));
     EXPECT_EQ(Shown(), "48012/4");
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "three"}));
     user.Click(kDone);
@@ -133,7 +133,7 @@ TEST_F(ListsEditorTextOrder, TheDeleteKeySparesSystemLists) {
   standin::AnswerMessages(kYes);
   EditLists([this](User& user) {
     EXPECT_TRUE(user.Select(kLists, 1));
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(Shown(), "");
     EXPECT_EQ(user.Rows(kLists).size(), 2u);
     user.Click(kDone);
@@ -328,10 +328,10 @@ TEST_F(ListsEditorTextOrder, AltAndTheArrowsMoveTheSelectedList) {
   StartWithThree();
   EditLists([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 1));
-    EXPECT_TRUE(user.Press(Key::Up, Modifier::Alt));
+    EXPECT_TRUE(user.Press(WindowKey::Up, Modifier::Alt));
     EXPECT_EQ(user.Rows(kLists), (Lines{"two", "one", "three"}));
-    EXPECT_TRUE(user.Press(Key::Down, Modifier::Alt));
-    EXPECT_TRUE(user.Press(Key::Down, Modifier::Alt));
+    EXPECT_TRUE(user.Press(WindowKey::Down, Modifier::Alt));
+    EXPECT_TRUE(user.Press(WindowKey::Down, Modifier::Alt));
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "three", "two"}));
     EXPECT_EQ(user.SelectedRows(kLists), Numbers{2});
     user.Click(kDone);
@@ -342,7 +342,7 @@ TEST_F(ListsEditorTextOrder, TheKeysDoNotMoveTheFirstListUp) {
   StartWithThree();
   EditLists([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 0));
-    user.Press(Key::Up, Modifier::Alt);
+    user.Press(WindowKey::Up, Modifier::Alt);
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "two", "three"}));
     user.Click(kDone);
   });
@@ -353,7 +353,7 @@ TEST_F(ListsEditorTextOrder, TheKeysDoNotMoveTheLastListDown) {
   StartWithThree();
   EditLists([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 2));
-    user.Press(Key::Down, Modifier::Alt);
+    user.Press(WindowKey::Down, Modifier::Alt);
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "two", "three"}));
     user.Click(kDone);
   });

@@ -67,7 +67,7 @@ TEST_F(ListsEditorTextRename, F2OpensTheEditor) {
   StartWithThree();
   EditLists([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 2));
-    EXPECT_TRUE(user.Press(Key::F2));
+    EXPECT_TRUE(user.Press(WindowKey::F2));
     EXPECT_TRUE(user.HasFocus(kNameEditor));
     EXPECT_EQ(user.Text(kNameEditor), "three");
     GiveUp(user);
@@ -150,7 +150,7 @@ TEST_F(ListsEditorTextRename, EscapeChangesNothing) {
   EditLists([](User& user) {
     Rename(user, 1);
     EXPECT_TRUE(user.Type("zwei"));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     EXPECT_EQ(user.Rows(kLists), (Lines{"one", "two", "three"}));
     user.Click(kDone);
   });
@@ -161,7 +161,7 @@ TEST_F(ListsEditorTextRename, EscapeClosesTheEditorAndNotTheDialog) {
   StartWithThree();
   EditLists([](User& user) {
     Rename(user, 1);
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     EXPECT_TRUE(user.IsUp());
     EXPECT_FALSE(user.IsVisible(kNameEditor));
     EXPECT_EQ(user.SelectedRows(kLists), Numbers{1});
@@ -174,7 +174,7 @@ TEST_F(ListsEditorTextRename, EscapeShowsNoMessageWhateverWasTyped) {
   EditLists([](User& user) {
     Rename(user, 1);
     EXPECT_TRUE(user.Type("one"));
-    EXPECT_TRUE(user.Press(Key::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
     user.Click(kDone);
   });
   EXPECT_EQ(Shown(), "");

@@ -102,7 +102,7 @@ TEST_F(ListsEditorText, TheKeysOfTheListShowTheContentsToo) {
   StartWithThree();
   EditLists([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 0));
-    EXPECT_TRUE(user.Press(Key::Down));
+    EXPECT_TRUE(user.Press(WindowKey::Down));
     EXPECT_EQ(user.SelectedRows(kLists), Numbers{1});
     EXPECT_EQ(user.Rows(kContents), Lines{HonHai()});
     user.Click(kDone);
@@ -248,14 +248,14 @@ TEST_F(ListsEditorText, EnterIsDone) {
   StartWithThree();
   EXPECT_EQ(EditLists([](User& user) {
               EXPECT_TRUE(user.Select(kLists, 0));
-              EXPECT_TRUE(user.Press(Key::Enter));
+              EXPECT_TRUE(user.Press(WindowKey::Enter));
             }),
             1);
 }
 
 TEST_F(ListsEditorText, EscapeCancels) {
   StartWithThree();
-  EXPECT_EQ(EditLists([](User& user) { EXPECT_TRUE(user.Press(Key::Escape)); }), 2);
+  EXPECT_EQ(EditLists([](User& user) { EXPECT_TRUE(user.Press(WindowKey::Escape)); }), 2);
 }
 
 TEST_F(ListsEditorText, TheTitleBarCancels) {

@@ -102,7 +102,7 @@ protected:
     WhenDialogOpens([&](User& editor) {
       EXPECT_TRUE(editor.Fill(742, name));
       EXPECT_TRUE(editor.Fill(741, "2330"));
-      EXPECT_TRUE(editor.Press(Key::Enter));
+      EXPECT_TRUE(editor.Press(WindowKey::Enter));
       if (keep) {
         EXPECT_TRUE(editor.Click(1));
       }
@@ -131,7 +131,7 @@ protected:
     WhenDialogOpens([&](User& editor) {
       EXPECT_EQ(editor.Text(742), list.name);
       EXPECT_TRUE(editor.Fill(741, "2317"));
-      EXPECT_TRUE(editor.Press(Key::Enter));
+      EXPECT_TRUE(editor.Press(WindowKey::Enter));
       EXPECT_TRUE(editor.Click(done ? 1 : 2));
     });
     EXPECT_TRUE(Draw(2) == 0 ? user.Click(802) : user.DoubleClick(kLists, model.selected));
@@ -158,10 +158,10 @@ protected:
     EXPECT_TRUE(user.HasFocus(741));
     EXPECT_TRUE(user.Type(name));
     const bool done = Draw(3) > 0;
-    EXPECT_TRUE(user.Press(done ? Key::Enter : Key::Escape));
+    EXPECT_TRUE(user.Press(done ? WindowKey::Enter : WindowKey::Escape));
     EXPECT_EQ(user.IsVisible(741), done && taken);
     if (user.IsVisible(741)) {
-      EXPECT_TRUE(user.Press(Key::Escape));
+      EXPECT_TRUE(user.Press(WindowKey::Escape));
     }
     if (done && !taken)
       model.Selected().name = name;

@@ -77,7 +77,7 @@ TEST_F(OneSymbolText, TheContentsAreThoseOfTheSelectedList) {
 TEST_F(OneSymbolText, TheContentsFollowTheKeysToo) {
   Do([](User& user) {
     EXPECT_TRUE(user.Select(kLists, 0));
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.Rows(kContents), ContentsOf({"1101.TW", "2317.TW"}));
   });
 }
@@ -125,7 +125,7 @@ TEST_F(OneSymbolText, TheTerminalsResourcesAreBackOnEachPath) {
   const tq::ResourceContext context(resources);
   Do([](User&) { EXPECT_NE(tq::ResourceContext::Current().string, StringOfAnotherLibrary); });
   EXPECT_EQ(tq::ResourceContext::Current().string, StringOfAnotherLibrary) << "done";
-  Run([](User& user) { user.Press(Key::Escape); });
+  Run([](User& user) { user.Press(WindowKey::Escape); });
   EXPECT_EQ(tq::ResourceContext::Current().string, StringOfAnotherLibrary) << "cancelled";
   CTQSymbolListMgr::DoGroupSymbolAdd(nullptr, nullptr, nullptr, "2881.TW");
   EXPECT_EQ(tq::ResourceContext::Current().string, StringOfAnotherLibrary) << "no manager";
@@ -140,11 +140,11 @@ TEST_F(OneSymbolText, DoneWithoutAChangeStoresAndTellsNothing) {
 }
 
 TEST_F(OneSymbolText, EnterIsDone) {
-  EXPECT_EQ(Run([](User& user) { user.Press(Key::Enter); }), 1);
+  EXPECT_EQ(Run([](User& user) { user.Press(WindowKey::Enter); }), 1);
 }
 
 TEST_F(OneSymbolText, EscapeCancels) {
-  EXPECT_EQ(Run([](User& user) { user.Press(Key::Escape); }), 2);
+  EXPECT_EQ(Run([](User& user) { user.Press(WindowKey::Escape); }), 2);
   EXPECT_EQ(Happened(), "not saved");
 }
 
@@ -191,7 +191,7 @@ TEST_F(OneSymbolText, AnAddedSymbolIsInTheFile) {
 TEST_F(OneSymbolText, WhatWasAddedCountsAfterACancelToo) {
   EXPECT_EQ(Run([](User& user) {
               AddTo(user, 0);
-              user.Press(Key::Escape);
+              user.Press(WindowKey::Escape);
             }),
             2);
   EXPECT_EQ(All(), "A/one/2330.TW,2881.TW|B/two/1101.TW,2317.TW");

@@ -16,14 +16,14 @@ void SearchAround(User& user) {
   user.Select(761, 1);
   user.Select(762, 1);
   user.Fill(741, "");
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
   user.Fill(741, ".7777");
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
   user.Fill(741, "77");
-  user.Press(Key::Enter);
+  user.Press(WindowKey::Enter);
   user.DoubleClick(781, 0);
   if (user.IsUp())
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
 }
 
 class SearchFailures : public SessionTest {
@@ -38,7 +38,7 @@ protected:
   void ExpectAllWell() {
     EXPECT_EQ(Shape(), before);
     EXPECT_LE(standin::OutstandingArrays(), 1); // the manager's list of exchanges
-    EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+    EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
   }
 
   SymbolInfo found = {};
@@ -106,7 +106,7 @@ TEST_F(SearchFailures, NorDoesASearchFromWithinASearch) {
     if (inner != -2)
       return;
     inner = -1;
-    WhenDialogOpens([](User& user) { user.Press(Key::Escape); });
+    WhenDialogOpens([](User& user) { user.Press(WindowKey::Escape); });
     inner = CTQSymbolListMgr::DoSearchUI(&manager, manager.GetSymbolTableMgr(), nullptr, "",
                                          nullptr, 0, &other);
   });
@@ -128,7 +128,7 @@ TEST_F(SearchFailures, ADialogThatIsEndedWhileTheServiceWorksShowsNothingMore) {
   WhenDialogOpens([&running](User& user) {
     running = CDialog::FromHandle(user.Dialog().GetSafeHwnd());
     user.Fill(741, "77");
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     user.LeaveUp();
   });
   EXPECT_EQ(CTQSymbolListMgr::DoSearchUI(&manager, manager.GetSymbolTableMgr(), nullptr, "", &found,
@@ -149,7 +149,7 @@ TEST_F(SearchFailures, AWindowThatCannotBeMadeLeavesTheListIdAlone) {
 
 TEST_F(SearchFailures, OpeningAndClosingLeavesNothingBehind) {
   const auto openAndClose = [this] {
-    WhenDialogOpens([](User& user) { user.Press(Key::Escape); });
+    WhenDialogOpens([](User& user) { user.Press(WindowKey::Escape); });
     CTQSymbolListMgr::DoSearchUI(&manager, manager.GetSymbolTableMgr(), nullptr, "23", nullptr, 1,
                                  nullptr);
     standin::ClearCalls();

@@ -30,7 +30,7 @@ protected:
     }
     standin::SetMarket(served);
     ForgetChoice();
-    SetCursorShape(CursorShape::Arrow);
+    SetWindowCursor(WindowCursor::Arrow);
   }
   void SetUp() override { Start({"A/one/2330.TW"}); }
 
@@ -47,7 +47,7 @@ protected:
     const int code = Run(
         [&action](User& user) {
           action(user);
-          EXPECT_TRUE(user.Press(Key::Escape));
+          EXPECT_TRUE(user.Press(WindowKey::Escape));
         },
         input, forceList);
     EXPECT_EQ(code, kCancelled);
@@ -57,7 +57,7 @@ protected:
 
   static void Enter(User& user, const std::string& text) {
     EXPECT_TRUE(user.Fill(kCode, text));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   }
   static void ChooseMarket(User& user, int market) { EXPECT_TRUE(user.Select(kMarket, market)); }
 
@@ -75,12 +75,12 @@ protected:
   static bool AwaitFirstSearch(User& user) {
     bool waited = false;
     return Await(user, [&waited] {
-      waited = waited || GetCursorShape() == CursorShape::Wait;
-      return waited && GetCursorShape() == CursorShape::Arrow;
+      waited = waited || GetWindowCursor() == WindowCursor::Wait;
+      return waited && GetWindowCursor() == WindowCursor::Arrow;
     });
   }
   static bool AwaitWaitCursor(User& user) {
-    return Await(user, [] { return GetCursorShape() == CursorShape::Wait; });
+    return Await(user, [] { return GetWindowCursor() == WindowCursor::Wait; });
   }
   // A script for a dialog that ends by itself.
   static void AwaitTheEnd(User& user) {

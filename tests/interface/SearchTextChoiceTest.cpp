@@ -14,7 +14,7 @@ protected:
       ASSERT_EQ(Names(user), Twins());
       action(user);
       if (user.IsUp())
-        user.Press(Key::Escape);
+        user.Press(WindowKey::Escape);
     });
   }
   static bool Holds(const Lines& names, const std::string& id) {

@@ -76,7 +76,7 @@ TEST_F(SearchEnterText, EnterHeldDownOnOneCharacterSearchesNothing) {
   Look([](User& user) {
     Enter(user, "2");
     for (int i = 0; i < 20; ++i)
-      EXPECT_TRUE(user.Press(Key::Enter));
+      EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(Asked(), "");
   });
 }
@@ -205,7 +205,7 @@ TEST_F(SearchEnterText, EnterHeldDownOnASingleHitEndsTheDialogOnce) {
   EXPECT_EQ(Run([](User& user) {
               Enter(user, "2454");
               for (int i = 0; i < 20; ++i)
-                EXPECT_FALSE(user.Press(Key::Enter));
+                EXPECT_FALSE(user.Press(WindowKey::Enter));
             }),
             kChosen);
   EXPECT_TRUE(HasRecordOf("2454.TW"));
@@ -215,7 +215,7 @@ TEST_F(SearchEnterText, EnterHeldDownOnSeveralHitsListsThemOnce) {
   Look([](User& user) {
     Enter(user, "7777");
     for (int i = 0; i < 20; ++i)
-      EXPECT_TRUE(user.Press(Key::Enter));
+      EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(Names(user), Twins());
   });
 }
@@ -298,9 +298,9 @@ TEST_F(SearchEnterText, TheButtonSelectsTheText) {
 TEST_F(SearchEnterText, EnterInABoxChoosesNothing) {
   Look([](User& user) {
     ChooseMarket(user, kTse);
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_TRUE(user.Select(kGroup, 1));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
   });
 }
 
@@ -309,9 +309,9 @@ TEST_F(SearchEnterText, EnterInTheResultsEndsTheDialogWithTheirRowOrNotAtAll) {
   const int code = Run([](User& user) {
     Enter(user, "7777");
     EXPECT_TRUE(user.ClickRow(kResults, 1));
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     if (user.IsUp())
-      user.Press(Key::Escape);
+      user.Press(WindowKey::Escape);
   });
   EXPECT_EQ(Chosen(), code == kChosen ? "7777.TE" : "nothing");
 }

@@ -16,13 +16,13 @@ protected:
     user.Select(kGroup, 1);
     for (const char* text : {"7777", "77", ".Q1234", ".7777", "2", "XYZ", ""}) {
       user.Fill(kCode, text);
-      user.Press(Key::Enter);
+      user.Press(WindowKey::Enter);
     }
     user.Select(kMarket, kAll);
     user.Fill(kCode, "7777");
     user.Click(kLook);
     user.DoubleClick(kResults, -1);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   }
   int RunSession() {
     lists = &market;
@@ -154,8 +154,8 @@ TEST_F(SearchFailureText, ItLeavesNothingBehind) {
 TEST_F(SearchFailureText, EnterWithinASearchListsNoResultTwice) {
   Look([](User& user) {
     EXPECT_TRUE(user.Fill(kCode, "7777"));
-    standin::OnCall("VLFindSymbol", [&user] { user.Press(Key::Enter); });
-    EXPECT_TRUE(user.Press(Key::Enter));
+    standin::OnCall("VLFindSymbol", [&user] { user.Press(WindowKey::Enter); });
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     standin::OnCall("VLFindSymbol", nullptr);
     EXPECT_EQ(Names(user), Twins());
   });
@@ -165,7 +165,7 @@ TEST_F(SearchFailureText, AChoiceOfAMarketWithinASearchLosesNothing) {
   Run([](User& user) {
     EXPECT_TRUE(user.Fill(kCode, "7777"));
     standin::OnCall("VLFindSymbol", [&user] { user.Select(kMarket, kTse); });
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     standin::OnCall("VLFindSymbol", nullptr);
     EXPECT_GT(ResultCount(user), 0U);
     EXPECT_TRUE(user.DoubleClick(kResults, 0));
@@ -201,12 +201,12 @@ TEST_F(SearchFailureText, EachOfTwoSearchesAtATimeGivesItsOwnAnswer) {
 TEST_F(SearchFailureText, EscapeWithinTheFirstSearchLeavesNoWaitCursor) {
   Run(
       [](User& user) {
-        standin::OnCall("VLFindSymbol", [&user] { user.Press(Key::Escape); });
+        standin::OnCall("VLFindSymbol", [&user] { user.Press(WindowKey::Escape); });
         AwaitTheEnd(user);
         standin::OnCall("VLFindSymbol", nullptr);
       },
       "7777");
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
   EXPECT_EQ(Chosen(), "nothing");
 }
 

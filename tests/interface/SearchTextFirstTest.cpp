@@ -41,10 +41,10 @@ TEST_F(SearchFirstText, WithoutGroupsItIsSearchedAllTheSame) {
 // --- While it runs -------------------------------------------------------------------------------
 
 TEST_F(SearchFirstText, TheWaitCursorIsShown) {
-  CursorShape shape = CursorShape::Arrow;
-  standin::OnCall("VLFindSymbol", [&shape] { shape = GetCursorShape(); });
+  WindowCursor shape = WindowCursor::Arrow;
+  standin::OnCall("VLFindSymbol", [&shape] { shape = GetWindowCursor(); });
   Look([](User& user) { EXPECT_TRUE(AwaitFirstSearch(user)); }, "7777");
-  EXPECT_EQ(shape, CursorShape::Wait);
+  EXPECT_EQ(shape, WindowCursor::Wait);
 }
 
 TEST_F(SearchFirstText, ItIsRunOnce) {
@@ -125,7 +125,7 @@ TEST_F(SearchFirstText, ASingleHitClosesTheDialog) {
 
 TEST_F(SearchFirstText, ASingleHitLeavesNoWaitCursor) {
   EXPECT_EQ(Run(AwaitTheEnd, "2330"), kChosen);
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
 }
 
 TEST_F(SearchFirstText, ASingleHitIsListedWhenTheListIsForced) {
@@ -220,7 +220,7 @@ TEST_F(SearchFirstText, AMarketOfOneSymbolDoesNotCloseTheDialog) {
 // --- Left before it ------------------------------------------------------------------------------
 
 TEST_F(SearchFirstText, EscapeBeforeItSearchesNothing) {
-  EXPECT_EQ(Run([](User& user) { user.Press(Key::Escape); }, "2330"), kCancelled);
+  EXPECT_EQ(Run([](User& user) { user.Press(WindowKey::Escape); }, "2330"), kCancelled);
   EXPECT_EQ(Asked(), "");
   EXPECT_EQ(Chosen(), "nothing");
 }
@@ -235,11 +235,11 @@ TEST_F(SearchFirstText, EscapeBetweenTheTimerAndItLeavesNoWaitCursor) {
   EXPECT_EQ(Run(
                 [](User& user) {
                   EXPECT_TRUE(AwaitWaitCursor(user));
-                  user.Press(Key::Escape);
+                  user.Press(WindowKey::Escape);
                 },
                 "7777"),
             kCancelled);
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
 }
 
 TEST_F(SearchFirstText, EnterBeforeItShowsNoResultTwice) {
@@ -247,7 +247,7 @@ TEST_F(SearchFirstText, EnterBeforeItShowsNoResultTwice) {
       [](User& user) {
         EXPECT_TRUE(user.Click(kCode));
         for (int i = 0; i < 5; ++i)
-          EXPECT_TRUE(user.Press(Key::Enter));
+          EXPECT_TRUE(user.Press(WindowKey::Enter));
         EXPECT_TRUE(AwaitFirstSearch(user));
         EXPECT_EQ(Names(user), Twins());
       },
@@ -259,13 +259,13 @@ TEST_F(SearchFirstText, EnterOnASingleHitBeforeItEndsTheDialogOnce) {
                 [](User& user) {
                   EXPECT_TRUE(user.Click(kCode));
                   for (int i = 0; i < 5; ++i)
-                    user.Press(Key::Enter);
+                    user.Press(WindowKey::Enter);
                   EXPECT_FALSE(user.IsUp());
                 },
                 "2330"),
             kChosen);
   EXPECT_TRUE(HasRecordOf("2330.TW"));
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
 }
 
 } // namespace

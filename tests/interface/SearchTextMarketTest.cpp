@@ -67,7 +67,7 @@ TEST_F(SearchMarketText, ASearchOfAnotherManagerOpensOnItToo) {
   ASSERT_EQ(another.Init(directory.Path().c_str(), 0, 1, 0, nullptr, 0, 0), 1);
   WhenDialogOpens([](User& user) {
     EXPECT_EQ(user.Text(kMarket), Text("上櫃", "上柜"));
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
   CTQSymbolListMgr::DoSearchUI(&another, another.GetSymbolTableMgr(), nullptr, "", nullptr, 0,
                                nullptr);

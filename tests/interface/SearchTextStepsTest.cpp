@@ -12,7 +12,7 @@ protected:
       Enter(user, text);
       asked = Asked();
       if (user.IsUp())
-        user.Press(Key::Escape);
+        user.Press(WindowKey::Escape);
     });
     return Chosen();
   }
@@ -209,7 +209,7 @@ TEST_F(SearchStepsText, WithoutTablesAMarketHoldsNoCode) {
     ChooseMarket(user, kTe);
     Enter(user, "7777");
     EXPECT_EQ(Names(user), Twins());
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
   EXPECT_EQ(CTQSymbolListMgr::DoSearchUI(&manager, nullptr, nullptr, "", &result, 0, lists),
             kCancelled);

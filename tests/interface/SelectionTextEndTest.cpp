@@ -39,7 +39,7 @@ TEST_F(SelectionTextEnd, EscapeAnswersNothing) {
   EXPECT_EQ(Choose([](User& user) {
               EXPECT_TRUE(user.Select(kSources, MyLists()));
               EXPECT_TRUE(user.Select(kLists, 1));
-              EXPECT_TRUE(user.Press(Key::Escape));
+              EXPECT_TRUE(user.Press(WindowKey::Escape));
             }),
             2);
   EXPECT_EQ(Answer(), untouched);
@@ -56,7 +56,7 @@ TEST_F(SelectionTextEnd, EnterIsOk) {
   EXPECT_EQ(Choose([](User& user) {
               EXPECT_TRUE(user.Select(kSources, MyLists()));
               EXPECT_TRUE(user.Select(kLists, 1));
-              EXPECT_TRUE(user.Press(Key::Enter));
+              EXPECT_TRUE(user.Press(WindowKey::Enter));
             }),
             1);
   EXPECT_EQ(Answer(), "1/B");

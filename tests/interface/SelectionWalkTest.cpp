@@ -140,7 +140,7 @@ protected:
     WhenDialogOpens([&](User& editor) {
       EXPECT_EQ(editor.Text(742), list.name);
       EXPECT_TRUE(editor.Fill(741, code));
-      EXPECT_TRUE(editor.Press(Key::Enter));
+      EXPECT_TRUE(editor.Press(WindowKey::Enter));
       EXPECT_TRUE(editor.Click(done ? 1 : 2));
     });
     EXPECT_TRUE(user.Click(802));

@@ -1,8 +1,10 @@
 // The string table for a terminal without resources.
-#include "platform/texts/StringTable.h"
+#include "platform/interface/TQSymbolStrings.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <map>
 #include <set>
 #include <string>
 
@@ -11,8 +13,8 @@
 
 namespace {
 
-constexpr unsigned kFirst = 48001;
-constexpr unsigned kLast = 48102;
+constexpr unsigned kFirst = TQFirstString;
+constexpr unsigned kLast = TQLastString;
 // The library's own.
 constexpr unsigned kFirstOwn = 48201;
 constexpr unsigned kLastOwn = 48204;
@@ -78,6 +80,37 @@ TEST(StringTable, OtherNumbersHaveNoText) {
     }
   }
   EXPECT_EQ(tqSymbolString(0, 1), nullptr);
+}
+
+// The rows of the page's table, without what each entry is for: the tests run at the tree's root.
+std::map<unsigned, std::string> EntriesOfThePage() {
+  std::map<unsigned, std::string> rows;
+  std::ifstream page("docs/strings.md");
+  for (std::string line; std::getline(page, line);) {
+    if (line.starts_with("| 48"))
+      rows[static_cast<unsigned>(std::stoul(line.substr(2)))] = line;
+  }
+  return rows;
+}
+
+std::string AsOnThePage(std::string text) {
+  for (size_t at = text.find('\n'); at != std::string::npos; at = text.find('\n'))
+    text.replace(at, 1, "\\n");
+  return text;
+}
+
+TEST(StringTable, ThePageHasEveryEntryThatTerminalsKnow) {
+  std::map<unsigned, std::string> rows = EntriesOfThePage();
+  EXPECT_EQ(rows.size(), 52u);
+  for (unsigned id = kFirst; id <= kLast; ++id) {
+    EXPECT_EQ(rows.contains(id), !IsGap(id)) << id;
+    if (IsGap(id))
+      continue;
+    const std::string wanted = "| " + std::to_string(id) + " | " + AsOnThePage(Text(id, 1)) +
+                               " | " + AsOnThePage(Text(id, 0)) + " | ";
+    EXPECT_EQ(rows[id].substr(0, wanted.size()), wanted);
+    EXPECT_GT(rows[id].size(), wanted.size() + 2) << "what it is for";
+  }
 }
 
 } // namespace

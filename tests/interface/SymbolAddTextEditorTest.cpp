@@ -173,7 +173,8 @@ TEST_F(SymbolAddEditorText, ANewListIsSavedLoggedAndTold) {
 }
 
 TEST_F(SymbolAddEditorText, ANewListIsStoredWhenTheDialogIsCancelledToo) {
-  EXPECT_EQ(MakeNew(AcceptAs("four"), [](User& user) { user.Press(Key::Escape); }), kCancelled);
+  EXPECT_EQ(MakeNew(AcceptAs("four"), [](User& user) { user.Press(WindowKey::Escape); }),
+            kCancelled);
   EXPECT_EQ(manager.GetSymbolListCount(1), 4);
   EXPECT_EQ(Happened(), Committed());
 }

@@ -1,7 +1,7 @@
 // The six system lists.
 #include <string>
 
-#include "platform/texts/StringTable.h"
+#include "platform/interface/TQSymbolStrings.h"
 #include "terminal/StandIn.h"
 #include "tests/interface/EditTest.h"
 

@@ -31,20 +31,21 @@ std::string Arguments::Records() const {
 
 const Table& ManagerOperations() {
   static const Table kTable =
-      Joined({ListOperations(), QueryOperations(), ExchangeOperations(), GroupOperations(),
-              CloudOperations(), TradingOperations(), DialogOperations()});
+      Joined({ListOperations(), DiagnosisOperations(), QueryOperations(), ExchangeOperations(),
+              GroupOperations(), CloudOperations(), TradingOperations(), DialogOperations()});
   return kTable;
 }
 
 const Table& All() {
   static const Table kTable =
-      Joined({ManagerOperations(), SymbolTableOperations(), OneListOperations()});
+      Joined({ManagerOperations(), SymbolTableOperations(), OneListOperations(), TextOperations()});
   return kTable;
 }
 
 bool IsQuestion(const Operation& operation) {
-  constexpr std::string_view kQuestions[] = {"Get",   "Is",       "Check", "Find", "LookUp", "Map",
-                                             "Holds", "JoinRows", "ToXml", "Cut",  "Handle"};
+  constexpr std::string_view kQuestions[] = {"Get",    "Is",    "Check",    "Find",  "LookUp",
+                                             "Map",    "Holds", "JoinRows", "ToXml", "Cut",
+                                             "Handle", "TQ",    "tq",       "Has"};
   std::string_view name = NameIn(operation.signature);
   if (const std::size_t scope = name.rfind(':'); scope != name.npos)
     name.remove_prefix(scope + 1);

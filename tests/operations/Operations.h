@@ -47,6 +47,7 @@ using Table = std::vector<Operation>;
 // Those of CTQSymbolListMgr: exported ones, inline ones, and the dialogs, which the modal handler
 // must end (see PrepareServices in Subject.h).
 Table ListOperations();
+Table DiagnosisOperations();
 Table QueryOperations();
 Table ExchangeOperations();
 Table GroupOperations();
@@ -59,6 +60,8 @@ const Table& ManagerOperations();
 // manager's and its copies.
 Table SymbolTableOperations();
 Table OneListOperations();
+// Those of no class.
+Table TextOperations();
 // All operations.
 const Table& All();
 

@@ -50,7 +50,7 @@ void PressEverything(CDialog& dialog) {
   CEdit(dialog, 742).SetText("Pressed");
   CEdit(dialog, 743).SetText("Head");
   for (const int button : {803, 803, 804, 805, 807, 808, 801, 802, 806})
-    tq::DialogAccess::Command(dialog, button, ControlEvent::Clicked);
+    tq::DialogAccess::Command(dialog, button, WindowEvent::Clicked);
 }
 
 // The search is the only one with a table and a field.
@@ -58,7 +58,7 @@ void SearchForBoth(CDialog& dialog) {
   constexpr int kSearch = 801;
   for (const char* const text : {".2330", "23"}) {
     CEdit(dialog, 741).SetText(text);
-    tq::DialogAccess::Command(dialog, kSearch, ControlEvent::Clicked);
+    tq::DialogAccess::Command(dialog, kSearch, WindowEvent::Clicked);
   }
 }
 
@@ -70,7 +70,7 @@ void ActAndEnd(CDialog& dialog) {
   else if (depth == 1)
     PressEverything(dialog);
   --depth;
-  tq::DialogAccess::Command(dialog, CDialog::Accepted, ControlEvent::Clicked);
+  tq::DialogAccess::Command(dialog, CDialog::Accepted, WindowEvent::Clicked);
   dialog.EndDialog(CDialog::Accepted);
 }
 

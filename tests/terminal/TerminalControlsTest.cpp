@@ -40,15 +40,17 @@ protected:
 
 TEST_F(TerminalControls, AnIconButtonGetsItsPicture) {
   InDialog([](CDialog& dialog) {
-    EXPECT_EQ(CTQIconButton(dialog, kIconButton, ButtonIcon::Left).GetIcon(), ButtonIcon::Left);
-    EXPECT_EQ(CButton(dialog, kIconButton).GetIcon(), ButtonIcon::Left);
+    EXPECT_EQ(CTQIconButton(dialog, kIconButton, WindowButtonIcon::Left).GetIcon(),
+              WindowButtonIcon::Left);
+    EXPECT_EQ(CButton(dialog, kIconButton).GetIcon(), WindowButtonIcon::Left);
   });
 }
 
 TEST_F(TerminalControls, WhatIsNoIconButtonGetsNoPicture) {
   InDialog([](CDialog& dialog) {
-    EXPECT_EQ(CTQIconButton(dialog, kTextButton, ButtonIcon::Up).GetIcon(), ButtonIcon::None);
-    EXPECT_EQ(CTQIconButton(dialog, kNone, ButtonIcon::Up).GetSafeHwnd(), nullptr);
+    EXPECT_EQ(CTQIconButton(dialog, kTextButton, WindowButtonIcon::Up).GetIcon(),
+              WindowButtonIcon::None);
+    EXPECT_EQ(CTQIconButton(dialog, kNone, WindowButtonIcon::Up).GetSafeHwnd(), nullptr);
   });
 }
 

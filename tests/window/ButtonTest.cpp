@@ -39,7 +39,7 @@ TEST_F(ButtonTest, AHiddenButtonTakesNoClick) {
 
 TEST_F(ButtonTest, AButtonDisabledByItsOwnClick) {
   InDialog([](User& user, TestDialog& dialog) {
-    dialog.onCommand = [&](int id, ControlEvent) { CButton(dialog, id).EnableWindow(false); };
+    dialog.onCommand = [&](int id, WindowEvent) { CButton(dialog, id).EnableWindow(false); };
     EXPECT_TRUE(user.Click(801));
     EXPECT_FALSE(user.Click(801));
     EXPECT_EQ(dialog.log, Log{"801 clicked"});
@@ -60,15 +60,16 @@ TEST_F(ButtonTest, TheLabelCanBeChanged) {
 TEST_F(ButtonTest, IconsAreForIconButtons) {
   InDialog([](User& user, TestDialog& dialog) {
     CButton icon(dialog, 804);
-    EXPECT_EQ(icon.GetIcon(), ButtonIcon::None);
-    for (const ButtonIcon each : {ButtonIcon::Up, ButtonIcon::Down, ButtonIcon::Left,
-                                  ButtonIcon::Remove, ButtonIcon::Search, ButtonIcon::None}) {
+    EXPECT_EQ(icon.GetIcon(), WindowButtonIcon::None);
+    for (const WindowButtonIcon each :
+         {WindowButtonIcon::Up, WindowButtonIcon::Down, WindowButtonIcon::Left,
+          WindowButtonIcon::Remove, WindowButtonIcon::Search, WindowButtonIcon::None}) {
       EXPECT_TRUE(icon.SetIcon(each));
       EXPECT_EQ(icon.GetIcon(), each);
     }
-    EXPECT_FALSE(CButton(dialog, 801).SetIcon(ButtonIcon::Up));
-    EXPECT_EQ(CButton(dialog, 801).GetIcon(), ButtonIcon::None);
-    EXPECT_FALSE(CButton().SetIcon(ButtonIcon::Up));
+    EXPECT_FALSE(CButton(dialog, 801).SetIcon(WindowButtonIcon::Up));
+    EXPECT_EQ(CButton(dialog, 801).GetIcon(), WindowButtonIcon::None);
+    EXPECT_FALSE(CButton().SetIcon(WindowButtonIcon::Up));
     EXPECT_TRUE(user.Click(804));
     EXPECT_EQ(dialog.log, Log{"804 clicked"});
   });
@@ -77,11 +78,11 @@ TEST_F(ButtonTest, IconsAreForIconButtons) {
 TEST_F(ButtonTest, EnterClicksTheDefaultButton) {
   InDialog([](User& user, TestDialog& dialog) {
     CWnd(dialog, 741).SetFocus();
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"802 clicked"});
     EXPECT_TRUE(user.HasFocus(741));
     CButton(dialog, 802).EnableWindow(false);
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log());
   });
 }
@@ -89,7 +90,7 @@ TEST_F(ButtonTest, EnterClicksTheDefaultButton) {
 TEST_F(ButtonTest, EnterClicksTheButtonThatHasTheFocus) {
   InDialog([](User& user, TestDialog& dialog) {
     CWnd(dialog, 801).SetFocus();
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
   });
 }
@@ -97,7 +98,7 @@ TEST_F(ButtonTest, EnterClicksTheButtonThatHasTheFocus) {
 TEST_F(ButtonTest, SpaceClicksTheButtonThatHasTheFocus) {
   InDialog([](User& user, TestDialog& dialog) {
     CWnd(dialog, 801).SetFocus();
-    user.Press(Key::Space);
+    user.Press(WindowKey::Space);
     EXPECT_EQ(dialog.Take(), Log{"801 clicked"});
   });
 }

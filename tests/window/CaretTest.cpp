@@ -75,7 +75,7 @@ TEST_F(CaretTest, SelectingLeavesTheCaretAndTheScrolling) {
     EXPECT_TRUE(table.SelectRow(70));
     EXPECT_TRUE(user.IsInSight(kTable, 0));
     table.SetFocus();
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.SelectedRows(kTable), Picked{3});
   });
 }
@@ -118,12 +118,12 @@ TEST_F(CaretTest, TheCaretOfATableStaysWithItsRow) {
     CListCtrl table(dialog, kTable);
     table.SetFocus();
     table.InsertRow(0, "front"); // the caret moves from row 0 to row 1
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.SelectedRows(kTable), Picked{1});
     table.SetCurSel(3);
     table.DeleteRow(0);
     table.SetCurSel(-1);
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.SelectedRows(kTable), Picked{2});
   });
 }

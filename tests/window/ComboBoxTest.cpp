@@ -122,7 +122,7 @@ TEST_F(ComboBoxTest, SettingDoesNotNotify) {
 TEST_F(ComboBoxTest, PickingAnEntryTells) {
   InBox([](User& user, TestDialog& dialog, CComboBox combo) {
     int seen = -1;
-    dialog.onCommand = [&](int, ControlEvent) { seen = combo.GetCurSel(); };
+    dialog.onCommand = [&](int, WindowEvent) { seen = combo.GetCurSel(); };
     EXPECT_TRUE(user.Select(kCombo, "B"));
     EXPECT_EQ(dialog.Take(), Log{"761 selection"});
     EXPECT_EQ(seen, 1);
@@ -140,11 +140,11 @@ TEST_F(ComboBoxTest, KeysMoveTheChoice) {
   InBox([](User& user, TestDialog& dialog, CComboBox combo) {
     combo.SetCurSel(0);
     combo.SetFocus();
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(combo.GetCurSel(), 1);
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     EXPECT_EQ(combo.GetCurSel(), 2);
-    user.Press(Key::Home);
+    user.Press(WindowKey::Home);
     EXPECT_EQ(combo.GetCurSel(), 0);
     EXPECT_EQ(dialog.log, Log(3, "761 selection"));
   });

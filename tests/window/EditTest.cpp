@@ -57,7 +57,7 @@ TEST_F(EditTest, TakingBackFromAnEmptyEditTellsNothing) {
   InEdit([](User& user, TestDialog& dialog, CEdit edit) {
     edit.SetFocus();
     user.Type("\b");
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(dialog.log, Log());
   });
 }
@@ -72,7 +72,7 @@ TEST_F(EditTest, TypingReplacesWhatIsSelected) {
     EXPECT_FALSE(edit.IsAllSelected());
     edit.SelectAll();
     EXPECT_TRUE(edit.IsAllSelected());
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(kEdit), "");
   });
 }
@@ -84,10 +84,10 @@ TEST_F(EditTest, SetTextPutsTheCaretAtTheStart) {
     EXPECT_FALSE(edit.IsAllSelected());
     user.Type("a");
     EXPECT_EQ(user.Text(kEdit), "abc");
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     user.Type("d");
-    user.Press(Key::Home);
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Home);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(kEdit), "bcd");
   });
 }
@@ -101,8 +101,8 @@ TEST_F(EditTest, ADoubleByteCharacterIsOneCharacter) {
     EXPECT_EQ(dialog.Take().size(), 3U);
     user.Type("\b");
     EXPECT_EQ(edit.GetText(), TrickyText().Left(4));
-    user.Press(Key::Home);
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Home);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(edit.GetText(), TrickyText().Mid(2, 2));
     edit.SetText(TrickyText());
     EXPECT_EQ(edit.GetText(), TrickyText());
@@ -140,7 +140,7 @@ TEST_F(EditTest, SetTextHeedsNoLimit) {
     edit.SetText("abcdef");
     EXPECT_EQ(user.Text(kEdit), "abcdef");
     edit.SetFocus();
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     user.Type("g");
     EXPECT_EQ(user.Text(kEdit), "abcdef");
     user.Type("\b");
@@ -160,7 +160,7 @@ TEST_F(EditTest, AReadOnlyEditIsNotChanged) {
     edit.SetText("shown");
     EXPECT_TRUE(edit.SetFocus());
     user.Type("x");
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(742), "shown");
     EXPECT_EQ(dialog.log, Log());
     edit.SetReadOnly(false);
@@ -201,11 +201,11 @@ TEST_F(EditTest, TheFocusIsNotLostToAnotherDialog) {
   InEdit([](User& user, TestDialog& dialog, CEdit edit) {
     TestDialog inner(101, &dialog);
     edit.SetFocus();
-    dialog.onCommand = [&](int, ControlEvent) {
+    dialog.onCommand = [&](int, WindowEvent) {
       if (!inner.IsRunning())
         inner.DoModal();
     };
-    WhenDialogOpens([](User& innerUser) { innerUser.Press(Key::Escape); });
+    WhenDialogOpens([](User& innerUser) { innerUser.Press(WindowKey::Escape); });
     user.Type("a");
     dialog.onCommand = nullptr;
     EXPECT_EQ(dialog.Take(), Log{"741 text"});
@@ -217,7 +217,7 @@ TEST_F(EditTest, TheSpaceKeyTypesABlank) {
   InEdit([](User& user, TestDialog& dialog, CEdit edit) {
     edit.SetFocus();
     user.Type("a");
-    user.Press(Key::Space);
+    user.Press(WindowKey::Space);
     user.Type("b");
     EXPECT_EQ(user.Text(kEdit), "a b");
     EXPECT_EQ(dialog.log, Log(3, "741 text"));

@@ -17,8 +17,8 @@ protected:
       table.AddColumn("x", 0);
       table.AddRow("A");
       CEdit(dialog, 741).SetFocus();
-      dialog.onCommand = [&](int id, ControlEvent event) {
-        if (keeps && id == 741 && event == ControlEvent::FocusLost)
+      dialog.onCommand = [&](int id, WindowEvent event) {
+        if (keeps && id == 741 && event == WindowEvent::FocusLost)
           CEdit(dialog, 741).SetFocus();
       };
       script(user, dialog, keeps);
@@ -57,7 +57,7 @@ TEST_F(FocusTest, ADoubleClickThatAnEditorTakesTheFocusBackFromHasNoEffect) {
 
 TEST_F(FocusTest, TabAndLettersThatAnEditorTakesTheFocusBackFromHaveNoEffect) {
   InKeepingEdit([](User& user, TestDialog& dialog, bool&) {
-    user.Press(Key::Tab);
+    user.Press(WindowKey::Tab);
     EXPECT_TRUE(user.HasFocus(741));
     EXPECT_EQ(dialog.Take(), Log{"741 left"});
     user.PressLetter('A');
@@ -69,8 +69,8 @@ TEST_F(FocusTest, TabAndLettersThatAnEditorTakesTheFocusBackFromHaveNoEffect) {
 TEST_F(FocusTest, AHandlerThatMovesTheFocusElsewhereTakesTheClicksEffect) {
   InDialog([](User& user, TestDialog& dialog) {
     CEdit(dialog, 741).SetFocus();
-    dialog.onCommand = [&](int, ControlEvent event) {
-      if (event == ControlEvent::FocusLost)
+    dialog.onCommand = [&](int, WindowEvent event) {
+      if (event == WindowEvent::FocusLost)
         CEdit(dialog, 742).SetFocus();
     };
     EXPECT_TRUE(user.Click(801));
@@ -81,8 +81,8 @@ TEST_F(FocusTest, AHandlerThatMovesTheFocusElsewhereTakesTheClicksEffect) {
 
 TEST_F(FocusTest, AHandlerThatEndsTheDialogTakesTheClicksEffect) {
   TestDialog dialog;
-  dialog.onCommand = [&](int, ControlEvent event) {
-    if (event == ControlEvent::FocusLost)
+  dialog.onCommand = [&](int, WindowEvent event) {
+    if (event == WindowEvent::FocusLost)
       dialog.EndDialog(9);
   };
   EXPECT_EQ(RunDialog(dialog,
@@ -117,10 +117,10 @@ TEST_F(FocusTest, AControlThatIsDisabledOrHiddenPassesTheFocusOn) {
 
 TEST_F(FocusTest, AButtonThatDisablesItselfPassesTheFocusOn) {
   InDialog([](User& user, TestDialog& dialog) {
-    dialog.onCommand = [&](int id, ControlEvent) { CWnd(dialog, id).EnableWindow(false); };
+    dialog.onCommand = [&](int id, WindowEvent) { CWnd(dialog, id).EnableWindow(false); };
     EXPECT_TRUE(user.Click(801));
     EXPECT_TRUE(user.HasFocus(802));
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.log, (Log{"801 clicked", "802 clicked"}));
     EXPECT_TRUE(user.HasFocus(804));
   });
@@ -134,12 +134,12 @@ TEST_F(FocusTest, WhenNoControlCanTakeItNoneHasTheFocus) {
     EXPECT_TRUE(CWnd(dialog, 2).SetFocus());
     CWnd(dialog, 2).EnableWindow(false);
     EXPECT_FALSE(user.HasFocus(2));
-    EXPECT_TRUE(user.Press(Key::Space));
+    EXPECT_TRUE(user.Press(WindowKey::Space));
     EXPECT_EQ(dialog.Take(), Log());
     CWnd(dialog, 2).EnableWindow();
-    EXPECT_TRUE(user.Press(Key::Tab));
+    EXPECT_TRUE(user.Press(WindowKey::Tab));
     EXPECT_TRUE(user.HasFocus(2));
-    EXPECT_TRUE(user.Press(Key::Space));
+    EXPECT_TRUE(user.Press(WindowKey::Space));
     EXPECT_EQ(dialog.Take(), Log{"cancel"});
   });
 }
@@ -149,7 +149,7 @@ TEST_F(FocusTest, TheFocusOfAnOuterDialogIsChangedBehindTheInnerOne) {
   InDialog([](User& user, TestDialog& dialog) {
     TestDialog inner(101, &dialog);
     bool disables = false;
-    dialog.onCommand = [&](int, ControlEvent) {
+    dialog.onCommand = [&](int, WindowEvent) {
       WhenDialogOpens([&](User& innerUser) {
         if (disables)
           CWnd(dialog, 801).EnableWindow(false);
@@ -157,7 +157,7 @@ TEST_F(FocusTest, TheFocusOfAnOuterDialogIsChangedBehindTheInnerOne) {
           EXPECT_TRUE(CWnd(dialog, 741).SetFocus());
         actions::Settle();
         EXPECT_TRUE(innerUser.HasFocus(761));
-        EXPECT_TRUE(innerUser.Press(Key::Escape));
+        EXPECT_TRUE(innerUser.Press(WindowKey::Escape));
       });
       inner.DoModal();
     };
@@ -165,14 +165,14 @@ TEST_F(FocusTest, TheFocusOfAnOuterDialogIsChangedBehindTheInnerOne) {
     EXPECT_TRUE(user.HasFocus(741));
     disables = true;
     EXPECT_TRUE(CWnd(dialog, 802).SetFocus());
-    dialog.onCommand = [&, before = dialog.onCommand](int id, ControlEvent event) {
+    dialog.onCommand = [&, before = dialog.onCommand](int id, WindowEvent event) {
       if (id == 801)
         before(id, event);
     };
     EXPECT_TRUE(user.Click(801));
     EXPECT_TRUE(user.HasFocus(802));
     EXPECT_EQ(dialog.Take(), (Log{"801 clicked", "801 clicked"}));
-    EXPECT_EQ(user.Press(Key::Enter), true);
+    EXPECT_EQ(user.Press(WindowKey::Enter), true);
     EXPECT_EQ(dialog.log, Log{"802 clicked"});
   });
 }
@@ -182,11 +182,11 @@ TEST_F(FocusTest, TabPassesOverWhatIsDisabledOrHiddenInBothDirections) {
     CWnd(dialog, 742).EnableWindow(false);
     CWnd(dialog, 782).Show(false);
     for (const int id : {741, 781, 783, 791}) {
-      user.Press(Key::Tab);
+      user.Press(WindowKey::Tab);
       EXPECT_TRUE(user.HasFocus(id)) << id;
     }
     for (const int id : {783, 781, 741, 761, 2, 1}) {
-      user.Press(Key::Tab, Modifier::Shift);
+      user.Press(WindowKey::Tab, Modifier::Shift);
       EXPECT_TRUE(user.HasFocus(id)) << id;
     }
   });
@@ -198,16 +198,16 @@ TEST_F(FocusTest, TheDefaultButtonIsTheTemplatesAgainWhenTheFocusLeavesAButton) 
     EXPECT_TRUE(user.Click(801));
     EXPECT_TRUE(user.Click(741));
     dialog.Take();
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"802 clicked"});
     EXPECT_TRUE(user.Click(801));
     CWnd(dialog, 801).EnableWindow(false);
     CWnd(dialog, 742).SetFocus();
     dialog.Take();
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"802 clicked"});
     CWnd(dialog, 802).Show(false);
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"802 clicked"}); // still the default although it is hidden
   });
 }
@@ -217,12 +217,12 @@ TEST_F(FocusTest, AControlAsTheParentStandsForItsDialog) {
   InDialog([](User& user, TestDialog& dialog) {
     const CWnd button(dialog, 801);
     TestDialog inner(101, &button);
-    dialog.onCommand = [&](int, ControlEvent) {
+    dialog.onCommand = [&](int, WindowEvent) {
       WhenDialogOpens([&](User& innerUser) {
         EXPECT_FALSE(dialog.IsWindowEnabled());
         EXPECT_TRUE(button.IsWindowEnabled());
         EXPECT_FALSE(user.Click(802));
-        innerUser.Press(Key::Escape);
+        innerUser.Press(WindowKey::Escape);
       });
       inner.DoModal();
     };

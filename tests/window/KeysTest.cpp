@@ -95,22 +95,22 @@ TEST_F(KeysTest, TheDialogHearsKeysAndWhatIsHeld) {
       box.AddString(text);
     box.SetCurSel(1);
     box.SetFocus();
-    dialog.onKey = [](int, Key, Held) { return true; };
-    const auto heard = [](Key key, const char* with) {
+    dialog.onKey = [](int, WindowKey, WindowHeldKeys) { return true; };
+    const auto heard = [](WindowKey key, const char* with) {
       return Log{"key 782 " + std::to_string(static_cast<int>(key)) + with};
     };
-    user.Press(Key::F2);
-    EXPECT_EQ(dialog.Take(), heard(Key::F2, ""));
-    user.Press(Key::Delete);
-    EXPECT_EQ(dialog.Take(), heard(Key::Delete, ""));
+    user.Press(WindowKey::F2);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::F2, ""));
+    user.Press(WindowKey::Delete);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::Delete, ""));
     user.PressLetter('A', Modifier::Control);
-    EXPECT_EQ(dialog.Take(), heard(Key::A, " control"));
-    user.Press(Key::Up, Modifier::Alt);
-    EXPECT_EQ(dialog.Take(), heard(Key::Up, " alt"));
-    user.Press(Key::Down, Modifier::Alt);
-    EXPECT_EQ(dialog.Take(), heard(Key::Down, " alt"));
-    user.Press(Key::PageDown, Modifier::Shift);
-    EXPECT_EQ(dialog.Take(), heard(Key::PageDown, " shift"));
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::A, " control"));
+    user.Press(WindowKey::Up, Modifier::Alt);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::Up, " alt"));
+    user.Press(WindowKey::Down, Modifier::Alt);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::Down, " alt"));
+    user.Press(WindowKey::PageDown, Modifier::Shift);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::PageDown, " shift"));
     EXPECT_EQ(user.SelectedRows(782), std::vector<int>{1});
   });
 }
@@ -122,10 +122,10 @@ TEST_F(KeysTest, KeysThatTheDialogDoesNotTake) {
       box.AddString(text);
     box.SetCurSel(1);
     box.SetFocus();
-    for (const Key key : {Key::Up, Key::Down})
+    for (const WindowKey key : {WindowKey::Up, WindowKey::Down})
       user.Press(key, Modifier::Alt);
-    user.Press(Key::F2);
-    user.Press(Key::Delete);
+    user.Press(WindowKey::F2);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.SelectedRows(782), std::vector<int>{1});
     EXPECT_EQ(user.Rows(782).size(), 3U);
     EXPECT_EQ(dialog.log, Log());
@@ -134,8 +134,10 @@ TEST_F(KeysTest, KeysThatTheDialogDoesNotTake) {
 
 TEST_F(KeysTest, EnterInAnEditIsTheDialogsFirst) {
   InLetters([](User& user, TestDialog& dialog) {
-    dialog.onKey = [](int id, Key key, Held) { return id == 742 && key == Key::Enter; };
-    user.Press(Key::Enter);
+    dialog.onKey = [](int id, WindowKey key, WindowHeldKeys) {
+      return id == 742 && key == WindowKey::Enter;
+    };
+    user.Press(WindowKey::Enter);
     EXPECT_EQ(dialog.Take(), Log{"key 742 0"});
     EXPECT_TRUE(user.IsUp());
   });
@@ -143,13 +145,13 @@ TEST_F(KeysTest, EnterInAnEditIsTheDialogsFirst) {
 
 TEST_F(KeysTest, AKeyThatEndsTheDialogMovesNothing) {
   TestDialog dialog;
-  dialog.onKey = [&](int, Key, Held) { return dialog.EndDialog(6), false; };
+  dialog.onKey = [&](int, WindowKey, WindowHeldKeys) { return dialog.EndDialog(6), false; };
   EXPECT_EQ(RunDialog(dialog,
                       [&](User& user) {
                         CListBox box(dialog, 781);
                         box.AddString("A");
                         box.SetFocus();
-                        user.Press(Key::Down);
+                        user.Press(WindowKey::Down);
                         EXPECT_EQ(box.GetCurSel(), -1);
                       }),
             6);
@@ -166,13 +168,13 @@ TEST_F(KeysTest, ControlAndASelectAllOfAnEdit) {
     user.Type("x");
     EXPECT_EQ(user.Text(741), "x");
     user.Type("yz");
-    user.Press(Key::Home, Modifier::Shift);
+    user.Press(WindowKey::Home, Modifier::Shift);
     EXPECT_TRUE(edit.IsAllSelected());
-    user.Press(Key::Home);
+    user.Press(WindowKey::Home);
     EXPECT_FALSE(edit.IsAllSelected());
-    user.Press(Key::End, Modifier::Shift);
+    user.Press(WindowKey::End, Modifier::Shift);
     EXPECT_TRUE(edit.IsAllSelected());
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(741), "");
   });
 }
@@ -189,7 +191,7 @@ TEST_F(KeysTest, SettingATextTakesTheSelectionAway) {
     edit.SelectAll();
     edit.SetText("ef"); // the same as without the focus
     EXPECT_FALSE(edit.IsAllSelected());
-    user.Press(Key::Delete);
+    user.Press(WindowKey::Delete);
     EXPECT_EQ(user.Text(741), "f");
   });
 }

@@ -6,7 +6,7 @@ namespace {
 TEST_F(ListBoxTest, AClickSelectsAndTells) {
   InBox([](User& user, TestDialog& dialog, CListBox box) {
     int seen = -1;
-    dialog.onCommand = [&](int, ControlEvent) { seen = box.GetCurSel(); };
+    dialog.onCommand = [&](int, WindowEvent) { seen = box.GetCurSel(); };
     EXPECT_TRUE(user.ClickRow(kBox, 1));
     EXPECT_EQ(dialog.Take(), Log{"781 selection"});
     EXPECT_EQ(seen, 1);
@@ -30,13 +30,13 @@ TEST_F(ListBoxTest, KeysMoveTheSelection) {
   InBox([](User& user, TestDialog& dialog, CListBox box) {
     box.SetCurSel(0);
     box.SetFocus();
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(box.GetCurSel(), 1);
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     EXPECT_EQ(box.GetCurSel(), 2);
-    user.Press(Key::Up);
+    user.Press(WindowKey::Up);
     EXPECT_EQ(box.GetCurSel(), 1);
-    user.Press(Key::Home);
+    user.Press(WindowKey::Home);
     EXPECT_EQ(box.GetCurSel(), 0);
     EXPECT_EQ(dialog.log.size(), 4U);
     EXPECT_EQ(dialog.log.front(), "781 selection");

@@ -39,8 +39,8 @@ TEST_F(ListCtrlTest, ADoubleClickBesideTheRows) {
 
 TEST_F(ListCtrlTest, ADoubleClickThatEndsTheDialog) {
   TestDialog dialog(101);
-  dialog.onNotify = [&](int, const ListNotice& notice) {
-    if (notice.kind == ListNotice::Kind::DoubleClicked)
+  dialog.onNotify = [&](int, const WindowListNotice& notice) {
+    if (notice.kind == WindowListNotice::Kind::DoubleClicked)
       dialog.EndDialog(1);
   };
   const int code = RunDialog(dialog, [&](User& user) {
@@ -80,11 +80,11 @@ TEST_F(ListCtrlTest, KeysMoveTheSelection) {
   InTable([](User& user, TestDialog& dialog, CListCtrl table) {
     table.SetCurSel(0);
     table.SetFocus();
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{1});
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{2});
-    user.Press(Key::Home);
+    user.Press(WindowKey::Home);
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{0});
     EXPECT_EQ(dialog.log, Log(3, "791 selection"));
   });

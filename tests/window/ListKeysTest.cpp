@@ -7,14 +7,14 @@ class ListKeysTest : public ListsTest {};
 
 // Symptom: in some kinds of lists and windows the first Down skipped the first row.
 TEST_F(ListKeysTest, TheFirstArrowKeySelectsTheCaretRow) {
-  for (const Key key : {Key::Up, Key::Down}) {
+  for (const WindowKey key : {WindowKey::Up, WindowKey::Down}) {
     InLists(3, [key](User& user, TestDialog& dialog) {
       for (const int id : {kSingle, kMulti, kTable, kCombo}) {
         CWnd(dialog, id).SetFocus();
         user.Press(key);
         EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
         EXPECT_EQ(dialog.Take(), Log{Told(id)}) << id;
-        user.Press(Key::Down);
+        user.Press(WindowKey::Down);
         EXPECT_EQ(user.SelectedRows(id), Picked{1}) << id;
         dialog.Take();
       }
@@ -41,7 +41,7 @@ TEST_F(ListKeysTest, TheFirstDownAfterARefillSelectsTheFirstRow) {
     }
     for (const int id : {kSingle, kMulti, kTable, kCombo}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Down);
+      user.Press(WindowKey::Down);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
     }
   });
@@ -58,7 +58,7 @@ TEST_F(ListKeysTest, DownAfterTheSelectedRowWasDeletedSelectsTheOneInItsPlace) {
     }
     for (const int id : {kSingle, kMulti, kTable}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Down);
+      user.Press(WindowKey::Down);
       EXPECT_EQ(user.SelectedRows(id), Picked{2}) << id;
       EXPECT_EQ(user.Rows(id)[2], "3") << id;
     }
@@ -70,7 +70,7 @@ TEST_F(ListKeysTest, DownAfterTheSelectedRowWasDeletedSelectsTheOneInItsPlace) {
     }
     for (const int id : {kSingle, kMulti, kTable}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Down);
+      user.Press(WindowKey::Down);
       EXPECT_EQ(user.SelectedRows(id), Picked{2}) << id;
     }
   });
@@ -80,10 +80,10 @@ TEST_F(ListKeysTest, SpaceSelectsTheCaretRow) {
   InLists(3, [](User& user, TestDialog& dialog) {
     for (const int id : {kSingle, kMulti, kTable}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Space);
+      user.Press(WindowKey::Space);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_EQ(dialog.Take(), Log{Told(id)}) << id;
-      user.Press(Key::Space);
+      user.Press(WindowKey::Space);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_EQ(dialog.Take(), Log()) << id;
     }
@@ -91,7 +91,7 @@ TEST_F(ListKeysTest, SpaceSelectsTheCaretRow) {
     box.SelectRow(1);
     box.SetCaretIndex(2);
     box.SetFocus();
-    user.Press(Key::Space);
+    user.Press(WindowKey::Space);
     EXPECT_EQ(user.SelectedRows(kMulti), Picked{2});
   });
 }
@@ -101,22 +101,22 @@ TEST_F(ListKeysTest, ControlAndSpaceTurnTheCaretRowAround) {
     for (const int id : {kMulti, kTable}) {
       user.ClickRow(id, 0);
       dialog.Take();
-      user.Press(Key::Down, Modifier::Control);
-      user.Press(Key::Down, Modifier::Control);
+      user.Press(WindowKey::Down, Modifier::Control);
+      user.Press(WindowKey::Down, Modifier::Control);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_EQ(dialog.Take(), Log()) << id;
-      user.Press(Key::Space, Modifier::Control);
+      user.Press(WindowKey::Space, Modifier::Control);
       EXPECT_EQ(user.SelectedRows(id), (Picked{0, 2})) << id;
-      user.Press(Key::Space, Modifier::Control);
+      user.Press(WindowKey::Space, Modifier::Control);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_EQ(dialog.Take(), Log(2, Told(id))) << id;
     }
     // A list of a single selection has nothing to toggle.
     user.ClickRow(kSingle, 1);
     dialog.Take();
-    user.Press(Key::Space, Modifier::Control);
+    user.Press(WindowKey::Space, Modifier::Control);
     EXPECT_EQ(user.SelectedRows(kSingle), Picked{1});
-    user.Press(Key::Down, Modifier::Control);
+    user.Press(WindowKey::Down, Modifier::Control);
     EXPECT_EQ(user.SelectedRows(kSingle), Picked{2});
   });
 }
@@ -126,23 +126,23 @@ TEST_F(ListKeysTest, ShiftSelectsFromTheRowThatWasSelectedWithoutIt) {
     for (const int id : {kMulti, kTable}) {
       user.ClickRow(id, 2);
       dialog.Take();
-      user.Press(Key::Down, Modifier::Shift);
-      user.Press(Key::Down, Modifier::Shift);
+      user.Press(WindowKey::Down, Modifier::Shift);
+      user.Press(WindowKey::Down, Modifier::Shift);
       EXPECT_EQ(user.SelectedRows(id), (Picked{2, 3, 4})) << id;
-      user.Press(Key::Home, Modifier::Shift);
+      user.Press(WindowKey::Home, Modifier::Shift);
       EXPECT_EQ(user.SelectedRows(id), (Picked{0, 1, 2})) << id;
       user.ClickRow(id, 4, Modifier::Shift);
       EXPECT_EQ(user.SelectedRows(id), (Picked{2, 3, 4})) << id;
-      user.Press(Key::Up);
+      user.Press(WindowKey::Up);
       EXPECT_EQ(user.SelectedRows(id), Picked{3}) << id;
-      user.Press(Key::End, Modifier::Shift);
+      user.Press(WindowKey::End, Modifier::Shift);
       EXPECT_EQ(user.SelectedRows(id), (Picked{3, 4, 5})) << id;
       dialog.Take();
-      user.Press(Key::End, Modifier::Shift);
+      user.Press(WindowKey::End, Modifier::Shift);
       EXPECT_EQ(dialog.Take(), Log()) << id;
     }
     user.ClickRow(kSingle, 2);
-    user.Press(Key::Down, Modifier::Shift);
+    user.Press(WindowKey::Down, Modifier::Shift);
     EXPECT_EQ(user.SelectedRows(kSingle), Picked{3});
   });
 }
@@ -157,7 +157,7 @@ TEST_F(ListKeysTest, ControlAndASelectAllRowsOfAListOfSeveral) {
       EXPECT_EQ(dialog.Take(), Log{Told(id)}) << id;
       user.PressLetter('A', Modifier::Control);
       EXPECT_EQ(dialog.Take(), Log()) << id;
-      user.Press(Key::Down);
+      user.Press(WindowKey::Down);
       EXPECT_EQ(user.SelectedRows(id), Picked{2}) << id;
     }
     user.ClickRow(kSingle, 1);
@@ -172,28 +172,28 @@ TEST_F(ListKeysTest, PagesAndEndsAreScrolledTo) {
   InLists(100, [](User& user, TestDialog& dialog) {
     for (const int id : {kSingle, kMulti, kTable}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Home);
+      user.Press(WindowKey::Home);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       int shown = 0;
       while (user.IsInSight(id, shown))
         ++shown;
       ASSERT_GT(shown, 2) << id;
-      user.Press(Key::PageDown);
+      user.Press(WindowKey::PageDown);
       EXPECT_EQ(user.SelectedRows(id), Picked{shown - 1}) << id;
       EXPECT_TRUE(user.IsInSight(id, 0)) << id;
-      user.Press(Key::PageDown);
+      user.Press(WindowKey::PageDown);
       EXPECT_EQ(user.SelectedRows(id), Picked{2 * shown - 2}) << id;
       EXPECT_TRUE(user.IsInSight(id, 2 * shown - 2)) << id;
       EXPECT_FALSE(user.IsInSight(id, 0)) << id;
-      user.Press(Key::PageUp);
+      user.Press(WindowKey::PageUp);
       EXPECT_EQ(user.SelectedRows(id), Picked{shown - 1}) << id;
-      user.Press(Key::End);
+      user.Press(WindowKey::End);
       EXPECT_EQ(user.SelectedRows(id), Picked{99}) << id;
       EXPECT_TRUE(user.IsInSight(id, 99)) << id;
-      user.Press(Key::PageDown);
+      user.Press(WindowKey::PageDown);
       EXPECT_EQ(user.SelectedRows(id), Picked{99}) << id;
-      user.Press(Key::Home);
-      user.Press(Key::PageUp);
+      user.Press(WindowKey::Home);
+      user.Press(WindowKey::PageUp);
       EXPECT_EQ(user.SelectedRows(id), Picked{0}) << id;
       EXPECT_TRUE(user.IsInSight(id, 0)) << id;
     }
@@ -221,23 +221,23 @@ TEST_F(ListKeysTest, AComboBoxKnowsPagesAndNoSpace) {
   InLists(30, [](User& user, TestDialog& dialog) {
     CComboBox combo(dialog, kCombo);
     combo.SetFocus();
-    user.Press(Key::Space);
+    user.Press(WindowKey::Space);
     EXPECT_EQ(combo.GetCurSel(), -1);
-    user.Press(Key::PageDown);
+    user.Press(WindowKey::PageDown);
     const int page = combo.GetCurSel();
     EXPECT_GT(page, 1);
-    user.Press(Key::PageDown);
+    user.Press(WindowKey::PageDown);
     EXPECT_EQ(combo.GetCurSel(), 2 * page);
-    user.Press(Key::PageUp);
+    user.Press(WindowKey::PageUp);
     EXPECT_EQ(combo.GetCurSel(), page);
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     EXPECT_EQ(combo.GetCurSel(), 29);
     dialog.Take();
-    user.Press(Key::Down);
-    user.Press(Key::PageDown);
+    user.Press(WindowKey::Down);
+    user.Press(WindowKey::PageDown);
     EXPECT_EQ(dialog.log, Log()); // there is no further row
     combo.DeleteString(29);
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(combo.GetCurSel(), 0);
   });
 }

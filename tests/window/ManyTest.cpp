@@ -14,14 +14,14 @@ class ManyTest : public WindowTest {};
 // Uses memory and objects of the system: rows, a tooltip, an icon, a timer, a message.
 void OpenAndClose() {
   TestDialog dialog;
-  dialog.onItemLook = [](int, int, ItemLook& look) { look.bold = true; };
+  dialog.onItemLook = [](int, int, WindowItemLook& look) { look.bold = true; };
   dialog.onInit = [&] {
     CListBox(dialog, 783).AddString("bold");
     CComboBox(dialog, 761).AddString("entry");
     CListCtrl table(dialog, 791);
     table.AddColumn("x", 0);
     table.AddRow("row");
-    CButton(dialog, 804).SetIcon(ButtonIcon::Up);
+    CButton(dialog, 804).SetIcon(WindowButtonIcon::Up);
     dialog.SetToolTip(804, "tip");
     dialog.SetTimer(1, 1000);
     dialog.Post(CWnd::kFirstMessage);

@@ -8,7 +8,7 @@ constexpr unsigned kCode = CWnd::kFirstMessage;
 
 TEST_F(MessageTest, PostedMessagesComeInOrderAfterTheHandler) {
   InDialog([](User& user, TestDialog& dialog) {
-    dialog.onCommand = [&](int, ControlEvent) {
+    dialog.onCommand = [&](int, WindowEvent) {
       EXPECT_TRUE(dialog.Post(kCode, 1, 2));
       EXPECT_TRUE(dialog.Post(kCode + 1, -3, INTPTR_MAX));
       dialog.log.push_back("handler ends");
@@ -80,7 +80,7 @@ TEST_F(MessageTest, AMessageCanOpenADialogAndEndTheRun) {
     return dialog.EndDialog(inner.DoModal() + 100), 0;
   };
   WhenDialogOpens([&](User& user) {
-    WhenDialogOpens([](User& innerUser) { innerUser.Press(Key::Enter); });
+    WhenDialogOpens([](User& innerUser) { innerUser.Press(WindowKey::Enter); });
     dialog.Post(kCode);
     user.LeaveUp();
   });

@@ -133,7 +133,7 @@ TEST_F(MultiListBoxTest, AThousandSelectedOfTenThousandRows) {
 TEST_F(MultiListBoxTest, AnOwnerDrawnBoxHoldsItsTexts) {
   InDialog([](User& user, TestDialog& dialog) {
     CListBox box(dialog, kDrawn);
-    dialog.onItemLook = [](int id, int row, ItemLook& look) {
+    dialog.onItemLook = [](int id, int row, WindowItemLook& look) {
       look.bold = id == kDrawn && row == 1;
       look.marked = look.bold;
     };

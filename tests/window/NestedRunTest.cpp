@@ -7,7 +7,7 @@ class NestedRunTest : public WindowTest {};
 
 TEST_F(NestedRunTest, AParentTakesNoInputUntilTheDialogEnds) {
   TestDialog outer;
-  outer.onCommand = [&](int, ControlEvent) {
+  outer.onCommand = [&](int, WindowEvent) {
     TestDialog inner(101, &outer);
     EXPECT_EQ(inner.DoModal(), 1);
     outer.log.push_back("inner ended");
@@ -17,8 +17,8 @@ TEST_F(NestedRunTest, AParentTakesNoInputUntilTheDialogEnds) {
       EXPECT_FALSE(outer.IsWindowEnabled());
       EXPECT_TRUE(CWnd(outer, 801).IsWindowEnabled());
       EXPECT_FALSE(user.Click(801));
-      EXPECT_FALSE(user.Press(Key::Escape));
-      inner.Press(Key::Enter);
+      EXPECT_FALSE(user.Press(WindowKey::Escape));
+      inner.Press(WindowKey::Enter);
     });
     user.Click(801);
     EXPECT_TRUE(outer.IsWindowEnabled());
@@ -31,7 +31,7 @@ TEST_F(NestedRunTest, AParentTakesNoInputUntilTheDialogEnds) {
 TEST_F(NestedRunTest, MessagesAndTimersOfTheOuterDialogArriveDuringTheInnerRun) {
   TestDialog outer;
   TestDialog inner(101, &outer);
-  outer.onCommand = [&](int, ControlEvent) {
+  outer.onCommand = [&](int, WindowEvent) {
     outer.Post(CWnd::kFirstMessage, 1);
     outer.SetTimer(3, 1);
     inner.DoModal();
@@ -41,7 +41,7 @@ TEST_F(NestedRunTest, MessagesAndTimersOfTheOuterDialogArriveDuringTheInnerRun) 
   WhenDialogOpens([&](User& user) {
     WhenDialogOpens([&](User& innerUser) {
       EXPECT_TRUE(innerUser.WaitFor([&] { return outer.log.back() == "timer 3"; }));
-      innerUser.Press(Key::Escape);
+      innerUser.Press(WindowKey::Escape);
     });
     user.Click(801);
     user.Click(2);
@@ -54,7 +54,7 @@ TEST_F(NestedRunTest, MessagesAndTimersOfTheOuterDialogArriveDuringTheInnerRun) 
 TEST_F(NestedRunTest, AnOuterDialogEndedFromTheInnerOneWaitsForIt) {
   TestDialog outer;
   TestDialog inner(101, &outer);
-  outer.onCommand = [&](int, ControlEvent) {
+  outer.onCommand = [&](int, WindowEvent) {
     outer.log.push_back("inner " + std::to_string(inner.DoModal()));
   };
   WhenDialogOpens([&](User& user) {
@@ -73,8 +73,8 @@ TEST_F(NestedRunTest, ThreeDialogsDeep) {
   TestDialog first;
   TestDialog second(100, &first);
   TestDialog third(101, &second);
-  first.onCommand = [&](int, ControlEvent) { first.EndDialog(second.DoModal() + 1); };
-  second.onCommand = [&](int, ControlEvent) { second.EndDialog(third.DoModal() + 1); };
+  first.onCommand = [&](int, WindowEvent) { first.EndDialog(second.DoModal() + 1); };
+  second.onCommand = [&](int, WindowEvent) { second.EndDialog(third.DoModal() + 1); };
   WhenDialogOpens([&](User& user) {
     WhenDialogOpens([&](User& secondUser) {
       WhenDialogOpens([&](User&) { third.EndDialog(20); });
@@ -88,12 +88,12 @@ TEST_F(NestedRunTest, ThreeDialogsDeep) {
 TEST_F(NestedRunTest, AParentThatIsGoneCountsAsNone) {
   TestDialog outer(101);
   TestDialog inner(101, &outer); // outer has no window yet: no parent
-  EXPECT_EQ(RunDialog(inner, [](User& user) { user.Press(Key::Enter); }), 1);
+  EXPECT_EQ(RunDialog(inner, [](User& user) { user.Press(WindowKey::Enter); }), 1);
   WindowHandle gone = nullptr;
   In(outer, [&](User&) { gone = outer.GetSafeHwnd(); });
   const CWnd parent(gone);
   TestDialog orphan(101, &parent);
-  EXPECT_EQ(RunDialog(orphan, [](User& user) { user.Press(Key::Enter); }), 1);
+  EXPECT_EQ(RunDialog(orphan, [](User& user) { user.Press(WindowKey::Enter); }), 1);
 }
 
 } // namespace

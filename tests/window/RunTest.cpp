@@ -28,21 +28,21 @@ TEST_F(RunTest, TheTitleBarAndEscapeCancel) {
   EXPECT_EQ(RunDialog(closed, [](User& user) { EXPECT_TRUE(user.CloseByTitleBar()); }), 2);
   EXPECT_EQ(closed.log, (Log{"init", "cancel"}));
   TestDialog escaped(101);
-  EXPECT_EQ(RunDialog(escaped, [](User& user) { EXPECT_TRUE(user.Press(Key::Escape)); }), 2);
+  EXPECT_EQ(RunDialog(escaped, [](User& user) { EXPECT_TRUE(user.Press(WindowKey::Escape)); }), 2);
   EXPECT_EQ(escaped.log, (Log{"init", "cancel"}));
 }
 
 TEST_F(RunTest, EnterMeansOkWhereThereIsNoButton) {
   TestDialog dialog(101);
-  EXPECT_EQ(RunDialog(dialog, [](User& user) { EXPECT_TRUE(user.Press(Key::Enter)); }), 1);
+  EXPECT_EQ(RunDialog(dialog, [](User& user) { EXPECT_TRUE(user.Press(WindowKey::Enter)); }), 1);
   EXPECT_EQ(dialog.log, (Log{"init", "ok"}));
 }
 
 TEST_F(RunTest, DisabledOkAndCancelButtonsBlockKeysAndTitleBar) {
   TestDialog dialog(102);
   In(dialog, [&](User& user) {
-    user.Press(Key::Enter);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Enter);
+    user.Press(WindowKey::Escape);
     user.CloseByTitleBar();
     EXPECT_FALSE(user.Click(1));
     EXPECT_FALSE(user.Click(2));
@@ -56,14 +56,14 @@ TEST_F(RunTest, AnOkThatDoesNotEndLeavesTheDialogUp) {
   dialog.onCancel = [] {};
   In(dialog, [&](User& user) {
     user.Click(1);
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
     EXPECT_EQ(dialog.log, (Log{"ok", "cancel"}));
   });
 }
 
 TEST_F(RunTest, EndingTakesEffectAfterTheHandler) {
   TestDialog dialog;
-  dialog.onCommand = [&](int, ControlEvent) {
+  dialog.onCommand = [&](int, WindowEvent) {
     dialog.EndDialog(5);
     dialog.log.push_back("still " + std::to_string(dialog.IsRunning()));
     dialog.log.push_back(Utf8(CWnd(dialog, 801).GetText()));
@@ -75,7 +75,7 @@ TEST_F(RunTest, EndingTakesEffectAfterTheHandler) {
 
 TEST_F(RunTest, TheLastEndCodeCounts) {
   TestDialog dialog;
-  dialog.onCommand = [&](int, ControlEvent) {
+  dialog.onCommand = [&](int, WindowEvent) {
     dialog.EndDialog(5);
     dialog.EndDialog(6);
   };
@@ -84,7 +84,7 @@ TEST_F(RunTest, TheLastEndCodeCounts) {
 
 TEST_F(RunTest, AnEndedDialogHearsNothingMore) {
   TestDialog dialog;
-  dialog.onCommand = [&](int, ControlEvent) {
+  dialog.onCommand = [&](int, WindowEvent) {
     dialog.SetTimer(1, 1);
     dialog.Post(CWnd::kFirstMessage);
     dialog.EndDialog(5);
@@ -92,7 +92,7 @@ TEST_F(RunTest, AnEndedDialogHearsNothingMore) {
   const int code = RunDialog(dialog, [](User& user) {
     user.Click(801);
     EXPECT_FALSE(user.Click(801));
-    EXPECT_FALSE(user.Press(Key::Escape));
+    EXPECT_FALSE(user.Press(WindowKey::Escape));
   });
   EXPECT_EQ(code, 5);
   EXPECT_EQ(dialog.log, (Log{"init", "801 clicked"}));

@@ -76,7 +76,7 @@ void Fill(TestDialog& dialog, bool traditional) {
   combo.AddString("A");
   combo.SetCurSel(combo.AddString("B"));
   CEdit(dialog, 741).SetText("typed");
-  CButton(dialog, 804).SetIcon(ButtonIcon::Up);
+  CButton(dialog, 804).SetIcon(WindowButtonIcon::Up);
 }
 
 TEST_F(TemplateTest, ADialogAsText) {

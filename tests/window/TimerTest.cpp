@@ -108,18 +108,18 @@ TEST_F(TimerTest, ATimerThatPostsAMessageOnceAndStops) {
   bool done = false;
   dialog.onInit = [&] { dialog.SetTimer(1, 10); };
   dialog.onTimer = [&](unsigned) {
-    SetCursorShape(done ? CursorShape::Arrow : CursorShape::Wait);
+    SetWindowCursor(done ? WindowCursor::Arrow : WindowCursor::Wait);
     if (done)
       dialog.KillTimer(1);
     else if (!posted)
       posted = dialog.Post(CWnd::kFirstMessage + 14);
   };
   dialog.onMessage = [&](unsigned, intptr_t, intptr_t) -> intptr_t {
-    EXPECT_EQ(GetCursorShape(), CursorShape::Wait);
+    EXPECT_EQ(GetWindowCursor(), WindowCursor::Wait);
     return done = true, 0;
   };
   RunDialog(dialog, [&](User& user) {
-    EXPECT_TRUE(user.WaitFor([&] { return done && GetCursorShape() == CursorShape::Arrow; }));
+    EXPECT_TRUE(user.WaitFor([&] { return done && GetWindowCursor() == WindowCursor::Arrow; }));
     EXPECT_FALSE(dialog.KillTimer(1));
     user.Click(2);
   });

@@ -57,7 +57,7 @@ TEST_F(VirtualListTest, AMillionRowsAtOnce) {
     EXPECT_TRUE(user.DoubleClick(kTable, 765432));
     EXPECT_EQ(dialog.Take(), (Log{"791 selection", "791 double 765432"}));
     EXPECT_EQ(table.GetCurSel(), 765432);
-    user.Press(Key::End);
+    user.Press(WindowKey::End);
     EXPECT_EQ(table.GetCurSel(), kMillion - 1);
     EXPECT_TRUE(user.IsInSight(kTable, kMillion - 1));
     EXPECT_TRUE(table.SetCurSel(3));
@@ -89,7 +89,7 @@ TEST_F(VirtualListTest, AnotherNumberOfRowsStartsAnew) {
     EXPECT_EQ(table.GetSelectedCount(), 0);
     EXPECT_TRUE(user.IsInSight(kTable, 0));
     table.SetFocus();
-    user.Press(Key::Down);
+    user.Press(WindowKey::Down);
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{0});
     EXPECT_TRUE(table.SetVirtualRows(900)); // also resets with the same number
     EXPECT_EQ(table.GetSelectedCount(), 0);
@@ -118,7 +118,7 @@ TEST_F(VirtualListTest, SeveralRowsAreSelectedAsInOthers) {
     EXPECT_TRUE(user.ClickRow(kTable, 5));
     EXPECT_EQ(user.SelectedRows(kTable), std::vector<int>{5});
     EXPECT_EQ(dialog.Take(), Log{"791 selection"});
-    user.Press(Key::Down, Modifier::Shift);
+    user.Press(WindowKey::Down, Modifier::Shift);
     EXPECT_EQ(user.SelectedRows(kTable), (std::vector<int>{5, 6}));
     EXPECT_EQ(dialog.Take(), Log{"791 selection"});
   });

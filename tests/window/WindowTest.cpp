@@ -17,7 +17,7 @@ constexpr tq::TemplateRow kRows[] = {
 };
 // clang-format on
 
-const char* NameOf(ControlEvent event) {
+const char* NameOf(WindowEvent event) {
   static const char* const names[] = {"clicked", "selection", "double", "text", "focus", "left"};
   return names[static_cast<int>(event)];
 }
@@ -68,14 +68,14 @@ void TestDialog::OnCancel() {
   onCancel ? onCancel() : CDialog::OnCancel();
 }
 
-void TestDialog::OnCommand(int id, ControlEvent event) {
+void TestDialog::OnCommand(int id, WindowEvent event) {
   log.push_back(std::to_string(id) + " " + NameOf(event));
   if (onCommand)
     onCommand(id, event);
 }
 
-void TestDialog::OnNotify(int id, const ListNotice& notice) {
-  const bool isDouble = notice.kind == ListNotice::Kind::DoubleClicked;
+void TestDialog::OnNotify(int id, const WindowListNotice& notice) {
+  const bool isDouble = notice.kind == WindowListNotice::Kind::DoubleClicked;
   log.push_back(std::to_string(id) +
                 (isDouble ? " double " + std::to_string(notice.row) : " selection"));
   if (onNotify)
@@ -94,7 +94,7 @@ intptr_t TestDialog::OnMessage(unsigned code, intptr_t first, intptr_t second) {
   return onMessage ? onMessage(code, first, second) : 0;
 }
 
-bool TestDialog::OnKey(int id, Key key, Held held) {
+bool TestDialog::OnKey(int id, WindowKey key, WindowHeldKeys held) {
   if (!onKey)
     return false;
   const char* const with = held.alt       ? " alt"
@@ -105,7 +105,7 @@ bool TestDialog::OnKey(int id, Key key, Held held) {
   return onKey(id, key, held);
 }
 
-void TestDialog::OnItemLook(int id, int row, ItemLook& look) {
+void TestDialog::OnItemLook(int id, int row, WindowItemLook& look) {
   if (onItemLook)
     onItemLook(id, row, look);
 }
@@ -118,7 +118,7 @@ WindowTest::WindowTest() : context_(TestResources()), held_(HeldObjects()) {}
 
 WindowTest::~WindowTest() {
   EXPECT_EQ(TakeUnusedScripts(), 0U);
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
   EXPECT_EQ(HeldObjects(), held_) << "something of the operating system was left open";
 }
 

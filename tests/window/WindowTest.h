@@ -36,12 +36,13 @@ public:
   Log log;
   // Called after the event is recorded; may be null. Without one, OnOK and OnCancel end the dialog.
   std::function<void()> onInit, onOk, onCancel;
-  std::function<void(int, ControlEvent)> onCommand;
-  std::function<void(int, const ListNotice&)> onNotify;
+  std::function<void(int, WindowEvent)> onCommand;
+  std::function<void(int, const WindowListNotice&)> onNotify;
   std::function<void(unsigned)> onTimer;
   std::function<intptr_t(unsigned, intptr_t, intptr_t)> onMessage;
-  std::function<bool(int, Key, Held)> onKey; // keys are recorded only if this is set
-  std::function<void(int, int, ItemLook&)> onItemLook;
+  std::function<bool(int, WindowKey, WindowHeldKeys)>
+      onKey; // keys are recorded only if this is set
+  std::function<void(int, int, WindowItemLook&)> onItemLook;
   std::function<CString(int, int, int)> onCellText;
   bool focusFirst = true;
 
@@ -52,12 +53,12 @@ protected:
   bool OnInitDialog() override;
   void OnOK() override;
   void OnCancel() override;
-  void OnCommand(int id, ControlEvent event) override;
-  void OnNotify(int id, const ListNotice& notice) override;
+  void OnCommand(int id, WindowEvent event) override;
+  void OnNotify(int id, const WindowListNotice& notice) override;
   void OnTimer(unsigned id) override;
   intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second) override;
-  bool OnKey(int id, Key key, Held held) override;
-  void OnItemLook(int id, int row, ItemLook& look) override;
+  bool OnKey(int id, WindowKey key, WindowHeldKeys held) override;
+  void OnItemLook(int id, int row, WindowItemLook& look) override;
   CString OnCellText(int id, int row, int column) override;
 };
 

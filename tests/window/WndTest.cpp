@@ -105,7 +105,7 @@ TEST_F(WndTest, OnInitDialogMayPutTheFocusElsewhere) {
   RunDialog(dialog, [&](User& user) {
     EXPECT_TRUE(user.HasFocus(801));
     EXPECT_EQ(dialog.log, Log{"init"});
-    user.Press(Key::Escape);
+    user.Press(WindowKey::Escape);
   });
 }
 
@@ -124,7 +124,7 @@ TEST_F(WndTest, SomeControlsTakeNoFocus) {
 TEST_F(WndTest, TabGoesThroughTheControlsInOrder) {
   InDialog([](User& user, TestDialog& dialog) {
     for (const int id : {741, 742, 781, 782, 783, 791, 801, 802, 804, 1, 2, 761}) {
-      user.Press(Key::Tab);
+      user.Press(WindowKey::Tab);
       EXPECT_TRUE(user.HasFocus(id)) << id;
     }
     EXPECT_EQ(dialog.log, (Log{"741 focus", "741 left", "742 focus", "742 left"}));
@@ -133,7 +133,7 @@ TEST_F(WndTest, TabGoesThroughTheControlsInOrder) {
 
 // While nothing is selected. In lists of several selections the caret is the system's own.
 TEST_F(WndTest, TheFirstArrowKeyInAListSelectsTheFirstRow) {
-  for (const Key key : {Key::Down, Key::Up}) {
+  for (const WindowKey key : {WindowKey::Down, WindowKey::Up}) {
     InDialog([key](User& user, TestDialog& dialog) {
       for (const char* text : {"A", "B", "C"}) {
         CListBox(dialog, 781).AddString(text);
@@ -157,8 +157,8 @@ TEST_F(WndTest, ArrowKeysAtTheEndsKeepTheSelection) {
     CComboBox(dialog, 761).SetCurSel(CComboBox(dialog, 761).AddString("A"));
     for (const int id : {761, 781, 791}) {
       CWnd(dialog, id).SetFocus();
-      user.Press(Key::Down);
-      user.Press(Key::Up);
+      user.Press(WindowKey::Down);
+      user.Press(WindowKey::Up);
       EXPECT_EQ(user.SelectedRows(id), std::vector<int>{0}) << id;
     }
     for (const std::string& line : dialog.log)
@@ -170,7 +170,8 @@ TEST_F(WndTest, KeysInAnEmptyListDoNothing) {
   InDialog([](User& user, TestDialog& dialog) {
     for (const int id : {761, 781, 782, 791}) {
       CWnd(dialog, id).SetFocus();
-      for (const Key key : {Key::Down, Key::Up, Key::Home, Key::End, Key::Space, Key::Delete})
+      for (const WindowKey key : {WindowKey::Down, WindowKey::Up, WindowKey::Home, WindowKey::End,
+                                  WindowKey::Space, WindowKey::Delete})
         user.Press(key);
       EXPECT_EQ(user.SelectedRows(id), std::vector<int>()) << id;
     }
@@ -181,22 +182,22 @@ TEST_F(WndTest, KeysInAnEmptyListDoNothing) {
 TEST_F(WndTest, TheDialogSeesKeysFirst) {
   InDialog([](User& user, TestDialog& dialog) {
     bool take = true;
-    dialog.onKey = [&](int, Key, Held) { return take; };
-    EXPECT_TRUE(user.Press(Key::Enter));
-    EXPECT_TRUE(user.Press(Key::Escape));
-    EXPECT_TRUE(user.Press(Key::Tab));
+    dialog.onKey = [&](int, WindowKey, WindowHeldKeys) { return take; };
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Escape));
+    EXPECT_TRUE(user.Press(WindowKey::Tab));
     EXPECT_EQ(dialog.Take(), (Log{"key 761 0", "key 761 1", "key 761 2"}));
     EXPECT_TRUE(user.HasFocus(761));
     take = false;
-    EXPECT_TRUE(user.Press(Key::Enter));
+    EXPECT_TRUE(user.Press(WindowKey::Enter));
     EXPECT_EQ(dialog.Take(), (Log{"key 761 0", "802 clicked"}));
   });
 }
 
 TEST_F(WndTest, KeysOfADialogWithoutFocus) {
   TestDialog dialog(103);
-  dialog.onKey = [](int, Key, Held) { return false; };
-  EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(Key::Escape); }), 2);
+  dialog.onKey = [](int, WindowKey, WindowHeldKeys) { return false; };
+  EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(WindowKey::Escape); }), 2);
   EXPECT_EQ(dialog.log, (Log{"init", "key 0 1", "cancel"}));
 }
 
@@ -204,12 +205,12 @@ TEST_F(WndTest, KeysOfADialogWithoutFocus) {
 // open.
 TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
   InDialog([](User& user, TestDialog& dialog) {
-    dialog.onKey = [](int id, Key key, Held) {
-      return id == 742 && (key == Key::Enter || key == Key::Escape);
+    dialog.onKey = [](int id, WindowKey key, WindowHeldKeys) {
+      return id == 742 && (key == WindowKey::Enter || key == WindowKey::Escape);
     };
     CWnd(dialog, 742).SetFocus();
-    user.Press(Key::Escape);
-    user.Press(Key::Enter);
+    user.Press(WindowKey::Escape);
+    user.Press(WindowKey::Enter);
     EXPECT_TRUE(user.IsUp());
     EXPECT_EQ(dialog.Take(), (Log{"key 742 1", "key 742 0"}));
   });
@@ -217,8 +218,8 @@ TEST_F(WndTest, EnterAndEscapeOfOneEditOnly) {
 
 TEST_F(WndTest, AKeyThatEndsTheDialog) {
   TestDialog dialog;
-  dialog.onKey = [&](int, Key, Held) { return dialog.EndDialog(6), false; };
-  EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(Key::Enter); }), 6);
+  dialog.onKey = [&](int, WindowKey, WindowHeldKeys) { return dialog.EndDialog(6), false; };
+  EXPECT_EQ(RunDialog(dialog, [](User& user) { user.Press(WindowKey::Enter); }), 6);
   EXPECT_EQ(dialog.log, (Log{"init", "key 761 0"}));
 }
 
@@ -239,14 +240,14 @@ TEST_F(WndTest, ToolTips) {
 }
 
 TEST_F(WndTest, TheWaitCursor) {
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
   {
     const CWaitCursor wait;
-    EXPECT_EQ(GetCursorShape(), CursorShape::Wait);
+    EXPECT_EQ(GetWindowCursor(), WindowCursor::Wait);
     const CWaitCursor nested;
-    EXPECT_EQ(GetCursorShape(), CursorShape::Wait);
+    EXPECT_EQ(GetWindowCursor(), WindowCursor::Wait);
   }
-  EXPECT_EQ(GetCursorShape(), CursorShape::Arrow);
+  EXPECT_EQ(GetWindowCursor(), WindowCursor::Arrow);
 }
 
 struct CountingApp : CWinApp {

@@ -8,6 +8,6 @@ public:
   using CWnd::CWnd;
 
   // The picture of an icon button; false for another button. Its text stays unseen.
-  bool SetIcon(ButtonIcon icon);
-  ButtonIcon GetIcon() const;
+  bool SetIcon(WindowButtonIcon icon);
+  WindowButtonIcon GetIcon() const;
 };

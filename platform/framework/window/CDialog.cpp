@@ -23,9 +23,9 @@ void CDialog::EndDialog(int code) {
   tq::WakeModal(*this);
 }
 
-void CDialog::OnCommand(int, ControlEvent) {}
+void CDialog::OnCommand(int, WindowEvent) {}
 
-void CDialog::OnNotify(int, const ListNotice&) {}
+void CDialog::OnNotify(int, const WindowListNotice&) {}
 
 void CDialog::OnTimer(unsigned) {}
 
@@ -33,11 +33,11 @@ intptr_t CDialog::OnMessage(unsigned, intptr_t, intptr_t) {
   return 0;
 }
 
-bool CDialog::OnKey(int, Key, Held) {
+bool CDialog::OnKey(int, WindowKey, WindowHeldKeys) {
   return false;
 }
 
-void CDialog::OnItemLook(int, int, ItemLook&) {}
+void CDialog::OnItemLook(int, int, WindowItemLook&) {}
 
 CString CDialog::OnCellText(int, int, int) {
   return CString();
@@ -61,17 +61,17 @@ void DialogAccess::SetEnd(CDialog& dialog, int code) {
   dialog.ended_ = true;
 }
 
-void DialogAccess::Command(CDialog& dialog, int id, ControlEvent event) {
+void DialogAccess::Command(CDialog& dialog, int id, WindowEvent event) {
   if (dialog.ended_)
     return;
-  if (event == ControlEvent::Clicked && id == CDialog::Accepted)
+  if (event == WindowEvent::Clicked && id == CDialog::Accepted)
     return dialog.OnOK();
-  if (event == ControlEvent::Clicked && id == CDialog::Cancelled)
+  if (event == WindowEvent::Clicked && id == CDialog::Cancelled)
     return dialog.OnCancel();
   dialog.OnCommand(id, event);
 }
 
-void DialogAccess::Notify(CDialog& dialog, int id, const ListNotice& notice) {
+void DialogAccess::Notify(CDialog& dialog, int id, const WindowListNotice& notice) {
   if (!dialog.ended_)
     dialog.OnNotify(id, notice);
 }
@@ -86,7 +86,7 @@ void DialogAccess::Posted(CDialog& dialog, unsigned code, intptr_t first, intptr
     dialog.OnMessage(code, first, second);
 }
 
-bool DialogAccess::KeyDown(CDialog& dialog, int id, Key key, Held held) {
+bool DialogAccess::KeyDown(CDialog& dialog, int id, WindowKey key, WindowHeldKeys held) {
   return !dialog.ended_ && dialog.OnKey(id, key, held);
 }
 
@@ -94,8 +94,8 @@ CString DialogAccess::CellText(CDialog& dialog, int id, int row, int column) {
   return dialog.OnCellText(id, row, column);
 }
 
-ItemLook DialogAccess::Look(CDialog& dialog, int id, int row) {
-  ItemLook look;
+WindowItemLook DialogAccess::Look(CDialog& dialog, int id, int row) {
+  WindowItemLook look;
   dialog.OnItemLook(id, row, look);
   return look;
 }

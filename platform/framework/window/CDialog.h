@@ -1,5 +1,5 @@
 // CDialog: a modal dialog. A dialog derives from it, names its template, and overrides the handlers
-// that it needs. docs/dialogs.md shows one from beginning to end.
+// that it needs. dialogs.md shows one from beginning to end.
 //
 // The order of events in a run, the same on every system:
 //  1. The window is made of the template, hidden. OnInitDialog is called. Then it is shown, and its
@@ -77,8 +77,8 @@ protected:
   virtual void OnOK() { EndDialog(Accepted); }
   virtual void OnCancel() { EndDialog(Cancelled); }
 
-  virtual void OnCommand(int id, ControlEvent event);
-  virtual void OnNotify(int id, const ListNotice& notice); // list views
+  virtual void OnCommand(int id, WindowEvent event);
+  virtual void OnNotify(int id, const WindowListNotice& notice); // list views
   virtual void OnTimer(unsigned id);
   // Messages of Post and Send. The result is Send's.
   virtual intptr_t OnMessage(unsigned code, intptr_t first, intptr_t second);
@@ -94,10 +94,10 @@ protected:
   //    no letter;
   //  - Control and A select all of an edit or of a list of several selections;
   //  - in lists keys do what CListBox.h says.
-  virtual bool OnKey(int id, Key key, Held held);
+  virtual bool OnKey(int id, WindowKey key, WindowHeldKeys held);
 
   // Asked for each row of an owner-drawn list box when it is drawn.
-  virtual void OnItemLook(int id, int row, ItemLook& look);
+  virtual void OnItemLook(int id, int row, WindowItemLook& look);
 
   // The text of a cell of a virtual list view (CListCtrl.h), asked for each time that it is needed.
   virtual CString OnCellText(int id, int row, int column);

@@ -5,11 +5,11 @@
 
 class CWaitCursor {
 public:
-  CWaitCursor() : before_(GetCursorShape()) { SetCursorShape(CursorShape::Wait); }
-  ~CWaitCursor() { SetCursorShape(before_); }
+  CWaitCursor() : before_(GetWindowCursor()) { SetWindowCursor(WindowCursor::Wait); }
+  ~CWaitCursor() { SetWindowCursor(before_); }
   CWaitCursor(const CWaitCursor&) = delete;
   CWaitCursor& operator=(const CWaitCursor&) = delete;
 
 private:
-  CursorShape before_;
+  WindowCursor before_;
 };

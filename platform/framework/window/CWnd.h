@@ -91,5 +91,5 @@ private:
 };
 
 // The shape of the mouse cursor, until it is set again or the mouse moves to another window.
-TQFRAMEWORK_API void SetCursorShape(CursorShape shape);
-TQFRAMEWORK_API CursorShape GetCursorShape();
+TQFRAMEWORK_API void SetWindowCursor(WindowCursor shape);
+TQFRAMEWORK_API WindowCursor GetWindowCursor();

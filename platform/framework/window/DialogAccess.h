@@ -18,18 +18,18 @@ struct DialogAccess {
   static bool Init(CDialog& dialog) { return dialog.OnInitDialog(); }
   // None of the following is delivered to a dialog that has ended.
   // OnOK and OnCancel for buttons 1 and 2, else OnCommand.
-  static TQFRAMEWORK_API void Command(CDialog& dialog, int id, ControlEvent event);
-  static void Notify(CDialog& dialog, int id, const ListNotice& notice);
+  static TQFRAMEWORK_API void Command(CDialog& dialog, int id, WindowEvent event);
+  static void Notify(CDialog& dialog, int id, const WindowListNotice& notice);
   static void Timer(CDialog& dialog, unsigned id);
   static void Posted(CDialog& dialog, unsigned code, intptr_t first, intptr_t second);
   // True: the dialog has used the key.
-  static bool KeyDown(CDialog& dialog, int id, Key key, Held held);
+  static bool KeyDown(CDialog& dialog, int id, WindowKey key, WindowHeldKeys held);
 
   static intptr_t Message(CDialog& dialog, unsigned code, intptr_t first, intptr_t second) {
     return dialog.OnMessage(code, first, second);
   }
   static CString CellText(CDialog& dialog, int id, int row, int column);
-  static TQFRAMEWORK_API ItemLook Look(CDialog& dialog, int id, int row);
+  static TQFRAMEWORK_API WindowItemLook Look(CDialog& dialog, int id, int row);
 
   // Tells the modal handler, if there is one and the dialog has not ended.
   static void TellModalHandler(CDialog& dialog);

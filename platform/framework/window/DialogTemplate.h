@@ -16,7 +16,7 @@
 // hidden or disabled leave it to what lies behind. Styles are joined by "|", as TemplateRow says.
 // Ids 1 and 2 are OK and Cancel. The file is UTF-8.
 //
-// The table is made by DialogRows.inc, the resources by DialogResources.inc; see docs/dialogs.md.
+// The table is made by DialogRows.inc, the resources by DialogResources.inc; see dialogs.md.
 #pragma once
 
 #include <cstddef>

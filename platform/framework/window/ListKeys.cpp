@@ -6,17 +6,17 @@ namespace tq {
 
 namespace {
 
-bool IsListKey(Key key, Held held) {
+bool IsListKey(WindowKey key, WindowHeldKeys held) {
   switch (key) {
-  case Key::Space:
-  case Key::Up:
-  case Key::Down:
-  case Key::Home:
-  case Key::End:
-  case Key::PageUp:
-  case Key::PageDown:
+  case WindowKey::Space:
+  case WindowKey::Up:
+  case WindowKey::Down:
+  case WindowKey::Home:
+  case WindowKey::End:
+  case WindowKey::PageUp:
+  case WindowKey::PageDown:
     return !held.alt;
-  case Key::A:
+  case WindowKey::A:
     return held.control && !held.alt;
   default:
     return false;
@@ -24,22 +24,22 @@ bool IsListKey(Key key, Held held) {
 }
 
 // Where the key moves the caret.
-int TargetOf(const KeyedList& list, Key key, bool leavesCaret) {
+int TargetOf(const KeyedList& list, WindowKey key, bool leavesCaret) {
   const int caret = list.Caret();
   const int last = list.Count() - 1;
   const int page = std::max(1, list.RowsInSight() - 1); // one row stays in sight
   switch (key) {
-  case Key::Up:
+  case WindowKey::Up:
     return leavesCaret ? caret : std::max(0, caret - 1);
-  case Key::Down:
+  case WindowKey::Down:
     return leavesCaret ? caret : std::min(last, caret + 1);
-  case Key::PageUp:
+  case WindowKey::PageUp:
     return std::max(0, caret - page);
-  case Key::PageDown:
+  case WindowKey::PageDown:
     return std::min(last, caret + page);
-  case Key::Home:
+  case WindowKey::Home:
     return 0;
-  case Key::End:
+  case WindowKey::End:
     return last;
   default:
     return caret;
@@ -96,17 +96,17 @@ ListKeyResult ExtendTo(KeyedList& list, int row) {
 
 } // namespace
 
-ListKeyResult PressInList(KeyedList& list, Key key, Held held) {
+ListKeyResult PressInList(KeyedList& list, WindowKey key, WindowHeldKeys held) {
   if (!IsListKey(key, held))
     return ListKeyResult::Unknown;
   if (list.Count() == 0)
     return ListKeyResult::Nothing;
   const bool several = list.TakesSeveral();
-  if (key == Key::A)
+  if (key == WindowKey::A)
     return several ? SelectAll(list) : ListKeyResult::Nothing;
   const bool shift = several && held.shift;
   const bool control = several && held.control && !shift;
-  if (key == Key::Space && control)
+  if (key == WindowKey::Space && control)
     return Turn(list, list.Caret());
   const int row = TargetOf(list, key, list.CountSelected() == 0 && !control && !shift);
   if (shift)

@@ -34,6 +34,6 @@ enum class ListKeyResult {
   Selected, // another selection
 };
 
-ListKeyResult PressInList(KeyedList& list, Key key, Held held);
+ListKeyResult PressInList(KeyedList& list, WindowKey key, WindowHeldKeys held);
 
 } // namespace tq

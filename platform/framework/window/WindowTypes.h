@@ -11,7 +11,7 @@ using WindowHandle = HWND__*;
 
 // What a control tells its dialog. Only actions of the user cause events, never an operation of
 // this layer that changes a control.
-enum class ControlEvent {
+enum class WindowEvent {
   Clicked, // button: clicked, or its key pressed
   // List box, combo box: the user chose. A click on a row tells so always, also where that row was
   // chosen before; a key only when it chose something else.
@@ -26,7 +26,7 @@ enum class ControlEvent {
 };
 
 // What a list view tells its dialog.
-struct ListNotice {
+struct WindowListNotice {
   enum class Kind {
     SelectionChanged, // once for what the user did, however many rows changed
     DoubleClicked,
@@ -37,7 +37,7 @@ struct ListNotice {
 
 // Keys that a dialog may want for itself before they take their usual way. A comes only with
 // Control.
-enum class Key {
+enum class WindowKey {
   Enter,
   Escape,
   Tab,
@@ -54,19 +54,19 @@ enum class Key {
 };
 
 // What is held down while a key is pressed.
-struct Held {
+struct WindowHeldKeys {
   bool shift = false;
   bool control = false;
   bool alt = false;
 };
 
 // How an owner-drawn list box shows one row. The text is the row's own.
-struct ItemLook {
+struct WindowItemLook {
   bool bold = false;
   bool marked = false; // a mark in front of the text
 };
 
 // The pictures of icon buttons.
-enum class ButtonIcon { None, Up, Down, Left, Remove, Search };
+enum class WindowButtonIcon { None, Up, Down, Left, Remove, Search };
 
-enum class CursorShape { Arrow, Wait };
+enum class WindowCursor { Arrow, Wait };

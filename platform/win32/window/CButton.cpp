@@ -9,7 +9,8 @@ namespace {
 constexpr int kSize = 16;
 constexpr int kIcons = 6;
 
-// One row of the picture is one number, its left end the highest bit. In the order of ButtonIcon.
+// One row of the picture is one number, its left end the highest bit. In the order of
+// WindowButtonIcon.
 constexpr uint16_t kPictures[kIcons][kSize] = {
     {},
     {0, 0, 0, 0x0180, 0x03C0, 0x07E0, 0x0FF0, 0x1FF8, 0x3FFC, 0x03C0, 0x03C0, 0x03C0, 0x03C0, 0, 0,
@@ -46,7 +47,7 @@ HICON IconOf(int number) {
 
 } // namespace
 
-bool CButton::SetIcon(ButtonIcon icon) {
+bool CButton::SetIcon(WindowButtonIcon icon) {
   if (handle_ == nullptr || !tq::HasStyle(handle_, BS_ICON))
     return false;
   ::SendMessageW(handle_, BM_SETIMAGE, IMAGE_ICON,
@@ -54,11 +55,11 @@ bool CButton::SetIcon(ButtonIcon icon) {
   return true;
 }
 
-ButtonIcon CButton::GetIcon() const {
+WindowButtonIcon CButton::GetIcon() const {
   const LRESULT shown = ::SendMessageW(handle_, BM_GETIMAGE, IMAGE_ICON, 0);
   for (int number = 1; number < kIcons && shown != 0; ++number) {
     if (reinterpret_cast<LRESULT>(IconOf(number)) == shown)
-      return static_cast<ButtonIcon>(number);
+      return static_cast<WindowButtonIcon>(number);
   }
-  return ButtonIcon::None;
+  return WindowButtonIcon::None;
 }

@@ -12,7 +12,7 @@ namespace {
 constexpr wchar_t kNotDrawn[] =
     L"tqNotDrawn"; // property of a window between SetRedraw(false) and (true)
 
-CursorShape cursor = CursorShape::Arrow;
+WindowCursor cursor = WindowCursor::Arrow;
 
 bool IsPrivate(unsigned code) {
   return code >= CWnd::kFirstMessage && code <= CWnd::kLastMessage;
@@ -114,15 +114,15 @@ intptr_t CWnd::Send(unsigned code, intptr_t first, intptr_t second) const {
   return tq::DialogAccess::Message(*run->dialog, code, first, second);
 }
 
-void tq::SetCursorNow(CursorShape shape) {
-  ::SetCursor(::LoadCursorA(nullptr, shape == CursorShape::Wait ? IDC_WAIT : IDC_ARROW));
+void tq::SetCursorNow(WindowCursor shape) {
+  ::SetCursor(::LoadCursorA(nullptr, shape == WindowCursor::Wait ? IDC_WAIT : IDC_ARROW));
 }
 
-void SetCursorShape(CursorShape shape) {
+void SetWindowCursor(WindowCursor shape) {
   cursor = shape;
   tq::SetCursorNow(shape);
 }
 
-CursorShape GetCursorShape() {
+WindowCursor GetWindowCursor() {
   return cursor;
 }

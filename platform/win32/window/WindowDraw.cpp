@@ -39,7 +39,8 @@ private:
   int state_;
 };
 
-void DrawRow(Run& run, const DRAWITEMSTRUCT& item, const ItemLook& look, const std::wstring& text) {
+void DrawRow(Run& run, const DRAWITEMSTRUCT& item, const WindowItemLook& look,
+             const std::wstring& text) {
   const SavedContext saved(item.hDC);
   const bool selected = (item.itemState & ODS_SELECTED) != 0;
   ::FillRect(item.hDC, &item.rcItem, ::GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
@@ -59,7 +60,7 @@ void DrawItem(Run& run, const DRAWITEMSTRUCT& item) {
   const int row = static_cast<int>(item.itemID);
   if (row < 0 || KindOf(item.hwndItem) != ControlKind::ListBox)
     return;
-  const ItemLook look = DialogAccess::Look(*run.dialog, static_cast<int>(item.CtlID), row);
+  const WindowItemLook look = DialogAccess::Look(*run.dialog, static_cast<int>(item.CtlID), row);
   const std::wstring text = ToWide(CListBox(item.hwndItem).GetItemText(row));
   DrawRow(run, item, look, look.marked ? kMark + text : text);
   if ((item.itemState & ODS_FOCUS) != 0)

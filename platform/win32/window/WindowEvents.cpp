@@ -11,22 +11,22 @@ namespace {
 struct Translation {
   ControlKind kind;
   WORD code;
-  ControlEvent event;
+  WindowEvent event;
 };
 
 constexpr Translation kTranslations[] = {
-    {ControlKind::Button, BN_CLICKED, ControlEvent::Clicked},
-    {ControlKind::ListBox, LBN_SELCHANGE, ControlEvent::SelectionChanged},
-    {ControlKind::ListBox, LBN_DBLCLK, ControlEvent::DoubleClicked},
-    {ControlKind::ComboBox, CBN_SELCHANGE, ControlEvent::SelectionChanged},
-    {ControlKind::Edit, EN_CHANGE, ControlEvent::TextChanged},
-    {ControlKind::Edit, EN_SETFOCUS, ControlEvent::FocusGained},
-    {ControlKind::Edit, EN_KILLFOCUS, ControlEvent::FocusLost},
+    {ControlKind::Button, BN_CLICKED, WindowEvent::Clicked},
+    {ControlKind::ListBox, LBN_SELCHANGE, WindowEvent::SelectionChanged},
+    {ControlKind::ListBox, LBN_DBLCLK, WindowEvent::DoubleClicked},
+    {ControlKind::ComboBox, CBN_SELCHANGE, WindowEvent::SelectionChanged},
+    {ControlKind::Edit, EN_CHANGE, WindowEvent::TextChanged},
+    {ControlKind::Edit, EN_SETFOCUS, WindowEvent::FocusGained},
+    {ControlKind::Edit, EN_KILLFOCUS, WindowEvent::FocusLost},
 };
 
 // A focus that moves to another window, such as a message box, does not count as lost: it returns.
 bool IsLeavingDialog(const Run& run, const Translation& translation) {
-  return translation.event == ControlEvent::FocusLost && !::IsChild(run.window, ::GetFocus());
+  return translation.event == WindowEvent::FocusLost && !::IsChild(run.window, ::GetFocus());
 }
 
 void TellControl(Run& run, HWND control, int id, WORD code) {
@@ -41,7 +41,7 @@ void TellControl(Run& run, HWND control, int id, WORD code) {
 void Choose(Run& run, int id) {
   const HWND button = ::GetDlgItem(run.window, id);
   if (button == nullptr || ::IsWindowEnabled(button))
-    DialogAccess::Command(*run.dialog, id, ControlEvent::Clicked);
+    DialogAccess::Command(*run.dialog, id, WindowEvent::Clicked);
 }
 
 // A cell of a virtual list view is to be drawn.
@@ -93,7 +93,7 @@ void TranslateNotify(Run& run, const NMHDR& header) {
   const int id = static_cast<int>(header.idFrom);
   if (header.code == NM_DBLCLK) {
     const int row = reinterpret_cast<const NMITEMACTIVATE&>(header).iItem;
-    DialogAccess::Notify(*run.dialog, id, {ListNotice::Kind::DoubleClicked, row});
+    DialogAccess::Notify(*run.dialog, id, {WindowListNotice::Kind::DoubleClicked, row});
   } else if (IsOtherSelection(header) && run.selectionNews.insert(id).second) {
     ::PostMessageW(run.window, kSelectionMessage, static_cast<WPARAM>(id), 0);
   }

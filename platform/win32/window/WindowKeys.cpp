@@ -15,31 +15,31 @@ namespace {
 
 struct KeyCode {
   WPARAM code;
-  Key key;
+  WindowKey key;
 };
 
 constexpr KeyCode kKeys[] = {
-    {VK_RETURN, Key::Enter}, {VK_ESCAPE, Key::Escape}, {VK_TAB, Key::Tab},
-    {VK_SPACE, Key::Space},  {VK_UP, Key::Up},         {VK_DOWN, Key::Down},
-    {VK_HOME, Key::Home},    {VK_END, Key::End},       {VK_DELETE, Key::Delete},
-    {VK_PRIOR, Key::PageUp}, {VK_NEXT, Key::PageDown}, {VK_F2, Key::F2},
-    {'A', Key::A},
+    {VK_RETURN, WindowKey::Enter}, {VK_ESCAPE, WindowKey::Escape}, {VK_TAB, WindowKey::Tab},
+    {VK_SPACE, WindowKey::Space},  {VK_UP, WindowKey::Up},         {VK_DOWN, WindowKey::Down},
+    {VK_HOME, WindowKey::Home},    {VK_END, WindowKey::End},       {VK_DELETE, WindowKey::Delete},
+    {VK_PRIOR, WindowKey::PageUp}, {VK_NEXT, WindowKey::PageDown}, {VK_F2, WindowKey::F2},
+    {'A', WindowKey::A},
 };
 
 bool IsDown(int key) {
   return ::GetKeyState(key) < 0;
 }
 
-Held HeldKeys() {
+WindowHeldKeys HeldKeys() {
   return {IsDown(VK_SHIFT), IsDown(VK_CONTROL), IsDown(VK_MENU)};
 }
 
-const KeyCode* FindKey(WPARAM code, Held held) {
+const KeyCode* FindKey(WPARAM code, WindowHeldKeys held) {
   const auto* const found = std::find_if(std::begin(kKeys), std::end(kKeys),
                                          [code](const KeyCode& each) { return each.code == code; });
-  if (found == std::end(kKeys) || (found->key == Key::A && !held.control))
+  if (found == std::end(kKeys) || (found->key == WindowKey::A && !held.control))
     return nullptr;
-  const bool isOffered = !held.alt || found->key == Key::Up || found->key == Key::Down;
+  const bool isOffered = !held.alt || found->key == WindowKey::Up || found->key == WindowKey::Down;
   return isOffered ? found : nullptr;
 }
 
@@ -49,7 +49,7 @@ bool IsDroppedDown(HWND window) {
          ::SendMessageW(window, CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
-bool OfferKey(const Run& run, HWND window, Key key, Held held) {
+bool OfferKey(const Run& run, HWND window, WindowKey key, WindowHeldKeys held) {
   const int id = window == run.window ? 0 : ::GetDlgCtrlID(window);
   return DialogAccess::KeyDown(*run.dialog, id, key, held) || DialogAccess::HasEnded(*run.dialog);
 }
@@ -66,14 +66,14 @@ void PressEnter(const Run& run, HWND focus) {
                    reinterpret_cast<LPARAM>(button));
 }
 
-bool PressInControl(Run& run, HWND control, Key key, Held held) {
-  if (key == Key::Enter) {
+bool PressInControl(Run& run, HWND control, WindowKey key, WindowHeldKeys held) {
+  if (key == WindowKey::Enter) {
     PressEnter(run, control);
     return true;
   }
   if (KindOf(control) != ControlKind::Edit)
     return PressInListControl(run, control, key, held);
-  const bool all = key == Key::A && held.control;
+  const bool all = key == WindowKey::A && held.control;
   if (all)
     CEdit(control).SelectAll();
   return all;
@@ -119,7 +119,7 @@ bool PressMnemonic(Run& run, char letter) {
 }
 
 // With Alt, or where a button has the focus or nothing has.
-bool IsLetterMeant(const Run& run, HWND window, Held held) {
+bool IsLetterMeant(const Run& run, HWND window, WindowHeldKeys held) {
   const bool isFree = window == run.window || KindOf(window) == ControlKind::Button;
   return held.alt ? !held.control : isFree && !held.control;
 }
@@ -135,7 +135,7 @@ bool IsKeyDone(Run& run, const MSG& message) {
   const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
   if (!isKey || IsDroppedDown(message.hwnd))
     return false;
-  const Held held = HeldKeys();
+  const WindowHeldKeys held = HeldKeys();
   if (const KeyCode* const found = FindKey(message.wParam, held)) {
     return OfferKey(run, message.hwnd, found->key, held) ||
            PressInControl(run, message.hwnd, found->key, held);

@@ -89,7 +89,7 @@ private:
   CComboBox combo_;
 };
 
-ListKeyResult Press(HWND control, Key key, Held held) {
+ListKeyResult Press(HWND control, WindowKey key, WindowHeldKeys held) {
   switch (KindOf(control)) {
   case ControlKind::ListBox: {
     BoxKeys box(control);
@@ -101,7 +101,7 @@ ListKeyResult Press(HWND control, Key key, Held held) {
   }
   case ControlKind::ComboBox: {
     ComboKeys combo(control); // Space chooses nothing
-    return key == Key::Space ? ListKeyResult::Nothing : PressInList(combo, key, held);
+    return key == WindowKey::Space ? ListKeyResult::Nothing : PressInList(combo, key, held);
   }
   default:
     return ListKeyResult::Unknown;
@@ -110,13 +110,13 @@ ListKeyResult Press(HWND control, Key key, Held held) {
 
 } // namespace
 
-bool PressInListControl(Run& run, HWND control, Key key, Held held) {
+bool PressInListControl(Run& run, HWND control, WindowKey key, WindowHeldKeys held) {
   const ListKeyResult result = Press(control, key, held);
   const int id = ::GetDlgCtrlID(control);
   if (result == ListKeyResult::Selected && KindOf(control) == ControlKind::ListView)
-    DialogAccess::Notify(*run.dialog, id, {ListNotice::Kind::SelectionChanged, -1});
+    DialogAccess::Notify(*run.dialog, id, {WindowListNotice::Kind::SelectionChanged, -1});
   else if (result == ListKeyResult::Selected)
-    DialogAccess::Command(*run.dialog, id, ControlEvent::SelectionChanged);
+    DialogAccess::Command(*run.dialog, id, WindowEvent::SelectionChanged);
   return result != ListKeyResult::Unknown;
 }
 

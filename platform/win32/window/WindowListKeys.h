@@ -7,6 +7,6 @@ namespace tq {
 
 // Handles a key in a list box, list view or closed combo box, with its events. False for other
 // controls, and for keys that those do not use.
-bool PressInListControl(Run& run, HWND control, Key key, Held held);
+bool PressInListControl(Run& run, HWND control, WindowKey key, WindowHeldKeys held);
 
 } // namespace tq

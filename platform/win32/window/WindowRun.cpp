@@ -42,13 +42,13 @@ namespace {
 
 void TellSelection(Run& run, int id) {
   run.selectionNews.erase(id);
-  DialogAccess::Notify(*run.dialog, id, {ListNotice::Kind::SelectionChanged, -1});
+  DialogAccess::Notify(*run.dialog, id, {WindowListNotice::Kind::SelectionChanged, -1});
 }
 
 bool KeepCursor() {
-  const bool waiting = GetCursorShape() == CursorShape::Wait;
+  const bool waiting = GetWindowCursor() == WindowCursor::Wait;
   if (waiting)
-    SetCursorNow(CursorShape::Wait);
+    SetCursorNow(WindowCursor::Wait);
   return waiting;
 }
 

@@ -81,6 +81,6 @@ void TranslateCommand(Run& run, WPARAM wParam, LPARAM lParam);
 void TranslateNotify(Run& run, const NMHDR& header);
 // WM_DRAWITEM of an owner-drawn list box.
 void DrawItem(Run& run, const DRAWITEMSTRUCT& item);
-void SetCursorNow(CursorShape shape);
+void SetCursorNow(WindowCursor shape);
 
 } // namespace tq

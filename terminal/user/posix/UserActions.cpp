@@ -46,7 +46,7 @@ bool TypeText(WindowHandle dialog, const char* ansi) {
   return tq::headless::TypeText(dialog, ansi);
 }
 
-bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
+bool PressKey(WindowHandle dialog, WindowKey key, Modifier modifier) {
   return tq::headless::PressKey(dialog, key, Same(modifier));
 }
 

@@ -32,7 +32,7 @@ private:
   BYTE before_[kKeys] = {};
 };
 
-WPARAM CodeOf(Key key) {
+WPARAM CodeOf(WindowKey key) {
   static constexpr WPARAM codes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE,  VK_UP,
                                      VK_DOWN,   VK_HOME,   VK_END, VK_DELETE, VK_PRIOR,
                                      VK_NEXT,   VK_F2,     'A'};
@@ -76,7 +76,7 @@ bool TypeText(WindowHandle dialog, const char* ansi) {
   return true;
 }
 
-bool PressKey(WindowHandle dialog, Key key, Modifier modifier) {
+bool PressKey(WindowHandle dialog, WindowKey key, Modifier modifier) {
   if (!IsOpen(dialog))
     return false;
   PressCode(dialog, CodeOf(key), modifier);

@@ -1,7 +1,7 @@
 // The DLL's string resources, as the terminal's message box loads them.
 #include <gtest/gtest.h>
 
-#include "platform/texts/StringTable.h"
+#include "platform/interface/TQSymbolStrings.h"
 #include "tests/interface/win32/Resource.h"
 
 namespace {

@@ -1,4 +1,4 @@
-// The version information of the DLL.
+// The version information of both DLLs.
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -7,11 +7,17 @@
 
 namespace {
 
-class VersionResource : public testing::Test {
+struct Described {
+  const char* library;
+  const char* traditional;
+  const char* simplified;
+};
+
+class VersionResource : public testing::TestWithParam<Described> {
 protected:
   VersionResource() {
     wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(Library(), path, MAX_PATH);
+    GetModuleFileNameW(GetModuleHandleA(GetParam().library), path, MAX_PATH);
     bytes_.resize(GetFileVersionInfoSizeW(path, nullptr));
     found_ = !bytes_.empty() &&
              GetFileVersionInfoW(path, 0, static_cast<DWORD>(bytes_.size()), bytes_.data()) != 0;
@@ -42,7 +48,7 @@ std::string Dotted(DWORD high, DWORD low) {
          std::to_string(HIWORD(low));
 }
 
-TEST_F(VersionResource, NumbersAreTheProjects) {
+TEST_P(VersionResource, NumbersAreTheProjects) {
   const auto* fixed = Value<VS_FIXEDFILEINFO>(L"\\");
   ASSERT_NE(fixed, nullptr);
   EXPECT_EQ(Dotted(fixed->dwFileVersionMS, fixed->dwFileVersionLS), TQ_PROJECT_VERSION);
@@ -50,19 +56,19 @@ TEST_F(VersionResource, NumbersAreTheProjects) {
   EXPECT_EQ(fixed->dwFileType, static_cast<DWORD>(VFT_DLL));
 }
 
-TEST_F(VersionResource, TextsAreInBothLanguages) {
+TEST_P(VersionResource, TextsAreInBothLanguages) {
   for (const wchar_t* block : {L"040404B0", L"080404B0"}) {
     EXPECT_EQ(Text(block, L"FileVersion"), Wide(TQ_PROJECT_VERSION));
     EXPECT_EQ(Text(block, L"ProductVersion"), Wide(TQ_PROJECT_VERSION));
     EXPECT_EQ(Text(block, L"ProductName"), L"tqSymbol");
-    EXPECT_EQ(Text(block, L"InternalName"), L"tqSymbol");
-    EXPECT_EQ(Text(block, L"OriginalFilename"), L"tqSymbol.dll");
+    EXPECT_EQ(Text(block, L"InternalName"), Wide(GetParam().library));
+    EXPECT_EQ(Text(block, L"OriginalFilename"), Wide(GetParam().library) + L".dll");
   }
-  EXPECT_EQ(Text(L"040404B0", L"FileDescription"), Wide("自選商品組合與商品代碼"));
-  EXPECT_EQ(Text(L"080404B0", L"FileDescription"), Wide("自选商品组合与商品代码"));
+  EXPECT_EQ(Text(L"040404B0", L"FileDescription"), Wide(GetParam().traditional));
+  EXPECT_EQ(Text(L"080404B0", L"FileDescription"), Wide(GetParam().simplified));
 }
 
-TEST_F(VersionResource, ListsItsLanguages) {
+TEST_P(VersionResource, ListsItsLanguages) {
   const auto* languages = Value<WORD>(L"\\VarFileInfo\\Translation");
   ASSERT_NE(languages, nullptr);
   EXPECT_EQ(languages[0], kTraditional);
@@ -70,5 +76,10 @@ TEST_F(VersionResource, ListsItsLanguages) {
   EXPECT_EQ(languages[2], kSimplified);
   EXPECT_EQ(languages[3], 1200);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    BothLibraries, VersionResource,
+    testing::Values(Described{"tqSymbol", "自選商品組合與商品代碼", "自选商品组合与商品代码"},
+                    Described{"tqFramework", "字串、容器與視窗類別", "字符串、容器与窗口类"}));
 
 } // namespace

@@ -2,9 +2,9 @@
 #include <windows.h>
 
 #include "platform/Module.h"
+#include "platform/interface/TQSymbolStrings.h"
 #include "platform/services/tqCommon.h"
 #include "platform/services/tqUtil.h"
-#include "platform/texts/StringTable.h"
 #include "tests/support/StandInTest.h"
 
 namespace {

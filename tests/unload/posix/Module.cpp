@@ -15,7 +15,7 @@ StartAndStop LoadModule() {
 }
 
 bool UnloadModule() {
-  return dlclose(module) == 0 && dlopen("libtqSymbol.so.1", RTLD_NOW | RTLD_NOLOAD) == nullptr;
+  return dlclose(module) == 0 && dlopen(TQ_SHARED_OBJECT, RTLD_NOW | RTLD_NOLOAD) == nullptr;
 }
 
 // With global symbols, like a terminal's services.

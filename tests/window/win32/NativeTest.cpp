@@ -66,14 +66,14 @@ TEST_F(NativeTest, ADialogThatOpensWhileARowIsDrawnHearsItsUser) {
   InDialog([](User&, TestDialog& dialog) {
     TestDialog inner(101, &dialog);
     bool opened = false;
-    dialog.onItemLook = [&](int, int, ItemLook&) {
+    dialog.onItemLook = [&](int, int, WindowItemLook&) {
       if (opened)
         return;
       opened = true;
       WhenDialogOpens([&](User& user) {
         CComboBox(inner, 761).AddString("A");
         EXPECT_TRUE(user.Select(761, 0));
-        EXPECT_TRUE(user.Press(Key::Escape));
+        EXPECT_TRUE(user.Press(WindowKey::Escape));
         if (user.IsUp())
           inner.EndDialog(9);
       });
@@ -232,16 +232,16 @@ TEST_F(NativeTest, TheTipOfARowIsThatUnderTheMouse) {
 }
 
 TEST_F(NativeTest, TheWaitCursorIsTheSystems) {
-  SetCursorShape(CursorShape::Wait);
+  SetWindowCursor(WindowCursor::Wait);
   EXPECT_EQ(::GetCursor(), ::LoadCursorA(nullptr, IDC_WAIT));
-  SetCursorShape(CursorShape::Arrow);
+  SetWindowCursor(WindowCursor::Arrow);
   EXPECT_EQ(::GetCursor(), ::LoadCursorA(nullptr, IDC_ARROW));
 }
 
 TEST_F(NativeTest, OwnerDrawnRowsAskForTheirLook) {
   InDialog([](User&, TestDialog& dialog) {
     int asked = 0;
-    dialog.onItemLook = [&](int id, int row, ItemLook& look) {
+    dialog.onItemLook = [&](int id, int row, WindowItemLook& look) {
       EXPECT_EQ(id, 783);
       EXPECT_EQ(row, 0);
       look.bold = look.marked = true;

@@ -1,0 +1,5 @@
+#include "platform/interface/TQSymbolText.h"
+
+CString TQSystemPath(const char* path) noexcept {
+  return CString(path);
+}
