@@ -13,6 +13,7 @@
 #include "platform/diagnostics/Operation.h"
 #include "platform/services/tqCommon.h"
 #include "symbolid/ListID.h"
+#include "symboltable/LiveTables.h"
 
 using tq::ContentEditor;
 
@@ -82,6 +83,7 @@ int CTQSymbolListMgr::DoSymbolListUI(CTQSymbolListMgr* manager, CSymbolTableMgr*
   const tq::Operation operation("DoSymbolListUI");
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoSymbolListUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   const int countBefore = manager->GetSymbolListCount(tq::kUserLists);
   const CWnd window(parent);
@@ -96,6 +98,7 @@ int CTQSymbolListMgr::DoCloudSymbolListUI(CTQSymbolListMgr* manager, CSymbolTabl
   const tq::Operation operation("DoCloudSymbolListUI");
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoCloudSymbolListUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   const int countBefore = manager->GetSymbolListCount(tq::kCloudLists);
   const CWnd window(parent);
@@ -112,6 +115,7 @@ bool CTQSymbolListMgr::DoGroupListUI(CTQSymbolListMgr* manager, CSymbolTableMgr*
     NoteNoManager();
     return false;
   }
+  tables = tq::LiveTables("DoGroupListUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   return EditOneList(*manager, tables, *list, tq::kUserLists, mode, parent, tq::CommitEditedList);
 }
@@ -123,6 +127,7 @@ bool CTQSymbolListMgr::DoCloudGroupListUI(CTQSymbolListMgr* manager, CSymbolTabl
     NoteNoManager();
     return false;
   }
+  tables = tq::LiveTables("DoCloudGroupListUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   return EditOneList(*manager, tables, *list, tq::kCloudLists, mode, parent,
                      tq::CommitEditedCloudList);
@@ -133,6 +138,7 @@ int CTQSymbolListMgr::DoGroupSymbolAdd(CTQSymbolListMgr* manager, CSymbolTableMg
   const tq::Operation operation("DoGroupSymbolAdd", "symbol", symbol);
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoGroupSymbolAdd", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   CGroupSymbolAdd dialog({*manager, tables}, parent, symbol);
   const int result = RunAsTerminal(dialog);
@@ -146,6 +152,7 @@ int CTQSymbolListMgr::DoSymbolAddUI(CTQSymbolListMgr* manager, CSymbolTableMgr* 
   const tq::Operation operation("DoSymbolAddUI", "symbols,listId", symbols, listId);
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoSymbolAddUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   const CWnd window(parent);
   CSymbolAddDlg dialog({*manager, tables}, &window, symbols, listId);
@@ -160,6 +167,7 @@ int CTQSymbolListMgr::DoSearchUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tab
   const tq::Operation operation("DoSearchUI", "input", input);
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoSearchUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   if (place != nullptr)
     CSymbolSearchDlg::Remembered() = {place->GetGroupID(), place->GetSubGroupID()};
@@ -179,6 +187,7 @@ int CTQSymbolListMgr::DoSelectUI(CTQSymbolListMgr* manager, CSymbolTableMgr* tab
   const tq::Operation operation("DoSelectUI");
   if (manager == nullptr)
     return NoteNoManager();
+  tables = tq::LiveTables("DoSelectUI", tables);
   const tq::ResourceContext context(tq::LibraryResources());
   const CWnd window(parent);
   CSymbolSetDlg dialog({*manager, tables}, &window, {kind == nullptr ? 0 : *kind, text}, holdings);

@@ -3,6 +3,7 @@
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
 #include "symbollist/SymbolChanges.h"
+#include "symboltable/LiveTables.h"
 
 int CTQSymbolListMgr::InitDefaultExchange() noexcept {
   const tq::Operation operation("InitDefaultExchange");
@@ -104,7 +105,7 @@ int CTQSymbolListMgr::CheckAllSymbolByExch() noexcept {
 int CTQSymbolListMgr::GetTradeLotSize(const CString& id, CSymbolTableMgr* tables,
                                       JT_DEAL kind) noexcept {
   tq::CheckCall("GetTradeLotSize", "id", id);
-  return tq::TradeLotSize(id, tables, kind);
+  return tq::TradeLotSize(id, tq::LiveTables("GetTradeLotSize", tables), kind);
 }
 
 int CTQSymbolListMgr::UpdateExchSymbolChange(int count, const char* symbols, short /*exch*/,

@@ -8,10 +8,14 @@
 #include "platform/framework/CUIntArray.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
+#include "symboltable/LiveTables.h"
 
-CSymbolTableMgr::CSymbolTableMgr() noexcept : slots_(std::make_unique<tq::ExchangeTables>()) {}
+CSymbolTableMgr::CSymbolTableMgr() noexcept : slots_(std::make_unique<tq::ExchangeTables>()) {
+  tq::NoteMade(this);
+}
 
 CSymbolTableMgr::~CSymbolTableMgr() {
+  tq::NoteGone(this);
   tq::ExchangeTables::Delete(std::move(slots_));
 }
 

@@ -1,5 +1,7 @@
 // The debug mode: each kind of mistake is named in the log, and nothing is when it is off.
+#include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <thread>
 #include <vector>
@@ -119,6 +121,27 @@ TEST_F(DebugModeTest, AHandleThatIsGoneIsNamedAndNotUsed) {
   ASSERT_EQ(mistakes.size(), 7u);
   EXPECT_EQ(mistakes[0], "GetGroupListIDs: handle is of no group that there is now");
   EXPECT_EQ(mistakes[6], "UpdateCloudGroup: handle is of no group that there is now");
+}
+
+TEST_F(DebugModeTest, TablesThatAreGoneAreNamedAndNotUsed) {
+  ASSERT_EQ(StartWithTables(), 1);
+  Watch();
+  auto own = std::make_unique<CSymbolTableMgr>();
+  const auto address = reinterpret_cast<std::uintptr_t>(own.get());
+  own.reset();
+  auto* const gone = reinterpret_cast<CSymbolTableMgr*>(address);
+  manager.GetTradeLotSize("2330.TW", gone, JT_DEAL_STOCK);
+  ExpectMistake("GetTradeLotSize: tables are gone");
+}
+
+TEST_F(DebugModeTest, TablesOfTheTerminalsOwnAreAsGood) {
+  ASSERT_EQ(StartWithTables(), 1);
+  Watch();
+  {
+    CSymbolTableMgr own;
+    manager.GetTradeLotSize("2330.TW", &own, JT_DEAL_STOCK);
+    EXPECT_TRUE(Mistakes().empty());
+  }
 }
 
 TEST_F(DebugModeTest, AnArrayThatIsReleasedTwiceIsNamedAndLeftAlone) {
