@@ -4,7 +4,8 @@
 #include <cstdio>
 
 int TQSGetUserInfo(LoginInfoFlag flag, char* buffer, const char*) {
-  if (flag != LoginInfoEntitledExchanges && flag != LoginInfoDefaultExchanges)
+  const bool known = flag == LoginInfoEntitledExchanges || flag == LoginInfoDefaultExchanges;
+  if (!known || buffer == nullptr)
     return 0;
   std::snprintf(buffer, TQSUserInfoSize, "1"); // the exchange of Market.h
   return 1;
@@ -12,7 +13,7 @@ int TQSGetUserInfo(LoginInfoFlag flag, char* buffer, const char*) {
 
 // A terminal's pages read their lists anew here.
 void TQSCall(const char*, long, long code, const char* reason) {
-  std::printf("told: %ld \"%s\"\n", code, reason);
+  std::printf("told: %ld \"%s\"\n", code, reason != nullptr ? reason : "");
 }
 
 int TQSGetTSCount() {
@@ -36,7 +37,8 @@ int TQSGetTSAccount(const char*, int, TQS_ACCOUNTINFO*) {
 }
 
 int TQSGetTSAccountHolding(const char*, const char*, TqsAccType, char** holdings) {
-  *holdings = nullptr;
+  if (holdings != nullptr)
+    *holdings = nullptr;
   return 0;
 }
 

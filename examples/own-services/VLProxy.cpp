@@ -184,8 +184,8 @@ int VLGetExtendAttr(const char*, int, ExtAttr** list, int* count) {
   return HandOutNone(list, count) && false;
 }
 
-int VLGetSubGroup(int, const char*, GroupInfo** list, int* count) {
-  return HandOutNone(list, count);
+int VLGetSubGroup(int, const char* parentId, GroupInfo** list, int* count) {
+  return HandOutNone(list, count) && parentId != nullptr;
 }
 
 int VLGetGroupSymbol(int, const char*, SymbolInfo** list, int* count, int) {

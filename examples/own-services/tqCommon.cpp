@@ -16,10 +16,11 @@ int tqShowDllMessage(void*, unsigned id, unsigned) {
 }
 
 int tqShowMessageStr(const char* text, unsigned) {
-  std::printf("message: %s\n", text);
+  if (text != nullptr)
+    std::printf("message: %s\n", text);
   return 0;
 }
 
 int tqDoModal(CDialog* dialog, int, int, int) {
-  return dialog->DoModal();
+  return dialog != nullptr ? dialog->DoModal() : CDialog::Failed;
 }

@@ -9,11 +9,16 @@
 
 namespace {
 
-// The state of a key object: the record that it was given.
-const BaseAttr* RecordOf(const unsigned char* state) {
-  const BaseAttr* record = nullptr;
-  std::memcpy(&record, state, sizeof record);
-  return record;
+// The state of a key object: the symbol that it stands for, null for none.
+const Listed* SymbolOf(const unsigned char* state) {
+  const Listed* symbol = nullptr;
+  std::memcpy(&symbol, state, sizeof symbol);
+  return symbol;
+}
+
+int Bind(unsigned char* state, const Listed* symbol) {
+  std::memcpy(state, &symbol, sizeof symbol);
+  return symbol != nullptr;
 }
 
 } // namespace
@@ -21,36 +26,41 @@ const BaseAttr* RecordOf(const unsigned char* state) {
 CStockAttr::CStockAttr() : state_() {}
 
 int CStockAttr::GetID(CString& id, int full) const {
-  const BaseAttr* const record = RecordOf(state_);
-  id = record == nullptr ? "" : full != 0 ? ListedOf(*record).id : ListedOf(*record).code;
-  return record != nullptr;
+  const Listed* const symbol = SymbolOf(state_);
+  id = symbol == nullptr ? "" : full != 0 ? symbol->id : symbol->code;
+  return symbol != nullptr;
 }
 
 CStaticKey::CStaticKey() {}
 CStaticKey::~CStaticKey() {}
 
 int CStaticKey::Setup(const BaseAttr* record) {
-  if (record != nullptr && record->usable == 0)
-    record = nullptr;
-  std::memcpy(state_, &record, sizeof record);
-  return record != nullptr;
+  const bool usable = record != nullptr && record->usable != 0 && record->code[0] != '\0';
+  return Bind(state_, usable ? &ListedOf(*record) : nullptr);
 }
 
-int CStaticKey::SetUpTrade(int, const char*) {
-  return 0; // no trading data
+int CStaticKey::SetUpTrade(int exchId, const char* code) {
+  const Listed* found = nullptr;
+  for (const Listed& symbol : kMarket)
+    if (exchId == kExchange && CString(code).CompareNoCase(symbol.code) == 0)
+      found = &symbol;
+  return Bind(state_, found);
 }
 
 int CStaticKey::GetFieldString(int field, CString& value) const {
   value = "";
-  const BaseAttr* const record = RecordOf(state_);
-  if (record == nullptr)
+  const Listed* const symbol = SymbolOf(state_);
+  if (symbol == nullptr)
     return 0;
   switch (field) {
   case FieldSymbolId:
-    value = ListedOf(*record).id;
+    value = symbol->id;
     return 1;
   case FieldSymbolName:
-    value = ListedOf(*record).name;
+    value = symbol->name;
+    return 1;
+  case FieldTradeCode:
+    value = symbol->code;
     return 1;
   case FieldExchangeName:
     value = kExchangeName;
@@ -61,8 +71,8 @@ int CStaticKey::GetFieldString(int field, CString& value) const {
 }
 
 int CStaticKey::GetFieldInt(int field, int& value) const {
-  const BaseAttr* const record = RecordOf(state_);
-  if (record == nullptr)
+  const Listed* const symbol = SymbolOf(state_);
+  if (symbol == nullptr)
     return 0;
   switch (field) {
   case FieldExchangeName:
@@ -72,7 +82,7 @@ int CStaticKey::GetFieldInt(int field, int& value) const {
     value = InstrumentStock;
     return 1;
   case FieldTradeLot:
-    value = ListedOf(*record).lot;
+    value = symbol->lot;
     return 1;
   case FieldDecimals:
     value = 2;
@@ -82,9 +92,17 @@ int CStaticKey::GetFieldInt(int field, int& value) const {
   }
 }
 
-int CStockKey::ParseExtAttr(const char*, const char*, CString& value) {
+int CStockKey::ParseExtAttr(const char* text, const char* key, CString& value) {
   value = "";
-  return 0; // VLProxy has no extended attributes
+  const CString asked = CString(key) + "=";
+  const CString pairs = text;
+  int at = 0;
+  for (CString pair = pairs.Tokenize(";", at); at >= 0; pair = pairs.Tokenize(";", at))
+    if (pair.Left(asked.GetLength()) == asked) {
+      value = pair.Mid(asked.GetLength());
+      return !value.IsEmpty();
+    }
+  return 0;
 }
 
 int CStockKey::GetInfoArray(InfoType, CPtrArray& rows) {
