@@ -41,7 +41,7 @@ std::unique_ptr<SymbolInfo[]> RoomFor(size_t count) {
 // Others were handed out before, and some of those are released by delete[], so that nothing is
 // known of them.
 std::set<const SymbolInfo*> handedOut;
-std::set<const SymbolInfo*> released;
+std::set<const SymbolInfo*> givenBack;
 bool anyBefore = false;
 
 void NoteHandedOut(const SymbolInfo* infos) {
@@ -50,18 +50,18 @@ void NoteHandedOut(const SymbolInfo* infos) {
     return;
   }
   handedOut.insert(infos);
-  released.erase(infos);
+  givenBack.erase(infos);
 }
 
 bool MayFree(const SymbolInfo* infos) {
   if (infos == nullptr || !IsDebugging())
     return true;
-  if (handedOut.erase(infos) == 0 && (released.contains(infos) || !anyBefore)) {
+  if (handedOut.erase(infos) == 0 && (givenBack.contains(infos) || !anyBefore)) {
     ReportMistake(TQProblemMisuse,
                   "FreeSymbolInfos: infos was released before, or is of another operation");
     return false;
   }
-  released.insert(infos);
+  givenBack.insert(infos);
   return true;
 }
 

@@ -8,8 +8,9 @@
 namespace tq {
 namespace {
 
-// Plain values, which outlive everything: a terminal may have tables of its own until the end. There
-// are seldom more than two. Of those that find no room here nothing is known but their number.
+// Plain values, which outlive everything: a terminal may have tables of its own until the end.
+// There are seldom more than two. Of those that find no room here nothing is known but their
+// number.
 const CSymbolTableMgr* live[64];
 int unknown = 0;
 

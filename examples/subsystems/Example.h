@@ -8,8 +8,8 @@
 #include <StandIn.h>
 #include <tqSymbol.h>
 
-// Ends the program when a result is not what it should be. What the library has to say of it is that of
-// its latest operation.
+// Ends the program when a result is not what it should be. What the library has to say of it is
+// that of its latest operation.
 inline void Expect(bool holds, const char* what) {
   if (holds)
     return;
@@ -34,8 +34,8 @@ inline void Start(CTQSymbolListMgr& manager, const std::string& directory) {
   Expect(manager.Init(options) != 0, "Init");
 }
 
-// A row for each list of a kind. Texts of the library are in the process's code page; what is printed
-// is UTF-8.
+// A row for each list of a kind. Texts of the library are in the process's code page; what is
+// printed is UTF-8.
 inline void PrintLists(CTQSymbolListMgr& manager, TQListKind kind) {
   CString id;
   CString name;

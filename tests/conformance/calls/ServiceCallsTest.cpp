@@ -239,7 +239,7 @@ protected:
   Calls CallsOfSearch(const char* text) {
     WhenDialogOpens([text](User& user) {
       user.Fill(741, text);
-      user.Press(Key::Enter);
+      user.Press(WindowKey::Enter);
       if (user.IsUp())
         user.CloseByTitleBar();
     });
