@@ -57,7 +57,6 @@ set(TQ_SYMBOL_HEADERS
 file(GLOB interface RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/platform/interface/*.h ${PROJECT_SOURCE_DIR}/platform/services/*.h)
 list(APPEND TQ_SYMBOL_HEADERS ${interface})
-list(REMOVE_ITEM TQ_SYMBOL_HEADERS platform/interface/TQSymbolVersion.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
 set(TQ_SAMPLES_DIR ${CMAKE_INSTALL_DATADIR}/tqSymbol)
