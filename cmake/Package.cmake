@@ -123,3 +123,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
 
 # The checker of services, as source: it is linked with the terminal's own.
 install(DIRECTORY conformance DESTINATION ${TQ_SAMPLES_DIR} COMPONENT Library)
+
+# What is written about it.
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)

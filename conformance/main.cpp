@@ -64,9 +64,11 @@ void PrintRules() {
 class Printer {
 public:
   void Print(const Finding& finding) {
-    if (++counts_[finding.rule] <= kShownOfARule)
-      std::printf("%s: %s: %s\n", finding.call.c_str(), conformance::TextOf(finding.rule).id,
-                  finding.seen.c_str());
+    if (++counts_[finding.rule] > kShownOfARule)
+      return;
+    std::printf("%s: %s: %s\n", finding.call.c_str(), conformance::TextOf(finding.rule).id,
+                finding.seen.c_str());
+    std::fflush(stdout); // a service may crash at the next call
   }
   void PrintRest() const {
     for (const auto& [rule, count] : counts_)

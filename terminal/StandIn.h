@@ -109,8 +109,8 @@ struct Market {
 };
 
 // Reads a market directory, whose files the README.md of the sample market describes; the path is
-// one for the C library. On the first bad line or missing file (line 0) returns false with `error` =
-// "file:line: reason" and leaves `market` unchanged.
+// one for the C library. On the first bad line or missing file (line 0) returns false with `error`
+// = "file:line: reason" and leaves `market` unchanged.
 TQSTANDIN_API bool LoadMarket(const std::string& directory, Market& market, std::string& error);
 
 // The directory of the sample market and lists that are installed with this library: "market",
