@@ -57,7 +57,6 @@ set(TQ_SYMBOL_HEADERS
 file(GLOB interface RELATIVE ${PROJECT_SOURCE_DIR} CONFIGURE_DEPENDS
   ${PROJECT_SOURCE_DIR}/platform/interface/*.h ${PROJECT_SOURCE_DIR}/platform/services/*.h)
 list(APPEND TQ_SYMBOL_HEADERS ${interface})
-list(REMOVE_ITEM TQ_SYMBOL_HEADERS platform/interface/TQSymbolVersion.h)
 
 set(TQ_INCLUDE_DIR ${CMAKE_INSTALL_INCLUDEDIR}/tqSymbol)
 set(TQ_SAMPLES_DIR ${CMAKE_INSTALL_DATADIR}/tqSymbol)
@@ -124,3 +123,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/tqSymbolConfig.cmake
 
 # The checker of services, as source: it is linked with the terminal's own.
 install(DIRECTORY conformance DESTINATION ${TQ_SAMPLES_DIR} COMPONENT Library)
+
+# What is written about it.
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)

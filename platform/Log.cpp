@@ -1,7 +1,9 @@
 #include "platform/Log.h"
 
+#include <memory>
 #include <new>
 #include <utility>
+#include <vector>
 
 #include "platform/Module.h"
 
@@ -10,6 +12,8 @@ namespace {
 
 TQLog* theLog = nullptr;
 bool isOpen = false;
+int uses = 0;                                 // of loggers, one within the other
+std::vector<std::unique_ptr<TQLog>> replaced; // while in use
 
 // Lines are written until the library is gone, so these are plain values; the directory is asked
 // for only when a file is opened.
@@ -26,8 +30,11 @@ struct LogEnd {
 
 void DeleteLogger() {
   TQLog* const log = std::exchange(theLog, nullptr);
-  if (!ProcessIsEnding())
-    delete log;
+  if (ProcessIsEnding() || log == nullptr)
+    return;
+  std::unique_ptr<TQLog> owned(log);
+  if (uses > 0)
+    replaced.push_back(std::move(owned));
 }
 
 CString DirectoryOfLog() {
@@ -40,12 +47,24 @@ CString DirectoryOfLog() {
 
 // 0 also without memory for a logger.
 int OpenFile() {
+  if (uses > 0)
+    DeleteLogger(); // it is not to open another file below its own feet
   if (theLog == nullptr)
     theLog = new (std::nothrow) TQLog;
+  const LogUse use;
   return theLog == nullptr ? 0 : theLog->storage(DirectoryOfLog(), "tqSymbol", "TQ", true, false);
 }
 
 } // namespace
+
+LogUse::LogUse() {
+  ++uses;
+}
+
+LogUse::~LogUse() {
+  if (--uses == 0)
+    replaced.clear();
+}
 
 TQLog* Log() {
   return theLog;

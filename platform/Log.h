@@ -30,6 +30,17 @@ int SetLogTarget(const LogTarget& target);
 // once and lives until the library is unloaded.
 TQLog* Log();
 
+// Holds the logger while one of its members runs: the logging library may let the terminal choose
+// another target, or another file, meanwhile. A logger that is replaced then goes with the last of
+// these.
+class LogUse {
+public:
+  LogUse();
+  ~LogUse();
+  LogUse(const LogUse&) = delete;
+  LogUse& operator=(const LogUse&) = delete;
+};
+
 // Whether a line of that level goes anywhere.
 bool LogTakes(int level);
 
@@ -51,6 +62,7 @@ void LogLine(int level, const char* format, Arguments... arguments) {
   if (!LogTakes(level))
     return;
   if (TQLog* log = Log()) {
+    const LogUse use;
     (*log)(level).write(format, arguments...);
     return;
   }

@@ -1,5 +1,6 @@
 #include "platform/diagnostics/DebugMode.h"
 
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -16,11 +17,16 @@
 namespace tq {
 namespace {
 
-std::thread::id terminalThread;
+std::atomic<std::thread::id> terminalThread;
 
-// What other threads did: the log belongs to the terminal's, which writes it at its next call.
+// What other threads did, as far as somebody would read it: the log belongs to the terminal's, which
+// writes it at its next call.
+constexpr size_t kMostElsewhere = 100;
 std::mutex elsewhereLock;
 std::vector<std::string> elsewhere;
+
+// Whoever takes the line may make the next mistake.
+bool isReporting = false;
 
 void WriteOnErrorStream(const char* text) {
   std::fprintf(stderr, "tqSymbol: %s\n", text);
@@ -35,10 +41,14 @@ void StopIfAsked(const char* text) {
 }
 
 void WriteMistake(const char* text) {
+  if (isReporting)
+    return;
+  isReporting = true;
   if (LogTakes(kLogMisuse))
     LogLine(kLogMisuse, "%s", text);
   else
     WriteOnErrorStream(text);
+  isReporting = false;
 }
 
 void WriteElsewhere() {
@@ -93,7 +103,7 @@ std::string_view NameAt(std::string_view names, int index) {
 } // namespace
 
 void SetDebugMode(TQDebugMode mode) {
-  terminalThread = {};
+  terminalThread = std::thread::id();
   debugMode = mode;
 }
 
@@ -117,16 +127,16 @@ void ReportMistake(TQProblem kind, const CString& text) {
 
 bool CheckThread(const char* operation) {
   const std::thread::id here = std::this_thread::get_id();
-  if (terminalThread == std::thread::id())
-    terminalThread = here;
-  if (terminalThread == here) {
+  std::thread::id first;
+  if (terminalThread.compare_exchange_strong(first, here) || first == here) {
     WriteElsewhere();
     return true;
   }
   const std::string text = std::string(operation) + " was called on another thread than the first";
   StopIfAsked(text.c_str());
   const std::lock_guard lock(elsewhereLock);
-  elsewhere.push_back(text);
+  if (elsewhere.size() < kMostElsewhere)
+    elsewhere.push_back(text);
   return false;
 }
 

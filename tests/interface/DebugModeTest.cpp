@@ -226,6 +226,18 @@ TEST_F(DebugModeTest, AMistakeIsTheProblemOfItsOperation) {
   EXPECT_EQ(CTQSymbolListMgr::GetLastProblem(text), TQProblemMisuse);
 }
 
+void MakeTheNextMistake(void* context, int, const char*) {
+  static_cast<CTQSymbolListMgr*>(context)->CheckIDandName("a", "AB\xA4", 1);
+}
+
+TEST_F(DebugModeTest, WhoeverTakesTheLineMayMakeAMistake) {
+  ASSERT_EQ(StartWithTables(), 1);
+  CTQSymbolListMgr::SetLog(nullptr, 0, MakeTheNextMistake, &manager);
+  Watch();
+  EXPECT_EQ(manager.CheckIDandName("a", "AB\xA4", 1), 0);
+  CTQSymbolListMgr::SetLog(nullptr, 0, nullptr, nullptr);
+}
+
 TEST_F(DebugModeTest, OffItFindsNothing) {
   ASSERT_EQ(StartWithTables(), 1);
   standin::AnswerSymbols(1, {Record("2330")}, 1, 1);

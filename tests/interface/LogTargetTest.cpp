@@ -99,6 +99,33 @@ TEST_F(LogTargetTest, TheDefaultComesBack) {
   EXPECT_NE(place.find("\\Log|tqSymbol|TQ"), std::string::npos) << place;
 }
 
+// The logging library lets the terminal handle a message while it writes or opens.
+TEST_F(LogTargetTest, TheTerminalMayChooseAnotherTargetFromWithinTheLogger) {
+  StartWith({});
+  for (const char* service : {"TQLog::write", "TQLog::storage"}) {
+    standin::OnCall(service, [this] { Hear(); });
+    CTQSymbolListMgr::SetLog(nullptr, 0, nullptr, nullptr);
+    manager.AddSymbolList("", 0, "A", "2330.TW", 1, 0);
+    standin::OnCall(service, {});
+    EXPECT_EQ(standin::LoggersAlive(), 0) << service;
+    lines_.texts.clear();
+    manager.AddSymbolList("", 0, "A", "2330.TW", 1, 0);
+    EXPECT_EQ(lines_.texts.size(), 1u) << service;
+  }
+}
+
+TEST_F(LogTargetTest, TheTerminalMayChooseAnotherFileFromWithinTheLogger) {
+  StartWith({});
+  ASSERT_EQ(CTQSymbolListMgr::SetLog(nullptr, 0, nullptr, nullptr), 1);
+  const std::string logs = directory.Joined("Logs");
+  standin::OnCall("TQLog::write",
+                  [&] { CTQSymbolListMgr::SetLog(logs.c_str(), 0, nullptr, nullptr); });
+  manager.AddSymbolList("a", 0, "A", "2330.TW", 1, 0);
+  standin::OnCall("TQLog::write", {});
+  EXPECT_EQ(standin::LogStorage(), logs + "|tqSymbol|TQ");
+  EXPECT_EQ(standin::LoggersAlive(), 1);
+}
+
 TEST_F(LogTargetTest, TheCallbackMayCallTheLibrary) {
   StartWith({"a/A/2330.TW"});
   lines_.called = &manager;
