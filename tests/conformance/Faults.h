@@ -17,6 +17,8 @@
 // How 32-bit Windows hands over the object of a member.
 #if defined(_WIN32) && defined(__i386__)
 #define TQ_MEMBER __attribute__((thiscall))
+// The compiler wants the object of a member to be of its class.
+#pragma GCC diagnostic ignored "-Wattributes"
 #else
 #define TQ_MEMBER
 #endif
