@@ -19,8 +19,8 @@ namespace {
 
 std::atomic<std::thread::id> terminalThread;
 
-// What other threads did, as far as somebody would read it: the log belongs to the terminal's, which
-// writes it at its next call.
+// What other threads did, as far as somebody would read it: the log belongs to the terminal's,
+// which writes it at its next call.
 constexpr size_t kMostElsewhere = 100;
 std::mutex elsewhereLock;
 std::vector<std::string> elsewhere;
