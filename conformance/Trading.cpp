@@ -133,8 +133,10 @@ void CheckHoldings(Report& report, const Market& market, const char* tsId,
     holdings.text = nullptr; // after a failure it is nobody's
     return;
   }
-  if (!report.Hold(holdings.text != nullptr, Rule::HoldingsEmpty, "*holdings is null"))
+  if (holdings.text == nullptr) {
+    report.Found(Rule::HoldingsEmpty, "*holdings is null");
     return;
+  }
   CheckCodePage(report, "the text", holdings.text);
   for (const std::string& held : SplitAtCommas(holdings.text))
     report.Hold(market.Find(held) != nullptr, Rule::HoldingsText,
