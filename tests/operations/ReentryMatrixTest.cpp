@@ -199,7 +199,8 @@ protected:
   // import of older lists saves without them, and an account list whose identifier is compared with
   // those of the user's lists finds none.
   static std::string MeantLoss(const Cell& cell) {
-    if (NameOf(All(), cell.outer) != "Init")
+    const std::string outer = NameOf(All(), cell.outer);
+    if (outer != "Init" && outer != "Init2")
       return "";
     const std::string inner = Inners()[cell.inner].Name();
     if (inner == "ClearSymbolList")

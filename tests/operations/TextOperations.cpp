@@ -1,6 +1,7 @@
-// The operations of no class: text of a terminal in UTF-8, its paths, the string table.
+// The operations of no class: text of a terminal in UTF-8, its paths, the string table, versions.
 #include "platform/interface/TQSymbolStrings.h"
 #include "platform/interface/TQSymbolText.h"
+#include "platform/interface/TQSymbolVersion.h"
 #include "tests/operations/Operations.h"
 
 namespace operations {
@@ -13,6 +14,7 @@ Table TextOperations() {
        [](CTQSymbolListMgr&, const Arguments& a) { TQToUtf8(a.Text(a.name)); }},
       {"TQSystemPath(char const*)",
        [](CTQSymbolListMgr&, const Arguments& a) { TQSystemPath(a.Text(a.directory)); }},
+      {"tqSymbolVersion", [](CTQSymbolListMgr&, const Arguments&) { tqSymbolVersion(); }},
       {"tqSymbolString",
        [](CTQSymbolListMgr&, const Arguments& a) {
          tqSymbolString(static_cast<unsigned>(a.number), a.flag);
