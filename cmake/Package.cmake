@@ -126,4 +126,9 @@ install(DIRECTORY conformance DESTINATION ${TQ_SAMPLES_DIR} COMPONENT Library)
 
 # What is written about it.
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT Library)
+if(WIN32)
+  # By which a terminal is cross-compiled as the library was.
+  install(FILES cmake/mingw.cmake cmake/mingw-w64.cmake cmake/mingw-w64-i686.cmake
+    DESTINATION ${TQ_SAMPLES_DIR}/cmake COMPONENT Library)
+endif()

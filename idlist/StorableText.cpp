@@ -6,6 +6,7 @@
 #include "platform/Encoding.h"
 #include "platform/Log.h"
 #include "platform/Text.h"
+#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 namespace {
@@ -44,8 +45,12 @@ bool IsStorable(const CString& text) {
 }
 
 // None of the three is ever the second byte of a character.
+bool HoldsUnloadable(std::string_view text) {
+  return text.find('\'') != text.npos || text.find('&') != text.npos || text.find('<') != text.npos;
+}
+
 bool IsLoadable(std::string_view text) {
-  return text.find_first_of("'&<") == text.npos && FirstBadByte(text) == text.size();
+  return !HoldsUnloadable(text) && FirstBadByte(text) == text.size();
 }
 
 void AppendStorable(std::string_view text, std::string& document) {
@@ -67,8 +72,11 @@ CString StorableText(const CString& text) {
   const std::string_view all = ViewOf(text);
   std::string kept;
   AppendStorable(all, kept);
-  LogLine(kLogChange, "%d bytes that the list file cannot hold are left out of \"%s\"",
-          static_cast<int>(all.size() - kept.size()), kept.c_str());
+  const int left = static_cast<int>(all.size() - kept.size());
+  NoteProblem(TQProblemLeftOut, "%d bytes that are no text of code page %u are left out of '%s'",
+              left, AnsiCodePage(), kept.c_str());
+  LogLine(kLogChange, "%d bytes that the list file cannot hold are left out of \"%s\"", left,
+          kept.c_str());
   return {kept.data(), static_cast<int>(kept.size())};
 }
 

@@ -23,7 +23,11 @@ bool IsStorable(const CString& text);
 // holds them, with all its lists.
 bool IsLoadable(std::string_view text);
 
-// `text` without the bytes that the file cannot hold, with a line in the log when there were some.
+// Whether the list file would hold the text and yet not be loaded again: it has one of these three.
+bool HoldsUnloadable(std::string_view text);
+
+// `text` without the bytes that the file cannot hold, with a line in the log when there were some,
+// and the problem TQProblemLeftOut for the operation that runs.
 // Without such bytes the string is shared, not copied.
 CString StorableText(const CString& text);
 

@@ -139,7 +139,7 @@ public:
   //   directory   where the file is, "tqSymbol_<yyyymmdd>.log", joined by backslashes and without
   //               one at the end; its last level is created when missing. Null or empty: "Log"
   //               beside the library
-  //   level       lines of lower levels are dropped; 0: none
+  //   level       a threshold, no bits: lines of lower levels are dropped; 0: all lines are written
   //   callback    takes each line in the place of the file, with `context`; null: the file
   // Texts are copied. Returns 0 when the file could not be opened: lines are dropped then.
   static int SetLog(const char* directory, int level, TQLogCallback callback,
@@ -265,12 +265,14 @@ public:
   int DeleteSymbolList(CString id, int entry) noexcept;
   // Puts `text` behind the entry at `position` (`before` 0) or in front of it; a position before
   // the first entry is the start, one behind the last the end. `heading` non-zero: a heading, ":"
-  // is put behind the text. A symbol that the list holds already is refused, and so are a text that
-  // is empty or only blanks and one with a ",".
+  // is put behind the text, a ":" of its own or not. A symbol that the list holds already is
+  // refused, and so are a text that is empty or only blanks and one with a ",". Whether a service
+  // knows it is not asked: an id that none knows is kept and has no row.
   int InsertSymbolList(CString id, int position, CString text, int before, int heading) noexcept;
   // Lets two entries change places; 0 when they are one.
   int SwapSymbolList(CString id, int first, int second) noexcept;
-  // Puts `text` in the place of an entry: an id, or a heading with its ":".
+  // Puts `text` in the place of an entry: an id, or a heading with its ":". Unlike an insertion it
+  // takes a symbol that the list holds already.
   int ReplaceSymbolList(CString id, int entry, CString text) noexcept;
 
   // --- Checks ------------------------------------------------------------------------------------
@@ -362,7 +364,8 @@ public:
   int GetSymoblIDList(const CString& id, CString& out, int kind) noexcept;
   // Number of rows of a list; 0 when there is no such list.
   int GetTQSymbolCount(const char* id, int kind) noexcept;
-  // The record of one row; the id of a heading's is ":".
+  // The record of one row. The id of a heading's is ":", and nothing else is in it: the texts of
+  // headings are those of GetSymoblIDList, whose pieces are the rows in their order.
   int GetTQSymbolInfo(const char* id, int entry, SymbolInfo* out, int kind) noexcept;
   // All symbols of an exchange, as VLGetSymbolInfos2 hands them out (`subId` -1: the whole
   // exchange); the caller releases the array with VLFree.
@@ -459,12 +462,15 @@ public:
                               const CString& newExchange) noexcept;
 
   // --- Groups ------------------------------------------------------------------------------------
-  // Read-mostly lists that the symbol-data service publishes: a tree of two levels for each group
-  // type. Types 1 to 21, 101 and 201 (the cloud groups) are loaded by Init; 1 to 200 may be added
-  // and removed. Members of a group are fetched when they are first asked for. Ids are compared
-  // ignoring the case of ASCII letters, unless said. A type is loaded when it has an entry in the
-  // map of types. From within a call of the service the terminal may call any of it: a load ends as
-  // if that had been done before.
+  // Read-mostly lists that the symbol-data service publishes: a tree for each group type, top-level
+  // groups with their sub-groups and, where the service has them, those below, of which only the
+  // records are handed out. Operations that take an id and answer with members or a name look among
+  // the sub-groups of the top-level groups; for a top-level group itself take its handle
+  // (GetGroupHandle) and the forms with a handle. Types 1 to 21, 101 and 201 (the cloud groups) are
+  // loaded by Init; 1 to 200 may be added and removed. Members of a group are fetched when they are
+  // first asked for. Ids are compared ignoring the case of ASCII letters, unless said. A type is
+  // loaded when it has an entry in the map of types. From within a call of the service the terminal
+  // may call any of it: a load ends as if that had been done before.
 
   // Loads all types anew. Returns 1; a type that the service fails for is empty.
   int LoadGroupList() noexcept;
@@ -488,7 +494,8 @@ public:
   // Number of sub-groups of the handle's group; without a handle of the type's top-level groups. 0
   // when the type is not loaded.
   int GetGroupCount(int type, void* handle) noexcept;
-  // The same with an id in place of the handle; null: the top-level groups.
+  // The same with the id of a top-level group in place of the handle. Null: the top-level groups;
+  // the empty text is no group's id.
   int GetGroupCounts(int type, const char* id) noexcept;
   // The record of one of them.
   int GetGroupInfo(int type, void* handle, int index, GroupInfo* out) noexcept;

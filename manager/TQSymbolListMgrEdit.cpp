@@ -1,6 +1,8 @@
 // Editing whole lists, and the entries of one list.
+#include "idlist/IdString.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
+#include "platform/Text.h"
 
 namespace {
 
@@ -8,12 +10,10 @@ int NoteNull(const char* argument) {
   return tq::NoteProblem(TQProblemNull, "%s is null", argument);
 }
 
-// What an edit of an entry answers: with a reason when there was nothing to edit.
+// What an edit of an entry answers, with a reason when it was not done.
 int EntryEdited(int result, const CString& id, int entry) {
   return result != 0 ? result
-                     : tq::NoteProblem(TQProblemNoEntry,
-                                       "the list '%s' has no such entry %d, or it "
-                                       "stays as it is",
+                     : tq::NoteProblem(TQProblemNoEntry, "the list '%s' has no entry %d",
                                        id.GetString(), entry);
 }
 
@@ -73,13 +73,21 @@ int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, i
 int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) noexcept {
   const tq::Operation operation("SwapSymbolList", "id", id);
   CSymbolList* const list = state_->userLists.Find(id);
-  return list == nullptr ? tq::NoteNoList(id)
-                         : EntryEdited(list->SwapEntries(first, second), id, first);
+  if (list == nullptr)
+    return tq::NoteNoList(id);
+  if (list->SwapEntries(first, second) != 0)
+    return 1;
+  return tq::NoteProblem(TQProblemNoEntry,
+                         "entries %d and %d of the list '%s' are one, or not both there", first,
+                         second, id.GetString());
 }
 
 int CTQSymbolListMgr::ReplaceSymbolList(CString id, int entry, CString text) noexcept {
   const tq::Operation operation("ReplaceSymbolList", "id,text", id, text);
   CSymbolList* const list = state_->userLists.Find(id);
-  return list == nullptr ? tq::NoteNoList(id)
-                         : EntryEdited(list->ReplaceEntry(entry, text), id, entry);
+  if (list == nullptr)
+    return tq::NoteNoList(id);
+  if (!tq::IsOneToken(tq::ViewOf(text)))
+    tq::NoteProblem(TQProblemEntry, "'%s' is empty or holds a comma", text.GetString());
+  return EntryEdited(list->ReplaceEntry(entry, text), id, entry);
 }

@@ -4,9 +4,11 @@
 #include <string>
 #include <utility>
 
+#include "idlist/StorableText.h"
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
 #include "platform/Module.h"
+#include "platform/Text.h"
 #include "platform/diagnostics/Operation.h"
 #include "platform/services/tqCommon.h"
 #include "platform/xml/XmlText.h"
@@ -70,6 +72,8 @@ void UserLists::Reset() {
 }
 
 void UserLists::CreateMissingFile() {
+  if (!directory_.IsEmpty() && !Files().DirectoryExists(directory_))
+    NoteProblem(TQProblemFileMissing, "there is no directory %s", directory_.GetString());
   // Only where the system says that there is none: an error of a drive must not cost the user's
   // lists.
   FileStamp stamp;
@@ -125,6 +129,8 @@ int UserLists::SaveTo(const CString& path) {
   // Looked at again, for a save may log, and the terminal work on the lists from there.
   if (result != SaveResult::NotOpened && defaultIndex_ < 0 && !lists_.IsEmpty())
     defaultIndex_ = 0;
+  if (result == SaveResult::Saved)
+    NoteUnloadable();
   return Report(result);
 }
 
@@ -154,6 +160,22 @@ int UserLists::LoadFrom(const CString& path) {
   else if (saved && outcome == LoadOutcome::Whole)
     SaveTo(path);
   return 1;
+}
+
+// Such a list is saved all the same, as it always was; who set it is told before the next start is.
+void UserLists::NoteUnloadable() const {
+  for (const auto& list : lists_.All()) {
+    if (!HoldsUnloadable(ViewOf(list->GetName())) && !HoldsUnloadable(ViewOf(list->GetIDs())))
+      continue;
+    CString text;
+    text.Format("the list '%s' has an apostrophe, & or <: its file does not load again",
+                list->GetName().GetString());
+    if (IsDebugging())
+      ReportMistake(TQProblemFileUnloadable, text);
+    else
+      NoteProblem(TQProblemFileUnloadable, "%s", text.GetString());
+    return;
+  }
 }
 
 bool UserLists::HasUnsavedChanges() const {

@@ -97,6 +97,7 @@ private:
   // The index that a save writes.
   int SavedIndex() const { return defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_; }
   SaveResult SaveText(const CString& path);
+  void NoteUnloadable() const;
   void Insert(std::unique_ptr<CSymbolList> list, bool append);
   bool AddNew(const CString& id, const CString& name, const CString& symbols, bool append);
 

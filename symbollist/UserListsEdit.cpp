@@ -157,10 +157,11 @@ int UserLists::InsertEntry(const CString& id, int position, const CString& text,
   CSymbolList* const list = Find(id);
   if (list == nullptr)
     return NoteNoList(id);
-  if (!IsOneToken(ViewOf(kept)) ||
-      !list->InsertEntry(position, heading ? kept + ":" : kept, before))
-    return NoteProblem(TQProblemEntry, "'%s' cannot be an entry of the list, or is one already",
-                       text.GetString());
+  if (!IsOneToken(ViewOf(kept)))
+    return NoteProblem(TQProblemEntry, "'%s' is empty or holds a comma", text.GetString());
+  if (!list->InsertEntry(position, heading ? kept + ":" : kept, before))
+    return NoteProblem(TQProblemEntry, "the list '%s' has '%s' already, or its rows are not known",
+                       id.GetString(), text.GetString());
   return 1;
 }
 

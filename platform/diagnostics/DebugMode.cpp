@@ -121,7 +121,7 @@ void ReadDebugMode() {
 
 void ReportMistake(TQProblem kind, const CString& text) {
   StopIfAsked(text);
-  NoteProblem(kind, "%s", text.GetString());
+  ProblemNote::NoteWhole(kind, text);
   WriteMistake(text);
 }
 

@@ -10,6 +10,7 @@ CString lastText;
 
 bool GivesWay(TQProblem noted) {
   return noted == TQProblemNone || noted == TQProblemFileKept || noted == TQProblemFileShared ||
+         noted == TQProblemFileUnloadable || noted == TQProblemLeftOut ||
          noted == TQProblemMisuse || noted == TQProblemBroken;
 }
 
@@ -32,10 +33,15 @@ void Operation::TakeOverProblem() {
 
 int ProblemNote::Note(TQProblem problem, const CString& text) {
   Operation* const running = Operation::innermost_;
+  return running == nullptr ? 0 : NoteWhole(problem, CString(running->name_) + ": " + text);
+}
+
+int ProblemNote::NoteWhole(TQProblem problem, const CString& text) {
+  Operation* const running = Operation::innermost_;
   if (running == nullptr || !GivesWay(running->problem_))
     return 0;
   running->problem_ = problem;
-  running->text_ = CString(running->name_) + ": " + text;
+  running->text_ = text;
   return 0;
 }
 

@@ -49,6 +49,8 @@ private:
 class ProblemNote {
 public:
   static int Note(TQProblem problem, const CString& text);
+  // The same for a text that names the operation itself.
+  static int NoteWhole(TQProblem problem, const CString& text);
 };
 
 template <typename... Arguments>

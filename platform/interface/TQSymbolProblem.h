@@ -26,6 +26,9 @@ enum TQProblem : int {
   TQProblemFileShared = 20,
   TQProblemTooMuch = 21, // more than a list file holds
   TQProblemMemory = 22,  // no memory for the text of a file
+  // Saved, but a list has an apostrophe, "&" or "<" in its name or its symbols: the next load
+  // refuses the file, with all of its lists. The text names the list.
+  TQProblemFileUnloadable = 23,
 
   // --- Arguments ---
   TQProblemNull = 30,    // a pointer that is needed is null
@@ -38,6 +41,9 @@ enum TQProblem : int {
   TQProblemEntry = 37,   // the text cannot be an entry of the list, or is one already
   TQProblemRange = 38,   // no such type, product or number
   TQProblemOff = 39,     // Init was told not to keep lists of this kind
+  // Done, but without bytes that are no text of the process's code page: halves of characters,
+  // control bytes. Text in UTF-8 is mostly such.
+  TQProblemLeftOut = 40,
 
   // --- Dialogs ---
   TQProblemDialog = 50, // it could not be made, or another one of its family is open

@@ -223,7 +223,16 @@ TEST_F(DebugModeTest, AMistakeIsTheProblemOfItsOperation) {
   Watch();
   manager.SetCloudeList("c", "AB\xA4", "2330.TW");
   CString text;
-  EXPECT_EQ(CTQSymbolListMgr::GetLastProblem(text), TQProblemMisuse);
+  EXPECT_EQ(CTQSymbolListMgr::GetLastProblem(text), TQProblemLeftOut) << "which came later";
+  EXPECT_EQ(manager.AddSymbolList("a", 0, "", "2330.TW\xA4", 1, 0), 0);
+  EXPECT_EQ(CTQSymbolListMgr::GetLastProblem(text), TQProblemName) << "the reason";
+}
+
+TEST_F(DebugModeTest, AListThatItsFileCannotBeLoadedWithIsNamed) {
+  ASSERT_EQ(StartWithTables(), 1);
+  Watch();
+  ASSERT_EQ(manager.AddSymbolList("a", 0, "R&D", "2330.TW", 1, 0), 1);
+  ExpectMistake("the list 'R&D' has an apostrophe, & or <: its file does not load again");
 }
 
 void MakeTheNextMistake(void* context, int, const char*) {

@@ -136,14 +136,46 @@ TEST_F(ProblemsTest, RefusedEntriesAreGivenAReason) {
   EXPECT_EQ(manager.InsertSymbolList("gone", 0, "2454.TW", 0, 0), 0);
   ExpectProblem(TQProblemNoList, "InsertSymbolList: there is no list 'gone'");
   EXPECT_EQ(manager.InsertSymbolList("a", 0, "2330.TW", 0, 0), 0);
-  ExpectProblem(TQProblemEntry,
-                "InsertSymbolList: '2330.TW' cannot be an entry of the list, or is one already");
+  ExpectProblem(TQProblemEntry, "InsertSymbolList: the list 'a' has '2330.TW' already, or its rows "
+                                "are not known");
+  EXPECT_EQ(manager.InsertSymbolList("a", 0, "x,y", 0, 0), 0);
+  ExpectProblem(TQProblemEntry, "InsertSymbolList: 'x,y' is empty or holds a comma");
   EXPECT_EQ(manager.DeleteSymbolList("a", 7), 0);
   EXPECT_EQ(Last(), TQProblemNoEntry);
+  EXPECT_EQ(LastText(), "DeleteSymbolList: the list 'a' has no entry 7");
   EXPECT_EQ(manager.SwapSymbolList("a", 0, 7), 0);
-  EXPECT_EQ(Last(), TQProblemNoEntry);
+  ExpectProblem(TQProblemNoEntry,
+                "SwapSymbolList: entries 0 and 7 of the list 'a' are one, or not both there");
   EXPECT_EQ(manager.ReplaceSymbolList("a", 7, "x"), 0);
-  EXPECT_EQ(Last(), TQProblemNoEntry);
+  ExpectProblem(TQProblemNoEntry, "ReplaceSymbolList: the list 'a' has no entry 7");
+  EXPECT_EQ(manager.ReplaceSymbolList("a", 0, " "), 0);
+  ExpectProblem(TQProblemEntry, "ReplaceSymbolList: ' ' is empty or holds a comma");
+}
+
+TEST_F(ProblemsTest, AListThatItsFileCannotBeLoadedWithIsToldAtTheSave) {
+  ASSERT_EQ(StartWithTables(), 1);
+  EXPECT_EQ(manager.AddSymbolList("b", 0, "a & b", "2330.TW", 1, 0), 1);
+  ExpectProblem(TQProblemFileUnloadable, "AddSymbolList: the list 'a & b' has an apostrophe, & or "
+                                         "<: its file does not load again");
+  EXPECT_EQ(manager.SaveSymbolList(), 1);
+  EXPECT_EQ(Last(), TQProblemFileUnloadable);
+  EXPECT_EQ(manager.DeleteSymbolList("b"), 1);
+  ExpectProblem(TQProblemNone, "");
+  EXPECT_EQ(manager.AddSymbolList("c", 0, "C", "2330.TW,it's:", 1, 0), 1);
+  EXPECT_EQ(Last(), TQProblemFileUnloadable);
+}
+
+TEST_F(ProblemsTest, BytesThatAreLeftOutAreToldAlthoughTheListIsAdded) {
+  ASSERT_EQ(StartWithTables(), 1);
+  EXPECT_EQ(manager.AddSymbolList("b", 0, "AB\xA4", "2330.TW", 1, 0), 1);
+  EXPECT_EQ(Last(), TQProblemLeftOut);
+  EXPECT_EQ(LastText().substr(0, 46), "AddSymbolList: 1 bytes that are no text of cod");
+}
+
+TEST_F(ProblemsTest, AStartNamesTheDirectoryThatIsMissing) {
+  const std::string gone = directory.Joined("gone");
+  ASSERT_EQ(manager.Init(gone.c_str(), 0, 1, 0, nullptr, 0, 0), 1);
+  ExpectProblem(TQProblemFileMissing, "Init: there is no directory " + gone);
 }
 
 TEST_F(ProblemsTest, NullPointersAreNamed) {
