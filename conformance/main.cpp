@@ -89,9 +89,15 @@ int Run(Options options) {
   options.directory = scratch.Path();
   Printer printer;
   options.found = [&](const Finding& finding) { printer.Print(finding); };
+  std::size_t calls = 0;
+  options.calling = [&calls, trace = options.calling](const std::string& call) {
+    ++calls;
+    if (trace)
+      trace(call);
+  };
   const std::size_t count = conformance::Check(options);
   printer.PrintRest();
-  std::printf("%zu findings\n", count);
+  std::printf("%zu findings in %zu calls\n", count, calls);
   return count == 0 ? kClean : kFindings;
 }
 
