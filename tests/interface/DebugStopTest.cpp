@@ -19,7 +19,7 @@ TEST_F(DebugStopDeathTest, TheFirstMistakeStopsTheProcessAndIsOnItsErrorStream) 
         CTQSymbolListMgr::SetDebugMode(TQDebugStop);
         NameHalfACharacter(manager);
       },
-      "tqSymbol: CheckIDandName: name is not text of code page 9[35][06]: byte 2 .A4. begins");
+      "tqSymbol: CheckIDandName: name is not text of code page 9..: byte 2 .A4. begins");
 }
 
 } // namespace
