@@ -4,7 +4,7 @@
 
 #include "groups/GroupLevel.h"
 #include "platform/Log.h"
-#include "platform/diagnostics/ServiceChecks.h"
+#include "platform/ServiceArray.h"
 
 CGroupList::CGroupList(const GroupInfo& info) : CGroupList(info, nullptr) {}
 
@@ -60,22 +60,15 @@ void CGroupList::LogContents(const char* format) {
 int CGroupList::LoadSymbols() {
   if (!CIDList::GetIDs().IsEmpty())
     return 1;
-  SymbolInfo* records = nullptr;
-  int count = 0;
-  if (VLGetGroupSymbol(info_.nType, info_.szID, &records, &count, 1) == 0) {
-    if (records != nullptr)
-      VLFree(records);
+  tq::ServiceArray<SymbolInfo> members("VLGetGroupSymbol");
+  if (VLGetGroupSymbol(info_.nType, info_.szID, members.List(), members.Count(), 1) == 0)
     return 0;
-  }
-  if (tq::IsDebugging())
-    tq::CheckArray("VLGetGroupSymbol", records, count);
+  members.Check();
   // Members that the terminal has set meanwhile, those of a cloud list for example, are kept.
-  if (!CIDList::GetIDs().IsEmpty()) {
-    if (records != nullptr)
-      VLFree(records);
+  if (!CIDList::GetIDs().IsEmpty())
     return 1;
-  }
-  Update2(records, count); // which releases the array
+  const int count = *members.Count();
+  Update2(members.Release(), count); // which releases the array
   return 1;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "idlist/IdString.h"
+#include "idlist/StorableText.h"
 #include "platform/FileAccess.h"
 #include "platform/LibraryString.h"
 #include "platform/Text.h"
@@ -15,10 +16,6 @@ namespace {
 // By product. Names come from the string table, ids never change with the language.
 constexpr const char* kIdPatterns[] = {"PellarPlus %d", "eOrvel %d", "eTamsin %d"};
 constexpr int kProducts = 3;
-
-// What the list file cannot carry: one such character would keep all of the user's lists from
-// loading.
-constexpr char kNotForAFile[] = "'&<";
 
 bool ReadFile(const char* path, std::string& bytes) {
   return Files().ReadWholeFile(path, kXmlSizeLimit, bytes) == ReadResult::Ok;
@@ -45,13 +42,14 @@ std::string AsIn(const std::string& document, const std::string& ascii) {
   return wide;
 }
 
+// One such id would keep all of the user's lists from loading.
 CString WithoutBadIds(const CString& symbols) {
-  if (symbols.FindOneOf(kNotForAFile) < 0)
+  if (!HoldsUnloadable(ViewOf(symbols)))
     return symbols;
   CString kept;
   std::string_view piece;
   for (size_t at = 0; NextPiece(ViewOf(symbols), at, piece);) {
-    if (piece.find_first_of(kNotForAFile) != std::string_view::npos)
+    if (HoldsUnloadable(piece))
       continue;
     if (!kept.IsEmpty())
       kept += ',';

@@ -1,20 +1,11 @@
 // Editing whole lists, and the entries of one list.
-#include "idlist/IdString.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "platform/Text.h"
 
 namespace {
 
 int NoteNull(const char* argument) {
   return tq::NoteProblem(TQProblemNull, "%s is null", argument);
-}
-
-// What an edit of an entry answers, with a reason when it was not done.
-int EntryEdited(int result, const CString& id, int entry) {
-  return result != 0 ? result
-                     : tq::NoteProblem(TQProblemNoEntry, "the list '%s' has no entry %d",
-                                       id.GetString(), entry);
 }
 
 } // namespace
@@ -60,8 +51,7 @@ CString CTQSymbolListMgr::AdjustFileName(CString name) noexcept {
 
 int CTQSymbolListMgr::DeleteSymbolList(CString id, int entry) noexcept {
   const tq::Operation operation("DeleteSymbolList", "id", id);
-  CSymbolList* const list = state_->userLists.Find(id);
-  return list == nullptr ? tq::NoteNoList(id) : EntryEdited(list->RemoveEntry(entry), id, entry);
+  return state_->userLists.DeleteEntry(id, entry);
 }
 
 int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, int before,
@@ -72,22 +62,10 @@ int CTQSymbolListMgr::InsertSymbolList(CString id, int position, CString text, i
 
 int CTQSymbolListMgr::SwapSymbolList(CString id, int first, int second) noexcept {
   const tq::Operation operation("SwapSymbolList", "id", id);
-  CSymbolList* const list = state_->userLists.Find(id);
-  if (list == nullptr)
-    return tq::NoteNoList(id);
-  if (list->SwapEntries(first, second) != 0)
-    return 1;
-  return tq::NoteProblem(TQProblemNoEntry,
-                         "entries %d and %d of the list '%s' are one, or not both there", first,
-                         second, id.GetString());
+  return state_->userLists.SwapEntries(id, first, second);
 }
 
 int CTQSymbolListMgr::ReplaceSymbolList(CString id, int entry, CString text) noexcept {
   const tq::Operation operation("ReplaceSymbolList", "id,text", id, text);
-  CSymbolList* const list = state_->userLists.Find(id);
-  if (list == nullptr)
-    return tq::NoteNoList(id);
-  if (!tq::IsOneToken(tq::ViewOf(text)))
-    tq::NoteProblem(TQProblemEntry, "'%s' is empty or holds a comma", text.GetString());
-  return EntryEdited(list->ReplaceEntry(entry, text), id, entry);
+  return state_->userLists.ReplaceEntry(id, entry, text);
 }

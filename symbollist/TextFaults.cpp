@@ -11,9 +11,8 @@ namespace {
 
 // What keeps the list file from holding it, or a load from reading it back.
 int FaultsInFile(const CString& text) {
-  constexpr char kUnloadable[] = "'&<";
   const int broken = IsStorable(text) ? 0 : TQTextBroken;
-  return text.FindOneOf(kUnloadable) < 0 ? broken : broken | TQTextUnloadable;
+  return HoldsUnloadable(ViewOf(text)) ? broken | TQTextUnloadable : broken;
 }
 
 int FaultsOfPiece(std::string_view piece) {

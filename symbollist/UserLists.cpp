@@ -165,7 +165,8 @@ int UserLists::LoadFrom(const CString& path) {
 // Such a list is saved all the same, as it always was; who set it is told before the next start is.
 void UserLists::NoteUnloadable() const {
   for (const auto& list : lists_.All()) {
-    if (!HoldsUnloadable(ViewOf(list->GetName())) && !HoldsUnloadable(ViewOf(list->GetIDs())))
+    if (!HoldsUnloadable(ViewOf(list->GetID())) && !HoldsUnloadable(ViewOf(list->GetName())) &&
+        !HoldsUnloadable(ViewOf(list->GetIDs())))
       continue;
     CString text;
     text.Format("the list '%s' has an apostrophe, & or <: its file does not load again",

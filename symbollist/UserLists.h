@@ -77,6 +77,9 @@ public:
   // After lists were added: without a default list the first one is it.
   void EnsureDefault() { defaultIndex_ = defaultIndex_ == -1 ? 0 : defaultIndex_; }
 
+  int DeleteEntry(const CString& id, int entry);
+  int SwapEntries(const CString& id, int first, int second);
+  int ReplaceEntry(const CString& id, int entry, const CString& text);
   // Puts a text into a list as an entry of its own.
   int InsertEntry(const CString& id, int position, const CString& text, bool before, bool heading);
 

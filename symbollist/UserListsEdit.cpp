@@ -17,6 +17,13 @@
 #include "symbollist/UserLists.h"
 
 namespace tq {
+namespace {
+
+int NoteNoEntry(const CString& id, int entry) {
+  return NoteProblem(TQProblemNoEntry, "the list '%s' has no entry %d", id.GetString(), entry);
+}
+
+} // namespace
 
 int UserLists::Add(const CString& id, const CString& name, const CString& symbols, bool append,
                    bool overwrite) {
@@ -147,6 +154,33 @@ int UserLists::ReplaceIds(const CStringArray& oldIds, const CStringArray& newIds
 CString UserLists::FreeName(const CString& name) const {
   return tq::FreeName(StorableText(name),
                       [this](const CString& wanted) { return lists_.HasName(wanted); });
+}
+
+int UserLists::DeleteEntry(const CString& id, int entry) {
+  CSymbolList* const list = Find(id);
+  if (list == nullptr)
+    return NoteNoList(id);
+  return list->RemoveEntry(entry) != 0 ? 1 : NoteNoEntry(id, entry);
+}
+
+int UserLists::SwapEntries(const CString& id, int first, int second) {
+  CSymbolList* const list = Find(id);
+  if (list == nullptr)
+    return NoteNoList(id);
+  if (list->SwapEntries(first, second) != 0)
+    return 1;
+  return NoteProblem(TQProblemNoEntry,
+                     "entries %d and %d of the list '%s' are one, or not both there", first, second,
+                     id.GetString());
+}
+
+int UserLists::ReplaceEntry(const CString& id, int entry, const CString& text) {
+  CSymbolList* const list = Find(id);
+  if (list == nullptr)
+    return NoteNoList(id);
+  if (!IsOneToken(ViewOf(text)))
+    NoteProblem(TQProblemEntry, "'%s' is empty or holds a comma", text.GetString());
+  return list->ReplaceEntry(entry, text) != 0 ? 1 : NoteNoEntry(id, entry);
 }
 
 int UserLists::InsertEntry(const CString& id, int position, const CString& text, bool before,

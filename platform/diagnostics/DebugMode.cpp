@@ -121,7 +121,7 @@ void ReadDebugMode() {
 
 void ReportMistake(TQProblem kind, const CString& text) {
   StopIfAsked(text);
-  ProblemNote::NoteWhole(kind, text);
+  Operation::NoteWhole(kind, text);
   WriteMistake(text);
 }
 

@@ -25,24 +25,20 @@ Operation::~Operation() {
 }
 
 void Operation::TakeOverProblem() {
-  if (innermost_ == nullptr || lastProblem == TQProblemNone || !GivesWay(innermost_->problem_))
+  if (lastProblem != TQProblemNone)
+    NoteWhole(lastProblem, lastText);
+}
+
+void Operation::Note(TQProblem problem, const CString& text) {
+  if (innermost_ != nullptr)
+    NoteWhole(problem, CString(innermost_->name_) + ": " + text);
+}
+
+void Operation::NoteWhole(TQProblem problem, const CString& text) {
+  if (innermost_ == nullptr || !GivesWay(innermost_->problem_))
     return;
-  innermost_->problem_ = lastProblem;
-  innermost_->text_ = lastText;
-}
-
-int ProblemNote::Note(TQProblem problem, const CString& text) {
-  Operation* const running = Operation::innermost_;
-  return running == nullptr ? 0 : NoteWhole(problem, CString(running->name_) + ": " + text);
-}
-
-int ProblemNote::NoteWhole(TQProblem problem, const CString& text) {
-  Operation* const running = Operation::innermost_;
-  if (running == nullptr || !GivesWay(running->problem_))
-    return 0;
-  running->problem_ = problem;
-  running->text_ = text;
-  return 0;
+  innermost_->problem_ = problem;
+  innermost_->text_ = text;
 }
 
 TQProblem LastProblem(CString& text) {

@@ -15,7 +15,7 @@ namespace tq {
 
 class Operation {
 public:
-  // `name` is a literal. The texts are those that the caller handed over, and `texts` their names,
+  // `name` is a literal. The texts are those that the caller handed over, and `names` their names,
   // joined by ",": the debug mode looks at them.
   template <typename... Texts>
   explicit Operation(const char* name, const char* names = "", const Texts&... texts)
@@ -31,9 +31,14 @@ public:
   // Notes the problem of the latest operation that returned, for it was a part of this one.
   static void TakeOverProblem();
 
-private:
-  friend class ProblemNote;
+  // Notes what is wrong with the operation that runs, behind its name. Of several the first one is
+  // kept, for the others mostly follow from it; what kept nothing from being done (a copy of a
+  // file, what the debug mode finds) gives way to any other. Without an operation nothing happens.
+  static void Note(TQProblem problem, const CString& text);
+  // The same for a text that names the operation itself.
+  static void NoteWhole(TQProblem problem, const CString& text);
 
+private:
   const char* name_;
   Operation* outer_;
   TQProblem problem_ = TQProblemNone;
@@ -42,25 +47,18 @@ private:
   static Operation* innermost_;
 };
 
-// Notes what is wrong with the operation that runs. Of several the first one is kept, for the
-// others mostly follow from it; what kept nothing from being done (a copy of a file, what the debug
-// mode finds) gives way to any other. The text is printf-style: user text is an argument. Without
-// an operation nothing happens. Returns 0, which is what most operations answer then.
-class ProblemNote {
-public:
-  static int Note(TQProblem problem, const CString& text);
-  // The same for a text that names the operation itself.
-  static int NoteWhole(TQProblem problem, const CString& text);
-};
-
+// Operation::Note with a printf-style text: user text is an argument. Returns 0, which is what most
+// operations answer then.
 template <typename... Arguments>
 int NoteProblem(TQProblem problem, const char* format, Arguments... arguments) {
   CString text;
   text.Format(format, arguments...);
-  return ProblemNote::Note(problem, text);
+  Operation::Note(problem, text);
+  return 0;
 }
 inline int NoteProblem(TQProblem problem, const char* text) {
-  return ProblemNote::Note(problem, text);
+  Operation::Note(problem, text);
+  return 0;
 }
 
 // That of the latest operation that returned; its text begins with the operation's name.

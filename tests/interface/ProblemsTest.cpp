@@ -163,6 +163,9 @@ TEST_F(ProblemsTest, AListThatItsFileCannotBeLoadedWithIsToldAtTheSave) {
   ExpectProblem(TQProblemNone, "");
   EXPECT_EQ(manager.AddSymbolList("c", 0, "C", "2330.TW,it's:", 1, 0), 1);
   EXPECT_EQ(Last(), TQProblemFileUnloadable);
+  EXPECT_EQ(manager.DeleteSymbolList("c"), 1);
+  EXPECT_EQ(manager.AddSymbolList("d<", 0, "D", "2330.TW", 1, 0), 1);
+  EXPECT_EQ(Last(), TQProblemFileUnloadable);
 }
 
 TEST_F(ProblemsTest, BytesThatAreLeftOutAreToldAlthoughTheListIsAdded) {
