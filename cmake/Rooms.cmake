@@ -1,5 +1,5 @@
 # The library's rooms above platform/, each its objects. docs/architecture.md says which may use which.
-set(TQ_ROOMS symbolid symboltable exchanges idlist symbollist groups cloud accounts imports manager dialogs)
+set(TQ_ROOMS symbolid symboltable exchanges idlist recovery symbollist groups cloud accounts imports manager dialogs)
 set(TQ_ROOM_TARGETS)
 foreach(room IN LISTS TQ_ROOMS)
   file(GLOB sources CONFIGURE_DEPENDS ${room}/*.cpp ${room}/*/*.cpp)

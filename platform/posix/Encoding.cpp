@@ -1,7 +1,5 @@
 #include "platform/Encoding.h"
 
-#include "platform/services/tqCommon.h"
-
 #include <algorithm>
 #include <iconv.h>
 
@@ -46,10 +44,6 @@ void DecodeAll(iconv_t table, unsigned codePage, std::string_view text, std::str
 }
 
 } // namespace
-
-unsigned AnsiCodePage() {
-  return ::IsTraditionChinese() != 0 ? kCodePageBig5 : kCodePageGbk;
-}
 
 bool DecodeText(unsigned codePage, std::string_view text, std::string& utf8) {
   utf8.clear();
