@@ -17,4 +17,8 @@ inline constexpr char kTradingFileName[] = "\\TSList.xml";
 // service's keys.
 std::string TradingFileText(const std::vector<CTS>& systems);
 
+// Whether a file of these bytes is one of TradingFileText, or holds nothing: then it may be written
+// over, since the services give everything in it again.
+bool IsOwnTradingFile(const std::string& bytes);
+
 } // namespace tq

@@ -2,11 +2,8 @@
 
 #include <utility>
 
-#include "accounts/TradingFile.h"
 #include "accounts/TradingService.h"
-#include "platform/FileAccess.h"
 #include "platform/Text.h"
-#include "platform/diagnostics/Operation.h"
 
 namespace tq {
 
@@ -70,9 +67,7 @@ void TradingTable::Changed() {
   ++changes_;
   if (path_.IsEmpty())
     return;
-  const std::string text = TradingFileText(systems_);
-  if (Files().SaveWholeFile(path_, text.data(), text.size()) != SaveResult::Saved)
-    NoteProblem(TQProblemFileNotWritten, "%s could not be written", path_.GetString());
+  keptFiles_.Save(path_, TradingFileText(systems_));
 }
 
 } // namespace tq

@@ -4,7 +4,9 @@
 
 #include <vector>
 
+#include "accounts/TradingFile.h"
 #include "accounts/TradingRecords.h"
+#include "symbollist/KeptFiles.h"
 
 namespace tq {
 
@@ -13,7 +15,8 @@ namespace tq {
 // the terminal may log in from there.
 class TradingTable {
 public:
-  // `path` is the file that is rewritten with each change; empty for none.
+  // `path` is the file that is rewritten with each change; empty for none. What stands there and is
+  // not such a file is copied aside first.
   explicit TradingTable(const CString& path) : path_(path) {}
 
   // Changes the file, from the next update on.
@@ -42,6 +45,7 @@ private:
 
   std::vector<CTS> systems_; // in the order of their first logins
   CString path_;
+  KeptFiles keptFiles_{&IsOwnTradingFile};
   unsigned changes_ = 0;
 };
 

@@ -42,6 +42,11 @@ public:
     return tq::FileState::File;
   }
   bool RenameFile(const char*, const char*) override { return true; }
+  bool RemoveFile(const char*) override { return false; }
+  bool ListFiles(const char*, const char*, std::vector<std::string>& names) override {
+    names.clear();
+    return true;
+  }
 
   static bool IsCopy(const char* path) {
     return std::string(path).find("_Kept") != std::string::npos;

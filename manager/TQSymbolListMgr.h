@@ -53,6 +53,7 @@
 #include "platform/framework/CStringArray.h"
 #include "platform/framework/CUIntArray.h"
 #include "platform/framework/window/WindowTypes.h"
+#include "platform/interface/TQSymbolFiles.h"
 #include "platform/interface/TQSymbolNames.h"
 #include "platform/interface/TQSymbolOptions.h"
 #include "platform/interface/TQSymbolProblem.h"
@@ -191,6 +192,31 @@ public:
   // an empty path the lists are gone and nothing is read. A file without any list makes the working
   // file be written anew at once, empty.
   int DoLoadSymbolList(const CString& path) noexcept;
+  // What the latest load of the working file or of the backup came to; a start, and another data
+  // directory, forget it. For a damaged file `reason` is where and why in English ("line 3, column
+  // 17: an ampersand that is not written as &amp;") and `line` that line, or 0 when it is no one
+  // place; otherwise the reason in words, or an empty text when there is nothing to be said.
+  TQLoadState GetLoadState(TQListFile file, int& line, CString& reason) const noexcept;
+  // Replaces the lists in memory by those that can be recovered from the working file, whatever is
+  // wrong with it: characters that do not belong there, an end that is missing, zero bytes, another
+  // encoding, two files written over each other. When it gives none, the newest of the copies that
+  // were kept of it is taken which does. No id is made up: a symbol whose bytes are damaged is left
+  // out, and its list counts as mended. `counts` is filled; the log (level 64) tells of each list
+  // that is not whole. Nothing is written; the next save keeps the damaged file first. Returns 0,
+  // with the lists in memory as they were, when no list was found.
+  int RepairSymbolList(TQRepairCounts& counts) noexcept;
+  // Keeps, from now on, the working file as it was before the first save of each day, as
+  // "\SymbolList_YYYYMMDD.xml" beside it, YYYYMMDD being the local day of that save, and deletes the
+  // oldest of these files beyond `days`. 0, which is the default, or less: keeps none and deletes
+  // none. What cannot be kept is told in the log and tried again at the next save, which it does
+  // not hold up.
+  void SetHistory(int days) noexcept;
+  // Replaces `days` by the days that can be restored, "YYYYMMDD", the latest first. Returns their
+  // number.
+  int GetHistory(CStringArray& days) const noexcept;
+  // Loads the file of a day as RestorSymbolList loads the backup. Returns 0 and changes nothing when
+  // `day` is none, or there is no such file; else 1.
+  int RestoreHistory(const CString& day) noexcept;
   // For use after another program changed the file: LoadSymbolList, then, if Init was told so,
   // LoadSystemList with the names of Init (adds missing system lists) and LoadTSList (adds the list
   // of all holdings if it is missing). Nothing is saved. Returns 1.

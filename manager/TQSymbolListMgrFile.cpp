@@ -49,6 +49,39 @@ int CTQSymbolListMgr::DoLoadSymbolList(const CString& path) noexcept {
   return state_->userLists.LoadFrom(path);
 }
 
+TQLoadState CTQSymbolListMgr::GetLoadState(TQListFile file, int& line,
+                                           CString& reason) const noexcept {
+  tq::CheckCall("GetLoadState");
+  line = 0;
+  reason.Empty();
+  if (file != TQListFileWorking && file != TQListFileBackup)
+    return TQLoadNever;
+  const tq::LoadReport& report = state_->userLists.ReportOf(file);
+  line = report.line;
+  reason = report.reason;
+  return report.state;
+}
+
+int CTQSymbolListMgr::RepairSymbolList(TQRepairCounts& counts) noexcept {
+  const tq::Operation operation("RepairSymbolList");
+  return state_->userLists.Repair(counts);
+}
+
+void CTQSymbolListMgr::SetHistory(int days) noexcept {
+  tq::CheckCall("SetHistory");
+  state_->userLists.SetHistory(days);
+}
+
+int CTQSymbolListMgr::GetHistory(CStringArray& days) const noexcept {
+  tq::CheckCall("GetHistory");
+  return state_->userLists.GetHistory(days);
+}
+
+int CTQSymbolListMgr::RestoreHistory(const CString& day) noexcept {
+  const tq::Operation operation("RestoreHistory", "day", day);
+  return state_->userLists.RestoreHistory(day);
+}
+
 int CTQSymbolListMgr::UpdateTQSymbolList() noexcept {
   const tq::Operation operation("UpdateTQSymbolList");
   state_->userLists.LoadWithSystemLists();

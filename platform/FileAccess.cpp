@@ -20,6 +20,16 @@ FileAccess* SetFiles(FileAccess* files) {
   return before != nullptr ? before : &SystemFiles();
 }
 
+bool IsListedName(const char* name, const char* prefix) {
+  if (std::strncmp(name, prefix, std::strlen(prefix)) != 0)
+    return false;
+  for (const char* p = name; *p != '\0'; ++p) {
+    if (static_cast<unsigned char>(*p) >= 0x80)
+      return false;
+  }
+  return true;
+}
+
 std::size_t SeparatorOf(const char* path) {
   const char* last = std::strrchr(path, '\\');
   if (last == nullptr || last[1] == '\0')

@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tq {
 
@@ -95,7 +96,20 @@ public:
   // Renames a file within its directory, atomically replacing a file that has the new name. False
   // when that fails: both are then as they were.
   virtual bool RenameFile(const char* from, const char* to) = 0;
+
+  // Deletes a regular file, or a link to one but not what it names. False when that fails, or when
+  // something else or nothing has the name.
+  virtual bool RemoveFile(const char* path) = 0;
+
+  // The names of the regular files of a directory that begin with `prefix`, plain ASCII, in no
+  // order. Names that are not plain ASCII are left out: they are not the library's. False, with no
+  // names, when the directory cannot be read to its end.
+  virtual bool ListFiles(const char* directory, const char* prefix,
+                         std::vector<std::string>& names) = 0;
 };
+
+// Whether ListFiles lists a file of that name.
+bool IsListedName(const char* name, const char* prefix);
 
 // Forwards every operation to another object, so that a test can override the one that is to fail.
 class FileAccessWrapper : public FileAccess {
@@ -118,6 +132,11 @@ public:
   }
   bool RenameFile(const char* from, const char* to) override {
     return target_.RenameFile(from, to);
+  }
+  bool RemoveFile(const char* path) override { return target_.RemoveFile(path); }
+  bool ListFiles(const char* directory, const char* prefix,
+                 std::vector<std::string>& names) override {
+    return target_.ListFiles(directory, prefix, names);
   }
 
 private:

@@ -6,17 +6,22 @@
 namespace tq {
 namespace {
 
-std::atomic<ClockSource> g_clock{&SystemLocalYear};
+std::atomic<ClockSource> g_clock{&SystemLocalDay};
 std::atomic<GuidSource> g_guids{&SystemGuid};
 
 } // namespace
 
-int CurrentLocalYear() {
+int CurrentLocalDay() {
   return g_clock.load(std::memory_order_acquire)();
 }
 
+int CurrentLocalYear() {
+  constexpr int daysOfANumberedYear = 10000;
+  return CurrentLocalDay() / daysOfANumberedYear;
+}
+
 ClockSource SetClock(ClockSource source) {
-  return g_clock.exchange(source != nullptr ? source : &SystemLocalYear, std::memory_order_acq_rel);
+  return g_clock.exchange(source != nullptr ? source : &SystemLocalDay, std::memory_order_acq_rel);
 }
 
 bool NewGuid(Guid& guid) {

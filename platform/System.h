@@ -8,18 +8,19 @@
 
 namespace tq {
 
-// The year of the local calendar, such as 2026. Contract codes carry the last digit of a year only
-// and are read by it. Any thread.
+// Today in the local calendar as one number, 20260131 for the last of January 2026. Any thread.
+int CurrentLocalDay();
+// Its year. Contract codes carry the last digit of a year only and are read by it. Any thread.
 int CurrentLocalYear();
 
-// What CurrentLocalYear asks.
+// What both ask for the day.
 using ClockSource = int (*)();
 
-// Replaces the source and returns the one before; null restores SystemLocalYear.
+// Replaces the source and returns the one before; null restores SystemLocalDay.
 ClockSource SetClock(ClockSource source);
 
 // The operating system's calendar.
-int SystemLocalYear();
+int SystemLocalDay();
 
 // The four fields of a GUID, laid out like the operating system's own record.
 struct Guid {

@@ -18,16 +18,6 @@ bool IsStamped(const FileStamp& stamp) {
   return stamp != FileStamp();
 }
 
-// Overwriting such a file loses nothing.
-bool HoldsNoList(const std::string& bytes) {
-  if (bytes.empty())
-    return true;
-  XmlDocument document;
-  return document.Load(bytes.data(), bytes.size()) &&
-         !document.SelectSingle("/Result/SymbolList").IsNull() &&
-         document.SelectSingle("/Result/SymbolList/List").IsNull();
-}
-
 const char* WhyUnknown(LoadOutcome outcome) {
   switch (outcome) {
   case LoadOutcome::TooLarge:
@@ -49,13 +39,6 @@ const char* WhyUnknown(LoadOutcome outcome) {
   return "the lists in memory do not come from it";
 }
 
-void Say(const KeptLine& line) {
-  if (line.text.IsEmpty())
-    return;
-  NoteProblem(line.problem, "%s", line.text.GetString());
-  LogLine(kLogChange, "%s", line.text.GetString());
-}
-
 void NoteSave(SaveResult result, const CString& path) {
   if (result == SaveResult::NotOpened)
     NoteProblem(TQProblemFileNotWritten, "%s cannot be opened for writing", path.GetString());
@@ -65,6 +48,22 @@ void NoteSave(SaveResult result, const CString& path) {
 }
 
 } // namespace
+
+void Say(const KeptLine& line) {
+  if (line.text.IsEmpty())
+    return;
+  NoteProblem(line.problem, "%s", line.text.GetString());
+  LogLine(kLogChange, "%s", line.text.GetString());
+}
+
+bool HoldsNoList(const std::string& bytes) {
+  if (bytes.empty())
+    return true;
+  XmlDocument document;
+  return document.Load(bytes.data(), bytes.size()) &&
+         !document.SelectSingle("/Result/SymbolList").IsNull() &&
+         document.SelectSingle("/Result/SymbolList/List").IsNull();
+}
 
 ReadResult ReadContents(const CString& path, std::size_t limit, FileContents& contents) {
   contents = {};
@@ -175,7 +174,7 @@ bool KeptFiles::MayWrite(const CString& path, KeptLine& line) {
     file.contents.stamp = now.stamp;
     return true;
   }
-  return HoldsNoList(now.bytes) || Keep(file, std::move(now), line);
+  return worthless_(now.bytes) || Keep(file, std::move(now), line);
 }
 
 // `now` is the file's present contents. Once copied, the file counts as known.

@@ -3,6 +3,9 @@
 // overwritten. Any other (its load failed or ended early, or another program has written it since)
 // is copied beside itself first.
 //
+// Other files that the library writes and never reads are treated the same way, by what their owner
+// says of them.
+//
 // Single-threaded. Paths are compared byte by byte; a file known by two spellings of its path only
 // costs an unnecessary copy.
 #pragma once
@@ -48,8 +51,19 @@ struct KeptLine {
   TQProblem problem = TQProblemNone;
 };
 
+// Writes the line into the log, where there is one, and notes the problem.
+void Say(const KeptLine& line);
+
+// Whether overwriting a file of these bytes loses no list: it is empty, or a list file without any.
+bool HoldsNoList(const std::string& bytes);
+
 class KeptFiles {
 public:
+  // Whether a file of these bytes may be overwritten although it was never read.
+  using Worthless = bool (*)(const std::string& bytes);
+
+  explicit KeptFiles(Worthless worthless = &HoldsNoList) : worthless_(worthless) {}
+
   // Forgets all files: the lists in memory come from none of them.
   void ForgetAll();
   // A load begins. Until it ends no file counts as known, since the terminal may save from within
@@ -68,7 +82,7 @@ public:
   // save.
   const FileContents* Known(const CString& path) const;
 
-  // Whether the file may be overwritten: it is missing, holds no list, or is known and unchanged.
+  // Whether the file may be overwritten: it is missing, worthless, or known and unchanged.
   // Otherwise it is copied first (KeptCopies.h), with a line in the log that says why. False, also
   // with a line, when the copy fails. A known and unchanged file costs one system call.
   bool MayWrite(const CString& path);
@@ -91,6 +105,7 @@ private:
   bool MayWrite(const CString& path, KeptLine& line);
   bool Keep(File& file, FileContents now, KeptLine& line);
 
+  Worthless worthless_;
   std::vector<File> files_; // seldom more than two
   int loads_ = 0;           // in progress
 };

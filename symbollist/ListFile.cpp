@@ -87,9 +87,13 @@ bool ComesBack(const std::string& bytes, const tq::XmlDocument& document, const 
 
 namespace tq {
 
+const char* DeclarationOf(bool traditionalChinese) {
+  return traditionalChinese ? "<?xml version='1.0' encoding='big5' ?>\n"
+                            : "<?xml version='1.0' encoding='gb2312' ?>\n";
+}
+
 const char* FileDeclaration() {
-  return IsTraditionChinese() ? "<?xml version='1.0' encoding='big5' ?>\n"
-                              : "<?xml version='1.0' encoding='gb2312' ?>\n";
+  return DeclarationOf(IsTraditionChinese() != 0);
 }
 
 size_t ListFileLength(const ListVector& lists) {

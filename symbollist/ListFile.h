@@ -19,6 +19,8 @@ inline constexpr char kBackupFileName[] = "\\SymbolList_Backup.xml";
 // The XML declaration of the interface's language, with its line feed: the first line of every
 // file that the library writes.
 const char* FileDeclaration();
+// That of one language.
+const char* DeclarationOf(bool traditionalChinese);
 
 // The whole document: declaration, the default index, and one line for each list in order. With a
 // negative default index no list is written: that is the file of a manager that has no lists. Text

@@ -5,6 +5,7 @@
 
 #include "idlist/StorableText.h"
 #include "platform/Text.h"
+#include "platform/interface/TQSymbolNames.h"
 #include "symbollist/ListIds.h"
 
 namespace tq {

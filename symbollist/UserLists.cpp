@@ -19,37 +19,36 @@ namespace {
 
 constexpr unsigned kButtonOk = 0;
 
-int NoteNoFile() {
-  return NoteProblem(TQProblemNoFile, "there is no data directory, or the path is empty");
-}
-
-// Why a file gave no lists, or not all of them.
-void NoteOutcome(LoadOutcome outcome, const CString& path) {
+TQProblem ProblemOf(LoadOutcome outcome) {
   switch (outcome) {
   case LoadOutcome::Missing:
-    NoteProblem(TQProblemFileMissing, "%s: there is no such file", path.GetString());
-    break;
+    return TQProblemFileMissing;
   case LoadOutcome::TooLarge:
-    NoteProblem(TQProblemFileTooLarge, "%s is larger than any file that is read", path.GetString());
-    break;
+    return TQProblemFileTooLarge;
   case LoadOutcome::Unreadable:
-    NoteProblem(TQProblemFileUnreadable, "%s cannot be read", path.GetString());
-    break;
+    return TQProblemFileUnreadable;
   case LoadOutcome::Damaged:
-    NoteProblem(TQProblemFileDamaged, "%s is damaged: no well-formed document", path.GetString());
-    break;
+    return TQProblemFileDamaged;
   case LoadOutcome::NoListFile:
-    NoteProblem(TQProblemFileForeign, "%s is no list file", path.GetString());
-    break;
+    return TQProblemFileForeign;
   case LoadOutcome::EndedEarly:
-    NoteProblem(TQProblemFileCutShort, "%s has a bad list: it and those behind it are not loaded",
-                path.GetString());
-    break;
+    return TQProblemFileCutShort;
   case LoadOutcome::Whole:
   case LoadOutcome::Empty:
   case LoadOutcome::NotTried:
     break;
   }
+  return TQProblemNone;
+}
+
+// Why a file gave no lists, or not all of them.
+void NoteOutcome(LoadOutcome outcome, const CString& path, const LoadReport& report) {
+  const TQProblem problem = ProblemOf(outcome);
+  if (problem == TQProblemNone)
+    return;
+  const bool placed = report.line > 0;
+  NoteProblem(problem, "%s %s%s%s", path.GetString(), WordsOf(outcome), placed ? "; " : "",
+              placed ? report.reason.GetString() : "");
 }
 
 // What a save returns, after the message for one that failed.
@@ -66,9 +65,18 @@ CString UserLists::PathOf(const char* name) const {
   return directory_.IsEmpty() ? CString() : directory_ + name;
 }
 
+void UserLists::SetDirectory(const CString& directory) {
+  if (directory_ != directory)
+    for (LoadReport& report : reports_)
+      report = {};
+  directory_ = directory;
+}
+
 void UserLists::Reset() {
   Clear();
   keptFiles_.ForgetAll();
+  for (LoadReport& report : reports_)
+    report = {};
 }
 
 void UserLists::CreateMissingFile() {
@@ -102,14 +110,24 @@ int UserLists::SaveEmpty() {
   const CString path = PathOf(kListFileName);
   if (path.IsEmpty())
     return NoteNoFile();
-  return Report(keptFiles_.Save(path, ListFileText({}, defaultIndex_)));
+  return Report(Store(path, ListFileText({}, defaultIndex_)));
+}
+
+// What the history has to say is logged last, as in KeptFiles::Save.
+SaveResult UserLists::Store(const CString& path, std::string bytes) {
+  KeptLine line;
+  if (history_.IsDue(path) && path == PathOf(kListFileName))
+    line = history_.Keep(path, keptFiles_.Known(path));
+  const SaveResult result = keptFiles_.Save(path, std::move(bytes));
+  Say(line);
+  return result;
 }
 
 SaveResult UserLists::SaveText(const CString& path) {
   std::string text;
   switch (MakeListFileText(lists_.All(), SavedIndex(), text)) {
   case TextResult::Made:
-    return keptFiles_.Save(path, std::move(text));
+    return Store(path, std::move(text));
   case TextResult::TooMuch:
     NoteProblem(TQProblemTooMuch, "%s is not written: the lists are more than a list file holds",
                 path.GetString());
@@ -152,14 +170,24 @@ int UserLists::LoadFrom(const CString& path) {
   lists_.Replace(std::move(lists));
   defaultIndex_ = defaultIndex;
   const LoadOutcome outcome = parser.Outcome();
-  const bool saved = keptFiles_.EndLoad(path, outcome, parser.TakeContents());
-  NoteOutcome(outcome, path);
+  FileContents contents = parser.TakeContents();
+  const LoadReport report = tq::ReportOf(outcome, contents.bytes);
+  NoteLoad(path, report);
+  const bool saved = keptFiles_.EndLoad(path, outcome, std::move(contents));
+  NoteOutcome(outcome, path, report);
   if (outcome == LoadOutcome::Empty)
     Save(); // anew at once, to the working file whichever file it was
   // What was saved meanwhile were the lists of before, or none at a start. A copy of it is kept.
   else if (saved && outcome == LoadOutcome::Whole)
     SaveTo(path);
   return 1;
+}
+
+void UserLists::NoteLoad(const CString& path, const LoadReport& report) {
+  if (path == PathOf(kListFileName))
+    reports_[TQListFileWorking] = report;
+  else if (path == PathOf(kBackupFileName))
+    reports_[TQListFileBackup] = report;
 }
 
 // Such a list is saved all the same, as it always was; who set it is told before the next start is.

@@ -13,15 +13,23 @@
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
+#include "platform/interface/TQSymbolFiles.h"
 #include "symbollist/KeptFiles.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/SymbolChanges.h"
+#include "symbollist/file/FileHistory.h"
+#include "symbollist/file/LoadReport.h"
 
 namespace tq {
 
 // That there is no list with that identifier. Returns 0.
 inline int NoteNoList(const CString& id) {
   return NoteProblem(TQProblemNoList, "there is no list '%s'", id.GetString());
+}
+
+// That there is no data directory, or an empty path. Returns 0.
+inline int NoteNoFile() {
+  return NoteProblem(TQProblemNoFile, "there is no data directory, or the path is empty");
 }
 
 class UserLists {
@@ -40,7 +48,8 @@ public:
   // --- The list file -----------------------------------------------------------------------------
 
   const CString& Directory() const { return directory_; }
-  void SetDirectory(const CString& directory) { directory_ = directory; }
+  // What earlier loads came to is forgotten with another directory.
+  void SetDirectory(const CString& directory);
   // Joined as it stands: the directory carries no trailing backslash. Empty without a directory,
   // for the bare name would be a file in the root of the drive.
   CString PathOf(const char* name) const;
@@ -58,6 +67,15 @@ public:
   int SaveEmpty();
   int SaveTo(const CString& path);
   int LoadFrom(const CString& path);
+  // What the latest load of a file came to.
+  const LoadReport& ReportOf(TQListFile file) const { return reports_[file]; }
+  int Repair(TQRepairCounts& counts);
+
+  void SetHistory(int days) { history_.SetDays(days); }
+  // The days that can be restored, the latest first.
+  int GetHistory(CStringArray& days) const;
+  int RestoreHistory(const CString& day);
+
   // Load, then the system lists that the file lacks, where Init was told so.
   void LoadWithSystemLists();
 
@@ -100,6 +118,11 @@ private:
   // The index that a save writes.
   int SavedIndex() const { return defaultIndex_ < 0 && !lists_.IsEmpty() ? 0 : defaultIndex_; }
   SaveResult SaveText(const CString& path);
+  // Writes a file, which is kept for the history first when it is the working file's turn.
+  SaveResult Store(const CString& path, std::string bytes);
+  void NoteLoad(const CString& path, const LoadReport& report);
+  // Takes over what a repair recovers from a file. False when that is no list: nothing changes.
+  bool TakeRecovered(const CString& path, TQRepairCounts& counts);
   void NoteUnloadable() const;
   void Insert(std::unique_ptr<CSymbolList> list, bool append);
   bool AddNew(const CString& id, const CString& name, const CString& symbols, bool append);
@@ -109,6 +132,8 @@ private:
   int defaultIndex_ = 0;
   CString directory_;
   KeptFiles keptFiles_;
+  FileHistory history_;
+  LoadReport reports_[2]; // of the working file and of the backup, by TQListFile
   bool systemListsWanted_ = false;
   CStringArray systemListNames_;
 };

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <new>
 #include <sys/stat.h>
@@ -106,6 +107,32 @@ public:
 
   bool RenameFile(const char* from, const char* to) override {
     return FileExists(from) && ::rename(SystemPath(from).c_str(), SystemPath(to).c_str()) == 0;
+  }
+
+  bool RemoveFile(const char* path) override {
+    FileStamp stamp;
+    return StateOf(path, stamp) == FileState::File && ::unlink(SystemPath(path).c_str()) == 0;
+  }
+
+  bool ListFiles(const char* directory, const char* prefix,
+                 std::vector<std::string>& names) override {
+    names.clear();
+    DIR* const entries = ::opendir(directory);
+    if (entries == nullptr)
+      return false;
+    errno = 0;
+    while (const dirent* const entry = ::readdir(entries)) {
+      struct stat info;
+      if (IsListedName(entry->d_name, prefix) &&
+          ::fstatat(::dirfd(entries), entry->d_name, &info, 0) == 0 && S_ISREG(info.st_mode))
+        names.emplace_back(entry->d_name);
+      errno = 0; // which alone tells an error from the end
+    }
+    const bool whole = errno == 0;
+    ::closedir(entries);
+    if (!whole)
+      names.clear();
+    return whole;
   }
 };
 

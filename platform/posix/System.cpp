@@ -6,12 +6,12 @@
 
 namespace tq {
 
-int SystemLocalYear() {
+int SystemLocalDay() {
   constexpr int yearZeroOfTm = 1900;
   const std::time_t now = std::time(nullptr);
   std::tm local{};
   ::localtime_r(&now, &local);
-  return local.tm_year + yearZeroOfTm;
+  return (local.tm_year + yearZeroOfTm) * 10000 + (local.tm_mon + 1) * 100 + local.tm_mday;
 }
 
 bool SystemGuid(Guid& guid) {

@@ -107,6 +107,41 @@ public:
            ::MoveFileExW(SystemPath(from).c_str(), SystemPath(to).c_str(),
                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
   }
+
+  bool RemoveFile(const char* path) override {
+    FileStamp stamp;
+    return StateOf(path, stamp) == FileState::File && ::DeleteFileW(SystemPath(path).c_str()) != 0;
+  }
+
+  bool ListFiles(const char* directory, const char* prefix,
+                 std::vector<std::string>& names) override {
+    names.clear();
+    WIN32_FIND_DATAW entry;
+    const HANDLE search = ::FindFirstFileW((SystemPath(directory) + L"\\*").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE)
+      return false;
+    NoteOpened(SystemObject::File);
+    do {
+      AddName(entry, prefix, names);
+    } while (::FindNextFileW(search, &entry) != 0);
+    const bool whole = ::GetLastError() == ERROR_NO_MORE_FILES;
+    if (::FindClose(search) != 0)
+      NoteClosed(SystemObject::File);
+    if (!whole)
+      names.clear();
+    return whole;
+  }
+
+private:
+  static void AddName(const WIN32_FIND_DATAW& entry, const char* prefix,
+                      std::vector<std::string>& names) {
+    constexpr DWORD noFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE;
+    std::string name;
+    for (const wchar_t* p = entry.cFileName; *p != L'\0'; ++p)
+      name += *p < 0x80 ? static_cast<char>(*p) : '\x80';
+    if ((entry.dwFileAttributes & noFile) == 0 && IsListedName(name.c_str(), prefix))
+      names.push_back(std::move(name));
+  }
 };
 
 } // namespace

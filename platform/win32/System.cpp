@@ -8,10 +8,10 @@
 
 namespace tq {
 
-int SystemLocalYear() {
+int SystemLocalDay() {
   SYSTEMTIME local;
   ::GetLocalTime(&local);
-  return local.wYear;
+  return local.wYear * 10000 + local.wMonth * 100 + local.wDay;
 }
 
 bool SystemGuid(Guid& guid) {

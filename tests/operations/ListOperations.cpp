@@ -61,6 +61,28 @@ Table File() {
        [](Manager& m, const Arguments& a) {
          m.DoLoadSymbolList(FileOf(a, "\\SymbolList_Backup.xml"));
        }},
+      {"GetLoadState(TQListFile, int&, CString&) const",
+       [](Manager& m, const Arguments& a) {
+         int line = 0;
+         CString reason;
+         m.GetLoadState(static_cast<TQListFile>(a.number), line, reason);
+       }},
+      {"RepairSymbolList(TQRepairCounts&)",
+       [](Manager& m, const Arguments&) {
+         TQRepairCounts counts;
+         m.RepairSymbolList(counts);
+       }},
+      {"SetHistory(int)", [](Manager& m, const Arguments& a) { m.SetHistory(a.number + a.other); }},
+      {"GetHistory(CStringArray&) const",
+       [](Manager& m, const Arguments&) {
+         CStringArray days;
+         m.GetHistory(days);
+       }},
+      {"RestoreHistory(CString const&)",
+       [](Manager& m, const Arguments&) {
+         CStringArray days;
+         m.RestoreHistory(m.GetHistory(days) > 0 ? days[0] : CString("20260131"));
+       }},
       {"UpdateTQSymbolList()", [](Manager& m, const Arguments&) { m.UpdateTQSymbolList(); }},
       {"ReLoadList(CString const&)",
        [](Manager& m, const Arguments& a) { m.ReLoadList(a.directory); }},

@@ -44,4 +44,20 @@ bool MemoryDisk::RenameFile(const char* from, const char* to) {
   return true;
 }
 
+bool MemoryDisk::RemoveFile(const char* path) {
+  return !refuses_ && files_.erase(path) != 0;
+}
+
+bool MemoryDisk::ListFiles(const char* directory, const char* prefix,
+                           std::vector<std::string>& names) {
+  names.clear();
+  const std::string start = std::string(directory) + "\\";
+  for (const auto& [path, file] : files_) {
+    const std::string name = path.starts_with(start) ? path.substr(start.size()) : "";
+    if (!name.empty() && tq::IsListedName(name.c_str(), prefix))
+      names.push_back(name);
+  }
+  return true;
+}
+
 } // namespace operations

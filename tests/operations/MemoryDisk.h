@@ -27,6 +27,9 @@ public:
   bool FileExists(const char* path) override { return files_.contains(path); }
   tq::FileState StateOf(const char* path, tq::FileStamp& stamp) override;
   bool RenameFile(const char* from, const char* to) override;
+  bool RemoveFile(const char* path) override;
+  bool ListFiles(const char* directory, const char* prefix,
+                 std::vector<std::string>& names) override;
 
 private:
   struct File {

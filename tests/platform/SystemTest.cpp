@@ -8,28 +8,30 @@
 
 namespace {
 
-int YearOfTheCLibrary() {
+int DayOfTheCLibrary() {
   const std::time_t now = std::time(nullptr);
-  return std::localtime(&now)->tm_year + 1900;
+  const std::tm& local = *std::localtime(&now);
+  return (local.tm_year + 1900) * 10000 + (local.tm_mon + 1) * 100 + local.tm_mday;
 }
 
-int Year2029() {
-  return 2029;
+int LeapDay() {
+  return 20280229;
 }
 
-TEST(Clock, TellsTheYearOfTheLocalCalendar) {
-  // The year may turn between the two questions.
-  const int before = YearOfTheCLibrary();
-  const int year = tq::CurrentLocalYear();
-  const int after = YearOfTheCLibrary();
-  EXPECT_TRUE(year == before || year == after) << year;
+TEST(Clock, TellsTheDayOfTheLocalCalendar) {
+  // The day may end between the two questions.
+  const int before = DayOfTheCLibrary();
+  const int day = tq::CurrentLocalDay();
+  const int after = DayOfTheCLibrary();
+  EXPECT_TRUE(day == before || day == after) << day;
 }
 
 TEST(Clock, ASourceCountsUntilTheSystemsIsRestored) {
-  EXPECT_EQ(tq::SetClock(&Year2029), &tq::SystemLocalYear);
-  EXPECT_EQ(tq::CurrentLocalYear(), 2029);
-  EXPECT_EQ(tq::SetClock(nullptr), &Year2029);
-  EXPECT_EQ(tq::SetClock(nullptr), &tq::SystemLocalYear);
+  EXPECT_EQ(tq::SetClock(&LeapDay), &tq::SystemLocalDay);
+  EXPECT_EQ(tq::CurrentLocalDay(), 20280229);
+  EXPECT_EQ(tq::CurrentLocalYear(), 2028);
+  EXPECT_EQ(tq::SetClock(nullptr), &LeapDay);
+  EXPECT_EQ(tq::SetClock(nullptr), &tq::SystemLocalDay);
 }
 
 std::string Text(const tq::Guid& guid) {

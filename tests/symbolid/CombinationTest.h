@@ -10,7 +10,7 @@
 
 class CombinationTest : public StandInTest {
 protected:
-  CombinationTest() : previous_(tq::SetClock(&Year)) { year_ = 2026; }
+  CombinationTest() : previous_(tq::SetClock(&FirstDay)) { year_ = 2026; }
   ~CombinationTest() override { tq::SetClock(previous_); }
 
   static void LiveIn(int year) { year_ = year; }
@@ -48,7 +48,7 @@ protected:
   }
 
 private:
-  static int Year() { return year_; }
+  static int FirstDay() { return year_ * 10000 + 101; }
   static inline int year_ = 0;
   const tq::ClockSource previous_;
 };

@@ -37,6 +37,11 @@ public:
     return tq::FileState::File;
   }
   bool RenameFile(const char*, const char*) override { return false; }
+  bool RemoveFile(const char*) override { return false; }
+  bool ListFiles(const char*, const char*, std::vector<std::string>& names) override {
+    names.clear();
+    return true;
+  }
   std::string bytes;
 };
 
