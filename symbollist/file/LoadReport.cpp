@@ -59,7 +59,7 @@ void NoteBadList(const std::string& bytes, LoadReport& report) {
 const char* WordsOf(LoadOutcome outcome) {
   switch (outcome) {
   case LoadOutcome::Missing:
-    return "is missing";
+    return "does not exist";
   case LoadOutcome::TooLarge:
     return "is larger than any file that is read";
   case LoadOutcome::Unreadable:

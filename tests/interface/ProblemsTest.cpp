@@ -60,15 +60,16 @@ TEST_F(ProblemsTest, ALoadSaysWhyThereAreNoLists) {
   ASSERT_EQ(StartWithTables(), 1);
   WriteWorking("<Result><SymbolList DefaultIdx='0'><List ID='a' Na");
   EXPECT_EQ(manager.LoadSymbolList(), 1);
-  ExpectProblem(TQProblemFileDamaged,
-                "LoadSymbolList: " + Working() + " is damaged: no well-formed document");
+  ExpectProblem(TQProblemFileDamaged, "LoadSymbolList: " + Working() +
+                                          " is damaged: no well-formed document; line 1, column " +
+                                          "46: the end of the file is missing");
   WriteWorking("<Other/>");
   EXPECT_EQ(manager.LoadSymbolList(), 1);
   ExpectProblem(TQProblemFileForeign, "LoadSymbolList: " + Working() + " is no list file");
   EXPECT_EQ(manager.RestorSymbolList(), 1);
   ExpectProblem(TQProblemFileMissing,
                 "RestorSymbolList: " + directory.Joined("SymbolList_Backup.xml") +
-                    ": there is no such file");
+                    " does not exist");
 }
 
 TEST_F(ProblemsTest, AStartOnADamagedFileSaysSoAlthoughItSucceeds) {

@@ -1,10 +1,17 @@
 #include "tests/operations/MemoryDisk.h"
 
+#include <algorithm>
+
 namespace operations {
 
 std::string MemoryDisk::Read(const std::string& path) const {
   const auto found = files_.find(path);
   return found == files_.end() ? std::string() : found->second.bytes;
+}
+
+bool MemoryDisk::Holds(const std::string& bytes) const {
+  return std::any_of(files_.begin(), files_.end(),
+                     [&bytes](const auto& file) { return file.second.bytes == bytes; });
 }
 
 tq::ReadResult MemoryDisk::ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) {

@@ -18,6 +18,8 @@ public:
   void Write(const std::string& path, const std::string& bytes) { files_[path] = {bytes, ++time_}; }
   // Empty when there is no such file.
   std::string Read(const std::string& path) const;
+  // Whether any file holds these very bytes.
+  bool Holds(const std::string& bytes) const;
   // From now on no file can be written.
   void Refuse(bool refuse) { refuses_ = refuse; }
 
