@@ -6,7 +6,7 @@
 
 #include "idlist/StorableText.h"
 #include "platform/Text.h"
-#include "symbollist/ListFile.h"
+#include "symbollist/file/ListFile.h"
 
 namespace tq {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "accounts/TradingFile.h"
 #include "accounts/TradingRecords.h"
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 
 namespace tq {
 

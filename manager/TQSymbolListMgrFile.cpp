@@ -2,7 +2,7 @@
 #include "accounts/TradingFile.h"
 #include "manager/ManagerState.h"
 #include "manager/TQSymbolListMgr.h"
-#include "symbollist/ListFile.h"
+#include "symbollist/file/ListFile.h"
 
 int CTQSymbolListMgr::LoadSymbolList() noexcept {
   const tq::Operation operation("LoadSymbolList");

@@ -4,7 +4,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/xml/XmlText.h"
-#include "symbollist/ListFile.h"
+#include "symbollist/file/ListFile.h"
 
 namespace tq {
 namespace {

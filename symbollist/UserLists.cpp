@@ -12,7 +12,7 @@
 #include "platform/diagnostics/Operation.h"
 #include "platform/services/tqCommon.h"
 #include "platform/xml/XmlText.h"
-#include "symbollist/ListFile.h"
+#include "symbollist/file/ListFile.h"
 
 namespace tq {
 namespace {

@@ -14,10 +14,10 @@
 #include "platform/framework/CString.h"
 #include "platform/framework/CStringArray.h"
 #include "platform/interface/TQSymbolFiles.h"
-#include "symbollist/KeptFiles.h"
 #include "symbollist/OwnedLists.h"
 #include "symbollist/SymbolChanges.h"
 #include "symbollist/file/FileHistory.h"
+#include "symbollist/file/KeptFiles.h"
 #include "symbollist/file/LoadReport.h"
 
 namespace tq {

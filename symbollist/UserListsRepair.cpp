@@ -10,9 +10,9 @@
 #include "platform/Log.h"
 #include "platform/diagnostics/Operation.h"
 #include "recovery/ListRecovery.h"
-#include "symbollist/KeptCopies.h"
-#include "symbollist/ListFile.h"
 #include "symbollist/UserLists.h"
+#include "symbollist/file/KeptCopies.h"
+#include "symbollist/file/ListFile.h"
 
 namespace tq {
 namespace {

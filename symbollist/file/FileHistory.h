@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/framework/CString.h"
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 
 namespace tq {
 

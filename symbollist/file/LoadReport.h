@@ -5,7 +5,7 @@
 
 #include "platform/framework/CString.h"
 #include "platform/interface/TQSymbolFiles.h"
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 
 namespace tq {
 

@@ -1,7 +1,7 @@
 // A process is killed during a save: the file is the old one or the new one, and leftovers of the
 // kill do not disturb later saves.
 #include "platform/FileAccess.h"
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 #include "tests/platform/HookedSteps.h"
 #include "tests/platform/TestSystem.h"
 

@@ -1,12 +1,12 @@
 // Copies of list files and what is known of the files, without a manager.
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "symbollist/KeptCopies.h"
+#include "symbollist/file/KeptCopies.h"
 #include "terminal/StandIn.h"
 #include "tests/support/TempDir.h"
 

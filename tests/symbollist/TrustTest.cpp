@@ -15,11 +15,11 @@
 #include "platform/ReadSteps.h"
 #include "platform/xml/XmlText.h"
 #include "symbolid/SymbolRecords.h"
-#include "symbollist/KeptCopies.h"
-#include "symbollist/KeptFiles.h"
 #include "symbollist/ListIds.h"
 #include "symbollist/ListName.h"
 #include "symbollist/TQSymbolListInfo.h"
+#include "symbollist/file/KeptCopies.h"
+#include "symbollist/file/KeptFiles.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
 

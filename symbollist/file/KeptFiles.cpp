@@ -1,4 +1,4 @@
-#include "symbollist/KeptFiles.h"
+#include "symbollist/file/KeptFiles.h"
 
 #include <algorithm>
 #include <utility>
@@ -6,7 +6,7 @@
 #include "platform/Log.h"
 #include "platform/diagnostics/Operation.h"
 #include "platform/xml/XmlDocument.h"
-#include "symbollist/KeptCopies.h"
+#include "symbollist/file/KeptCopies.h"
 
 namespace tq {
 namespace {

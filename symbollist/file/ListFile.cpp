@@ -1,4 +1,4 @@
-#include "symbollist/ListFile.h"
+#include "symbollist/file/ListFile.h"
 
 #include <algorithm>
 #include <charconv>

@@ -7,8 +7,8 @@
 
 #include "platform/framework/CString.h"
 #include "platform/xml/XmlDocument.h"
-#include "symbollist/KeptFiles.h"
 #include "symbollist/OwnedLists.h"
+#include "symbollist/file/KeptFiles.h"
 
 namespace tq {
 

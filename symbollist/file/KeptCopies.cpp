@@ -1,4 +1,4 @@
-#include "symbollist/KeptCopies.h"
+#include "symbollist/file/KeptCopies.h"
 
 #include <algorithm>
 #include <tuple>
