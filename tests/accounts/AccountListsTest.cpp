@@ -100,4 +100,28 @@ TEST_F(AccountListsTest, OfSystemsThereIsOneEach) {
   EXPECT_EQ(SymbolsOf("VTS02"), "2330.TW,6488.TE");
 }
 
+TEST_F(AccountListsTest, AFileOfSomebodyElseIsCopiedAsideOnce) {
+  directory.Write("TSList.xml", "notes of the user");
+  Start();
+  accounts.UpdateLogin("VTS01");
+  EXPECT_EQ(directory.Read("TSList_Kept.xml"), "notes of the user");
+  EXPECT_NE(directory.Read("TSList.xml").find("VTS01"), std::string::npos);
+  accounts.UpdateLogin("VTS01");
+  EXPECT_EQ(directory.Names(), (std::vector<std::string>{"TSList.xml", "TSList_Kept.xml"}));
+  ASSERT_FALSE(standin::LogLines().empty());
+  EXPECT_EQ(standin::LogLines().front().text,
+            "List file " + directory.Joined("TSList.xml") + " is kept as " +
+                directory.Joined("TSList_Kept.xml") + ": the lists in memory do not come from it");
+}
+
+TEST_F(AccountListsTest, AFileOfAnEarlierStartIsWrittenOver) {
+  Start();
+  accounts.UpdateLogin("VTS01");
+  tq::AccountLists later([this](int) -> const tq::OwnedLists& { return others; });
+  later.Want(true);
+  later.Start(directory.Joined("TSList.xml").c_str());
+  later.UpdateLogin("VTS01");
+  EXPECT_EQ(directory.Names(), std::vector<std::string>{"TSList.xml"});
+}
+
 } // namespace

@@ -114,4 +114,24 @@ TEST_F(TradingFileTest, WhatFollowsAFieldsTerminatorIsNotWritten) {
             Declaration() + "<TSList>\n\t<TS ID = 'T' Name = 'N' >\n\t</TS>\n</TSList>");
 }
 
+TEST_F(TradingFileTest, ItsOwnFilesMayBeWrittenOver) {
+  tq::CTS system = System("T1", "it's & <Broker>");
+  system.accounts.push_back(Account(1, "9801234567", "9801-***4567", "2330,2317"));
+  EXPECT_TRUE(tq::IsOwnTradingFile(""));
+  for (const auto& systems : {std::vector<tq::CTS>{}, {system}, {system, system}})
+    EXPECT_TRUE(tq::IsOwnTradingFile(tq::TradingFileText(systems)));
+  std::string other = tq::TradingFileText({system});
+  const std::size_t encoding = other.find(IsTraditionChinese() ? "big5" : "gb2312");
+  other.replace(encoding, IsTraditionChinese() ? 4 : 6, IsTraditionChinese() ? "gb2312" : "big5");
+  EXPECT_TRUE(tq::IsOwnTradingFile(other)) << "of the other language";
+}
+
+TEST_F(TradingFileTest, AFileThatIsNotItsOwnIsToldFromThem) {
+  const std::string own = tq::TradingFileText({System("T1", "Broker")});
+  for (const std::string& other :
+       {std::string("x"), own + "\n", " " + own, own.substr(0, 60), own.substr(0, own.size() - 1),
+        Declaration(), Declaration() + "<TSList>\n<!-- mine -->\n</TSList>"})
+    EXPECT_FALSE(tq::IsOwnTradingFile(other)) << other;
+}
+
 } // namespace
