@@ -1,5 +1,5 @@
 // What a terminal asks of the files of the user's lists: what their loads came to, and what a
-// repair brought back. docs/my-lists.md tells users about the same files.
+// repair brought back.
 #pragma once
 
 // The files that CTQSymbolListMgr::GetLoadState knows of.
