@@ -158,7 +158,7 @@ const Way kWays[] = {
 };
 
 // Runs an operation with a step failing; -1: with none. Returns the number of its steps.
-int Run(const Way& way, std::size_t operation, int step, bool fromThereOn) {
+int Try(const Way& way, std::size_t operation, int step, bool fromThereOn) {
   Scene scene;
   way.prepare(scene);
   EXPECT_TRUE(scene.IsKept()) << way.name << ": lost on the way there";
@@ -180,10 +180,10 @@ protected:
 TEST_P(LostBytes, NoOperationDestroysThemWhateverStepOfTheDiskFails) {
   int runs = 0;
   for (std::size_t operation = 0; operation < All().size(); ++operation) {
-    const int steps = Run(GetParam(), operation, -1, false);
+    const int steps = Try(GetParam(), operation, -1, false);
     for (int step = 0; step < steps; ++step) {
-      Run(GetParam(), operation, step, false);
-      Run(GetParam(), operation, step, true);
+      Try(GetParam(), operation, step, false);
+      Try(GetParam(), operation, step, true);
       ++runs;
     }
   }
