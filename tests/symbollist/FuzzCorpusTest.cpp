@@ -9,8 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "fuzz/DialogTextInput.h"
 #include "fuzz/IdStringInput.h"
 #include "fuzz/IdentifiersInput.h"
+#include "fuzz/ImportFileInput.h"
 #include "fuzz/ListFileInput.h"
 #include "fuzz/SequenceInput.h"
 
@@ -52,6 +54,14 @@ protected:
 
 TEST_F(FuzzCorpus, ListFilesLoadAndComeBackAsTheyWereSaved) {
   Replay("ListFile", fuzz::CheckListFile);
+}
+
+TEST_F(FuzzCorpus, ImportedListsAreWholeAndComeBack) {
+  Replay("ImportFile", fuzz::CheckImportFile);
+}
+
+TEST_F(FuzzCorpus, NoTextInADialogMakesAListThatDoesNotComeBack) {
+  Replay("DialogText", fuzz::CheckDialogText);
 }
 
 TEST_F(FuzzCorpus, IdStringsAreSplitAndResolvedAsTheirTextSays) {
