@@ -101,6 +101,26 @@ bool Disk::RenameFile(const char* from, const char* to) {
   return renamed;
 }
 
+bool Disk::RemoveFile(const char* path) {
+  FileNote* const note = ledger_.NoteOf(path);
+  if (ReadingFails() || note == nullptr)
+    return false;
+  note->wanted = kNoFile;
+  note->isBeingWritten = true;
+  const bool removed = FileAccessWrapper::RemoveFile(path);
+  if (removed)
+    note->settled = kNoFile;
+  note->isBeingWritten = false;
+  if (removed)
+    watch_.AfterRemoval(path);
+  return removed;
+}
+
+bool Disk::ListFiles(const char* directory, const char* prefix, std::vector<std::string>& names) {
+  names.clear();
+  return !ReadingFails() && FileAccessWrapper::ListFiles(directory, prefix, names);
+}
+
 tq::SaveResult Disk::SaveWholeFile(const char* path, const void* bytes, std::size_t size) {
   const std::string text(static_cast<const char*>(bytes), size);
   FileNote* const note = ledger_.NoteOf(path);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/FileAccess.h"
 #include "soak/Ledger.h"
@@ -17,6 +18,7 @@ public:
   virtual void BeforeSave(const std::string& path, const std::string& bytes) = 0;
   virtual void AfterSave(const std::string& path, const std::string& bytes, bool saved) = 0;
   virtual void AfterRename(const std::string& from, const std::string& to) = 0;
+  virtual void AfterRemoval(const std::string& path) = 0;
 };
 
 // How often something goes wrong: once in so many times, never for 0.
@@ -43,6 +45,9 @@ public:
   tq::FileState StateOf(const char* path, tq::FileStamp& stamp) override;
   bool FileExists(const char* path) override;
   bool RenameFile(const char* from, const char* to) override;
+  bool RemoveFile(const char* path) override;
+  bool ListFiles(const char* directory, const char* prefix,
+                 std::vector<std::string>& names) override;
   // As another program writes a file: never with trouble, and nobody looks.
   void Intrude(const std::string& path, const std::string& bytes);
 

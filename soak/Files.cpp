@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "soak/RawFiles.h"
-#include "symbollist/KeptCopies.h"
+#include "symbollist/file/KeptCopies.h"
 
 namespace soak {
 namespace {
@@ -18,9 +18,21 @@ bool IsListFile(const std::string& path) {
                      [&](std::string_view name) { return path.ends_with(name); });
 }
 
-// The list file of which the path is a kept copy; empty when it is none.
+// "\SymbolList_20260131.xml".
+bool IsOfHistory(std::string_view path) {
+  constexpr std::string_view kStart = "\\SymbolList_";
+  constexpr std::string_view kEnd = ".xml";
+  constexpr std::size_t kDay = 8;
+  const std::string_view name = path.substr(std::min(path.rfind('\\'), path.size()));
+  return name.size() == kStart.size() + kDay + kEnd.size() && name.starts_with(kStart) &&
+         name.find_first_not_of("0123456789", kStart.size()) == kStart.size() + kDay;
+}
+
+// The list file of which the path is a kept copy, or its file of a day; empty when it is neither.
 std::string OriginalOf(const std::string& path) {
   const std::string directory = path.substr(0, path.rfind('\\'));
+  if (IsOfHistory(path))
+    return directory + std::string(kListFiles[0]);
   for (const std::string_view name : kListFiles) {
     const std::string original = directory + std::string(name);
     for (int number = 0; number < tq::kKeptCopies; ++number)
@@ -57,6 +69,8 @@ const std::string& Files::BytesOf(const std::string& path) {
 }
 
 void Files::Loaded(const std::string& path, const Lists& now, bool undisturbed) {
+  if (path.empty())
+    return ForgetAll();
   File& file = At(path);
   if (file.bytes == FileOf(now)) {
     file.seen = Seen::Yes;
@@ -127,6 +141,13 @@ void Files::AfterSave(const std::string& path, const std::string& bytes, bool sa
 void Files::AfterRename(const std::string& from, const std::string& to) {
   At(to) = {At(from).bytes, Seen::No};
   files_.erase(from);
+}
+
+// But for the oldest days nothing is ever deleted.
+void Files::AfterRemoval(const std::string& path) {
+  if (!IsOfHistory(path))
+    tell_(path + " is deleted");
+  files_.erase(path);
 }
 
 } // namespace soak

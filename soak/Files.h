@@ -40,6 +40,7 @@ public:
   void BeforeSave(const std::string& path, const std::string& bytes) override;
   void AfterSave(const std::string& path, const std::string& bytes, bool saved) override;
   void AfterRename(const std::string& from, const std::string& to) override;
+  void AfterRemoval(const std::string& path) override;
 
 private:
   struct File {

@@ -203,7 +203,7 @@ void Life::Check(const Step& step, const Lists& before) {
   if (const std::string broken = Broken(promise_, before, lists_); !broken.empty())
     Tell(broken);
   CheckFiles(step, before);
-  NoteLoad(step);
+  NoteLoad(step, before);
 }
 
 void Life::CheckFiles(const Step& step, const Lists& before) {
@@ -221,22 +221,25 @@ void Life::CheckFiles(const Step& step, const Lists& before) {
     Tell(unexpected);
 }
 
-void Life::NoteLoad(const Step& step) {
+void Life::NoteLoad(const Step& step, const Lists& before) {
   if (!promise_.loads)
     return;
   const std::string_view name = NameIn(step.entry->operation.signature);
-  if (nested_ > 0)
+  const bool foundNothing = name == "RepairSymbolList" && lists_ == before;
+  if (nested_ > 0 || name == "RestoreHistory" || foundNothing)
     return files_.LoadedSomething();
-  std::string path = FileNamed(kWorking);
-  if (name == "RestorSymbolList")
-    path = FileNamed(kBackup);
-  if (name == "DoLoadSymbolList")
-    path = step.arguments.directory.IsEmpty()
-               ? ""
-               : std::string(step.arguments.directory.GetString()) + kBackup;
-  if (path.empty())
-    return files_.ForgetAll();
-  files_.Loaded(path, lists_, disk_.Troubles() == troublesBefore_);
+  files_.Loaded(LoadedFile(name, step.arguments), lists_, disk_.Troubles() == troublesBefore_);
+}
+
+// Empty: none.
+std::string Life::LoadedFile(std::string_view operation, const operations::Arguments& arguments) {
+  if (operation == "RestorSymbolList")
+    return FileNamed(kBackup);
+  if (operation == "DoLoadSymbolList" && arguments.directory.IsEmpty())
+    return "";
+  if (operation == "DoLoadSymbolList")
+    return std::string(arguments.directory.GetString()) + kBackup;
+  return FileNamed(kWorking);
 }
 
 // At a time of its own: within one tick of the clock the system may give the number of a file that is

@@ -63,7 +63,8 @@ private:
   // Lists and files after a step, by what it and those within it may do.
   void Check(const Step& step, const Lists& before);
   void CheckFiles(const Step& step, const Lists& before);
-  void NoteLoad(const Step& step);
+  void NoteLoad(const Step& step, const Lists& before);
+  std::string LoadedFile(std::string_view operation, const operations::Arguments& arguments);
 
   Ledger& ledger_;
   const LifeOrder order_;

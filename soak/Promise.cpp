@@ -32,7 +32,7 @@ constexpr Rule kRules[] = {
     {"DoLoadSymbolList", kReads},
     {"UpdateTQSymbolList", kReads},
     {"ReLoadList", kReads},
-    {"RepairSymbolList", kReads},
+    {"RepairSymbolList", kReplaces | kLoads | kIndexes},
     {"RestoreHistory", kReads},
     {"ClearSymbolList", kReplaces},
     {"SetSymbolList", kReplaces | kIndexes},
