@@ -242,8 +242,8 @@ std::string Life::LoadedFile(std::string_view operation, const operations::Argum
   return FileNamed(kWorking);
 }
 
-// At a time of its own: within one tick of the clock the system may give the number of a file that is
-// gone to a new one, whose size and time are the same too.
+// At a time of its own: within one tick of the clock the system may give the number of a file that
+// is gone to a new one, whose size and time are the same too.
 void Life::Intrude() {
   const std::string path = FileNamed(kWorking);
   if (path.empty())
