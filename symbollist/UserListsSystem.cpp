@@ -1,4 +1,5 @@
 // The six system lists.
+#include "idlist/StorableText.h"
 #include "platform/LibraryString.h"
 #include "platform/Notify.h"
 #include "symbollist/ListIds.h"
@@ -39,12 +40,15 @@ int UserLists::UpdateSystemList(const CString& id, const CString& name, const CS
     return NoteNoList(id);
   list->Update1(symbols);
   nameChanged = 0;
-  list = Find(id); // which the terminal may have deleted while the service was asked
+  // Cleaned before the list is looked for again: what is left out is logged, and the terminal may
+  // have deleted the list then, or while the service was asked.
+  const CString keptName = StorableText(name);
+  list = Find(id);
   if (list == nullptr || name.IsEmpty())
     return 1;
   // Compared as it is kept: a name that is cut is not another name each time.
   const CString before = list->GetName();
-  list->SetName(name);
+  list->SetName(keptName);
   nameChanged = list->GetName() != before ? 1 : 0;
   return 1;
 }

@@ -103,7 +103,12 @@ bool KeptFiles::EndLoad(const CString& path, LoadOutcome outcome, FileContents c
   file.outcome = outcome;
   file.known = outcome == LoadOutcome::Whole || outcome == LoadOutcome::Empty;
   file.contents = file.known ? std::move(contents) : FileContents();
-  return std::exchange(file.savedInLoad, false);
+  const bool saved = std::exchange(file.savedInLoad, false);
+  // What was saved into another file meanwhile is no matter of that file's next load.
+  if (loads_ == 0)
+    for (File& other : files_)
+      other.savedInLoad = false;
+  return saved;
 }
 
 // Logs only after the save: logging may let the terminal save newer lists, which these older bytes

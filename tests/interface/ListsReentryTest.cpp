@@ -47,6 +47,31 @@ TEST_F(LoadReentryTest, ASaveWhileListsAreReplacedWritesWholeLists) {
   DeleteCopies(copies);
 }
 
+// What was saved while the backup was loaded made the next load of the working file write it.
+TEST_F(LoadReentryTest, ASaveWithinTheLoadOfAnotherFileIsNoneWithinTheNextLoad) {
+  StartWith({"a/A/2330.TW"});
+  manager.BackupSymbolList();
+  standin::OnCall("VLGetSymbolInfos", [&] { manager.SaveSymbolList(); });
+  manager.RestorSymbolList();
+  standin::OnCall("VLGetSymbolInfos", {});
+  const std::string file = ReadWorking() + "\n";
+  WriteWorking(file);
+  manager.LoadSymbolList();
+  EXPECT_EQ(ReadWorking(), file);
+  EXPECT_EQ(Shape(), "a/A/2330.TW");
+}
+
+// The line in the log that a part of the name was left out: the list was gone when it was named.
+TEST_F(LoadReentryTest, AListThatIsClearedWhileItsNewNameIsLoggedIsNotNamed) {
+  StartWith({"a/A/2330.TW"});
+  standin::OnCall("TQLog::write", [&] { manager.ClearSymbolList(); });
+  int changed = -1;
+  EXPECT_EQ(manager.UpdateSystemList("a", "B\x01", "2317.TW", changed), 1);
+  standin::OnCall("TQLog::write", {});
+  EXPECT_EQ(changed, 0);
+  EXPECT_EQ(manager.GetSymbolListCount(1), 0);
+}
+
 // What the terminal cleared while symbols were replaced was saved: an empty file.
 TEST_F(LoadReentryTest, ListsClearedWhileIdsAreReplacedAreNotSavedAway) {
   StartWith({"a/A/2330.TW", "b/B/2317.TW"});
