@@ -75,22 +75,6 @@ bool IsLowSurrogate(char32_t unit) {
   return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-void AppendUtf8(char32_t character, std::string& utf8) {
-  if (character < 0x80) {
-    utf8 += static_cast<char>(character);
-  } else if (character < 0x800) {
-    utf8 += static_cast<char>(0xC0 | character >> 6);
-    utf8 += static_cast<char>(0x80 | (character & 0x3F));
-  } else if (character < 0x10000) {
-    utf8 += static_cast<char>(0xE0 | character >> 12);
-    utf8 += static_cast<char>(0x80 | (character >> 6 & 0x3F));
-    utf8 += static_cast<char>(0x80 | (character & 0x3F));
-  } else {
-    char bytes[4];
-    utf8.append(bytes, PutUtf8Char(character, bytes));
-  }
-}
-
 } // namespace
 
 std::size_t Utf8CharLength(const char* at, const char* end) {
@@ -120,6 +104,22 @@ char* PutUtf8Char(char32_t character, char* bytes) {
   bytes[2] = static_cast<char>(0x80 | (character >> 6 & 0x3F));
   bytes[3] = static_cast<char>(0x80 | (character & 0x3F));
   return bytes + 4;
+}
+
+void AppendUtf8(char32_t character, std::string& utf8) {
+  if (character < 0x80) {
+    utf8 += static_cast<char>(character);
+  } else if (character < 0x800) {
+    utf8 += static_cast<char>(0xC0 | character >> 6);
+    utf8 += static_cast<char>(0x80 | (character & 0x3F));
+  } else if (character < 0x10000) {
+    utf8 += static_cast<char>(0xE0 | character >> 12);
+    utf8 += static_cast<char>(0x80 | (character >> 6 & 0x3F));
+    utf8 += static_cast<char>(0x80 | (character & 0x3F));
+  } else {
+    char bytes[4];
+    utf8.append(bytes, PutUtf8Char(character, bytes));
+  }
 }
 
 std::size_t AnsiCharLength(unsigned codePage, const char* at, const char* end) {

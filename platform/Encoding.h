@@ -21,6 +21,9 @@ char32_t TakeUtf8Char(const char*& at);
 // Writes the four bytes of a character from U+10000 on; returns the address behind them.
 char* PutUtf8Char(char32_t character, char* bytes);
 
+// Appends any character, a Unicode scalar value.
+void AppendUtf8(char32_t character, std::string& utf8);
+
 // Length in bytes, 1 or 2, of the character of an ANSI code page at `at`, whose first byte is above
 // 0x7F; 0 when the bytes cannot be one. Only the structure of the code page counts, not which
 // characters are assigned: users define their own.
