@@ -1,5 +1,5 @@
-// Any bytes as a file that tqlists imports: reading ends well, what it gives can be stored, and it comes
-// back when it is written in the same format.
+// Any bytes as a file that tqlists imports: reading ends well, what it gives can be stored, and it
+// comes back when it is written in the same format.
 #pragma once
 
 #include <cstddef>

@@ -107,7 +107,7 @@ TEST_F(ListsDiff, EachKindOfDifferenceIsTold) {
                          "changed: \"e\" 1\n"
                          "  - B\n"
                          "  + D\n"
-                         "  moved A from 1 to 2\n"
+                         "  moved C from 3 to 1\n"
                          "the lists are in another order\n");
   EXPECT_EQ(Diff(before, after, "--json"), 1);
   EXPECT_NE(streams.out.find("\"otherOrder\": true"), std::string::npos) << streams.out;

@@ -20,8 +20,8 @@ public:
   // Everything has been written. Without it a file does not come into being.
   void Commit();
 
-  // `path` "-" is standard output. Throws an Ending of kUsage for a file that exists and is not to be
-  // replaced.
+  // `path` "-" is standard output. Throws an Ending of kUsage for a file that exists and is not to
+  // be replaced.
   static std::unique_ptr<Output> Open(const std::string& path, Existing existing, Streams& streams);
 
 protected:

@@ -10,8 +10,8 @@ namespace tqlists {
 
 class ProcessStreams : public Streams {
 public:
-  // Sets the process up: bytes pass unchanged, text on a console is UTF-8, and a reader that went away is
-  // an error of Write.
+  // Sets the process up: bytes pass unchanged, text on a console is UTF-8, and a reader that went
+  // away is an error of Write.
   ProcessStreams();
   ~ProcessStreams() override;
   std::size_t Read(char* bytes, std::size_t size) override;

@@ -1,5 +1,5 @@
-// What the program asks of the operating system about files. A body for each system lies in posix/ and
-// win32/.
+// What the program asks of the operating system about files. A body for each system lies in posix/
+// and win32/.
 //
 // A path is in UTF-8 on Windows, and the system's own bytes elsewhere. Nothing throws but
 // std::bad_alloc.
@@ -39,8 +39,8 @@ enum class Placing {
   Failed,
 };
 
-// Gives the file `temporary` the name `target`, in one step: whatever happens, `target` is the old file
-// or the new one.
+// Gives the file `temporary` the name `target`, in one step: whatever happens, `target` is the old
+// file or the new one.
 Placing PutInPlace(const std::string& temporary, const std::string& target, bool replace);
 
 void RemoveFile(const std::string& path);

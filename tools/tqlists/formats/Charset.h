@@ -17,9 +17,9 @@ const char* NameOf(tq::TextEncoding encoding);
 // Whether text is valid UTF-8 without a byte-order mark.
 bool IsPlainUtf8(std::string_view text);
 
-// Text of a file, without its byte-order mark, in UTF-8. A file with a mark of UTF-8 or UTF-16 is what
-// the mark says. Bytes that are no character are replaced by U+FFFD, and `bad` is given the place of
-// each, as an offset in `bytes` where the text is UTF-8 or double-byte, else 0.
+// Text of a file, without its byte-order mark, in UTF-8. A file with a mark of UTF-8 or UTF-16 is
+// what the mark says. Bytes that are no character are replaced by U+FFFD, and `bad` is given the
+// place of each, as an offset in `bytes` where the text is UTF-8 or double-byte, else 0.
 std::string DecodeFile(std::string_view bytes, tq::TextEncoding encoding,
                        const std::function<void(std::size_t)>& bad);
 

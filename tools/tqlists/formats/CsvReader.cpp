@@ -44,7 +44,8 @@ private:
   const std::string stem_;
 };
 
-// Rows of one list need not be together: a spreadsheet sorts them. So lists are handed on at the end.
+// Rows of one list need not be together: a spreadsheet sorts them. So lists are handed on at the
+// end.
 void CsvReader::Read(const TakeList& take, Notes& notes, Progress& progress) {
   default_ = -1;
   broken_ = false;

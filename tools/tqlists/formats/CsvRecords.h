@@ -1,5 +1,5 @@
-// The records of a CSV file, for a library that takes a line for a record: line breaks within quotes are
-// hidden from it.
+// The records of a CSV file, for a library that takes a line for a record: line breaks within
+// quotes are hidden from it.
 #pragma once
 
 #include <cstddef>
@@ -26,7 +26,8 @@ private:
   bool within_ = false;
 };
 
-// Gives the library the bytes, ended by a line break, and without zero bytes, which would end its line.
+// Gives the library the bytes, ended by a line break, and without zero bytes, which would end its
+// line.
 class CsvRecords : public io::ByteSourceBase {
 public:
   explicit CsvRecords(std::string_view bytes) : bytes_(bytes) {}

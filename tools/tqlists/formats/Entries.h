@@ -29,8 +29,8 @@ std::size_t CountEntries(std::string_view symbols);
 // Whether an entry is a heading to the terminal: it has a ":" after its first character.
 bool IsHeading(std::string_view entry);
 
-// What the terminal shows of a heading, which it stores with a ":" behind it. Empty for an entry that is
-// no heading, or was stored in another way.
+// What the terminal shows of a heading, which it stores with a ":" behind it. Empty for an entry
+// that is no heading, or was stored in another way.
 std::string_view HeadingText(std::string_view entry);
 
 // The other way round. Empty when nothing is left of the text: a heading can hold no comma.

@@ -45,8 +45,9 @@ protected:
   tq::TextEncoding encoding_ = tq::TextEncoding::Utf8;
 };
 
-// Text, CSV and JSON are UTF-8 here; a list file is as it is. `assumed` is what a list file's text is
-// taken for that does not say. `bytes` must outlive the reader. A list without a name is called `stem`.
+// Text, CSV and JSON are UTF-8 here; a list file is as it is. `assumed` is what a list file's text
+// is taken for that does not say. `bytes` must outlive the reader. A list without a name is called
+// `stem`.
 std::unique_ptr<Reader> MakeReader(Format format, std::string_view bytes, const std::string& stem,
                                    tq::TextEncoding assumed);
 

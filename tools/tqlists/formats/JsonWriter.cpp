@@ -28,7 +28,7 @@ public:
   explicit JsonWriter(Sink sink) : sink_(std::move(sink)) {}
 
   void Begin(int defaultList) override {
-    sink_("{\n\"" + std::string(kKeyDefault) + "\": " +
+    sink_("{\"" + std::string(kKeyDefault) + "\": " +
           (defaultList < 0 ? "null" : std::to_string(defaultList)) + ",\n\"" + kKeyLists + "\": [");
   }
   void Add(const List& list) override {
@@ -36,7 +36,7 @@ public:
     first_ = false;
     sink_(JsonOf(list).dump(-1, ' ', false, OrderedJson::error_handler_t::replace));
   }
-  void End() override { sink_("\n]\n}\n"); }
+  void End() override { sink_("\n]}\n"); }
 
 private:
   const Sink sink_;

@@ -1,6 +1,7 @@
 #include "tools/tqlists/formats/Notes.h"
 
 #include "platform/Encoding.h"
+#include "tools/tqlists/formats/Charset.h"
 
 namespace tqlists {
 namespace {
@@ -14,10 +15,10 @@ void AppendEscaped(std::string& shown, char byte) {
 }
 
 // The length of the character at `at` as it can be shown, or 0.
-std::size_t ShownLength(const char* at, const char* end) {
+std::size_t ShownLength(const char* at, const char* end, bool utf8) {
   const auto byte = static_cast<unsigned char>(*at);
   if (byte >= 0x80)
-    return tq::Utf8CharLength(at, end);
+    return utf8 ? tq::Utf8CharLength(at, end) : 0;
   return byte >= 0x20 && byte != 0x7F ? 1 : 0;
 }
 
@@ -32,9 +33,11 @@ void AddFinding(Notes& notes, const tq::Finding& finding) {
 
 std::string Shown(std::string_view text) {
   std::string shown;
+  // Half of a text in another encoding may look like a character of UTF-8.
+  const bool utf8 = IsPlainUtf8(text);
   const char* const end = text.data() + text.size();
   for (const char* at = text.data(); at != end;) {
-    const std::size_t length = ShownLength(at, end);
+    const std::size_t length = ShownLength(at, end, utf8);
     if (length == 0)
       AppendEscaped(shown, *at++);
     else

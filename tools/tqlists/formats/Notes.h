@@ -25,7 +25,8 @@ public:
 // A finding of recovery/ with the damaged piece.
 void AddFinding(Notes& notes, const tq::Finding& finding);
 
-// Text as it can be shown: a byte that is no UTF-8, and a control character, as "\x1B".
+// Text as it can be shown: a text that is no UTF-8 byte by byte, and a control character, as
+// "\x1B".
 std::string Shown(std::string_view text);
 
 } // namespace tqlists

@@ -74,7 +74,8 @@ void TextReader::TakeLine(std::string_view line, Reading& reading) {
     TakeIds(clean, reading);
 }
 
-// One id, or several with commas between. A heading cannot be meant: that is written in another way.
+// One id, or several with commas between. A heading cannot be meant: that is written in another
+// way.
 void TextReader::TakeIds(std::string_view line, Reading& reading) {
   ForEachEntry(line, [&](std::string_view piece) {
     const std::string_view id = Trimmed(piece);

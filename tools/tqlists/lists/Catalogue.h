@@ -1,5 +1,5 @@
-// Lists of several files on their way into one: each gets an identifier and a name of its own, and none is
-// lost.
+// Lists of several files on their way into one: each gets an identifier and a name of its own, and
+// none is lost.
 #pragma once
 
 #include <cstdint>
@@ -30,8 +30,8 @@ public:
     std::size_t place = 0; // among those that are kept
     bool isNew = false;    // false: the same list is there already
   };
-  // Brings `list` into the form in which it is stored: in the encoding, within the lengths that a list
-  // keeps. A list of the same identifier, name and symbols is there once; another one of that
+  // Brings `list` into the form in which it is stored: in the encoding, within the lengths that a
+  // list keeps. A list of the same identifier, name and symbols is there once; another one of that
   // identifier gets a new one, which depends on nothing but what it holds.
   Stored Add(List& list, const Tell& tell);
 

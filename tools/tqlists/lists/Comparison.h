@@ -48,7 +48,8 @@ struct Comparison {
   }
 };
 
-// Lists are matched by their identifiers, without regard to letter case; entries as they are written.
+// Lists are matched by their identifiers, without regard to letter case; entries as they are
+// written.
 Comparison Compare(const Lists& before, const Lists& after);
 
 // What became of the entries of one list. As few as possible count as moved.

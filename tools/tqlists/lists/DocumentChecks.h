@@ -1,5 +1,5 @@
-// Checks of the library's other XML files: TSList.xml (docs/trading-list-file.md) and the file of an older
-// product (docs/import-file.md).
+// Checks of the library's other XML files: TSList.xml (docs/trading-list-file.md) and the file of
+// an older product (docs/import-file.md).
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@
 
 namespace tqlists {
 
-// How many lists the library would import; a note for each node that gives none, and for another root.
-// Of a well-formed document.
+// How many lists the library would import; a note for each node that gives none, and for another
+// root. Of a well-formed document.
 std::size_t CheckImport(std::string_view document, Notes& notes);
 
 // How many trading systems there are; a note for what the library does not write.

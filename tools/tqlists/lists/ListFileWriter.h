@@ -1,5 +1,5 @@
-// Writes a list file as the library writes one (docs/list-file.md), but for the three characters and the
-// line ends that a value holds only as references.
+// Writes a list file as the library writes one (docs/list-file.md), but for the three characters
+// and the line ends that a value holds only as references.
 #pragma once
 
 #include <cstddef>

@@ -21,8 +21,8 @@ struct Tag {
 
 class XmlTags {
 public:
-  // A document in which DocumentFaults finds nothing; of any other the answers mean nothing. It is in
-  // ASCII's bytes: not in UTF-16.
+  // A document in which DocumentFaults finds nothing; of any other the answers mean nothing. It is
+  // in ASCII's bytes: not in UTF-16.
   explicit XmlTags(std::string_view document) : document_(document) {}
 
   // False behind the last tag. Comments, instructions and CDATA sections are passed over.

@@ -104,7 +104,8 @@ void WriteLists(Session& session, const Input& input, const Survey& survey,
     session.Find(session.request.output + ": is larger than the library loads");
 }
 
-// Names the characters that an encoding lacks. Goes through the file beside the lists that are written.
+// Names the characters that an encoding lacks. Goes through the file beside the lists that are
+// written.
 class Lacking {
 public:
   Lacking(Session& session, const Input& input, tq::TextEncoding encoding)

@@ -30,8 +30,8 @@ public:
   // Opens a file of lists; `otherwise` is its format where neither the request nor the file tells.
   // Places of its text that are no characters are findings.
   std::unique_ptr<Opened> Open(const std::string& path, Format otherwise);
-  // Reads it, with a finding for each note and a line of progress. Throws an Ending of kFindings when
-  // the file is broken.
+  // Reads it, with a finding for each note and a line of progress. Throws an Ending of kFindings
+  // when the file is broken.
   void Read(Opened& opened, const TakeList& take);
   // Reads it once more, in silence.
   void ReadAgain(Opened& opened, const TakeList& take);

@@ -10,13 +10,15 @@ namespace tqlists {
 namespace {
 
 constexpr char kGap[] = "  ";
-constexpr char kHeads[][8] = {"Place", "Symbols", "Id", "Name"};
+constexpr std::string_view kPlace = "Place";
+constexpr std::string_view kName = "Name";
+constexpr std::string_view kId = "Id";
+constexpr std::string_view kSymbols = "Symbols";
 
 std::string RightAligned(const std::string& text, std::size_t columns) {
   return std::string(columns > text.size() ? columns - text.size() : 0, ' ') + text;
 }
 
-// What shows of control characters is a blank; those above 0x7F are no part of a list's text.
 std::string CountOf(const List& list) {
   std::size_t symbols = 0;
   ForEachEntry(list.symbols, [&](std::string_view entry) { symbols += IsHeading(entry) ? 0 : 1; });
@@ -36,18 +38,18 @@ public:
   std::size_t Count() const { return count_; }
 
   void WriteHead() {
-    Write(RightAligned(kHeads[0], place_) + "   " + Padded(kHeads[3], name_) + kGap +
-          Padded(kHeads[2], id_) + kGap + kHeads[1]);
+    Write(std::string(kPlace) + "   " + Padded(kName, name_) + kGap + Padded(kId, id_) + kGap +
+          std::string(kSymbols));
   }
   void WriteRow(const List& list, std::size_t place, bool isDefault) {
-    Write(RightAligned(std::to_string(place), place_) + (isDefault ? " * " : "   ") +
+    Write(RightAligned(std::to_string(place), kPlace.size()) + (isDefault ? " * " : "   ") +
           Padded(list.name, name_) + kGap + Padded(list.id, id_) + kGap +
-          RightAligned(CountOf(list), std::size(kHeads[1]) - 1));
+          RightAligned(CountOf(list), kSymbols.size()));
   }
   void WriteEntries(const List& list) {
     ForEachEntry(list.symbols, [&](std::string_view entry) {
       const std::string_view heading = HeadingText(entry);
-      const std::string indent(place_ + 3, ' ');
+      const std::string indent(kPlace.size() + 3, ' ');
       Write(indent + (heading.empty() ? std::string(entry) : "### " + std::string(heading)));
     });
   }
@@ -60,9 +62,8 @@ private:
 
   Output& output_;
   std::size_t count_ = 0;
-  const std::size_t place_ = std::size(kHeads[0]);
-  std::size_t name_ = 4;
-  std::size_t id_ = 2;
+  std::size_t name_ = kName.size();
+  std::size_t id_ = kId.size();
 };
 
 void WriteTable(Session& session, const std::string& path, Output& output) {

@@ -1,5 +1,5 @@
-// What the program does, a function for each verb. Each returns the exit code, or throws an Ending; nothing
-// of a file is there then that was to be written.
+// What the program does, a function for each verb. Each returns the exit code, or throws an Ending;
+// nothing of a file is there then that was to be written.
 #pragma once
 
 #include "tools/tqlists/files/Streams.h"

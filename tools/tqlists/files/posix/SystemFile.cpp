@@ -32,8 +32,8 @@ void FlushDirectoryOf(const std::string& path) {
   ::close(file);
 }
 
-// A second name for the file, which the system refuses when the name is taken. Where it knows no second
-// names at all, the file is renamed.
+// A second name for the file, which the system refuses when the name is taken. Where it knows no
+// second names at all, the file is renamed.
 Placing PlaceNew(const std::string& temporary, const std::string& target) {
   if (::link(temporary.c_str(), target.c_str()) == 0) {
     ::unlink(temporary.c_str());
