@@ -2,8 +2,8 @@
 // committed. What the editors do to them, and take back, without a window.
 //
 // Where steps are kept, every edit that changes something is one. A step holds no more than what it
-// changed: a list that was removed lies in its step, of a list whose contents were edited it has the
-// symbols that came, went or moved.
+// changed: a list that was removed lies in its step, of a list whose contents were edited it has
+// the symbols that came, went or moved.
 #pragma once
 
 #include <memory>
