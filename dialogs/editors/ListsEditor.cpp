@@ -63,7 +63,7 @@ intptr_t ListsEditor::OnMessage(unsigned code, intptr_t first, intptr_t second) 
 
 bool ListsEditor::OnKey(int id, WindowKey key, WindowHeldKeys held) {
   const HistoryWay way = HistoryWayOf(key, held);
-  if (way != HistoryWay::None && id != kNameField) {
+  if (way != HistoryWay::None && renamed_ < 0) {
     TakeStep(way);
     return true;
   }

@@ -3,6 +3,7 @@
 
 #include "platform/CodePage.h"
 #include "platform/framework/window/DialogAccess.h"
+#include "platform/framework/window/ListKeys.h"
 #include "platform/framework/window/Mnemonic.h"
 #include "platform/headless/EditText.h"
 #include "platform/headless/Focus.h"

@@ -112,18 +112,28 @@ protected:
   struct View {
     int count = 0;
     int selected = -1;
+    int marked = -1; // drawn as the default list
   };
   View ViewOf(User& user) const {
     if (entry != Entry::Lists || !user.IsUp())
       return {};
     const std::vector<int> selection = user.SelectedRows(781);
-    return {static_cast<int>(user.Rows(781).size()), selection.empty() ? -1 : selection.front()};
+    View view{static_cast<int>(user.Rows(781).size()), selection.empty() ? -1 : selection.front()};
+    CDialog& dialog = *CDialog::FromHandle(user.Dialog().GetSafeHwnd());
+    for (int row = 0; row < view.count; ++row)
+      view.marked = tq::DialogAccess::Look(dialog, 781, row).marked ? row : view.marked;
+    return view;
   }
   // The default list is marked by its button, goes with its list, and the list that is selected
-  // takes the place of one that is deleted.
+  // takes the place of one that is deleted. With a step that is taken it is what is drawn.
   void FollowDefault(const Deed& deed, const View& from, const View& to) {
     if (deed.Is("Enter") || deed.Is("Space"))
       marksAreKnown = false;
+    if (deed.Is("Z") || deed.Is("Y")) {
+      marked = to.marked;
+      marksAreKnown = marksAreKnown && marked >= 0;
+      return;
+    }
     const bool isMove =
         deed.IsClick(807) || deed.IsClick(808) || deed.Is("Alt+Up") || deed.Is("Alt+Down");
     if (deed.IsClick(805) && from.selected >= 0)

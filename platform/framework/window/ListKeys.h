@@ -5,6 +5,11 @@
 
 namespace tq {
 
+// Those that come only with Control.
+constexpr bool IsLetterKey(WindowKey key) {
+  return key >= WindowKey::A;
+}
+
 // The list that keys act on. Row numbers given to it are valid.
 class KeyedList {
 public:

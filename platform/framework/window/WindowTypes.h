@@ -55,10 +55,6 @@ enum class WindowKey {
   Z,
 };
 
-constexpr bool IsLetterKey(WindowKey key) {
-  return key >= WindowKey::A;
-}
-
 // What is held down while a key is pressed.
 struct WindowHeldKeys {
   bool shift = false;

@@ -5,6 +5,7 @@
 
 #include "platform/framework/window/CEdit.h"
 #include "platform/framework/window/DialogAccess.h"
+#include "platform/framework/window/ListKeys.h"
 #include "platform/framework/window/Mnemonic.h"
 #include "platform/win32/window/WindowFocus.h"
 #include "platform/win32/window/WindowListKeys.h"
