@@ -41,4 +41,16 @@ INSTANTIATE_TEST_SUITE_P(Of, HostileFile,
                                          "<List ID='a' Name='b' Value='c'/>",
                                          "\n<List ID='a' Name='\xA4' Value='c'/>"));
 
+// Each of many openings would look for the one end of them all.
+TEST(HostileFile, OneEndBehindManyOpenings) {
+  for (const std::string opening : {"<!--", "<![CDATA["}) {
+    std::string file;
+    while (file.size() < std::size_t{1} << 20)
+      file += opening;
+    const auto outcome = recovery::Recover(file + "]]>-->", tq::TextEncoding::Big5);
+    EXPECT_TRUE(outcome.lists.empty());
+    EXPECT_TRUE(outcome.Has(tq::Fault::NoLists));
+  }
+}
+
 } // namespace
