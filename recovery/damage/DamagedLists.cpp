@@ -62,8 +62,8 @@ bool DamagedLists::TakePiece(RawList& list) {
   return true;
 }
 
-// The list at `begin` if it is a well-formed element with everything that a list has, and ends
-// where one can.
+// The list at `begin` if it is a well-formed element with everything that a list has, and ends where
+// one can.
 bool DamagedLists::ReadWhole(std::size_t begin, RawList& list) {
   std::size_t end = begin;
   faults_.Clear();
@@ -92,10 +92,10 @@ bool DamagedLists::TakePart(RawList& list) {
     TakeInstruction();
     return false;
   case Opening::Comment:
-    TakeThrough(comment_);
+    TakeThrough("<!--", "-->", commentEnd_);
     return false;
   case Opening::CharacterData:
-    TakeThrough(data_);
+    TakeThrough("<![CDATA[", "]]>", dataEnd_);
     return false;
   case Opening::Type:
     TakeType();
@@ -181,18 +181,18 @@ void DamagedLists::TakeInstruction() {
 }
 
 // A comment or a CDATA section that ends; without its end it is only what opens it.
-void DamagedLists::TakeThrough(Section& section) {
+void DamagedLists::TakeThrough(std::string_view opening, std::string_view closing,
+                               std::size_t& end) {
   const std::size_t begin = at_;
-  at_ += section.opening.size();
-  if (section.end < at_)
-    section.end = text_.find(section.closing, at_);
-  const std::size_t end = section.end;
+  at_ += opening.size();
+  if (end < at_)
+    end = text_.find(closing, at_);
   // What holds another opening was not closed where it should have been.
-  const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(section.opening, at_);
+  const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(opening, at_);
   if (end != std::string_view::npos && other == std::string_view::npos)
-    at_ = end + section.closing.size();
+    at_ = end + closing.size();
   else
-    Note(Fault::BrokenMarkup, begin, section.opening.size());
+    Note(Fault::BrokenMarkup, begin, opening.size());
 }
 
 void DamagedLists::TakeType() {

@@ -21,14 +21,6 @@ public:
   bool Next(RawList& list) override;
 
 private:
-  // A kind of markup that goes on up to its closing.
-  struct Section {
-    std::string_view opening;
-    std::string_view closing;
-    std::size_t end =
-        0; // of the next closing that was looked for, so that none is looked for twice
-  };
-
   bool TakePiece(RawList& list);
   bool ReadWhole(std::size_t begin, RawList& list);
   bool TakePart(RawList& list);
@@ -36,7 +28,7 @@ private:
   void TakeLists();
   void TakeTag(Opening opening);
   void TakeInstruction();
-  void TakeThrough(Section& section);
+  void TakeThrough(std::string_view opening, std::string_view closing, std::size_t& end);
   void TakeType();
   bool TakeRemains();
   void TakeDamagedIndex(std::size_t begin, std::size_t end);
@@ -55,8 +47,9 @@ private:
   bool secondFile_ = false;
   bool brokenEnd_ = false;
   bool typed_ = false;
-  Section comment_{"<!--", "-->"};
-  Section data_{"<![CDATA[", "]]>"};
+  // The next "-->" and "]]>", found once for all openings in front of them.
+  std::size_t commentEnd_ = 0;
+  std::size_t dataEnd_ = 0;
 };
 
 } // namespace tq

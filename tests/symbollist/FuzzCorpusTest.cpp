@@ -14,6 +14,7 @@
 #include "fuzz/IdentifiersInput.h"
 #include "fuzz/ImportFileInput.h"
 #include "fuzz/ListFileInput.h"
+#include "fuzz/RecoveryInput.h"
 #include "fuzz/SequenceInput.h"
 
 namespace {
@@ -62,6 +63,11 @@ TEST_F(FuzzCorpus, ImportedListsAreWholeAndComeBack) {
 
 TEST_F(FuzzCorpus, NoTextInADialogMakesAListThatDoesNotComeBack) {
   Replay("DialogText", fuzz::CheckDialogText);
+}
+
+TEST_F(FuzzCorpus, DamagedListFilesComeBackAsTextThatCanBeSaved) {
+  Replay("Recovery", fuzz::CheckRecovery);
+  Replay("ListFile", fuzz::CheckRecovery);
 }
 
 TEST_F(FuzzCorpus, IdStringsAreSplitAndResolvedAsTheirTextSays) {
