@@ -22,7 +22,7 @@ struct Opened {
 
 class Session {
 public:
-  Session(const Request& request, Streams& streams) : request(request), streams(streams) {}
+  Session(const Request& asked, Streams& process) : request(asked), streams(process) {}
 
   const Request& request;
   Streams& streams;
