@@ -22,6 +22,7 @@ public:
 
 private:
   bool TakePiece(RawList& list);
+  bool ReadWhole(std::size_t begin, RawList& list);
   bool TakePart(RawList& list);
   bool TakeList(RawList& list);
   void TakeLists();
