@@ -17,6 +17,7 @@ namespace tqlists {
 // A file of lists in any format.
 struct Opened {
   Input input;
+  Format format = Format::Unknown;
   std::unique_ptr<Reader> reader;
 };
 
