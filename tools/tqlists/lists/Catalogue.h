@@ -33,8 +33,8 @@ public:
     std::size_t place = 0; // among those that are kept
     bool isNew = false;    // false: the same list is there already
   };
-  // Brings an encoded list within the lengths that a list keeps. A list of the same identifier, name
-  // and symbols is there once; another one of that identifier gets a new one, which depends on
+  // Brings an encoded list within the lengths that a list keeps. A list of the same identifier,
+  // name and symbols is there once; another one of that identifier gets a new one, which depends on
   // nothing but what it holds.
   Stored Add(List& list, const Tell& tell);
 
