@@ -62,6 +62,12 @@ TEST_F(ListsMerge, TheListShownFirstIsThatOfTheFirstFile) {
   EXPECT_NE(streams.out.find("DefaultIdx='1'"), std::string::npos);
 }
 
+TEST_F(ListsMerge, CharactersThatUsersDefinedStayInTheirEncoding) {
+  EXPECT_EQ(Merge({ListLine("1", "\xFA\x40", "x"), ListLine("2", "\xFA\x41", "y")}),
+            ListFile("big5", 0, ListLine("1", "\xFA\x40", "x") + ListLine("2", "\xFA\x41", "y")));
+  EXPECT_EQ(code_, 0) << streams.err;
+}
+
 TEST_F(ListsMerge, ALongNameIsCutAtAWholeCharacterAsATerminalKeepsIt) {
   std::string name;
   for (int i = 0; i < 33; ++i)

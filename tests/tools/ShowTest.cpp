@@ -77,7 +77,7 @@ TEST_F(ListsExport, CsvIsQuotedAndItsRecordsEndAsTheyShould) {
 TEST_F(ListsExport, AFileForEachListKeepsOrderAndNamesApart) {
   const std::string path = Put("a.xml", kTwoLists);
   ASSERT_EQ(Run({"export", path, "--directory", Path("lists")}), 0) << streams.err;
-  ASSERT_TRUE(std::filesystem::exists(std::filesystem::u8path(Path("lists/001 許功蓋.txt"))));
+  ASSERT_TRUE(std::filesystem::exists(Path("lists") / std::filesystem::path(u8"001 許功蓋.txt")));
   EXPECT_EQ(Get("lists/002 b.txt"), "# List: b\n# Id: 22\n# Default\n");
 }
 

@@ -94,7 +94,8 @@ std::string DecodeFile(std::string_view bytes, tq::TextEncoding encoding,
     std::string utf8;
     if (!tq::DecodeUtf16(bytes, utf8))
       bad(0);
-    return utf8;
+    // What is no character in UTF-8 either, such as U+FFFF.
+    return DecodeValidRuns(utf8, tq::TextEncoding::Utf8, [&](std::size_t) { bad(0); });
   }
   if (!bytes.starts_with(kUtf8Mark))
     return DecodeValidRuns(bytes, encoding, bad);

@@ -38,7 +38,7 @@ std::unique_ptr<Reader> MakeReader(Format format, std::string_view bytes, const 
   case Format::Json:
     return MakeJsonReader(bytes, stem);
   default:
-    return MakeListFileReader(bytes, assumed);
+    return MakeListFileReader(bytes, {tq::TextEncoding::Utf8, assumed});
   }
 }
 

@@ -51,7 +51,9 @@ protected:
 std::unique_ptr<Reader> MakeReader(Format format, std::string_view bytes, const std::string& stem,
                                    tq::TextEncoding assumed);
 
-std::unique_ptr<Reader> MakeListFileReader(std::string_view bytes, tq::TextEncoding assumed);
+// The texts come in the encoding that `options` ask for.
+std::unique_ptr<Reader> MakeListFileReader(std::string_view bytes,
+                                           const tq::RecoveryOptions& options);
 std::unique_ptr<Reader> MakeTextReader(std::string_view bytes, const std::string& stem);
 std::unique_ptr<Reader> MakeCsvReader(std::string_view bytes, const std::string& stem);
 std::unique_ptr<Reader> MakeJsonReader(std::string_view bytes, const std::string& stem);

@@ -6,14 +6,13 @@ namespace {
 
 class ListFileReader : public Reader {
 public:
-  ListFileReader(std::string_view bytes, tq::TextEncoding assumed) : bytes_(bytes) {
-    options_.assumed = assumed;
-  }
+  ListFileReader(std::string_view bytes, const tq::RecoveryOptions& options)
+      : bytes_(bytes), options_(options) {}
   void Read(const TakeList& take, Notes& notes, Progress& progress) override;
 
 private:
   const std::string_view bytes_;
-  tq::RecoveryOptions options_;
+  const tq::RecoveryOptions options_;
 };
 
 void ListFileReader::Read(const TakeList& take, Notes& notes, Progress& progress) {
@@ -34,8 +33,9 @@ void ListFileReader::Read(const TakeList& take, Notes& notes, Progress& progress
 
 } // namespace
 
-std::unique_ptr<Reader> MakeListFileReader(std::string_view bytes, tq::TextEncoding assumed) {
-  return std::make_unique<ListFileReader>(bytes, assumed);
+std::unique_ptr<Reader> MakeListFileReader(std::string_view bytes,
+                                           const tq::RecoveryOptions& options) {
+  return std::make_unique<ListFileReader>(bytes, options);
 }
 
 } // namespace tqlists

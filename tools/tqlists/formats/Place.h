@@ -21,8 +21,9 @@ public:
   Place Find(std::size_t offset) {
     offset = std::min(offset, text_.size());
     for (; at_ < offset; ++at_) {
-      place_.column = text_[at_] == '\n' ? 1 : place_.column + 1;
-      place_.line += text_[at_] == '\n' ? 1 : 0;
+      const bool lineEnd = text_[at_] == '\n';
+      place_.line += lineEnd ? 1U : 0U;
+      place_.column = lineEnd ? 1 : place_.column + 1;
     }
     return place_;
   }

@@ -44,9 +44,12 @@ std::string Catalogue::Encode(const std::string& text, const char* what, const T
   return encoded;
 }
 
-Catalogue::Stored Catalogue::Add(List& list, const Tell& tell) {
-  list = {Encode(list.id, "the identifier", tell), Encode(list.name, "the name", tell),
+List Catalogue::Encoded(const List& list, const Tell& tell) {
+  return {Encode(list.id, "the identifier", tell), Encode(list.name, "the name", tell),
           Encode(list.symbols, "the symbol string", tell)};
+}
+
+Catalogue::Stored Catalogue::Add(List& list, const Tell& tell) {
   constexpr std::uint64_t basis = 0xCBF29CE484222325;
   Contents contents{ChecksumOf(list, basis), ChecksumOf(list, ~basis), lists_};
   std::vector<Contents>& same = wanted_[LowerCase(list.id)];

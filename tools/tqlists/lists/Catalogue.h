@@ -23,6 +23,9 @@ public:
 
   explicit Catalogue(tq::TextEncoding encoding) : encoder_(encoding) {}
 
+  // Puts a list from UTF-8 into the encoding.
+  List Encoded(const List& list, const Tell& tell);
+
   // Lists of one file may have one name, those of different files do not.
   void BeginFile() { ++file_; }
 
@@ -30,9 +33,9 @@ public:
     std::size_t place = 0; // among those that are kept
     bool isNew = false;    // false: the same list is there already
   };
-  // Brings `list` into the form in which it is stored: in the encoding, within the lengths that a
-  // list keeps. A list of the same identifier, name and symbols is there once; another one of that
-  // identifier gets a new one, which depends on nothing but what it holds.
+  // Brings an encoded list within the lengths that a list keeps. A list of the same identifier,
+  // name and symbols is there once; another one of that identifier gets a new one, which depends on
+  // nothing but what it holds.
   Stored Add(List& list, const Tell& tell);
 
 private:

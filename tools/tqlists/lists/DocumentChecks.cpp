@@ -73,8 +73,8 @@ std::size_t CheckTrading(std::string_view document, Notes& notes) {
   for (Tag tag; tags.Next(tag);) {
     if (tag.opens)
       CheckTradingTag(tag, depth, systems, places);
-    depth += tag.opens ? 1 : 0;
-    depth -= tag.closes && depth > 0 ? 1 : 0;
+    depth += tag.opens ? 1U : 0U;
+    depth -= tag.closes && depth > 0 ? 1U : 0U;
   }
   return systems;
 }
@@ -98,11 +98,11 @@ std::size_t CheckImport(std::string_view document, Notes& notes) {
       hasIds = true;
       isList = !tag.closes && !Trimmed(tags.TextBehind()).empty();
     }
-    depth += tag.opens ? 1 : 0;
-    depth -= tag.closes && depth > 0 ? 1 : 0;
+    depth += tag.opens ? 1U : 0U;
+    depth -= tag.closes && depth > 0 ? 1U : 0U;
     if (!tag.closes || depth != 1)
       continue;
-    lists += isList ? 1 : 0;
+    lists += isList ? 1U : 0U;
     if (!isList)
       places.Add(node, "a node without IDs: it gives no list");
   }

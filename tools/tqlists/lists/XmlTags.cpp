@@ -47,7 +47,7 @@ void XmlTags::ReadTag(Tag& tag) {
   tag = {};
   tag.offset = at_++;
   const bool end = at_ < document_.size() && document_[at_] == '/';
-  at_ += end ? 1 : 0;
+  at_ += end ? 1U : 0U;
   tag.name = NameAt(document_, at_);
   at_ += tag.name.size();
   for (;;) {

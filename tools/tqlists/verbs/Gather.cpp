@@ -18,6 +18,12 @@ struct Gathered {
   std::size_t lists = 0;
 };
 
+// For messages.
+std::string TitleOf(const List& list, bool encoded, tq::TextEncoding encoding) {
+  const std::string title = "\"" + list.name + "\" " + list.id;
+  return encoded ? DecodeFile(title, encoding, [](std::size_t) {}) : title;
+}
+
 // Hands each list that is kept to `take`, in the form in which it is stored. `read` reads a file.
 template <typename ReadFile, typename Tell, typename Take>
 Gathered ReadAll(const Files& files, tq::TextEncoding encoding, ReadFile read, Tell tell,
@@ -28,10 +34,14 @@ Gathered ReadAll(const Files& files, tq::TextEncoding encoding, ReadFile read, T
     std::vector<std::size_t> places; // of the file's lists among all
     catalogue.BeginFile();
     read(*file, [&](List&& list) {
-      const std::string title = "\"" + list.name + "\" " + list.id + ": ";
-      const Catalogue::Stored stored = catalogue.Add(list, [&](const std::string& change) {
-        tell(file->input.Name() + ": " + title + change);
-      });
+      const bool encoded = file->format == Format::Lists;
+      const auto tellOfList = [&, title =
+                                      TitleOf(list, encoded, encoding)](const std::string& change) {
+        tell(file->input.Name() + ": " + title + ": " + change);
+      };
+      if (!encoded)
+        list = catalogue.Encoded(list, tellOfList);
+      const Catalogue::Stored stored = catalogue.Add(list, tellOfList);
       places.push_back(stored.place);
       if (!stored.isNew)
         return;
@@ -61,6 +71,11 @@ int Gather(Session& session, Format otherwise) {
   for (const std::string& path : request.files)
     files.push_back(session.Open(path, otherwise));
   const tq::TextEncoding encoding = EncodingFor(session, *files.front());
+  // Text that is in the encoding already passes unchanged, characters of the user's own included.
+  for (const auto& file : files) {
+    if (file->format == Format::Lists)
+      file->reader = MakeListFileReader(file->input.bytes, {encoding, request.assumed});
+  }
   const Gathered gathered = ReadAll(
       files, encoding, [&](Opened& file, const TakeList& take) { session.Read(file, take); },
       [&](const std::string& line) { session.Find(line); }, [](const List&) {});

@@ -28,7 +28,7 @@ Survey Recover(Session& session, const Input& input, tq::TextEncoding encoding, 
   Survey survey;
   while (recovery.Next(list)) {
     progress.At(list.offset);
-    survey.lists += list.fate == tq::ListFate::Lost ? 0 : 1;
+    survey.lists += list.fate == tq::ListFate::Lost ? 0U : 1U;
     take(list);
   }
   for (const tq::Finding& finding : recovery.Findings())
@@ -67,7 +67,7 @@ public:
                  ": " + kFates[static_cast<std::size_t>(list.fate)]);
     for (const tq::Finding& finding : list.findings)
       AddFinding(notes_, finding);
-    session_.CountFindings(list.fate == tq::ListFate::Whole ? 0 : 1);
+    session_.CountFindings(list.fate == tq::ListFate::Whole ? 0U : 1U);
     TellReferences(list);
   }
   void TellWholeListsToo() { tellWhole_ = true; }

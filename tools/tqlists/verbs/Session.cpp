@@ -34,13 +34,13 @@ std::unique_ptr<Opened> Session::Open(const std::string& path, Format otherwise)
   auto opened = std::make_unique<Opened>();
   Input& input = opened->input;
   input = ReadInput(path, streams);
-  const Format format =
+  opened->format =
       request.from == Format::Unknown ? FormatOf(input.bytes, path, otherwise) : request.from;
-  if (format != Format::Lists) {
+  if (opened->format != Format::Lists) {
     FileNotes notes(input.Name(), [&](const std::string& line) { Find(line); });
     DecodeInput(input, request.encoding.value_or(tq::TextEncoding::Utf8), notes);
   }
-  opened->reader = MakeReader(format, input.bytes, input.Stem(), request.assumed);
+  opened->reader = MakeReader(opened->format, input.bytes, input.Stem(), request.assumed);
   return opened;
 }
 

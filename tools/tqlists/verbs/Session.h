@@ -17,12 +17,13 @@ namespace tqlists {
 // A file of lists in any format.
 struct Opened {
   Input input;
+  Format format = Format::Unknown;
   std::unique_ptr<Reader> reader;
 };
 
 class Session {
 public:
-  Session(const Request& request, Streams& streams) : request(request), streams(streams) {}
+  Session(const Request& asked, Streams& process) : request(asked), streams(process) {}
 
   const Request& request;
   Streams& streams;

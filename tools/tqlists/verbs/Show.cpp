@@ -21,7 +21,8 @@ std::string RightAligned(const std::string& text, std::size_t columns) {
 
 std::string CountOf(const List& list) {
   std::size_t symbols = 0;
-  ForEachEntry(list.symbols, [&](std::string_view entry) { symbols += IsHeading(entry) ? 0 : 1; });
+  ForEachEntry(list.symbols,
+               [&](std::string_view entry) { symbols += IsHeading(entry) ? 0U : 1U; });
   return std::to_string(symbols);
 }
 
