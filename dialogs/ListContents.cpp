@@ -1,6 +1,7 @@
 #include "dialogs/ListContents.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "idlist/IdString.h"
@@ -78,94 +79,71 @@ bool ListContents::Holds(std::string_view id) const {
 
 int ListContents::Insert(int row, std::span<const SymbolInfo> symbols) {
   std::vector<Entry> fresh;
+  std::unordered_set<std::string_view, NoCaseHash, NoCaseEqual> seen;
   for (const SymbolInfo& symbol : symbols) {
     const std::string_view id = IdOf(symbol);
-    if (!CanHold(id) || Holds(id))
-      continue;
-    ids_.emplace(id);
-    fresh.push_back({std::string(id), std::string(FieldText(symbol.name)), Entry::Kind::Symbol});
+    if (CanHold(id) && !Holds(id) && seen.insert(Trimmed(id)).second)
+      fresh.push_back({std::string(id), std::string(FieldText(symbol.name)), Entry::Kind::Symbol});
   }
-  entries_.insert(PlaceOf(row), std::make_move_iterator(fresh.begin()),
-                  std::make_move_iterator(fresh.end()));
-  NumberRows();
-  changed_ = changed_ || !fresh.empty();
-  return static_cast<int>(fresh.size());
+  const int count = static_cast<int>(fresh.size());
+  if (count > 0)
+    Do(Spliced{{{PlaceOf(row), count}}, std::move(fresh), false});
+  return count;
 }
 
 void ListContents::InsertHeading(int row, const CString& entry) {
-  entries_.insert(PlaceOf(row), {std::string(ViewOf(entry)), {}, Entry::Kind::Heading});
-  NumberRows();
-  changed_ = true;
+  Do(Spliced{{{PlaceOf(row), 1}}, {{std::string(ViewOf(entry)), {}, Entry::Kind::Heading}}, false});
 }
 
 void ListContents::SetHeading(int row, const CString& entry) {
-  At(row).text = ViewOf(entry);
-  changed_ = true;
+  if (At(row).text != ViewOf(entry))
+    Do(Retitled{row, std::string(ViewOf(entry))});
 }
 
 void ListContents::Remove(std::span<const int> rows) {
-  std::vector<Entry> kept;
-  kept.reserve(entries_.size());
-  auto next = rows.begin();
-  std::size_t row = 0;
-  for (Entry& entry : entries_) {
-    const bool hasRow = entry.kind != Entry::Kind::Unknown;
-    if (hasRow && next != rows.end() && static_cast<std::size_t>(*next) == row) {
-      ++next;
-      if (entry.kind == Entry::Kind::Symbol)
-        ids_.erase(ids_.find(Trimmed(entry.text)));
-    } else {
-      kept.push_back(std::move(entry));
-    }
-    row += hasRow ? 1 : 0;
-  }
-  changed_ = changed_ || kept.size() != entries_.size();
-  entries_ = std::move(kept);
-  NumberRows();
+  Spliced removed{{}, {}, true};
+  for (const int row : rows)
+    AddPlace(removed.places, PlaceOf(row));
+  if (!rows.empty())
+    Do(std::move(removed));
 }
 
 bool ListContents::Move(std::span<const int> rows, bool up) {
   if (rows.empty() || (up ? rows.front() <= 0 : rows.back() >= RowCount() - 1))
     return false;
-  if (up) {
-    for (const int row : rows)
-      std::swap(At(row), At(row - 1));
-  } else {
-    for (std::size_t i = rows.size(); i > 0; --i)
-      std::swap(At(rows[i - 1]), At(rows[i - 1] + 1));
-  }
-  changed_ = true;
+  Moved moved{{}, up};
+  for (const int row : rows)
+    AddPlace(moved.rows, row);
+  Do(std::move(moved));
   return true;
 }
 
 void ListContents::Sort() {
-  const auto isBefore = [this](std::size_t left, std::size_t right) {
-    return entries_[left].text < entries_[right].text;
-  };
-  const auto isHeading = [this](std::size_t place) {
-    return entries_[place].kind == Entry::Kind::Heading;
-  };
-  for (auto first = rows_.begin(); first != rows_.end();) {
-    const auto last = std::find_if(first, rows_.end(), isHeading);
-    if (!std::is_sorted(first, last, isBefore))
-      SortRows({first, last});
-    first = last == rows_.end() ? last : last + 1;
+  std::vector<int> order(rows_.size());
+  std::iota(order.begin(), order.end(), 0);
+  const auto isBefore = [this](int left, int right) { return At(left).text < At(right).text; };
+  const auto isHeading = [this](int row) { return IsHeading(row); };
+  for (auto first = order.begin(); first != order.end();) {
+    const auto last = std::find_if(first, order.end(), isHeading);
+    std::stable_sort(first, last, isBefore);
+    first = last == order.end() ? last : last + 1;
   }
-}
-
-void ListContents::SortRows(std::span<const std::size_t> places) {
-  std::vector<Entry> symbols;
-  for (const std::size_t place : places)
-    symbols.push_back(std::move(entries_[place]));
-  std::stable_sort(symbols.begin(), symbols.end(),
-                   [](const Entry& left, const Entry& right) { return left.text < right.text; });
-  for (std::size_t i = 0; i < places.size(); ++i)
-    entries_[places[i]] = std::move(symbols[i]);
-  changed_ = true;
+  int first = 0;
+  int end = RowCount();
+  while (first < end && order[static_cast<std::size_t>(first)] == first)
+    ++first;
+  while (end > first && order[static_cast<std::size_t>(end - 1)] == end - 1)
+    --end;
+  if (first == end)
+    return;
+  Sorted sorted{first, {}};
+  for (int row = first; row < end; ++row)
+    sorted.order.push_back(order[static_cast<std::size_t>(row)] - first);
+  Do(std::move(sorted));
 }
 
 CString ListContents::Ids() const {
-  if (!changed_)
+  if (!IsChanged())
     return idsBefore_;
   std::string ids;
   for (const Entry& entry : entries_) {
@@ -177,10 +155,9 @@ CString ListContents::Ids() const {
 }
 
 // Behind the last row also means behind the unknown ids that end the list.
-std::vector<ListContents::Entry>::iterator ListContents::PlaceOf(int row) {
-  if (row >= RowCount())
-    return entries_.end();
-  return entries_.begin() + static_cast<std::ptrdiff_t>(rows_[static_cast<std::size_t>(row)]);
+int ListContents::PlaceOf(int row) const {
+  return static_cast<int>(row >= RowCount() ? entries_.size()
+                                            : rows_[static_cast<std::size_t>(row)]);
 }
 
 void ListContents::NumberRows() {

@@ -1,17 +1,24 @@
-// What a content editor does to one list: its rows, without a window.
+// What a content editor does to one list, and takes back: its rows, without a window.
 //
 // A row is a symbol that the symbol-data service knows, or a heading. Ids that it does not know
 // have no row; they keep their places among the others and come back in the list's string as they
 // were written. No symbol is added twice, whatever its letter case; headings may repeat.
+//
+// Every edit that changes something is one step, and holds no more than what it changed: entries
+// that are taken out lie in the step until they are put in again.
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <variant>
 #include <vector>
 
+#include "dialogs/undo/History.h"
+#include "dialogs/undo/PlaceRuns.h"
 #include "platform/framework/CString.h"
 #include "platform/services/VLRecords.h"
 #include "symbollist/ListIndex.h"
@@ -19,6 +26,12 @@
 class CSymbolList;
 
 namespace tq {
+
+// What is selected in the box that shows the rows, and its caret row.
+struct RowSelection {
+  PlaceRuns rows;
+  int caret = -1;
+};
 
 class ListContents {
 public:
@@ -59,8 +72,29 @@ public:
   // Sorts the symbols by their ids, those of each heading by themselves; headings stay.
   void Sort();
 
-  // The id string of the list: that of before until something is changed.
+  // The id string of the list: that of before while nothing is changed.
   CString Ids() const;
+
+  // --- Steps (ListContentsSteps.cpp)
+
+  // The steps that are done. One more behind an edit that changed something.
+  std::size_t Steps() const { return history_.Done(); }
+  // What was selected in front of the latest step, and is behind it.
+  void KeepSelection(RowSelection before, RowSelection after);
+
+  // What a step did to the rows: from `first` on there are `now` rows in the place of `before`.
+  struct Turned {
+    const RowSelection& selected; // valid until the next edit
+    int first;
+    int before;
+    int now;
+  };
+  // Take the latest step back, and do again what was taken back last. None when there is no such
+  // step.
+  std::optional<Turned> Undo();
+  std::optional<Turned> Redo();
+  // What was done so far stays.
+  void ForgetSteps();
 
 private:
   struct Entry {
@@ -69,15 +103,56 @@ private:
     enum class Kind { Unknown, Symbol, Heading } kind = Kind::Unknown;
   };
 
-  std::vector<Entry>::iterator PlaceOf(int row);
+  // A change is done or it is not: what does the one does the other.
+  struct Spliced {
+    PlaceRuns places;       // of the entries, when they are in
+    std::vector<Entry> out; // the entries, while they are not
+    bool isIn;
+  };
+  struct Retitled {
+    int row;
+    std::string text; // the other one
+  };
+  struct Moved {
+    PlaceRuns rows; // as they lie now
+    bool up;        // where they go next
+  };
+  struct Sorted {
+    int first;
+    std::vector<int> order; // behind `first`, of each row that which comes there
+  };
+  using Change = std::variant<Spliced, Retitled, Moved, Sorted>;
+  struct Step {
+    Change change;
+    RowSelection before;
+    RowSelection after;
+  };
+  // The rows in front of those that change, and behind them.
+  struct Margins {
+    int before;
+    int behind;
+  };
+
+  void Do(Change change);
+  Turned Turn(Change& change, const RowSelection& selected);
+  Margins Apply(Spliced& change);
+  Margins Apply(Retitled& change);
+  Margins Apply(Moved& change);
+  Margins Apply(Sorted& change);
+  void TakeOut(Spliced& change);
+  void PutIn(Spliced& change);
+
+  bool IsChanged() const { return changed_ || history_.Done() > 0; }
+  int PlaceOf(int row) const;
+  int RowsInFrontOf(int place) const;
   void NumberRows();
-  void SortRows(std::span<const std::size_t> places);
 
   const Entry& At(int row) const { return entries_[rows_[static_cast<std::size_t>(row)]]; }
   Entry& At(int row) { return entries_[rows_[static_cast<std::size_t>(row)]]; }
 
   CString idsBefore_;
-  bool changed_ = false;
+  bool changed_ = false; // by what cannot be taken back
+  History<Step> history_;
   std::vector<Entry> entries_;
   std::vector<std::size_t> rows_; // of each row its entry, ascending
   std::unordered_multiset<std::string, NoCaseHash, NoCaseEqual> ids_; // all but headings

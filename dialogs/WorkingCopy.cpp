@@ -103,9 +103,11 @@ private:
 bool WorkingCopy::TakeInChanges(CTQSymbolListMgr& manager) {
   if (kind_ == 0)
     return true;
+  history_.Clear();
   WorkingCopy now(manager, kind_);
   if (IsUntouched()) {
     const bool same = AreKnown(now.lists_);
+    now.keepsSteps_ = keepsSteps_;
     *this = std::move(now);
     return same;
   }
@@ -146,6 +148,11 @@ int WorkingCopy::Find(const char* id) const {
   return -1;
 }
 
+void WorkingCopy::Clear() {
+  lists_.clear();
+  history_.Clear();
+}
+
 CPtrArray WorkingCopy::Pointers() const {
   CPtrArray pointers;
   for (const auto& list : lists_)
@@ -161,35 +168,62 @@ bool WorkingCopy::HasName(const CString& name, int except) const {
   return false;
 }
 
-int WorkingCopy::Add(std::unique_ptr<CSymbolList> list) {
+int WorkingCopy::Add(std::unique_ptr<CSymbolList> list, int selected) {
+  const int defaultBefore = defaultIndex_;
   lists_.push_back(std::move(list));
-  if (Count() == 1)
+  const int index = Count() - 1;
+  if (index == 0)
     defaultIndex_ = 0;
-  return Count() - 1;
+  Keep(Listed{index, nullptr}, defaultBefore, selected, index);
+  return index;
 }
 
 void WorkingCopy::Replace(int index, std::unique_ptr<CSymbolList> list) {
-  lists_[static_cast<std::size_t>(index)] = std::move(list);
+  const std::unique_ptr<CSymbolList> before =
+      std::exchange(lists_[static_cast<std::size_t>(index)], std::move(list));
+  if (!keepsSteps_)
+    return;
+  Edited edit = EditOf(index, *before, At(index));
+  if (!edit.ids.IsNone() || edit.name != At(index).GetName())
+    Keep(std::move(edit), defaultIndex_, index, index);
+}
+
+void WorkingCopy::Rename(int index, const CString& name) {
+  CSymbolList& list = At(index);
+  const CString before = list.GetName();
+  list.SetName(name);
+  if (list.GetName() != before)
+    Keep(Edited{index, before, {}}, defaultIndex_, index, index);
+}
+
+void WorkingCopy::MakeDefault(int index) {
+  const int before = std::exchange(defaultIndex_, index);
+  if (before != index)
+    Keep(Marked{}, before, index, index);
 }
 
 int WorkingCopy::Remove(int index, DefaultRule rule) {
-  lists_.erase(lists_.begin() + index);
+  const int defaultBefore = defaultIndex_;
+  std::unique_ptr<CSymbolList> removed = Take(index);
   const int selected = std::min(index, Count() - 1);
   if (index == defaultIndex_ && rule == DefaultRule::StaysInPlace)
     defaultIndex_ = selected;
   else if (index <= defaultIndex_)
     --defaultIndex_;
+  Keep(Listed{index, std::move(removed)}, defaultBefore, index, selected);
   return selected;
 }
 
 int WorkingCopy::Swap(int index, int neighbour) {
-  if (index < 0 || index >= Count() || neighbour < 0 || neighbour >= Count())
+  if (!Has(index) || !Has(neighbour))
     return -1;
+  const int defaultBefore = defaultIndex_;
   std::swap(lists_[static_cast<std::size_t>(index)], lists_[static_cast<std::size_t>(neighbour)]);
   if (defaultIndex_ == index)
     defaultIndex_ = neighbour;
   else if (defaultIndex_ == neighbour)
     defaultIndex_ = index;
+  Keep(Swapped{index, neighbour}, defaultBefore, index, neighbour);
   return neighbour;
 }
 

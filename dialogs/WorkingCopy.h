@@ -1,10 +1,18 @@
 // The lists that a dialog edits: copies of the manager's, invisible to others until they are
-// committed. What the editors do to them, without a window.
+// committed. What the editors do to them, and take back, without a window.
+//
+// Where steps are kept, every edit that changes something is one. A step holds no more than what it
+// changed: a list that was removed lies in its step, of a list whose contents were edited it has
+// the symbols that came, went or moved.
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <variant>
 #include <vector>
 
+#include "dialogs/undo/History.h"
+#include "dialogs/undo/IdsChange.h"
 #include "platform/framework/CPtrArray.h"
 #include "platform/framework/CString.h"
 #include "symbollist/SymbolList.h"
@@ -33,7 +41,7 @@ public:
   CSymbolList& At(int index) const { return *lists_[static_cast<std::size_t>(index)]; }
   // Position of the list with that id, ignoring letter case, or -1.
   int Find(const char* id) const;
-  void Clear() { lists_.clear(); }
+  void Clear();
 
   // Takes in what others did to the manager's lists since this copy was filled or committed, so
   // that a commit does not undo it: lists that are new there come behind these, and lists and the
@@ -41,6 +49,7 @@ public:
   // or deleted stays so; lists that others deleted stay too.
   // False when the user has touched nothing and others have: then there is nothing to commit, and
   // a save would store what others may have changed in memory alone.
+  // The steps are forgotten: they are those of the lists as they were.
   bool TakeInChanges(CTQSymbolListMgr& manager);
   // The manager has these lists now.
   void Committed();
@@ -58,8 +67,12 @@ public:
   bool HasName(const CString& name, int except) const;
 
   // Adds a list behind the others and returns its position. The only list is the default one.
-  int Add(std::unique_ptr<CSymbolList> list);
+  // `selected` is the position that is selected meanwhile, for the step.
+  int Add(std::unique_ptr<CSymbolList> list, int selected = -1);
+  // By another version of the same list.
   void Replace(int index, std::unique_ptr<CSymbolList> list);
+  void Rename(int index, const CString& name);
+  void MakeDefault(int index);
 
   // What becomes of the default list when a list goes. The two dialogs differ here, and both are
   // meant as they are: do not make them agree.
@@ -76,7 +89,41 @@ public:
   int MoveUp(int index) { return Swap(index, index - 1); }
   int MoveDown(int index) { return Swap(index, index + 1); }
 
+  // --- Steps (WorkingCopySteps.cpp)
+
+  // From now on steps are kept.
+  void KeepSteps() { keepsSteps_ = true; }
+  // Take the latest step back, and do again what was taken back last. Both return the position that
+  // was selected in front of the step, or behind it, -1 for none; no value when there is no such
+  // step. A step that does not fit the lists does nothing, and all steps are forgotten.
+  std::optional<int> Undo();
+  std::optional<int> Redo();
+
 private:
+  // A change is done or it is not: what does the one does the other.
+  struct Marked {}; // the default index alone
+  struct Listed {
+    int index;
+    std::unique_ptr<CSymbolList> out; // the list, while it is not there
+  };
+  struct Swapped {
+    int index;
+    int neighbour;
+  };
+  struct Edited {
+    int index;
+    CString name; // the other one
+    IdsChange ids;
+  };
+  using Change = std::variant<Marked, Listed, Swapped, Edited>;
+  struct Step {
+    Change change;
+    int defaultBefore;
+    int defaultAfter;
+    int selectedBefore;
+    int selectedAfter;
+  };
+
   // A list of the manager's as it was last known.
   struct Known {
     CString id;
@@ -86,6 +133,18 @@ private:
   class Changes;
 
   int Swap(int index, int neighbour);
+  bool Has(int index) const { return index >= 0 && index < Count(); }
+  void Insert(int index, std::unique_ptr<CSymbolList> list);
+  std::unique_ptr<CSymbolList> Take(int index);
+
+  void Keep(Change change, int defaultBefore, int selectedBefore, int selectedAfter);
+  static Edited EditOf(int index, CSymbolList& before, CSymbolList& after);
+  std::optional<int> Turn(Step& step, int defaultIndex, int selected);
+  bool Apply(Marked& change);
+  bool Apply(Listed& change);
+  bool Apply(Swapped& change);
+  bool Apply(Edited& change);
+
   static Known Of(CSymbolList& list);
   static bool IsAs(CSymbolList& list, const Known& known);
   bool AreKnown(const Lists& lists) const;
@@ -100,6 +159,8 @@ private:
   int knownDefault_ = -1;
   CString knownDefaultId_;
   int kept_ = 0; // new lists that were taken in and are not reported
+  bool keepsSteps_ = false;
+  History<Step> history_;
 };
 
 } // namespace tq

@@ -1,5 +1,5 @@
-// Any bytes as the file of an older product: what is imported must be lists that are whole, and what
-// is saved with them must load again.
+// Any bytes as the file of an older product: what is imported must be lists that are whole, and
+// what is saved with them must load again.
 #pragma once
 
 #include <string>

@@ -206,16 +206,16 @@ public:
   // with the lists in memory as they were, when no list was found.
   int RepairSymbolList(TQRepairCounts& counts) noexcept;
   // Keeps, from now on, the working file as it was before the first save of each day, as
-  // "\SymbolList_YYYYMMDD.xml" beside it, YYYYMMDD being the local day of that save, and deletes the
-  // oldest of these files beyond `days`. 0, which is the default, or less: keeps none and deletes
-  // none. What cannot be kept is told in the log and tried again at the next save, which it does
-  // not hold up.
+  // "\SymbolList_YYYYMMDD.xml" beside it, YYYYMMDD being the local day of that save, and deletes
+  // the oldest of these files beyond `days`. 0, which is the default, or less: keeps none and
+  // deletes none. What cannot be kept is told in the log and tried again at the next save, which it
+  // does not hold up.
   void SetHistory(int days) noexcept;
   // Replaces `days` by the days that can be restored, "YYYYMMDD", the latest first. Returns their
   // number.
   int GetHistory(CStringArray& days) const noexcept;
-  // Loads the file of a day as RestorSymbolList loads the backup. Returns 0 and changes nothing when
-  // `day` is none, or there is no such file; else 1.
+  // Loads the file of a day as RestorSymbolList loads the backup. Returns 0 and changes nothing
+  // when `day` is none, or there is no such file; else 1.
   int RestoreHistory(const CString& day) noexcept;
   // For use after another program changed the file: LoadSymbolList, then, if Init was told so,
   // LoadSystemList with the names of Init (adds missing system lists) and LoadTSList (adds the list

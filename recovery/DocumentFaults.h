@@ -1,5 +1,6 @@
-// The faults of any XML file as the library's strict reading sees them (platform/xml/XmlDocument.h):
-// every place where a well-formed document could not go on, not the first one alone.
+// The faults of any XML file as the library's strict reading sees them
+// (platform/xml/XmlDocument.h): every place where a well-formed document could not go on, not the
+// first one alone.
 #pragma once
 
 #include <cstddef>

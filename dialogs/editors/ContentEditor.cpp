@@ -102,6 +102,11 @@ intptr_t ContentEditor::OnMessage(unsigned code, intptr_t, intptr_t) {
 
 // Enter in a field does what the button beside the field does, and not Done.
 bool ContentEditor::OnKey(int id, WindowKey key, WindowHeldKeys held) {
+  const HistoryWay way = HistoryWayOf(key, held);
+  if (way != HistoryWay::None && !IsTyping(id)) {
+    TakeStep(way);
+    return true;
+  }
   if (id == kRows)
     return OnListKey(key, held);
   if (key != WindowKey::Enter || held.alt || held.control)

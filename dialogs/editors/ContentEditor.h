@@ -3,6 +3,10 @@
 // The list is given by whoever opens the editor, and is changed only when the user is done: name
 // and symbols, and of a new list the identifier too. What the user does until then happens to
 // ListContents. The last row of the list box is always empty: it marks the place behind the others.
+//
+// Control and Z take back what the user did to the list, one step after the other, to what it was
+// when the editor opened. In a field that holds text, and in that of the name, the keys are the
+// field's own.
 #pragma once
 
 #include <span>
@@ -13,6 +17,7 @@
 #include "dialogs/editors/NameCheck.h"
 #include "dialogs/search/MarketChoice.h"
 #include "dialogs/search/SearchControls.h"
+#include "dialogs/undo/HistoryKeys.h"
 #include "platform/services/tqUI.h"
 
 namespace tq {
@@ -88,10 +93,17 @@ private:
   bool Refuse(int id, unsigned message);
 
   // --- The list (ContentEditorList.cpp)
+  // Lives while the user's action changes the list: the step that comes of it gets what was
+  // selected in front of it and behind it.
+  class Edit;
   void FillList();
   void ShowList(const std::vector<int>& selected, int caret);
   void ShowInserted(int row, int count);
+  void ShowTurned(const ListContents::Turned& turned);
+  void TakeStep(HistoryWay way);
+  bool IsTyping(int id) const;
   std::vector<int> SelectedRows() const; // without the empty row
+  RowSelection Selection() const;        // with it
   int InsertPlace() const;               // the first selected row, or the empty one
   void UpdateButtons();
   void RemoveSelected();
@@ -109,6 +121,7 @@ private:
   void AddTyped();
   void AddOne(const SymbolInfo& symbol);
   void AddAll();
+  void AddSymbols(int row, std::span<const SymbolInfo> symbols);
   void FindSimilar();
   void FindSimilarTo(const CString& text);
 

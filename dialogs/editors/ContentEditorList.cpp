@@ -3,7 +3,7 @@
 #include <cctype>
 
 #include "dialogs/DialogMessages.h"
-#include "dialogs/editors/ContentEditor.h"
+#include "dialogs/editors/ContentEdit.h"
 #include "dialogs/editors/ListBoxes.h"
 #include "idlist/RecordIndex.h"
 #include "platform/CodePage.h"
@@ -113,6 +113,7 @@ void ContentEditor::RemoveSelected() {
   const std::vector<int> rows = SelectedRows();
   if (rows.empty())
     return;
+  const Edit edit(*this);
   contents_.Remove(rows);
   CListBox list(*this, kRows);
   if (rows.size() == 1)
@@ -124,6 +125,7 @@ void ContentEditor::RemoveSelected() {
 }
 
 void ContentEditor::MoveSelected(bool up) {
+  const Edit edit(*this);
   std::vector<int> rows = SelectedRows();
   if (!contents_.Move(rows, up))
     return;
@@ -142,6 +144,7 @@ void ContentEditor::MoveSelected(bool up) {
 }
 
 void ContentEditor::SortList() {
+  const Edit edit(*this);
   contents_.Sort();
   FillList();
   UpdateButtons();
@@ -163,6 +166,7 @@ void ContentEditor::ApplyHeading() {
     Refuse(kHeading, kMessageNoRecord);
     return;
   }
+  const Edit edit(*this);
   CListBox list(*this, kRows);
   const int row = InsertPlace();
   if (row < contents_.RowCount() && contents_.IsHeading(row)) {
@@ -199,6 +203,7 @@ void ContentEditor::EnterSymbols() {
   ServiceArray<SymbolInfo> found("VLGetSymbolInfos");
   if (VLGetSymbolInfos(task_.symbols, found.List(), found.Count()) != 0)
     contents_.Insert(contents_.RowCount(), found.Records());
+  contents_.ForgetSteps();
 }
 
 void ContentEditor::TellDuplicates() {

@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "dialogs/DialogMessages.h"
-#include "dialogs/editors/ContentEditor.h"
+#include "dialogs/editors/ContentEdit.h"
 #include "dialogs/search/TypedSymbol.h"
 #include "idlist/RecordIndex.h"
 #include "platform/SymbolSearch.h"
@@ -43,7 +43,7 @@ void ContentEditor::AddPicked() {
   if (picked.size() == 1 && refused(picked.front()))
     AddOne(picked.front());
   else
-    ShowInserted(place, contents_.Insert(place, picked));
+    AddSymbols(place, picked);
 }
 
 void ContentEditor::AddTyped() {
@@ -83,8 +83,7 @@ void ContentEditor::AddOne(const SymbolInfo& symbol) {
     CListBox(*this, kRows).SetCurSel(rows.empty() ? -1 : rows.front());
     UpdateButtons();
   } else {
-    const int place = InsertPlace();
-    ShowInserted(place, contents_.Insert(place, {&symbol, 1}));
+    AddSymbols(InsertPlace(), {&symbol, 1});
   }
   field.SetText("");
 }
@@ -94,8 +93,12 @@ void ContentEditor::AddAll() {
   const CWaitCursor reading;
   const SymbolRows symbols =
       markets_.Symbols(CComboBox(*this, kMarket).GetCurSel(), CComboBox(*this, kGroup).GetCurSel());
-  const int place = InsertPlace();
-  ShowInserted(place, contents_.Insert(place, symbols.All()));
+  AddSymbols(InsertPlace(), symbols.All());
+}
+
+void ContentEditor::AddSymbols(int row, std::span<const SymbolInfo> symbols) {
+  const Edit edit(*this);
+  ShowInserted(row, contents_.Insert(row, symbols));
 }
 
 void ContentEditor::FindSimilar() {

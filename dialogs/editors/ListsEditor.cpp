@@ -7,7 +7,9 @@ namespace tq {
 
 ListsEditor::ListsEditor(const Kind& kind, const DialogSources& sources, const CWnd* parent)
     : CSingletonDlg(kEditorFamily, kind.templateId, parent, 0), kind_(kind),
-      pane_(sources, kind.lists, kind.hasDefault) {}
+      pane_(sources, kind.lists, kind.hasDefault) {
+  Copy().KeepSteps();
+}
 
 bool ListsEditor::OnInitDialog() {
   CTQIconButton(*this, kUp, WindowButtonIcon::Up);
@@ -60,6 +62,11 @@ intptr_t ListsEditor::OnMessage(unsigned code, intptr_t first, intptr_t second) 
 }
 
 bool ListsEditor::OnKey(int id, WindowKey key, WindowHeldKeys held) {
+  const HistoryWay way = HistoryWayOf(key, held);
+  if (way != HistoryWay::None && id != kNameField) {
+    TakeStep(way);
+    return true;
+  }
   if (id == kLists)
     return OnListKey(key, held);
   if (id != kNameField || held.alt || held.control)
@@ -132,7 +139,7 @@ void ListsEditor::MakeDefault() {
   const int row = pane_.Selected();
   if (row < 0)
     return;
-  Copy().SetDefaultIndex(row);
+  Copy().MakeDefault(row);
   CListBox(*this, kLists).RedrawItems();
 }
 
@@ -149,6 +156,14 @@ void ListsEditor::MoveList(bool up) {
     lists.SetCurSel(moved);
   }
   lists.RedrawItems();
+  UpdateButtons();
+}
+
+void ListsEditor::TakeStep(HistoryWay way) {
+  const std::optional<int> selected = way == HistoryWay::Undo ? Copy().Undo() : Copy().Redo();
+  if (!selected)
+    return;
+  pane_.Show(*selected);
   UpdateButtons();
 }
 
@@ -174,8 +189,7 @@ void ListsEditor::Rename(NameCheck::Voice voice) {
   if (renamed_ < 0)
     return;
   CListBoxEdit field(*this, kNameField);
-  CSymbolList& list = Copy().At(renamed_);
-  const CString name = TypedName(field, list.GetName());
+  const CString name = TypedName(field, Copy().At(renamed_).GetName());
   NameCheck check(*this, name, voice);
   const bool good = check.IsFree([this](const CString& text) { return IsTaken(text, renamed_); }) &&
                     check.IsFileName() && check.IsUnreserved() && check.CanBeLoaded();
@@ -185,7 +199,7 @@ void ListsEditor::Rename(NameCheck::Voice voice) {
     return;
   }
   if (good) {
-    list.SetName(name);
+    Copy().Rename(renamed_, name);
     pane_.ShowName(renamed_);
   }
   EndRenaming(voice == NameCheck::Voice::Spoken ? Focus::ToLists : Focus::Stays);

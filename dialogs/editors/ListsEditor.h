@@ -4,9 +4,13 @@
 // While a row is renamed the editor of names lies over it. Going elsewhere ends the renaming: a
 // good name is taken as with Enter, any other is dropped without a message, and what the user did
 // to go there is done.
+//
+// Control and Z take back what was done, one step after the other: a content editor that ended with
+// OK is one. In the editor of names the keys are the field's own.
 #pragma once
 
 #include "dialogs/editors/ListsPane.h"
+#include "dialogs/undo/HistoryKeys.h"
 
 namespace tq {
 
@@ -57,6 +61,7 @@ private:
   void DeleteList();
   void MakeDefault();
   void MoveList(bool up);
+  void TakeStep(HistoryWay way);
 
   // --- Renaming
   void StartRenaming();

@@ -11,8 +11,12 @@ void ListsPane::Open(const CWnd& dialog, int selected) {
   CListBoxMain lists(dialog_, kLists);
   lists.SetRowTips(true);
   CListBox(dialog_, kContents).SetRowTips(true);
-  lists.Fill(copy_);
-  Select(selected >= 0 && selected < copy_.Count() ? selected : std::min(0, copy_.Count() - 1));
+  Show(selected >= 0 && selected < copy_.Count() ? selected : std::min(0, copy_.Count() - 1));
+}
+
+void ListsPane::Show(int selected) {
+  CListBoxMain(dialog_, kLists).Fill(copy_);
+  Select(selected);
 }
 
 void ListsPane::Select(int row) {
@@ -48,7 +52,7 @@ bool ListsPane::MakeList(const CString& symbols) {
   if (!Edit(*list, ContentEditor::Mode::New, -1, symbols))
     return false;
   const CString name = DisplayName(*list);
-  const int row = copy_.Add(std::move(list));
+  const int row = copy_.Add(std::move(list), Selected());
   Lists().AddString(name);
   Select(row);
   return true;

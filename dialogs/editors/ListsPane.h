@@ -29,6 +29,8 @@ public:
   int Selected() const { return Lists().GetCurSel(); } // a row, which is the list's place, or -1
   bool HasSelected() const { return Selected() >= 0; }
   void Select(int row); // -1: none
+  // All lists anew.
+  void Show(int selected);
   // What the selected list holds now; and its name at a place.
   void ShowContents();
   void ShowName(int row);

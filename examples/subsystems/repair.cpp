@@ -1,5 +1,5 @@
-// A list file that does not load: what the load came to, the lists that a repair brings back, and the
-// lists of earlier days.
+// A list file that does not load: what the load came to, the lists that a repair brings back, and
+// the lists of earlier days.
 #include <fstream>
 
 #include "Example.h"

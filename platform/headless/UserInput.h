@@ -42,8 +42,8 @@ TQFRAMEWORK_API bool PickEntry(WindowHandle control, int index);
 // focus is somewhere else; "\b" takes back.
 TQFRAMEWORK_API bool TypeText(WindowHandle dialog, const char* text);
 TQFRAMEWORK_API bool PressKey(WindowHandle dialog, WindowKey key, Modifier modifier);
-// A letter or digit; with Control only A. Without Control and Alt not where a list has the focus:
-// lists in memory know no letters.
+// A letter or digit; with Control only A, Y and Z. Without Control and Alt not where a list has the
+// focus: lists in memory know no letters.
 TQFRAMEWORK_API bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
 TQFRAMEWORK_API bool CloseByTitleBar(WindowHandle dialog);
 

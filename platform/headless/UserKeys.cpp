@@ -1,4 +1,6 @@
 // The keyboard's part of UserInput.h.
+#include <utility>
+
 #include "platform/CodePage.h"
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/framework/window/Mnemonic.h"
@@ -67,6 +69,8 @@ WindowHeldKeys HeldBy(Modifier modifier) {
 // With Alt the dialog hears of the keys that move up and down, and Enter, Escape and Tab are the
 // system's.
 bool IsOffered(WindowKey key, WindowHeldKeys held) {
+  if (IsLetterKey(key) && !held.control)
+    return false;
   return !held.alt || key == WindowKey::Up || key == WindowKey::Down;
 }
 
@@ -125,12 +129,25 @@ bool PressKey(WindowHandle handle, WindowKey key, Modifier modifier) {
   return true;
 }
 
+namespace {
+
+bool PressWithControl(WindowHandle handle, char letter) {
+  for (const auto& [known, key] :
+       {std::pair{'A', WindowKey::A}, {'Y', WindowKey::Y}, {'Z', WindowKey::Z}}) {
+    if (letter == known)
+      return PressKey(handle, key, Modifier::Control);
+  }
+  return false;
+}
+
+} // namespace
+
 bool PressLetter(WindowHandle handle, char letter, Modifier modifier) {
   Dialog* const dialog = Listening(handle);
   if (dialog == nullptr || AsMnemonic(letter) == '\0')
     return false;
   if (modifier == Modifier::Control)
-    return AsMnemonic(letter) == 'A' && PressKey(handle, WindowKey::A, modifier);
+    return PressWithControl(handle, AsMnemonic(letter));
   if (modifier != Modifier::Alt)
     return TypeLetter(*dialog, letter);
   PressMnemonic(*dialog, AsMnemonic(letter));

@@ -12,10 +12,18 @@ namespace {
 
 constexpr std::string_view kIndexAnchor = " DefaultIdx='";
 
-constexpr std::size_t kMostPiece = 40;
+constexpr std::size_t kMostShown = 40;
 
 bool IsDigit(char byte) {
   return byte >= '0' && byte <= '9';
+}
+
+// An attribute whose name is beyond ASCII is what damage has made of another one.
+bool HasAllOfAList(const Tag& tag) {
+  const bool plain = std::all_of(tag.attributes.begin(), tag.attributes.end(),
+                                 [](const TagAttribute& one) { return IsPlain(one.name); });
+  return plain && tag.Find("ID") != nullptr && tag.Find("Name") != nullptr &&
+         tag.Find("Value") != nullptr;
 }
 
 // The number behind the attribute's beginning; empty when it does not end as it should.
@@ -47,7 +55,27 @@ bool DamagedLists::Next(RawList& list) {
 bool DamagedLists::TakePiece(RawList& list) {
   if (nextPiece_ == pieces_.size())
     return false;
-  ReadDamagedList(text_, pieces_[nextPiece_++], list);
+  const Extent piece = pieces_[nextPiece_++];
+  const std::size_t begin = BehindBlanks(text_, piece.begin);
+  if (begin >= piece.end || OpeningAt(text_, begin) != Opening::List || !ReadWhole(begin, list))
+    ReadDamagedList(text_, piece, list);
+  return true;
+}
+
+// The list at `begin` if it is a well-formed element with everything that a list has, and ends
+// where one can.
+bool DamagedLists::ReadWhole(std::size_t begin, RawList& list) {
+  std::size_t end = begin;
+  faults_.Clear();
+  reader_.Read(end, tag_);
+  if (!faults_.IsEmpty() || !IsElementEnd(text_, end) || !HasAllOfAList(tag_))
+    return false;
+  list = {};
+  list.begin = begin;
+  list.end = end;
+  list.id = ValueOf(tag_, "ID");
+  list.name = ValueOf(tag_, "Name");
+  list.symbols = ValueOf(tag_, "Value");
   return true;
 }
 
@@ -64,10 +92,10 @@ bool DamagedLists::TakePart(RawList& list) {
     TakeInstruction();
     return false;
   case Opening::Comment:
-    TakeThrough("<!--", "-->");
+    TakeThrough(comment_);
     return false;
   case Opening::CharacterData:
-    TakeThrough("<![CDATA[", "]]>");
+    TakeThrough(data_);
     return false;
   case Opening::Type:
     TakeType();
@@ -83,23 +111,15 @@ bool DamagedLists::TakePart(RawList& list) {
 
 void DamagedLists::NoteSecondFile(std::size_t at) {
   if (ended_ && !secondFile_)
-    Note(Fault::Overwritten, at, kMostPiece);
+    Note(Fault::Overwritten, at, kMostShown);
   secondFile_ = secondFile_ || ended_;
 }
 
 bool DamagedLists::TakeList(RawList& list) {
   const std::size_t begin = at_;
   NoteSecondFile(begin);
-  std::size_t end = at_;
-  faults_.Clear();
-  reader_.Read(end, tag_);
-  if (faults_.IsEmpty() && IsElementEnd(text_, end)) {
-    list = {};
-    list.begin = begin;
-    list.end = at_ = end;
-    list.id = ValueOf(tag_, "ID");
-    list.name = ValueOf(tag_, "Name");
-    list.symbols = ValueOf(tag_, "Value");
+  if (ReadWhole(begin, list)) {
+    at_ = list.end;
     return true;
   }
   at_ = EndOfDamagedList(text_, begin + 1);
@@ -148,7 +168,7 @@ void DamagedLists::TakeTag(Opening opening) {
 void DamagedLists::TakeInstruction() {
   const std::size_t begin = at_;
   if (begin != 0 && text_.substr(at_).starts_with("<?xml ") && !secondFile_) {
-    Note(Fault::Overwritten, begin, kMostPiece);
+    Note(Fault::Overwritten, begin, kMostShown);
     secondFile_ = true;
   }
   std::size_t stop = text_.find_first_of("?<", at_ + 2);
@@ -161,24 +181,23 @@ void DamagedLists::TakeInstruction() {
 }
 
 // A comment or a CDATA section that ends; without its end it is only what opens it.
-void DamagedLists::TakeThrough(std::string_view opening, std::string_view closing) {
+void DamagedLists::TakeThrough(Section& section) {
   const std::size_t begin = at_;
-  at_ += opening.size();
-  const bool missing = std::find(missing_.begin(), missing_.end(), closing) != missing_.end();
-  const std::size_t end = missing ? std::string_view::npos : text_.find(closing, at_);
-  if (end == std::string_view::npos && !missing)
-    missing_.push_back(closing);
+  at_ += section.opening.size();
+  if (section.end < at_)
+    section.end = text_.find(section.closing, at_);
+  const std::size_t end = section.end;
   // What holds another opening was not closed where it should have been.
-  const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(opening, at_);
+  const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(section.opening, at_);
   if (end != std::string_view::npos && other == std::string_view::npos)
-    at_ = end + closing.size();
+    at_ = end + section.closing.size();
   else
-    Note(Fault::BrokenMarkup, begin, opening.size());
+    Note(Fault::BrokenMarkup, begin, section.opening.size());
 }
 
 void DamagedLists::TakeType() {
   if (!typed_)
-    Note(Fault::DocumentType, at_, kMostPiece);
+    Note(Fault::DocumentType, at_, kMostShown);
   typed_ = true;
   at_ = std::min(text_.find_first_of("<>", at_ + 1), text_.size());
   while (at_ < text_.size() && (IsBlank(text_[at_]) || text_[at_] == ']' || text_[at_] == '>'))

@@ -21,13 +21,22 @@ public:
   bool Next(RawList& list) override;
 
 private:
+  // A kind of markup that goes on up to its closing.
+  struct Section {
+    std::string_view opening;
+    std::string_view closing;
+    std::size_t end =
+        0; // of the next closing that was looked for, so that none is looked for twice
+  };
+
   bool TakePiece(RawList& list);
+  bool ReadWhole(std::size_t begin, RawList& list);
   bool TakePart(RawList& list);
   bool TakeList(RawList& list);
   void TakeLists();
   void TakeTag(Opening opening);
   void TakeInstruction();
-  void TakeThrough(std::string_view opening, std::string_view closing);
+  void TakeThrough(Section& section);
   void TakeType();
   bool TakeRemains();
   void TakeDamagedIndex(std::size_t begin, std::size_t end);
@@ -46,7 +55,8 @@ private:
   bool secondFile_ = false;
   bool brokenEnd_ = false;
   bool typed_ = false;
-  std::vector<std::string_view> missing_; // closings that do not come any more
+  Section comment_{"<!--", "-->"};
+  Section data_{"<![CDATA[", "]]>"};
 };
 
 } // namespace tq

@@ -1,6 +1,6 @@
 // Classes of bytes in XML text. A trail byte of a double-byte character is never a blank, a control
-// byte, a quotation mark, an ampersand or an angle bracket, so markup is found byte by byte whatever
-// the encoding.
+// byte, a quotation mark, an ampersand or an angle bracket, so markup is found byte by byte
+// whatever the encoding.
 #pragma once
 
 #include <algorithm>

@@ -21,7 +21,9 @@ constexpr double kBroken = 16;
 constexpr double kRare = 13.5;
 constexpr double kUnassigned = 14.8;
 
-double CostInBig5(unsigned lead, unsigned) {
+double CostInBig5(unsigned lead, unsigned trail) {
+  if (lead == 0xC6 && trail > 0x7E)
+    return kUnassigned;
   if (lead >= 0xA4 && lead <= 0xBB) // used often, of few strokes
     return 8.4;
   if (lead >= 0xBC && lead <= 0xC6) // used often, of many strokes

@@ -13,12 +13,14 @@ constexpr std::size_t kUtf16Mark = 2;
 constexpr char kHalf = '\xFF'; // what half a character of UTF-16 becomes
 constexpr std::size_t kMostText = 40;
 
-// Files in UTF-16 that lost their mark: they begin with "<" in two bytes.
-bool BeginsLittle(std::string_view file) {
-  return file.starts_with(std::string_view("<\0", 2));
-}
-bool BeginsBig(std::string_view file) {
-  return file.starts_with(std::string_view("\0<", 2));
+// Whether a file without a mark is in UTF-16: of its first bytes every second one is zero.
+bool IsUnmarkedUtf16(std::string_view file, bool little) {
+  constexpr std::size_t enough = 16;
+  for (std::size_t i = 0; i < enough; ++i) {
+    if (i >= file.size() || (file[i] == '\0') != ((i % 2 == 1) == little))
+      return false;
+  }
+  return true;
 }
 
 Charset CharsetOf(XmlEncoding encoding) {
@@ -60,8 +62,8 @@ std::size_t PieceLength(const char* at, const char* end) {
 FileText::FileText(std::string_view file) : file_(file), text_(file) {
   if (IsUtf16(file))
     DecodeUtf16(file[0] == '\xFF', kUtf16Mark);
-  else if (BeginsLittle(file) || BeginsBig(file))
-    DecodeUtf16(BeginsLittle(file), 0);
+  else if (IsUnmarkedUtf16(file, true) || IsUnmarkedUtf16(file, false))
+    DecodeUtf16(IsUnmarkedUtf16(file, true), 0);
   else if (file.starts_with(kUtf8Mark)) {
     marked_ = isDeclared_ = true;
     begin_ = kUtf8Mark.size();

@@ -40,7 +40,7 @@ public:
   bool Fill(int id, const std::string& text);
   bool Press(WindowKey key, Modifier modifier = Modifier::None);
   // A letter or digit, with Alt as a rule: Alt and A press the button whose text has "&A". With
-  // Control only A. Without Alt and Control not where a list has the focus.
+  // Control only A, Y and Z. Without Alt and Control not where a list has the focus.
   bool PressLetter(char letter, Modifier modifier = Modifier::Alt);
   bool CloseByTitleBar();
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "idlist/ListKind.h"
+#include "platform/Log.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"
@@ -15,6 +16,9 @@ constexpr char kAll[] = "ALLMYSTOCKLISTS";
 
 class AccountListsTest : public StandInTest {
 protected:
+  // Lines are looked at here, and a log once opened stays for the process.
+  static void SetUpTestSuite() { tq::OpenLog(); }
+
   AccountListsTest()
       : accounts([this](int kind) -> const tq::OwnedLists& {
           return kind == tq::kTradingLists ? accounts.Lists() : others;

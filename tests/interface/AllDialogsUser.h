@@ -125,8 +125,10 @@ protected:
         {"Delete", WindowKey::Delete, Modifier::None}, {"F2", WindowKey::F2, Modifier::None},
         {"F2", WindowKey::F2, Modifier::None},         {"Alt+Up", WindowKey::Up, Modifier::Alt},
         {"Alt+Down", WindowKey::Down, Modifier::Alt},  {"A", WindowKey::A, Modifier::Control},
-        {"Tab", WindowKey::Tab, Modifier::None},       {"Space", WindowKey::Space, Modifier::None},
-        {"Down", WindowKey::Down, Modifier::None},     {"Home", WindowKey::Home, Modifier::None}};
+        {"Z", WindowKey::Z, Modifier::Control},        {"Z", WindowKey::Z, Modifier::Control},
+        {"Y", WindowKey::Y, Modifier::Control},        {"Tab", WindowKey::Tab, Modifier::None},
+        {"Space", WindowKey::Space, Modifier::None},   {"Down", WindowKey::Down, Modifier::None},
+        {"Home", WindowKey::Home, Modifier::None}};
     const Stroke& stroke = kStrokes[Draw(static_cast<int>(std::size(kStrokes)))];
     return {stroke.what, 0, 0, "", user.Press(stroke.key, stroke.modifier)};
   }

@@ -62,13 +62,43 @@ protected:
   static constexpr int kCode = 741;
   static constexpr int kSubTitle = 743;
 
+  struct State {
+    Texts entries;
+    std::vector<int> selected;
+    int caret;
+    bool operator==(const State&) const = default;
+  };
+  State Now(User& user) const {
+    return {model.entries, user.SelectedRows(kRows), CListBox(*dialog, kRows).GetCaretIndex()};
+  }
+
   void Walk(User& user, int actions) {
     for (int i = 0; i < actions && user.IsUp(); ++i) {
+      before = Now(user);
+      moved = false;
       Act(user);
       ASSERT_EQ(user.Rows(kRows), Expected()) << "action " << i;
+      if (moved || model.entries != before.entries)
+        journal.Did(before, Now(user));
+      for (int steps = Draw(10) == 0 ? Draw(6) : 0; steps > 0; --steps)
+        ASSERT_NO_FATAL_FAILURE(Go(user, Draw(3) > 0)) << "action " << i;
       if (i % 200 == 0)
         Forget();
     }
+  }
+  // One step back or forth, or none where there is none.
+  void Go(User& user, bool back) {
+    const State then = journal.CanGo(back) ? journal.Go(back) : Now(user);
+    PressStep(user, back);
+    model.entries = then.entries;
+    ASSERT_EQ(user.Rows(kRows), Expected());
+    ASSERT_TRUE(Now(user) == then);
+  }
+  void GoAllTheWay(User& user, bool back) {
+    while (journal.CanGo(back))
+      ASSERT_NO_FATAL_FAILURE(Go(user, back));
+    ASSERT_NO_FATAL_FAILURE(Go(user, back));
+    Forget();
   }
 
   void Act(User& user) {
@@ -104,6 +134,7 @@ protected:
     } else if (model.Count() > 0) {
       EXPECT_TRUE(user.ClickRow(kRows, Draw(model.Count())));
     }
+    before = Now(user);
     Remove(user);
   }
   void Remove(User& user) {
@@ -161,6 +192,7 @@ protected:
     EXPECT_EQ(user.Click(up ? 801 : 802), can);
     if (!can)
       return;
+    moved = true; // also past a sub-title of the same text
     if (!up)
       std::reverse(selected.begin(), selected.end());
     for (const int row : selected)
@@ -235,6 +267,9 @@ protected:
   const Texts titles = {"A", "許功蓋", "標題9"};
   ContentsModel model;
   std::vector<int> selected; // in front of the action, without the empty row
+  State before;              // in front of what the action does to the list
+  bool moved = false;        // by the action
+  StepJournal<State> journal;
   const CDialog* dialog = nullptr;
 };
 
@@ -243,11 +278,15 @@ TEST_F(ContentEditorWalk, DoesWhatAPlainModelDoes) {
   model.entries = {"2330.TW", "?gone.TW", "1101.TW", "?none.TE"};
   CSymbolList* list = nullptr;
   ASSERT_EQ(manager.GetSymbolList("A", &list, kUserLists), 1);
-  const std::string before = Shape();
+  const std::string shape = Shape();
   WhenDialogOpens([&](User& user) {
     dialog = &user.Dialog();
+    const Texts opened = model.entries;
     ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
-    EXPECT_EQ(Shape(), before);
+    ASSERT_NO_FATAL_FAILURE(GoAllTheWay(user, true));
+    EXPECT_EQ(model.entries, opened);
+    ASSERT_NO_FATAL_FAILURE(GoAllTheWay(user, false));
+    EXPECT_EQ(Shape(), shape);
     EXPECT_TRUE(user.Click(1));
   });
   EXPECT_TRUE(

@@ -9,6 +9,7 @@ namespace {
 struct ModelList {
   std::string name;
   std::string ids;
+  bool operator==(const ModelList&) const = default;
 };
 
 // What a user would say that the editor does.
@@ -17,6 +18,9 @@ struct ListsModel {
   int selected = 0;
   int marked = 0;
 
+  bool IsAs(const ListsModel& other) const {
+    return lists == other.lists && marked == other.marked;
+  }
   int Count() const { return static_cast<int>(lists.size()); }
   bool Has(const std::string& name, int except) const {
     for (int i = 0; i < Count(); ++i) {
@@ -55,10 +59,34 @@ protected:
 
   void Walk(User& user, int actions) {
     for (int i = 0; i < actions && user.IsUp(); ++i) {
+      const ListsModel before = model;
       Act(user);
       ASSERT_NO_FATAL_FAILURE(Compare(user)) << "action " << i;
+      if (!model.IsAs(before)) {
+        journal.Did(before, model);
+        ASSERT_NO_FATAL_FAILURE(Go(user, true)) << "action " << i;
+        ASSERT_NO_FATAL_FAILURE(Go(user, false)) << "action " << i;
+      }
+      for (int steps = Draw(50) == 0 ? Draw(6) : 0; steps > 0; --steps)
+        ASSERT_NO_FATAL_FAILURE(Go(user, Draw(3) > 0)) << "action " << i;
       if (i % 500 == 0)
         Forget();
+    }
+  }
+  // One step back or forth, or none where there is none.
+  void Go(User& user, bool back) {
+    if (journal.CanGo(back))
+      model = journal.Go(back);
+    PressStep(user, back);
+    ASSERT_NO_FATAL_FAILURE(Compare(user));
+  }
+  void GoAllTheWayAndBack(User& user, const ListsModel& opened) {
+    for (const bool back : {true, false}) {
+      while (journal.CanGo(back))
+        ASSERT_NO_FATAL_FAILURE(Go(user, back));
+      ASSERT_NO_FATAL_FAILURE(Go(user, back));
+      ASSERT_TRUE(!back || model.IsAs(opened));
+      Forget();
     }
   }
 
@@ -186,7 +214,17 @@ protected:
     ASSERT_EQ(user.IsEnabled(807), CanMove(-1));
     ASSERT_EQ(user.IsEnabled(808), CanMove(1));
     ASSERT_FALSE(user.IsVisible(741));
+    ASSERT_EQ(MarkedRow(user), ShownMark());
   }
+  // Of the list that is drawn as the default one, or -1.
+  int MarkedRow(const User& user) const {
+    int row = model.Count() - 1;
+    CDialog& dialog = *CDialog::FromHandle(user.Dialog().GetSafeHwnd());
+    while (row >= 0 && !tq::DialogAccess::Look(dialog, kLists, row).marked)
+      --row;
+    return row;
+  }
+  virtual int ShownMark() const { return model.marked; }
 
   static std::size_t CountOf(const std::string& ids) {
     return ids.empty() ? 0 : static_cast<std::size_t>(std::count(ids.begin(), ids.end(), ',')) + 1;
@@ -214,6 +252,7 @@ protected:
   const std::string mark = IsTraditionChinese() != 0 ? "(系統)" : "(系统)";
   const Texts names = {"one", "Two", "two", "中文", "3", "four"};
   ListsModel model;
+  StepJournal<ListsModel> journal;
 };
 
 TEST_F(ListsEditorWalk, TheEditorOfTheUsersListsDoesWhatAPlainModelDoes) {
@@ -221,7 +260,9 @@ TEST_F(ListsEditorWalk, TheEditorOfTheUsersListsDoesWhatAPlainModelDoes) {
   model.lists = {{"one", "2330.TW"}, {"sys", "1101.TW"}, {"three", "2454.TW"}};
   const std::string before = Stored(kUserLists);
   WhenDialogOpens([&](User& user) {
+    const ListsModel opened = model;
     ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(GoAllTheWayAndBack(user, opened));
     EXPECT_EQ(Stored(kUserLists), before); // nothing is stored while it is open
     EXPECT_TRUE(user.Click(806));
   });
@@ -233,6 +274,7 @@ TEST_F(ListsEditorWalk, TheEditorOfTheUsersListsDoesWhatAPlainModelDoes) {
 class CloudEditorWalk : public ListsEditorWalk {
 protected:
   void MarkDefault(User& user) override { EXPECT_FALSE(user.Click(805)); } // it has none
+  int ShownMark() const override { return -1; }
 };
 
 TEST_F(CloudEditorWalk, TheEditorOfTheCloudListsDoesWhatAPlainModelDoes) {
@@ -242,7 +284,9 @@ TEST_F(CloudEditorWalk, TheEditorOfTheCloudListsDoesWhatAPlainModelDoes) {
   model.lists = {{"one", "2330.TW"}, {"three", "2454.TW"}};
   const std::string before = Stored(kCloudLists);
   WhenDialogOpens([&](User& user) {
+    const ListsModel opened = model;
     ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions() / 2));
+    ASSERT_NO_FATAL_FAILURE(GoAllTheWayAndBack(user, opened));
     EXPECT_EQ(Stored(kCloudLists), before);
     EXPECT_TRUE(user.Click(806));
   });

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/FileAccess.h"
+#include "platform/Log.h"
 #include "platform/System.h"
 #include "symbollist/UserLists.h"
 #include "terminal/StandIn.h"
@@ -42,6 +43,8 @@ private:
 
 class FileHistoryTest : public StandInTest {
 protected:
+  // Lines are looked at here, and a log once opened stays for the process.
+  static void SetUpTestSuite() { tq::OpenLog(); }
   FileHistoryTest() : lists([](CString&) { return false; }), clock_(tq::SetClock(&Today)) {
     g_today = 20260131;
     lists.SetDirectory(directory.Path().c_str());

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/Log.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"
@@ -11,6 +12,9 @@ namespace {
 
 class UserListsTest : public StandInTest {
 protected:
+  // Lines are looked at here, and a log once opened stays for the process.
+  static void SetUpTestSuite() { tq::OpenLog(); }
+
   // Symbols ".OLD" have moved to ".NEW".
   UserListsTest() : lists([](CString& ids) { return ids.Replace(".OLD", ".NEW") > 0; }) {
     lists.SetDirectory(directory.Path().c_str());

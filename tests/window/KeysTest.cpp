@@ -105,6 +105,10 @@ TEST_F(KeysTest, TheDialogHearsKeysAndWhatIsHeld) {
     EXPECT_EQ(dialog.Take(), heard(WindowKey::Delete, ""));
     user.PressLetter('A', Modifier::Control);
     EXPECT_EQ(dialog.Take(), heard(WindowKey::A, " control"));
+    user.PressLetter('Z', Modifier::Control);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::Z, " control"));
+    user.Press(WindowKey::Y, Modifier::Control);
+    EXPECT_EQ(dialog.Take(), heard(WindowKey::Y, " control"));
     user.Press(WindowKey::Up, Modifier::Alt);
     EXPECT_EQ(dialog.Take(), heard(WindowKey::Up, " alt"));
     user.Press(WindowKey::Down, Modifier::Alt);
@@ -112,6 +116,18 @@ TEST_F(KeysTest, TheDialogHearsKeysAndWhatIsHeld) {
     user.Press(WindowKey::PageDown, Modifier::Shift);
     EXPECT_EQ(dialog.Take(), heard(WindowKey::PageDown, " shift"));
     EXPECT_EQ(user.SelectedRows(782), std::vector<int>{1});
+  });
+}
+
+TEST_F(KeysTest, LettersAloneAreNoKeys) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CListBox(dialog, 782).SetFocus();
+    dialog.onKey = [](int, WindowKey, WindowHeldKeys) { return true; };
+    for (const WindowKey key : {WindowKey::A, WindowKey::Y, WindowKey::Z}) {
+      user.Press(key);
+      user.Press(key, Modifier::Shift);
+    }
+    EXPECT_EQ(dialog.log, Log());
   });
 }
 

@@ -92,7 +92,8 @@ protected:
   //    it when it is a button; for a label it is the next control that can take the focus. Where a
   //    button has the focus the letter alone does so too. A control that is disabled or hidden has
   //    no letter;
-  //  - Control and A select all of an edit or of a list of several selections;
+  //  - Control and A select all of an edit or of a list of several selections. Control and Z, and
+  //    Control and Y, are the system's: on Windows an edit takes its last typing back;
   //  - in lists keys do what CListBox.h says.
   virtual bool OnKey(int id, WindowKey key, WindowHeldKeys held);
 

@@ -35,7 +35,7 @@ struct WindowListNotice {
   int row; // the row that was double-clicked, -1 below the rows; -1 for SelectionChanged
 };
 
-// Keys that a dialog may want for itself before they take their usual way. A comes only with
+// Keys that a dialog may want for itself before they take their usual way. Letters come only with
 // Control.
 enum class WindowKey {
   Enter,
@@ -51,7 +51,13 @@ enum class WindowKey {
   PageDown,
   F2,
   A,
+  Y,
+  Z,
 };
+
+constexpr bool IsLetterKey(WindowKey key) {
+  return key >= WindowKey::A;
+}
 
 // What is held down while a key is pressed.
 struct WindowHeldKeys {

@@ -19,11 +19,21 @@ struct KeyCode {
 };
 
 constexpr KeyCode kKeys[] = {
-    {VK_RETURN, WindowKey::Enter}, {VK_ESCAPE, WindowKey::Escape}, {VK_TAB, WindowKey::Tab},
-    {VK_SPACE, WindowKey::Space},  {VK_UP, WindowKey::Up},         {VK_DOWN, WindowKey::Down},
-    {VK_HOME, WindowKey::Home},    {VK_END, WindowKey::End},       {VK_DELETE, WindowKey::Delete},
-    {VK_PRIOR, WindowKey::PageUp}, {VK_NEXT, WindowKey::PageDown}, {VK_F2, WindowKey::F2},
+    {VK_RETURN, WindowKey::Enter},
+    {VK_ESCAPE, WindowKey::Escape},
+    {VK_TAB, WindowKey::Tab},
+    {VK_SPACE, WindowKey::Space},
+    {VK_UP, WindowKey::Up},
+    {VK_DOWN, WindowKey::Down},
+    {VK_HOME, WindowKey::Home},
+    {VK_END, WindowKey::End},
+    {VK_DELETE, WindowKey::Delete},
+    {VK_PRIOR, WindowKey::PageUp},
+    {VK_NEXT, WindowKey::PageDown},
+    {VK_F2, WindowKey::F2},
     {'A', WindowKey::A},
+    {'Y', WindowKey::Y},
+    {'Z', WindowKey::Z},
 };
 
 bool IsDown(int key) {
@@ -37,7 +47,7 @@ WindowHeldKeys HeldKeys() {
 const KeyCode* FindKey(WPARAM code, WindowHeldKeys held) {
   const auto* const found = std::find_if(std::begin(kKeys), std::end(kKeys),
                                          [code](const KeyCode& each) { return each.code == code; });
-  if (found == std::end(kKeys) || (found->key == WindowKey::A && !held.control))
+  if (found == std::end(kKeys) || (IsLetterKey(found->key) && !held.control))
     return nullptr;
   const bool isOffered = !held.alt || found->key == WindowKey::Up || found->key == WindowKey::Down;
   return isOffered ? found : nullptr;

@@ -35,7 +35,7 @@ private:
 WPARAM CodeOf(WindowKey key) {
   static constexpr WPARAM codes[] = {VK_RETURN, VK_ESCAPE, VK_TAB, VK_SPACE,  VK_UP,
                                      VK_DOWN,   VK_HOME,   VK_END, VK_DELETE, VK_PRIOR,
-                                     VK_NEXT,   VK_F2,     'A'};
+                                     VK_NEXT,   VK_F2,     'A',    'Y',       'Z'};
   return codes[static_cast<int>(key)];
 }
 
@@ -87,7 +87,8 @@ bool PressLetter(WindowHandle dialog, char letter, Modifier modifier) {
   const bool isPlain = modifier == Modifier::None || modifier == Modifier::Shift;
   const char text[] = {letter, '\0'};
   const auto code = static_cast<WPARAM>(std::toupper(static_cast<unsigned char>(letter)));
-  if (!IsOpen(dialog) || (modifier == Modifier::Control && code != 'A'))
+  if (!IsOpen(dialog) ||
+      (modifier == Modifier::Control && code != 'A' && code != 'Y' && code != 'Z'))
     return false;
   if (isPlain && KindOf(::GetFocus()) == tq::ControlKind::Edit)
     return TypeText(dialog, text);

@@ -1,0 +1,87 @@
+#include "tools/tqlists/formats/Entries.h"
+
+#include <algorithm>
+
+namespace tqlists {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\n\v\f\r";
+
+bool IsControl(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte < 0x20 || byte == 0x7F;
+}
+
+} // namespace
+
+bool NextEntry(std::string_view symbols, std::size_t& at, std::string_view& entry) {
+  while (at < symbols.size()) {
+    const std::size_t end = std::min(symbols.find(',', at), symbols.size());
+    entry = symbols.substr(at, end - at);
+    at = end + 1;
+    if (!Trimmed(entry).empty())
+      return true;
+  }
+  return false;
+}
+
+std::size_t CountEntries(std::string_view symbols) {
+  std::size_t count = 0;
+  ForEachEntry(symbols, [&](std::string_view) { ++count; });
+  return count;
+}
+
+bool IsHeading(std::string_view entry) {
+  return entry.find(':', 1) != std::string_view::npos;
+}
+
+std::string_view HeadingText(std::string_view entry) {
+  if (!IsHeading(entry) || entry.back() != ':')
+    return {};
+  entry.remove_suffix(1);
+  return Trimmed(entry).empty() ? std::string_view() : entry;
+}
+
+std::string HeadingEntry(std::string_view text) {
+  std::string entry(text);
+  std::replace(entry.begin(), entry.end(), ',', ' ');
+  if (Trimmed(entry).empty())
+    return {};
+  return entry + ':';
+}
+
+void AppendEntry(std::string& symbols, std::string_view entry) {
+  ForEachEntry(entry, [&](std::string_view one) {
+    if (!symbols.empty())
+      symbols += ',';
+    symbols += one;
+  });
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos)
+    return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+std::string OneLine(std::string_view text) {
+  std::string line(text);
+  std::replace_if(line.begin(), line.end(), IsControl, ' ');
+  return line;
+}
+
+bool IsOneLine(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), IsControl);
+}
+
+std::string LowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z')
+      c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lower;
+}
+
+} // namespace tqlists
