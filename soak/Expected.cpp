@@ -1,6 +1,7 @@
 #include "soak/Expected.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace soak {
 namespace {
@@ -91,6 +92,11 @@ constexpr ExactRule kExactRules[] = {
 };
 
 } // namespace
+
+bool IsExact(std::string_view signature) {
+  return std::any_of(std::begin(kExactRules), std::end(kExactRules),
+                     [&](const ExactRule& rule) { return rule.signature == signature; });
+}
 
 std::string Unexpected(const Outcome& outcome) {
   for (const ExactRule& rule : kExactRules)

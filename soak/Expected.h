@@ -14,10 +14,11 @@ struct Outcome {
   const operations::Arguments& arguments;
   const Lists& before;
   const Lists& after;
-  std::string working, backup; // the files' bytes afterwards; empty without a directory
+  const std::string &working, &backup; // the files' bytes afterwards; empty without a directory
   bool hasDirectory;
 };
 
+bool IsExact(std::string_view signature);
 // In words what is not as it should be; else empty.
 std::string Unexpected(const Outcome& outcome);
 

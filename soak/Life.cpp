@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdio>
+#include <utility>
 
 #include "platform/framework/window/DialogAccess.h"
 #include "soak/Expected.h"
@@ -178,7 +179,7 @@ void Life::RunStep(const Step& step) {
   nested_ = 0;
   troublesBefore_ = disk_.Troubles();
   ledger_.NoteOperation(step.entry->operation.signature);
-  const Lists before = lists_;
+  const Lists before = std::move(lists_);
   Perform(step);
   lists_ = Look();
   Check(step, before);
@@ -209,14 +210,15 @@ void Life::Check(const Step& step, const Lists& before) {
 void Life::CheckFiles(const Step& step, const Lists& before) {
   if (files_.TakeWrites() > 0 && !promise_.saves)
     Tell("it has written a list file");
-  if (nested_ > 0 || disk_.Troubles() != troublesBefore_)
+  const char* const signature = step.entry->operation.signature;
+  if (nested_ > 0 || disk_.Troubles() != troublesBefore_ || !IsExact(signature))
     return;
-  const std::string working = FileNamed(kWorking);
-  const bool known = !working.empty();
+  static const std::string kNothing;
+  const bool known = !FileNamed(kWorking).empty();
+  const std::string& working = known ? files_.BytesOf(FileNamed(kWorking)) : kNothing;
+  const std::string& backup = known ? files_.BytesOf(FileNamed(kBackup)) : kNothing;
   const std::string unexpected =
-      Unexpected({step.entry->operation.signature, step.arguments, before, lists_,
-                  known ? files_.BytesOf(working) : "",
-                  known ? files_.BytesOf(FileNamed(kBackup)) : "", known});
+      Unexpected({signature, step.arguments, before, lists_, working, backup, known});
   if (!unexpected.empty())
     Tell(unexpected);
 }

@@ -153,7 +153,7 @@ Promise PromiseOf(std::string_view signature, const operations::Arguments& argum
 }
 
 std::string Broken(const Promise& promise, const Lists& before, const Lists& after) {
-  if (promise.replaces)
+  if (promise.replaces || before == after)
     return "";
   const bool firstDefault = promise.saves && before.index < 0 && after.index == 0;
   if (!promise.indexes && !firstDefault && before.index != after.index)

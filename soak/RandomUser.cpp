@@ -24,7 +24,8 @@ constexpr std::array kStrokes = {
     Stroke{WindowKey::Enter, Modifier::None}, Stroke{WindowKey::Delete, Modifier::None},
     Stroke{WindowKey::F2, Modifier::None},    Stroke{WindowKey::Up, Modifier::Alt},
     Stroke{WindowKey::Down, Modifier::Alt},   Stroke{WindowKey::A, Modifier::Control},
-    Stroke{WindowKey::Tab, Modifier::None},   Stroke{WindowKey::Space, Modifier::None}};
+    Stroke{WindowKey::Tab, Modifier::None},   Stroke{WindowKey::Space, Modifier::None},
+    Stroke{WindowKey::Z, Modifier::Control},  Stroke{WindowKey::Y, Modifier::Control}};
 constexpr std::array kTyped = {"2330", "2317",    "6488", "one", "Two",    ".2330", "x",
                                "",     "2454.TW", "a'b",  "x&y", "許功蓋", " four "};
 constexpr std::array kRowModifiers = {Modifier::None, Modifier::None, Modifier::Control,
