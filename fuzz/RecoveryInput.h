@@ -1,5 +1,5 @@
-// Any bytes as a damaged list file: every list comes back as text of the encoding asked for, no more
-// comes back than was there, and what comes back is whole when it is saved and read again. The
+// Any bytes as a damaged list file: every list comes back as text of the encoding asked for, no
+// more comes back than was there, and what comes back is whole when it is saved and read again. The
 // faults of a document are none exactly when the library takes it for one.
 #pragma once
 

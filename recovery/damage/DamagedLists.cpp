@@ -62,8 +62,8 @@ bool DamagedLists::TakePiece(RawList& list) {
   return true;
 }
 
-// The list at `begin` if it is a well-formed element with everything that a list has, and ends where
-// one can.
+// The list at `begin` if it is a well-formed element with everything that a list has, and ends
+// where one can.
 bool DamagedLists::ReadWhole(std::size_t begin, RawList& list) {
   std::size_t end = begin;
   faults_.Clear();

@@ -1,6 +1,6 @@
 // What recovery says of a file against what the library does with it: a file without a finding is
-// one that loads whole, and gives the same lists; and the faults of a document are none exactly when
-// it loads.
+// one that loads whole, and gives the same lists; and the faults of a document are none exactly
+// when it loads.
 #include <gtest/gtest.h>
 
 #include <algorithm>

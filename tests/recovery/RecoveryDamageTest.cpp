@@ -1,4 +1,5 @@
-// Damage at every place of a list file: what was not hit comes back as it was, and no id is made up.
+// Damage at every place of a list file: what was not hit comes back as it was, and no id is made
+// up.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -151,8 +152,8 @@ TEST_P(RecoveryByte, IsReplacedEverywhere) {
 
 INSTANTIATE_TEST_SUITE_P(Any, RecoveryByte, testing::Values('\'', '&', '<', '\0', '\xFF'));
 
-// A byte of damage costs the identifier, or a character of the name, or one symbol: two when it hits
-// the comma between them.
+// A byte of damage costs the identifier, or a character of the name, or one symbol: two when it
+// hits the comma between them.
 TEST_P(RecoveryByte, CostsNoMoreThanWhatItHits) {
   for (const Sample& sample : recovery::Samples()) {
     const std::vector<Line> lines = LinesOf(sample);
