@@ -38,8 +38,13 @@ DocumentPiece DocumentWalk::Next() {
 
 DocumentPiece DocumentWalk::Finish() {
   stopped_ = true;
-  if (!open_.empty() || !anyElement_)
-    Note(Fault::CutOff, at_, 0);
+  return open_.empty() && anyElement_ ? DocumentPiece::End : BreakOff();
+}
+
+// The text ends in the middle of markup, or of an element.
+DocumentPiece DocumentWalk::BreakOff() {
+  stopped_ = true;
+  Note(Fault::CutOff, text_.size(), 0);
   return DocumentPiece::End;
 }
 
@@ -134,6 +139,8 @@ DocumentPiece DocumentWalk::TakeFinish() {
   at_ += 2;
   const std::string_view name = reader_.TakeName(at_);
   at_ = BehindBlanks(text_, at_);
+  if (at_ == text_.size())
+    return BreakOff();
   const bool ends = Rest().starts_with(">");
   const auto opened = std::find_if(open_.rbegin(), open_.rend(),
                                    [&](const OpenElement& one) { return one.name == name; });
@@ -167,6 +174,8 @@ void DocumentWalk::Enter() {
 
 DocumentPiece DocumentWalk::TakeStart() {
   std::size_t behind = at_ + 1;
+  if (behind == text_.size())
+    return BreakOff();
   if (reader_.TakeName(behind).empty()) {
     Note(Fault::StrayLess, at_);
     ++at_;

@@ -42,6 +42,7 @@ private:
   bool Note(Fault fault, std::size_t at, std::size_t length = 16);
   std::string_view Rest() const { return text_.substr(at_); }
   DocumentPiece Finish();
+  DocumentPiece BreakOff();
   DocumentPiece TakeText();
   DocumentPiece TakeMarkup();
   DocumentPiece TakeStart();

@@ -38,7 +38,8 @@ void FaultList::Note(Fault fault, std::size_t at, std::size_t length) {
   if (fault == Fault::ZeroBytes && !faults_.empty() && faults_.back().fault == fault &&
       faults_.back().at + faults_.back().length == at)
     faults_.back().length += length;
-  else if (!IsFull())
+  else if (!IsFull() &&
+           (fault != Fault::CutOff || faults_.empty() || faults_.back().fault != fault))
     faults_.push_back({fault, at, length});
 }
 
@@ -133,10 +134,14 @@ bool TagReader::TakeAttribute(std::size_t& at, Tag& tag) {
   if (attribute.name.empty())
     return false;
   at = BehindBlanks(text_, at);
-  if (AtEnd(at) || text_[at] != '=')
+  if (AtEnd(at))
+    return Note(Fault::CutOff, at, 0);
+  if (text_[at] != '=')
     return Note(Fault::BrokenMarkup, start);
   at = BehindBlanks(text_, at + 1);
-  if (AtEnd(at) || !IsQuote(text_[at]))
+  if (AtEnd(at))
+    return Note(Fault::CutOff, at, 0);
+  if (!IsQuote(text_[at]))
     return Note(Fault::BrokenMarkup, start);
   if (!TakeValue(++at, attribute.value))
     return false;

@@ -62,7 +62,7 @@ TEST_F(ProblemsTest, ALoadSaysWhyThereAreNoLists) {
   EXPECT_EQ(manager.LoadSymbolList(), 1);
   ExpectProblem(TQProblemFileDamaged, "LoadSymbolList: " + Working() +
                                           " is damaged: no well-formed document; line 1, column " +
-                                          "46: the end of the file is missing");
+                                          "51: the end of the file is missing");
   WriteWorking("<Other/>");
   EXPECT_EQ(manager.LoadSymbolList(), 1);
   ExpectProblem(TQProblemFileForeign, "LoadSymbolList: " + Working() + " is no list file");
