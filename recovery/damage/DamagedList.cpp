@@ -154,8 +154,7 @@ void DamagedListReader::CloseInside(const Anchor& anchor, std::size_t end, RawVa
   value.bytes = Part(anchor.value, behind);
 }
 
-// The number of bytes at the end of a list that are no value: "'/>", or what is left of it, or what
-// is left of the next attribute's beginning.
+// What ends a value: "/>", or what is left of it, or of the next attribute's beginning.
 bool IsRestOfList(std::string_view rest) {
   const std::string_view bare = rest.substr(BehindBlanks(rest, 0));
   if (bare.size() <= 2 && std::all_of(bare.begin(), bare.end(), [](char byte) {
@@ -189,8 +188,7 @@ void DamagedListReader::CloseLast(const Anchor& anchor, RawValue& value) {
   }
 }
 
-// An identifier ends where its quotation mark and what is left of the next attribute's beginning
-// stand in front of damaged bytes.
+// An identifier ends in front of what is left of the next attribute before damaged bytes.
 void DamagedListReader::CutAtDamage(char quote, RawValue& value) {
   const std::size_t control = FindControl(value.bytes);
   const std::size_t mark = value.bytes.substr(0, control).rfind(quote);
