@@ -36,6 +36,7 @@ private:
   void CloseInside(const Anchor& anchor, std::size_t end, RawValue& value);
   void CloseLast(const Anchor& anchor, RawValue& value);
   void SplitLost(RawValue& front, RawValue& back);
+  void CutAtDamage(char quote, RawValue& value);
   void NoteStray(std::string_view value);
   void NoteMarkup(std::size_t at) { list_.faults.push_back({Fault::BrokenMarkup, at, kPiece}); }
   RawValue* ValueOf(Field field);
@@ -153,8 +154,7 @@ void DamagedListReader::CloseInside(const Anchor& anchor, std::size_t end, RawVa
   value.bytes = Part(anchor.value, behind);
 }
 
-// The number of bytes at the end of a list that are no value: "'/>", or what is left of it, or what
-// is left of the next attribute's beginning.
+// What ends a value: "/>", or what is left of it, or of the next attribute's beginning.
 bool IsRestOfList(std::string_view rest) {
   const std::string_view bare = rest.substr(BehindBlanks(rest, 0));
   if (bare.size() <= 2 && std::all_of(bare.begin(), bare.end(), [](char byte) {
@@ -188,6 +188,18 @@ void DamagedListReader::CloseLast(const Anchor& anchor, RawValue& value) {
   }
 }
 
+// An identifier ends in front of what is left of the next attribute before damaged bytes.
+void DamagedListReader::CutAtDamage(char quote, RawValue& value) {
+  const std::size_t control = FindControl(value.bytes);
+  const std::size_t mark = value.bytes.substr(0, control).rfind(quote);
+  if (control == value.bytes.size() || mark == std::string_view::npos ||
+      !IsRestOfList(value.bytes.substr(mark + 1, control - mark - 1)))
+    return;
+  NoteMarkup(static_cast<std::size_t>(value.bytes.data() - text_.data()) + mark);
+  value.bytes = value.bytes.substr(0, mark);
+  value.tornBack = false;
+}
+
 void DamagedListReader::NoteStray(std::string_view value) {
   constexpr std::size_t most = 64;
   for (std::size_t at = value.find_first_of("'\"&<"); at != std::string_view::npos;
@@ -219,6 +231,8 @@ void DamagedListReader::TakeValue(const Anchor& anchor, std::size_t end, bool la
     CloseLast(anchor, *value);
   else
     CloseInside(anchor, end, *value);
+  if (anchor.field == Field::Id)
+    CutAtDamage(anchor.quote, *value);
   value->present = true;
   value->tornFront = !anchor.sure;
   if (value == &flag && flag.tornBack)

@@ -10,7 +10,7 @@
 namespace tq {
 namespace {
 
-constexpr std::string_view kIndexAnchor = " DefaultIdx='";
+constexpr std::string_view kIndexAnchor = "DefaultIdx='";
 
 constexpr std::size_t kMostShown = 40;
 

@@ -70,8 +70,8 @@ struct Tally {
 
 // Each list comes back as it was stored, or something says that it does not. A name that makes
 // another well-formed file is the exception: that file is sound.
-void Check(const std::vector<StoredList>& lists, const std::string& file, const Outcome& outcome,
-           Tally& tally) {
+void CheckLists(const std::vector<StoredList>& lists, const std::string& file,
+                const Outcome& outcome, Tally& tally) {
   const std::vector<StoredList> kept = outcome.Kept();
   int repaired = 0;
   int missing = 0;
@@ -100,7 +100,7 @@ TEST_P(RecoveryOfGenerated, ReturnsWhatWasStored) {
     const std::vector<StoredList> lists = Generator(seed, big5).Lists();
     const std::string file = recovery::FileOf(lists, big5 ? "big5" : "gb2312");
     const auto encoding = big5 ? tq::TextEncoding::Big5 : tq::TextEncoding::Gbk;
-    Check(lists, file, Recover(file, encoding), tally);
+    CheckLists(lists, file, Recover(file, encoding), tally);
     ASSERT_FALSE(HasFailure()) << "seed " << seed << "\n" << file;
   }
   // The others hold what looks like the end of their own value.
