@@ -105,7 +105,7 @@ void ListMaker::MakeName(const RawList& raw, std::string& name) {
 bool ListMaker::TakeToken(std::string_view token, bool damaged, Charset charset) {
   const bool whole = Clean(token, charset);
   const bool heading = IsHeadingText(clean_) && token.find('\0') == token.npos;
-  if ((!whole && !heading) || (damaged && HoldsMarkup(token)))
+  if (!heading && (!whole || (damaged && HoldsMarkup(token))))
     return false;
   if (carrier_.Carry(clean_, charset, token_))
     return true;

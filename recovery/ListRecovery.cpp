@@ -97,7 +97,7 @@ void ListRecovery::Reader::Note(Fault fault, std::size_t at, std::size_t length)
 void ListRecovery::Reader::NoteDeclaration() {
   const std::size_t length = text_.DeclarationLength();
   if (text_.Declaration() != DeclarationState::Fine)
-    Note(Fault::Declaration, 0, kMostFindings);
+    Note(Fault::Declaration, 0, file_.size());
   else if (charset_ != text_.Declared() && !IsPlain(text_.Text()))
     Note(text_.IsDeclared() ? Fault::WrongEncoding : Fault::Declaration, 0, length);
 }
@@ -162,13 +162,15 @@ bool ListRecovery::Reader::Next(RecoveredList& list) {
 void ListRecovery::Reader::Finish() {
   if (!findings_.empty())
     return;
-  if (source_ != nullptr)
-    fileFaults_.insert(fileFaults_.end(), source_->Faults().begin(), source_->Faults().end());
   if (strictFault_ && numbers_.empty())
     Note(Fault::NoLists, 0, 0);
+  const bool told =
+      anyInLists_ || !fileFaults_.empty() || (source_ != nullptr && !source_->Faults().empty());
   const bool limit = strictFault_ && strictFault_->fault == Fault::Limit;
-  if (strictFault_ && (limit || (fileFaults_.empty() && !anyInLists_)))
+  if (strictFault_ && (limit || !told))
     Note(strictFault_->fault, strictFault_->at, strictFault_->length);
+  if (source_ != nullptr)
+    fileFaults_.insert(fileFaults_.end(), source_->Faults().begin(), source_->Faults().end());
   std::stable_sort(fileFaults_.begin(), fileFaults_.end(),
                    [](const RawFault& one, const RawFault& other) { return one.at < other.at; });
   PlaceFinder places(text_);

@@ -12,7 +12,9 @@
 //  3. A well-formed file is read as the library's DOM reads it: comments, CDATA sections,
 //     references, either quote, attributes in any order, elements outside of /Result/SymbolList
 //     passed over. A file that gives no finding is one that the library loads whole, and the other
-//     way round.
+//     way round, but for two things that a load cannot see: text in another encoding than the file
+//     names, and text between the lists that has quotation marks, which is the rest of a list whose
+//     name holds what looks like the end of its element.
 //  4. Time is linear in the file's size, whatever the bytes. Memory beside the file is bounded by
 //     the largest list and a few bytes for each list.
 //  5. Nothing throws but std::bad_alloc.

@@ -57,6 +57,9 @@ bool TextCarrier::Append(char32_t character, std::string& out) {
   if (!encoder_)
     encoder_.emplace(CodePageOf(to_ == TextEncoding::Big5));
   const std::size_t length = encoder_->Encode(character, bytes);
+  // Systems have characters of one byte in their tables that the code page does not have.
+  if (!IsTextOf(CharsetOf(to_), {bytes, length}))
+    bytes[0] = '?';
   out.append(bytes, length);
   return length != 1 || bytes[0] != '?';
 }

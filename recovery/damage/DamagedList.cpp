@@ -69,7 +69,9 @@ RawValue* DamagedListReader::ValueOf(Field field) {
 void DamagedListReader::ChooseAnchors() {
   anchors_ = FindAnchors(text_, remains_.begin, remains_.end);
   if (const Place rest = AnchorOfRest(text_, remains_.begin, remains_.end)) {
-    const Field next = anchors_.size() > 1 ? anchors_[1].field : Field::Other;
+    const auto behind = std::find_if(anchors_.begin(), anchors_.end(),
+                                     [&](const Anchor& one) { return one.begin > rest->value; });
+    const Field next = behind != anchors_.end() ? behind->field : Field::Other;
     const bool known = rest->field != Field::Other;
     if (known || (next != Field::Id && next != Field::Other))
       At(known ? rest->field : static_cast<Field>(static_cast<int>(next) - 1)) = rest;

@@ -92,10 +92,10 @@ bool DamagedLists::TakePart(RawList& list) {
     TakeInstruction();
     return false;
   case Opening::Comment:
-    TakeThrough("<!--", "-->");
+    TakeThrough("<!--", "-->", commentEnd_);
     return false;
   case Opening::CharacterData:
-    TakeThrough("<![CDATA[", "]]>");
+    TakeThrough("<![CDATA[", "]]>", dataEnd_);
     return false;
   case Opening::Type:
     TakeType();
@@ -181,13 +181,12 @@ void DamagedLists::TakeInstruction() {
 }
 
 // A comment or a CDATA section that ends; without its end it is only what opens it.
-void DamagedLists::TakeThrough(std::string_view opening, std::string_view closing) {
+void DamagedLists::TakeThrough(std::string_view opening, std::string_view closing,
+                               std::size_t& end) {
   const std::size_t begin = at_;
   at_ += opening.size();
-  const bool missing = std::find(missing_.begin(), missing_.end(), closing) != missing_.end();
-  const std::size_t end = missing ? std::string_view::npos : text_.find(closing, at_);
-  if (end == std::string_view::npos && !missing)
-    missing_.push_back(closing);
+  if (end < at_)
+    end = text_.find(closing, at_);
   // What holds another opening was not closed where it should have been.
   const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(opening, at_);
   if (end != std::string_view::npos && other == std::string_view::npos)

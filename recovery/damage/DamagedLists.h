@@ -28,7 +28,7 @@ private:
   void TakeLists();
   void TakeTag(Opening opening);
   void TakeInstruction();
-  void TakeThrough(std::string_view opening, std::string_view closing);
+  void TakeThrough(std::string_view opening, std::string_view closing, std::size_t& end);
   void TakeType();
   bool TakeRemains();
   void TakeDamagedIndex(std::size_t begin, std::size_t end);
@@ -47,7 +47,9 @@ private:
   bool secondFile_ = false;
   bool brokenEnd_ = false;
   bool typed_ = false;
-  std::vector<std::string_view> missing_; // closings that do not come any more
+  // The next "-->" and "]]>", found once for all openings in front of them.
+  std::size_t commentEnd_ = 0;
+  std::size_t dataEnd_ = 0;
 };
 
 } // namespace tq

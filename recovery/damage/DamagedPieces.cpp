@@ -20,6 +20,7 @@ private:
   std::optional<std::size_t> SplitInFrontOf(const Anchor& anchor) const;
   std::optional<std::size_t> BehindDamage(Extent gap) const;
   std::optional<std::size_t> RestOfAnother(Extent gap) const;
+  std::string_view TextOf(Extent gap) const { return text_.substr(gap.begin, gap.end - gap.begin); }
   bool Has(Field field) const { return seen_[static_cast<std::size_t>(field)]; }
   void Begin(std::size_t at);
 
@@ -66,15 +67,15 @@ std::optional<std::size_t> PieceSplitter::SplitInFrontOf(const Anchor& anchor) c
   if (!Has(anchor.field))
     return std::nullopt;
   if (anchor.field == Field::Id || (anchor.field == Field::Name && last_.field > Field::Name)) {
-    const std::size_t less = text_.substr(0, gap.end).rfind('<');
-    return less != std::string_view::npos && less >= gap.begin ? less : gap.end;
+    const std::size_t less = TextOf(gap).rfind('<');
+    return less != std::string_view::npos ? gap.begin + less : gap.end;
   }
   if (const auto rest = RestOfAnother(gap))
     return rest;
-  const std::size_t comma = text_.substr(0, gap.end).rfind(',');
+  const std::size_t comma = TextOf(gap).rfind(',');
   const bool symbols = last_.field == Field::Symbols && anchor.field == Field::Symbols;
-  if (symbols && comma != std::string_view::npos && comma >= gap.begin)
-    return comma + 1;
+  if (symbols && comma != std::string_view::npos)
+    return gap.begin + comma + 1;
   return std::nullopt;
 }
 

@@ -97,6 +97,8 @@ void FileText::DecodeUtf16(bool little, std::size_t mark) {
 }
 
 void FileText::ReadDeclaration() {
+  if (marked_ && text_.starts_with(kUtf8Mark))
+    return; // a second mark, which is text
   XmlDeclaration declaration;
   if (wide_)
     declaration.encoding = XmlEncoding::Utf16;

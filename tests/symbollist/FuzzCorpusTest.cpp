@@ -12,6 +12,7 @@
 #include "fuzz/IdStringInput.h"
 #include "fuzz/IdentifiersInput.h"
 #include "fuzz/ListFileInput.h"
+#include "fuzz/RecoveryInput.h"
 #include "fuzz/SequenceInput.h"
 
 namespace {
@@ -52,6 +53,11 @@ protected:
 
 TEST_F(FuzzCorpus, ListFilesLoadAndComeBackAsTheyWereSaved) {
   Replay("ListFile", fuzz::CheckListFile);
+}
+
+TEST_F(FuzzCorpus, DamagedListFilesComeBackAsTextThatCanBeSaved) {
+  Replay("Recovery", fuzz::CheckRecovery);
+  Replay("ListFile", fuzz::CheckRecovery);
 }
 
 TEST_F(FuzzCorpus, IdStringsAreSplitAndResolvedAsTheirTextSays) {
