@@ -16,8 +16,8 @@
 #include "platform/Encoding.h"
 #include "platform/xml/XmlDocument.h"
 #include "recovery/DocumentFaults.h"
-#include "symbollist/ListFile.h"
 #include "symbollist/SymbolList.h"
+#include "symbollist/file/ListFile.h"
 #include "tests/recovery/RecoveryFiles.h"
 
 namespace {
