@@ -61,7 +61,7 @@ TEST_F(LoadStateTest, ADamagedFileSaysWhereAndWhy) {
   ExpectAfterLoading(File("\t<List ID='a' Name='A' Value='' Flag='0'/>\n" + bad), TQLoadDamaged, 5,
                      "line 5, column 23: an ampersand that is not written as &amp;");
   const std::string cut = Good().substr(0, Good().size() - 3);
-  ExpectAfterLoading(cut, TQLoadDamaged, 6, "line 6, column 8: the end of the file is missing");
+  ExpectAfterLoading(cut, TQLoadDamaged, 6, "line 6, column 7: the end of the file is missing");
   ExpectAfterLoading("", TQLoadDamaged, 1, "line 1, column 1: the file holds nothing");
 }
 

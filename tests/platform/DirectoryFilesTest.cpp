@@ -10,10 +10,10 @@
 
 namespace {
 
-using Names = std::vector<std::string>;
+using FoundNames = std::vector<std::string>;
 
-Names Listed(const std::string& directory, const char* prefix) {
-  Names names = {"left over"};
+FoundNames Listed(const std::string& directory, const char* prefix) {
+  FoundNames names = {"left over"};
   EXPECT_TRUE(tq::SystemFiles().ListFiles(directory.c_str(), prefix, names));
   std::sort(names.begin(), names.end());
   return names;
@@ -22,21 +22,21 @@ Names Listed(const std::string& directory, const char* prefix) {
 TEST(DirectoryFiles, AreThoseWithThePrefix) {
   // The directory's name has a trail byte that equals the separator.
   const TempDir directory("許功");
-  EXPECT_EQ(Listed(directory.Path(), ""), Names{});
+  EXPECT_EQ(Listed(directory.Path(), ""), FoundNames{});
   for (const char* name : {"SymbolList_1.xml", "SymbolList_2.xml", "SymbolList.xml", "Other"})
     directory.Write(name, "x");
   directory.MakeDirectory("SymbolList_3.xml");
   EXPECT_EQ(Listed(directory.Path(), "SymbolList_"),
-            (Names{"SymbolList_1.xml", "SymbolList_2.xml"}));
-  EXPECT_EQ(Listed(directory.Path(), "symbollist"), Names{});
+            (FoundNames{"SymbolList_1.xml", "SymbolList_2.xml"}));
+  EXPECT_EQ(Listed(directory.Path(), "symbollist"), FoundNames{});
   EXPECT_EQ(Listed(directory.Path(), "").size(), 4u);
 }
 
 TEST(DirectoryFiles, OfAMissingDirectoryAreNone) {
   const TempDir directory;
-  Names names = {"left over"};
+  FoundNames names = {"left over"};
   EXPECT_FALSE(tq::SystemFiles().ListFiles(directory.Joined("gone").c_str(), "", names));
-  EXPECT_EQ(names, Names{});
+  EXPECT_EQ(names, FoundNames{});
 }
 
 TEST(DirectoryFiles, AreListedOnlyByPlainNames) {
@@ -53,7 +53,7 @@ TEST(DirectoryFiles, AreRemovedAndNothingElseIs) {
   EXPECT_TRUE(files.RemoveFile(directory.Joined("a").c_str()));
   EXPECT_FALSE(files.RemoveFile(directory.Joined("a").c_str()));
   EXPECT_FALSE(files.RemoveFile(directory.Joined("b").c_str()));
-  EXPECT_EQ(directory.Names(), Names{"b"});
+  EXPECT_EQ(directory.Names(), FoundNames{"b"});
 }
 
 } // namespace

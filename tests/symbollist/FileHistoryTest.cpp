@@ -14,7 +14,7 @@
 
 namespace {
 
-using Names = std::vector<std::string>;
+using FileNames = std::vector<std::string>;
 
 int g_today = 0;
 
@@ -73,7 +73,7 @@ protected:
   static std::size_t LinesAbout(const char* what) {
     std::size_t count = 0;
     for (const auto& line : standin::LogLines())
-      count += line.text.find(what) != std::string::npos ? 1 : 0;
+      count += line.text.find(what) != std::string::npos ? 1u : 0u;
     return count;
   }
 
@@ -87,7 +87,7 @@ private:
 TEST_F(FileHistoryTest, IsOffUntilItIsAskedFor) {
   Add("a");
   AddOn(20260201, "b");
-  EXPECT_EQ(directory.Names(), Names{"SymbolList.xml"});
+  EXPECT_EQ(directory.Names(), FileNames{"SymbolList.xml"});
   EXPECT_EQ(Days(), "");
 }
 
@@ -141,10 +141,10 @@ TEST_F(FileHistoryTest, TheLastDaysStayAndTheOldestGo) {
 }
 
 TEST_F(FileHistoryTest, OtherFilesStay) {
-  const Names others = {"SymbolList_2026013.xml",   "SymbolList_20261301.xml",
-                        "SymbolList_20260100.xml",  "SymbolList_20260101.xml.bak",
-                        "SymbolList_Kept.xml",      "XSymbolList_20250101.xml",
-                        "SymbolList_20250101-2.xml"};
+  const FileNames others = {"SymbolList_2026013.xml",   "SymbolList_20261301.xml",
+                            "SymbolList_20260100.xml",  "SymbolList_20260101.xml.bak",
+                            "SymbolList_Kept.xml",      "XSymbolList_20250101.xml",
+                            "SymbolList_20250101-2.xml"};
   for (const std::string& name : others)
     directory.Write(name, "theirs");
   directory.MakeDirectory("SymbolList_20250101.xml");
