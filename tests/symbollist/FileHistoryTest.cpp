@@ -65,7 +65,8 @@ protected:
   std::string Days() const {
     CStringArray days;
     std::string text;
-    EXPECT_EQ(lists.GetHistory(days), days.GetSize());
+    const int count = lists.GetHistory(days);
+    EXPECT_EQ(count, days.GetSize());
     for (int i = 0; i < days.GetSize(); ++i)
       text += (i > 0 ? " " : "") + std::string(days[i].GetString());
     return text;
