@@ -83,6 +83,7 @@ std::vector<CString> CopiesOf(const CString& path) {
   std::stable_sort(copies.begin(), copies.end(),
                    [](const auto& one, const auto& other) { return one.first > other.first; });
   std::vector<CString> paths;
+  paths.reserve(copies.size());
   for (auto& copy : copies)
     paths.push_back(std::move(copy.second));
   return paths;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "platform/diagnostics/DebugMode.h"
-
 namespace tq {
 namespace {
 
@@ -36,8 +34,12 @@ void NoteGone(const CSymbolTableMgr* tables) {
     --unknown;
 }
 
+bool AreLive(const CSymbolTableMgr* tables) {
+  return unknown > 0 || Find(tables) != std::end(live);
+}
+
 CSymbolTableMgr* LiveTables(const char* operation, CSymbolTableMgr* tables) {
-  if (!IsDebugging() || unknown > 0 || Find(tables) != std::end(live) || tables == nullptr)
+  if (!IsDebugging() || tables == nullptr || AreLive(tables))
     return tables;
   ReportMistake(TQProblemMisuse, "%s: tables are gone", operation);
   return nullptr;

@@ -4,7 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/diagnostics/DebugMode.h"
 #include "platform/framework/CUIntArray.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
@@ -20,7 +19,8 @@ CSymbolTableMgr::~CSymbolTableMgr() {
 }
 
 int CSymbolTableMgr::Init() noexcept {
-  tq::CheckCall("Init");
+  if (!tq::CheckTables(this, "Init"))
+    return 0;
   // Tables are forgotten, not deleted, as the header says. CleanALL cannot reach them afterwards.
   slots_->Forget();
   slots_->SetDefaults({});
@@ -28,7 +28,8 @@ int CSymbolTableMgr::Init() noexcept {
 }
 
 int CSymbolTableMgr::InitAllSymbolTable() noexcept {
-  tq::CheckCall("InitAllSymbolTable");
+  if (!tq::CheckTables(this, "InitAllSymbolTable"))
+    return 0;
   const tq::ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList exchanges;
   int result = exchanges.Result();
@@ -45,7 +46,8 @@ int CSymbolTableMgr::InitAllSymbolTable() noexcept {
 }
 
 int CSymbolTableMgr::InitAuthorizedExch() noexcept {
-  tq::CheckCall("InitAuthorizedExch");
+  if (!tq::CheckTables(this, "InitAuthorizedExch"))
+    return 0;
   const tq::ExchangeTables::Use slots(*slots_);
   int mask[tq::ExchangeTables::kCount] = {};
   if (!GetAuthMask(mask))
@@ -57,7 +59,8 @@ int CSymbolTableMgr::InitAuthorizedExch() noexcept {
 }
 
 int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) noexcept {
-  tq::CheckCall("InitDefaultExchList");
+  if (!tq::CheckTables(this, "InitDefaultExchList"))
+    return 0;
   std::vector<int> exchIds;
   exchIds.reserve(static_cast<std::size_t>(ids.GetSize()));
   for (int i = 0; i < ids.GetSize(); ++i)
@@ -67,7 +70,8 @@ int CSymbolTableMgr::InitDefaultExchList(CUIntArray& ids) noexcept {
 }
 
 void CSymbolTableMgr::CleanALL() noexcept {
-  tq::CheckCall("CleanALL");
+  if (!tq::CheckTables(this, "CleanALL"))
+    return;
   slots_->Clear();
 }
 

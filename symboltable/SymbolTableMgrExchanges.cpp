@@ -2,20 +2,22 @@
 #include <algorithm>
 
 #include "platform/Text.h"
-#include "platform/diagnostics/DebugMode.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
+#include "symboltable/LiveTables.h"
 #include "symboltable/SymbolTableMgr.h"
 
 using tq::ExchangeTables;
 
 int CSymbolTableMgr::FindExchID(int exchId, CString& name) noexcept {
-  tq::CheckCall("FindExchID");
+  if (!tq::CheckTables(this, "FindExchID"))
+    return 0;
   return tq::ReadExchangeName(exchId, name);
 }
 
 int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
-  tq::CheckCall("IsAuthorizedExch", "exchName", exchName);
+  if (!tq::CheckTables(this, "IsAuthorizedExch", "exchName", exchName))
+    return 0;
   if (exchName.IsEmpty())
     return 0;
   const int slot = slots_->FindName(tq::ViewOf(exchName));
@@ -23,14 +25,16 @@ int CSymbolTableMgr::IsAuthorizedExch(const CString& exchName) noexcept {
 }
 
 int CSymbolTableMgr::IsSupportUJKExch() noexcept {
-  tq::CheckCall("IsSupportUJKExch");
+  if (!tq::CheckTables(this, "IsSupportUJKExch"))
+    return 0;
   int mask[ExchangeTables::kCount] = {};
   return GetAuthMask(mask) &&
          std::ranges::all_of(tq::kFamilyExchanges, [&](int exchId) { return mask[exchId] != 0; });
 }
 
 CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
-  tq::CheckCall("MapExchIDsToExchName", "exchIds", exchIds);
+  if (!tq::CheckTables(this, "MapExchIDsToExchName", "exchIds", exchIds))
+    return CString();
   const ExchangeTables::Use slots(*slots_);
   enum class FamilyShown { NotAsked, No, Yes };
   FamilyShown family = FamilyShown::NotAsked;
@@ -56,7 +60,8 @@ CString CSymbolTableMgr::MapExchIDsToExchName(const CString& exchIds) noexcept {
 }
 
 std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& id) noexcept {
-  tq::CheckCall("GetSymbolAndExchID", "id", id);
+  if (!tq::CheckTables(this, "GetSymbolAndExchID", "id", id))
+    return {};
   const auto [symbol, suffix] = tq::SplitId(tq::ViewOf(id));
   CString upperSuffix = tq::ToCString(suffix);
   upperSuffix.MakeUpper();
@@ -66,7 +71,8 @@ std::pair<CString, CString> CSymbolTableMgr::GetSymbolAndExchID(const CString& i
 }
 
 CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) noexcept {
-  tq::CheckCall("HandleDefaultExchangeSymbol", "id", id);
+  if (!tq::CheckTables(this, "HandleDefaultExchangeSymbol", "id", id))
+    return CString();
   const std::pair<CString, CString> parts = GetSymbolAndExchID(id);
   if (parts.second.IsEmpty())
     return id;
@@ -77,7 +83,8 @@ CString CSymbolTableMgr::HandleDefaultExchangeSymbol(const CString& id) noexcept
 }
 
 int CSymbolTableMgr::GetDefaultExchange(const CString& symbol, CString& exchName) noexcept {
-  tq::CheckCall("GetDefaultExchange", "symbol", symbol);
+  if (!tq::CheckTables(this, "GetDefaultExchange", "symbol", symbol))
+    return 0;
   const CSymbolTable* last = nullptr;
   int count = 0;
   for (const CSymbolTable* table : slots_->Defaults()) {

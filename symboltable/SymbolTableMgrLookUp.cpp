@@ -1,10 +1,10 @@
 // Look-ups of symbols, by id and by name.
 #include <utility>
 
-#include "platform/diagnostics/DebugMode.h"
 #include "platform/services/tqStockFields.h"
 #include "symbolid/UpperId.h"
 #include "symboltable/ExchangeTables.h"
+#include "symboltable/LiveTables.h"
 #include "symboltable/SymbolLookUp.h"
 #include "symboltable/SymbolTableMgr.h"
 
@@ -61,7 +61,8 @@ int GetLong(const tq::FoundSymbol& found, int field, long& value) {
 } // namespace
 
 int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) noexcept {
-  tq::CheckCall("LookUpNameGetSymbolID", "name", name);
+  if (!tq::CheckTables(this, "LookUpNameGetSymbolID", "name", name))
+    return 0;
   if (name.IsEmpty())
     return 0;
   for (int slot = 0; slot < tq::ExchangeTables::kCount; ++slot) {
@@ -75,7 +76,8 @@ int CSymbolTableMgr::LookUpNameGetSymbolID(const CString& name, CString& id) noe
 
 int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchName,
                                            CString& value) noexcept {
-  tq::CheckCall("LookUpSymbolGetString", "id,exchName", id, exchName);
+  if (!tq::CheckTables(this, "LookUpSymbolGetString", "id,exchName", id, exchName))
+    return 0;
   if (id.IsEmpty())
     return 0;
   tq::UpperBuffer idBuffer;
@@ -103,18 +105,21 @@ int CSymbolTableMgr::LookUpSymbolGetString(int field, CString id, CString exchNa
 
 int CSymbolTableMgr::LookUpSymbolGetInt(int field, CString id, CString exchName,
                                         int& value) noexcept {
-  tq::CheckCall("LookUpSymbolGetInt", "id,exchName", id, exchName);
+  if (!tq::CheckTables(this, "LookUpSymbolGetInt", "id,exchName", id, exchName))
+    return 0;
   return GetNumber(FindForNumber(*slots_, id, exchName), field, value);
 }
 
 int CSymbolTableMgr::LookUpSymbolGetValue(int field, CString id, CString exchName,
                                           long& value) noexcept {
-  tq::CheckCall("LookUpSymbolGetValue", "id,exchName", id, exchName);
+  if (!tq::CheckTables(this, "LookUpSymbolGetValue", "id,exchName", id, exchName))
+    return 0;
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }
 
 int CSymbolTableMgr::LookUpSymbolGetExAttr(int field, CString id, CString exchName,
                                            long& value) noexcept {
-  tq::CheckCall("LookUpSymbolGetExAttr", "id,exchName", id, exchName);
+  if (!tq::CheckTables(this, "LookUpSymbolGetExAttr", "id,exchName", id, exchName))
+    return 0;
   return GetLong(FindForNumber(*slots_, id, exchName), field, value);
 }

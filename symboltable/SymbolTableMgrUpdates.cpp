@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "platform/Text.h"
-#include "platform/diagnostics/DebugMode.h"
 #include "symbolid/SymbolRecords.h"
 #include "symboltable/ExchangeService.h"
 #include "symboltable/ExchangeTables.h"
+#include "symboltable/LiveTables.h"
 #include "symboltable/SymbolTableMgr.h"
 
 namespace {
@@ -51,7 +51,8 @@ int MakeTable(ExchangeTables& tables, const CString& exchName, int exchId) {
 } // namespace
 
 int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noexcept {
-  tq::CheckCall("AddSymbols");
+  if (!tq::CheckTables(this, "AddSymbols"))
+    return 0;
   const ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == ExchangeTables::kNone)
@@ -61,7 +62,8 @@ int CSymbolTableMgr::AddSymbols(int exchId, const char* symbols, int count) noex
 }
 
 int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) noexcept {
-  tq::CheckCall("UpdateSymbols");
+  if (!tq::CheckTables(this, "UpdateSymbols"))
+    return 0;
   const ExchangeTables::Use slots(*slots_);
   const int slot = slots->FindId(exchId);
   if (slot == ExchangeTables::kNone)
@@ -71,7 +73,8 @@ int CSymbolTableMgr::UpdateSymbols(int exchId, const char* symbols, int count) n
 }
 
 int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) noexcept {
-  tq::CheckCall("RemoveSymbols");
+  if (!tq::CheckTables(this, "RemoveSymbols"))
+    return 0;
   const int slot = MapToSymbolTableIndex(exchId);
   if (slot == ExchangeTables::kNone)
     return 0;
@@ -82,7 +85,8 @@ int CSymbolTableMgr::RemoveSymbols(int exchId, const char* symbols, int count) n
 }
 
 int CSymbolTableMgr::RebuildSymbolTable() noexcept {
-  tq::CheckCall("RebuildSymbolTable");
+  if (!tq::CheckTables(this, "RebuildSymbolTable"))
+    return 0;
   const ExchangeTables::Use slots(*slots_);
   const tq::ExchangeList list;
   if (!list.Result())
@@ -119,7 +123,8 @@ int CSymbolTableMgr::RebuildSymbolTable() noexcept {
 }
 
 int CSymbolTableMgr::RebuildSymbolTable(const CString& exchName, int exchId) noexcept {
-  tq::CheckCall("RebuildSymbolTable", "exchName", exchName);
+  if (!tq::CheckTables(this, "RebuildSymbolTable", "exchName", exchName))
+    return 0;
   constexpr int allExchanges = -1;
   if (exchId == allExchanges)
     return RebuildSymbolTable();

@@ -134,6 +134,21 @@ TEST_F(DebugModeTest, TablesThatAreGoneAreNamedAndNotUsed) {
   ExpectMistake("GetTradeLotSize: tables are gone");
 }
 
+// Symptom: the line about the name let the terminal start anew, and the look-up went on in tables
+// that were gone.
+TEST_F(DebugModeTest, TablesThatGoWhileAMistakeIsWrittenAreNotUsed) {
+  StartWith({});
+  Watch();
+  CSymbolTableMgr* const tables = manager.GetSymbolTableMgr();
+  int starts = 0;
+  standin::OnCall("TQLog::write", [&] { starts += starts == 0 ? StartWithTables() : 0; });
+  CString id = "as it was";
+  EXPECT_EQ(tables->LookUpNameGetSymbolID("\xB3", id), 0);
+  standin::OnCall("TQLog::write", {});
+  EXPECT_EQ(starts, 1);
+  EXPECT_STREQ(id, "as it was");
+}
+
 TEST_F(DebugModeTest, TablesOfTheTerminalsOwnAreAsGood) {
   ASSERT_EQ(StartWithTables(), 1);
   Watch();
