@@ -34,7 +34,7 @@ std::string OriginalOf(const std::string& path) {
   if (IsOfHistory(path))
     return directory + std::string(kListFiles[0]);
   for (const std::string_view name : kListFiles) {
-    const std::string original = directory + std::string(name);
+    std::string original = directory + std::string(name);
     for (int number = 0; number < tq::kKeptCopies; ++number)
       if (path == tq::KeptCopyPath(original.c_str(), number).GetString())
         return original;

@@ -128,7 +128,7 @@ std::string Parts::Clean(const string_t& value) {
 }
 
 bool Parts::string(string_t& value) {
-  if (Here() == Within::Symbols)
+  if (Here() == Within::Symbols || (Here() == Within::List && key_ == kKeySymbols))
     AppendEntry(list_.symbols, Clean(value));
   else if (Here() == Within::Entry && key_ == kKeyHeading)
     AppendEntry(list_.symbols, HeadingEntry(Clean(value)));
@@ -136,8 +136,6 @@ bool Parts::string(string_t& value) {
     list_.id = Clean(value);
   else if (Here() == Within::List && key_ == kKeyName)
     list_.name = Clean(value);
-  else if (Here() == Within::List && key_ == kKeySymbols)
-    AppendEntry(list_.symbols, Clean(value));
   else
     return Unexpected();
   return true;
