@@ -12,6 +12,19 @@ bool IsControl(char c) {
   return byte < 0x20 || byte == 0x7F;
 }
 
+// U+FFFE and U+FFFF, which are well-formed UTF-8 and no characters: no list file may hold them.
+constexpr std::size_t kNoCharacterLength = 3;
+
+std::size_t FindNoCharacter(std::string_view text, std::size_t from) {
+  constexpr std::string_view begin = "\xEF\xBF";
+  for (std::size_t at = text.find(begin, from); at != text.npos; at = text.find(begin, at + 1)) {
+    const std::string_view last = text.substr(at + begin.size(), 1);
+    if (last == "\xBE" || last == "\xBF")
+      return at;
+  }
+  return text.npos;
+}
+
 } // namespace
 
 bool NextEntry(std::string_view symbols, std::size_t& at, std::string_view& entry) {
@@ -66,13 +79,21 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 std::string OneLine(std::string_view text) {
-  std::string line(text);
+  std::string line;
+  std::size_t at = 0;
+  for (std::size_t stop = FindNoCharacter(text, at); stop != text.npos;
+       stop = FindNoCharacter(text, at)) {
+    line.append(text, at, stop - at);
+    line += ' ';
+    at = stop + kNoCharacterLength;
+  }
+  line.append(text, at);
   std::replace_if(line.begin(), line.end(), IsControl, ' ');
   return line;
 }
 
 bool IsOneLine(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), IsControl);
+  return std::none_of(text.begin(), text.end(), IsControl) && FindNoCharacter(text, 0) == text.npos;
 }
 
 std::string LowerCase(std::string_view text) {

@@ -42,7 +42,8 @@ void AppendEntry(std::string& symbols, std::string_view entry);
 // Blanks at both ends do not count.
 std::string_view Trimmed(std::string_view text);
 
-// Text in which each control character is a blank, for it stands in one line.
+// Text in which each control character, and what is no character, is a blank, for it stands in one
+// line of any file.
 std::string OneLine(std::string_view text);
 // Whether it is so already.
 bool IsOneLine(std::string_view text);
