@@ -7,19 +7,31 @@
 #   APART patterns     such of them as fork so often that they take a process of their own: a fork is slow
 #                      once other tests have used much memory
 # Under Wine all text goes through the code page, and they run in both languages as the others.
+#
+# Everywhere, ALONE patterns are tests that take a process of their own in each language: thousands of dialogs
+# in one process leave Wine without room for those of other tests.
 function(tq_add_language_tests program)
-  cmake_parse_arguments(PARSE_ARGV 1 tests "" "" "NEUTRAL;APART")
+  cmake_parse_arguments(PARSE_ARGV 1 tests "" "" "NEUTRAL;APART;ALONE")
   list(JOIN tests_NEUTRAL ":" neutral)
   list(JOIN tests_APART ":" apart)
+  list(JOIN tests_ALONE ":" alone)
   foreach(language tw cn)
     if(WIN32)
       tq_add_language_test(${program} ${language} ${language}
-        ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}>)
+        ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=*-${alone}")
       # Two programs on one desktop would take the focus from each other.
       set_tests_properties(${program}-${language} PROPERTIES RESOURCE_LOCK desktop-${language})
     else()
       tq_add_language_test(${program} ${language} ${language}
-        $<TARGET_FILE:${program}> "--gtest_filter=*-${neutral}:${apart}")
+        $<TARGET_FILE:${program}> "--gtest_filter=*-${neutral}:${apart}:${alone}")
+    endif()
+    if(alone AND WIN32)
+      tq_add_language_test(${program} alone-${language} ${language}
+        ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=${alone}")
+      set_tests_properties(${program}-alone-${language} PROPERTIES RESOURCE_LOCK desktop-${language})
+    elseif(alone)
+      tq_add_language_test(${program} alone-${language} ${language}
+        $<TARGET_FILE:${program}> "--gtest_filter=${alone}")
     endif()
   endforeach()
   foreach(kind neutral apart)
