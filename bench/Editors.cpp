@@ -11,7 +11,7 @@
 #include "bench/Universe.h"
 #include "platform/framework/window/CListBox.h"
 #include "platform/framework/window/CListCtrl.h"
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/UserInput.h"
 #include "platform/services/VLProxy.h"
 #include "terminal/StandIn.h"
 #include "tqSymbol.h"

@@ -2,7 +2,7 @@
 
 #include "platform/framework/window/CDialog.h"
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/headless/Focus.h"
+#include "platform/headless/user/Focus.h"
 #include "platform/headless/Queue.h"
 
 using namespace tq::headless;

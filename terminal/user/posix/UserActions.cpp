@@ -1,7 +1,7 @@
 #include "terminal/user/UserActions.h"
 
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/UserInput.h"
 
 namespace standin::actions {
 

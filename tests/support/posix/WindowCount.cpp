@@ -1,6 +1,6 @@
 #include "tests/support/WindowCount.h"
 
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/UserInput.h"
 #include "platform/services/tqCommon.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // Only for windows in memory.
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/UserInput.h"
 #include "tests/window/WindowTest.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/headless/EditText.h"
+#include "platform/headless/user/EditText.h"
 
 #include "platform/CodePage.h"
 

@@ -5,9 +5,9 @@
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/framework/window/ListKeys.h"
 #include "platform/framework/window/Mnemonic.h"
-#include "platform/headless/EditText.h"
-#include "platform/headless/Focus.h"
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/EditText.h"
+#include "platform/headless/user/Focus.h"
+#include "platform/headless/user/UserInput.h"
 
 namespace tq::headless {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/headless/Focus.h"
+#include "platform/headless/user/Focus.h"
 
 namespace tq::headless {
 

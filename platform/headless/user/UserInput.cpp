@@ -1,8 +1,8 @@
-#include "platform/headless/UserInput.h"
+#include "platform/headless/user/UserInput.h"
 
 #include "platform/framework/window/CListCtrl.h"
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/headless/Focus.h"
+#include "platform/headless/user/Focus.h"
 #include "platform/headless/HitTest.h"
 #include "platform/headless/Queue.h"
 

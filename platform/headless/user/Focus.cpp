@@ -1,4 +1,4 @@
-#include "platform/headless/Focus.h"
+#include "platform/headless/user/Focus.h"
 
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/framework/window/Mnemonic.h"
