@@ -10,9 +10,14 @@ Control* FindCombo(WindowHandle handle) {
   return FindControl(handle, tq::ControlKind::ComboBox);
 }
 
-Row* FindComboRow(WindowHandle handle, int index) {
-  Control* const combo = FindCombo(handle);
+const Row* FindComboRow(WindowHandle handle, int index) {
+  const Control* const combo = FindCombo(handle);
   return combo == nullptr ? nullptr : combo->rows.At(index);
+}
+
+Row* ChangeComboRow(WindowHandle handle, int index) {
+  Control* const combo = FindCombo(handle);
+  return combo == nullptr ? nullptr : combo->rows.Change(index);
 }
 
 } // namespace
@@ -47,7 +52,7 @@ CString CComboBox::GetItemText(int index) const {
 }
 
 bool CComboBox::SetItemData(int index, intptr_t data) {
-  Row* const at = FindComboRow(handle_, index);
+  Row* const at = ChangeComboRow(handle_, index);
   if (at != nullptr)
     at->data = data;
   return at != nullptr;

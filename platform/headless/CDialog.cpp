@@ -5,6 +5,7 @@
 
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Queue.h"
+#include "platform/headless/Screen.h"
 
 using namespace tq::headless;
 
@@ -62,7 +63,15 @@ void Run(Dialog& dialog, CDialog& object) {
   }
 }
 
+// Where there is a screen, and where there should be one.
+bool OpenOnScreen(Dialog& dialog, WindowHandle parent) {
+  Screen* const screen = CurrentScreen();
+  return screen == nullptr ? !IsScreenLacking() : screen->Open(dialog, parent);
+}
+
 void Destroy(const Dialog& dialog) {
+  if (Screen* const screen = CurrentScreen())
+    screen->Close(dialog);
   DropMessages(dialog.handle);
   for (const auto& control : dialog.controls)
     Forget(*control);
@@ -74,10 +83,15 @@ void Destroy(const Dialog& dialog) {
 namespace tq {
 
 int RunModal(CDialog& object) {
+  const ScreenUse use;
   const std::unique_ptr<Dialog> dialog = MakeDialog(DialogAccess::TemplateId(object));
   if (dialog == nullptr)
     return CDialog::Failed;
   dialog->object = &object;
+  if (!OpenOnScreen(*dialog, DialogAccess::Parent(object))) {
+    Destroy(*dialog);
+    return CDialog::Failed;
+  }
   const ParentDisabled disabled(DialogAccess::Parent(object));
   Running().push_back(dialog.get());
   DialogAccess::Begin(object, dialog->handle);
@@ -87,10 +101,25 @@ int RunModal(CDialog& object) {
   return DialogAccess::Finish(object);
 }
 
-void WakeModal(CDialog&) {} // the loop looks at the end code after each message
+// The loop looks at the end code after each message.
+void WakeModal(CDialog&) {
+  if (Screen* const screen = CurrentScreen())
+    screen->Wake();
+}
 
 bool ServeMessage(Serve what) {
-  return DeliverMessage() || (what == Serve::Timers && FireTimer());
+  if (DeliverMessage())
+    return true;
+  Screen* const screen = CurrentScreen();
+  if (screen == nullptr)
+    return what == Serve::Timers && FireTimer();
+  if (screen->Serve(false))
+    return true;
+  if (what == Serve::Messages)
+    return false;
+  if (!FireTimer(Now()))
+    screen->Serve(true);
+  return true;
 }
 
 } // namespace tq

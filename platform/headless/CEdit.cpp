@@ -57,6 +57,9 @@ bool CEdit::PlaceOverRow(const CListBox& list, int row) {
     return false;
   box->rows.Reveal(row);
   edit->place = PlaceOfRow(*box, row);
+  edit->over = box;
+  edit->overRow = row;
+  ++edit->placings;
   edit->visible = true;
   return true;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/headless/HitTest.h"
+#include "platform/headless/Screen.h"
 
 using namespace tq::headless;
 
@@ -12,9 +13,14 @@ Control* FindBox(WindowHandle handle) {
   return FindControl(handle, tq::ControlKind::ListBox);
 }
 
-Row* FindBoxRow(WindowHandle handle, int row) {
-  Control* const box = FindBox(handle);
+const Row* FindBoxRow(WindowHandle handle, int row) {
+  const Control* const box = FindBox(handle);
   return box == nullptr ? nullptr : box->rows.At(row);
+}
+
+Row* ChangeBoxRow(WindowHandle handle, int row) {
+  Control* const box = FindBox(handle);
+  return box == nullptr ? nullptr : box->rows.Change(row);
 }
 
 } // namespace
@@ -29,7 +35,7 @@ int CListBox::InsertString(int row, const char* text) {
 }
 
 bool CListBox::SetItemText(int row, const char* text) {
-  Row* const at = FindBoxRow(handle_, row);
+  Row* const at = ChangeBoxRow(handle_, row);
   if (at != nullptr)
     at->text = text;
   return at != nullptr;
@@ -56,7 +62,7 @@ CString CListBox::GetItemText(int row) const {
 }
 
 bool CListBox::SetItemData(int row, intptr_t data) {
-  Row* const at = FindBoxRow(handle_, row);
+  Row* const at = ChangeBoxRow(handle_, row);
   if (at != nullptr)
     at->data = data;
   return at != nullptr;
@@ -126,8 +132,11 @@ void CListBox::SetRowTips(bool on) {
 CString CListBox::GetRowTip(int row) const {
   const Control* const box = FindBox(handle_);
   const Row* const at = FindBoxRow(handle_, row);
-  const bool has = at != nullptr && box->rowTips && !FitsInRow(*box, at->text);
-  return has ? at->text : CString();
+  if (at == nullptr || !box->rowTips)
+    return CString();
+  Screen* const screen = CurrentScreen();
+  const bool fits = screen == nullptr ? FitsInRow(*box, at->text) : screen->FitsInRow(*box, at->text);
+  return fits ? CString() : at->text;
 }
 
 bool CListBox::EnsureVisible(int row) {
@@ -137,4 +146,7 @@ bool CListBox::EnsureVisible(int row) {
   return true;
 }
 
-void CListBox::RedrawItems() {} // nothing is ever drawn
+void CListBox::RedrawItems() {
+  if (Control* const box = FindBox(handle_))
+    box->rows.Touch();
+}

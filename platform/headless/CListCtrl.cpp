@@ -11,9 +11,14 @@ Control* Find(WindowHandle handle) {
   return FindControl(handle, tq::ControlKind::ListView);
 }
 
-Row* FindRow(WindowHandle handle, int row) {
-  Control* const view = Find(handle);
+const Row* FindRow(WindowHandle handle, int row) {
+  const Control* const view = Find(handle);
   return view == nullptr ? nullptr : view->rows.At(row);
+}
+
+Row* ChangeRow(WindowHandle handle, int row) {
+  Control* const view = Find(handle);
+  return view == nullptr ? nullptr : view->rows.Change(row);
 }
 
 bool HasColumn(WindowHandle handle, int column) {
@@ -93,7 +98,7 @@ int CListCtrl::GetRowCount() const {
 }
 
 bool CListCtrl::SetCellText(int row, int column, const char* text) {
-  Row* const at = FindRow(handle_, row);
+  Row* const at = ChangeRow(handle_, row);
   if (at == nullptr || !HasColumn(handle_, column))
     return false;
   if (column == 0) {
@@ -121,7 +126,7 @@ CString CListCtrl::GetCellText(int row, int column) const {
 }
 
 bool CListCtrl::SetItemData(int row, intptr_t data) {
-  Row* const at = FindRow(handle_, row);
+  Row* const at = ChangeRow(handle_, row);
   if (at != nullptr)
     at->data = data;
   return at != nullptr;

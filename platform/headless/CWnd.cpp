@@ -4,6 +4,7 @@
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/user/Focus.h"
 #include "platform/headless/Queue.h"
+#include "platform/headless/Screen.h"
 
 using namespace tq::headless;
 using tq::ControlKind;
@@ -32,7 +33,8 @@ void PutCaretAt(Control& control, int byte) {
 CWnd::CWnd(const CWnd& dialog, int id) : handle_(ControlOf(dialog.handle_, id)) {}
 
 bool CWnd::IsWindow() const {
-  return FindNode(handle_) != nullptr;
+  return FindNode(handle_) != nullptr ||
+         (CurrentScreen() != nullptr && CurrentScreen()->IsHostWindow(handle_));
 }
 
 int CWnd::GetDlgCtrlID() const {
@@ -56,7 +58,7 @@ CString CWnd::GetText() const {
     return CString();
   if (node->kind != ControlKind::ComboBox)
     return node->text;
-  Rows& rows = static_cast<Control*>(node)->rows;
+  const Rows& rows = static_cast<Control*>(node)->rows;
   const Row* const chosen = rows.At(rows.NextSelected(-1));
   return chosen == nullptr ? CString() : chosen->text;
 }
@@ -100,7 +102,10 @@ bool CWnd::HasFocus() const {
          control->owner->focus == control;
 }
 
-void CWnd::SetRedraw(bool) {} // nothing is ever drawn
+void CWnd::SetRedraw(bool draw) {
+  if (Node* const node = FindNode(handle_))
+    node->drawn = draw;
+}
 
 bool CWnd::Post(unsigned code, intptr_t first, intptr_t second) const {
   if (FindDialog(handle_) == nullptr || !IsPrivate(code))
@@ -118,6 +123,8 @@ intptr_t CWnd::Send(unsigned code, intptr_t first, intptr_t second) const {
 
 void SetWindowCursor(WindowCursor shape) {
   cursor = shape;
+  if (Screen* const screen = CurrentScreen())
+    screen->SetCursor(shape);
 }
 
 WindowCursor GetWindowCursor() {

@@ -1,10 +1,12 @@
 #include "platform/headless/Queue.h"
 
 #include <algorithm>
+#include <chrono>
 #include <deque>
 #include <tuple>
 
 #include "platform/framework/window/DialogAccess.h"
+#include "platform/headless/Screen.h"
 
 namespace tq::headless {
 
@@ -15,7 +17,7 @@ std::deque<Message>& Waiting() {
   return messages;
 }
 
-uint64_t now = 0; // milliseconds
+uint64_t now = 0; // milliseconds, without a screen
 uint64_t timersSet = 0;
 
 struct DueTimer {
@@ -48,6 +50,8 @@ std::vector<Dialog*>& Running() {
 
 void Enqueue(const Message& message) {
   Waiting().push_back(message);
+  if (Screen* const screen = CurrentScreen())
+    screen->Wake();
 }
 
 void DropMessages(WindowHandle dialog) {
@@ -56,7 +60,19 @@ void DropMessages(WindowHandle dialog) {
 
 void StartTimer(Dialog& dialog, unsigned id, unsigned milliseconds) {
   const unsigned period = std::max(1U, milliseconds);
-  dialog.timers[id] = {period, now + period, ++timersSet};
+  dialog.timers[id] = {period, Now() + period, ++timersSet};
+}
+
+uint64_t Now() {
+  if (CurrentScreen() == nullptr)
+    return now;
+  const auto time = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(time).count());
+}
+
+uint64_t NextDue() {
+  const DueTimer next = NextTimer();
+  return next.timer == nullptr ? UINT64_MAX : next.timer->due;
 }
 
 bool DeliverMessage() {
@@ -79,7 +95,7 @@ bool FireTimer(uint64_t until) {
   if (next.timer == nullptr || next.timer->due > until)
     return false;
   now = std::max(now, next.timer->due);
-  next.timer->due = now + next.timer->period;
+  next.timer->due = (CurrentScreen() == nullptr ? now : Now()) + next.timer->period;
   next.timer->order = ++timersSet; // behind the others that are due with it
   DialogAccess::Timer(*next.dialog->object, next.id);
   return true;

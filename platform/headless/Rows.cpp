@@ -16,13 +16,19 @@ int AfterRemove(int row, int went, int count) {
 
 } // namespace
 
-Row* Rows::At(int row) {
+const Row* Rows::At(int row) const {
+  return Holds(row) && !isVirtual_ ? &rows_[static_cast<size_t>(row)] : nullptr;
+}
+
+Row* Rows::Change(int row) {
+  Touch();
   return Holds(row) && !isVirtual_ ? &rows_[static_cast<size_t>(row)] : nullptr;
 }
 
 int Rows::Insert(int row, const char* text) {
   if (isVirtual_ || row < -1 || row > Count())
     return -1;
+  Touch();
   const int at = row == -1 ? Count() : row;
   Row added;
   added.text = text;
@@ -37,6 +43,7 @@ int Rows::Insert(int row, const char* text) {
 bool Rows::Remove(int row) {
   if (isVirtual_ || !Holds(row))
     return false;
+  Touch();
   Mark(row, false);
   rows_.erase(rows_.begin() + row);
   caret_ = AfterRemove(caret_, row, Count());
@@ -46,6 +53,7 @@ bool Rows::Remove(int row) {
 }
 
 void Rows::Clear() {
+  Touch();
   rows_.clear();
   marks_.clear();
   selected_ = 0;
@@ -60,6 +68,7 @@ void Rows::SetVirtualCount(int count) {
 void Rows::Mark(int row, bool select) {
   if (IsSelected(row) == select)
     return;
+  Touch();
   selected_ += select ? 1 : -1;
   if (isVirtual_)
     marks_[static_cast<size_t>(row)] = select;
@@ -75,6 +84,7 @@ bool Rows::SelectOnly(int row) {
   if (row == -1)
     return true;
   Mark(row, true);
+  Touch();
   caret_ = anchor_ = row;
   return true;
 }
@@ -112,15 +122,21 @@ int Rows::NextSelected(int after) const {
 bool Rows::SetCaret(int row) {
   if (!Holds(row))
     return false;
+  Touch();
   caret_ = row;
   return true;
 }
 
 void Rows::Reveal(int row) {
   if (row < top_)
-    top_ = row;
+    SetTop(row);
   else if (row >= top_ + page_)
-    top_ = row - page_ + 1;
+    SetTop(row - page_ + 1);
+}
+
+void Rows::SetTop(int row) {
+  Touch();
+  top_ = row;
 }
 
 } // namespace tq::headless

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/framework/CString.h"
+#include "platform/framework/FrameworkApi.h"
 
 namespace tq::headless {
 
@@ -17,11 +18,16 @@ struct Row {
 
 // Rows count from 0; -1 means none. A row out of range changes nothing and returns false, -1 or
 // null.
-class Rows {
+class TQFRAMEWORK_API Rows {
 public:
+  // Counts what changes the look of the list, so that a screen sees when it has to draw it again.
+  unsigned Changes() const { return changes_; }
+  void Touch() { ++changes_; } // asks for that
+
   int Count() const { return isVirtual_ ? static_cast<int>(marks_.size()) : HeldCount(); }
   bool Holds(int row) const { return row >= 0 && row < Count(); }
-  Row* At(int row);                      // null in a virtual list
+  const Row* At(int row) const;          // null in a virtual list
+  Row* Change(int row);                  // the same, to be changed
   int Insert(int row, const char* text); // -1: at the end
   bool Remove(int row);
   void Clear();
@@ -45,6 +51,7 @@ public:
 
   // Which rows are in sight.
   void SetPage(int rows) { page_ = rows; }
+  void SetTop(int row);
   int Page() const { return page_; }
   int Top() const { return top_; }
   bool InSight(int row) const { return Holds(row) && row >= top_ && row < top_ + page_; }
@@ -62,6 +69,7 @@ private:
   int anchor_ = 0;
   int top_ = 0;
   int page_ = 1;
+  unsigned changes_ = 0;
 };
 
 } // namespace tq::headless

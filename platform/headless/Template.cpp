@@ -13,6 +13,12 @@ CString TextOf(const TemplateRow& row, const Resources& resources) {
   return resources.toAnsi == nullptr ? CString(utf8) : resources.toAnsi(utf8);
 }
 
+TextCode CodeOf(const Resources& resources) {
+  if (resources.toAnsi == nullptr)
+    return TextCode::Utf8;
+  return resources.traditional ? TextCode::Big5 : TextCode::Gbk;
+}
+
 const TemplateRow* FindTemplate(const Resources& resources, unsigned id) {
   for (size_t i = 0; i < resources.rowCount; ++i) {
     const TemplateRow& row = resources.rows[i];
@@ -50,6 +56,8 @@ std::unique_ptr<Dialog> MakeDialog(unsigned templateId) {
   auto dialog = std::make_unique<Dialog>();
   dialog->text = TextOf(*row, resources);
   dialog->visible = false;
+  dialog->place = {row->x, row->y, row->width, row->height};
+  dialog->code = CodeOf(resources);
   Register(*dialog);
   const TemplateRow* const end = resources.rows + resources.rowCount;
   for (++row; row != end && row->kind != ControlKind::Dialog; ++row)

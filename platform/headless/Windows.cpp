@@ -11,7 +11,8 @@ std::unordered_map<WindowHandle, Node*>& Nodes() {
   return nodes;
 }
 
-uintptr_t lastHandle = 0;
+// Far from the numbers of a window system, which a host may give as the parent.
+uintptr_t lastHandle = uintptr_t{1} << (sizeof(uintptr_t) * 8 - 2);
 
 } // namespace
 

@@ -20,6 +20,7 @@ struct Node {
   CString text;
   bool enabled = true;
   bool visible = true;
+  bool drawn = true; // SetRedraw
 };
 
 struct Column {
@@ -48,6 +49,9 @@ struct Control : Node {
   int limit = 0;          // edit: bytes, 0 none
   int selectionStart = 0; // edit: bytes, whole characters
   int selectionEnd = 0;   // the caret
+  const Control* over = nullptr; // edit: the list box over whose row it was placed last
+  int overRow = -1;
+  unsigned placings = 0; // how often
   WindowButtonIcon icon = WindowButtonIcon::None;
 
   bool TakesInput() const { return enabled && visible; }
@@ -60,6 +64,9 @@ struct Control : Node {
   bool IsMulti() const { return kind == ControlKind::ListView || (style & TemplateMulti) != 0; }
 };
 
+// What the texts of a dialog are in.
+enum class TextCode { Big5, Gbk, Utf8 };
+
 struct Timer {
   unsigned period;
   uint64_t due;
@@ -70,10 +77,12 @@ struct Dialog : Node {
   CDialog* object = nullptr;
   std::vector<std::unique_ptr<Control>> controls; // in the template's order
   Control* focus = nullptr;
+  Place place;
+  TextCode code = TextCode::Big5;
   std::map<unsigned, Timer> timers;
   std::map<int, CString> tips;
 
-  Control* Find(int id) const;
+  TQFRAMEWORK_API Control* Find(int id) const;
 };
 
 // Makes the windows of a template of the resources in force; null when there is none. The dialog is
@@ -84,10 +93,10 @@ std::unique_ptr<Dialog> MakeDialog(unsigned templateId);
 void Register(Node& node);
 void Forget(const Node& node);
 size_t NodeCount();
-Node* FindNode(WindowHandle handle);
-Dialog* FindDialog(WindowHandle handle);
+TQFRAMEWORK_API Node* FindNode(WindowHandle handle);
+TQFRAMEWORK_API Dialog* FindDialog(WindowHandle handle);
 // Null when the handle is not that of a control of this kind.
-Control* FindControl(WindowHandle handle);
+TQFRAMEWORK_API Control* FindControl(WindowHandle handle);
 Control* FindControl(WindowHandle handle, ControlKind kind);
 
 } // namespace tq::headless

@@ -7,7 +7,7 @@ namespace tq::headless {
 
 // Moves the focus, with the events of the edits that lose and gain it. False when a handler ended
 // the dialog or moved the focus elsewhere: then the action that moved it has no further effect.
-bool MoveFocus(Control& control);
+TQFRAMEWORK_API bool MoveFocus(Control& control);
 // Tab: the next control that can take it, or the one before.
 void FocusNext(Dialog& dialog, bool backwards);
 // If the control has the focus and can no longer have it, moves the focus to the next one, without
