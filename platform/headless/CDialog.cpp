@@ -2,10 +2,12 @@
 #include "platform/framework/window/CDialog.h"
 
 #include <algorithm>
+#include <climits>
 
 #include "platform/framework/window/DialogAccess.h"
 #include "platform/headless/Queue.h"
 #include "platform/headless/Screen.h"
+#include "platform/headless/user/UserInput.h"
 
 using namespace tq::headless;
 
@@ -82,6 +84,12 @@ void Destroy(const Dialog& dialog) {
 
 namespace tq {
 
+namespace {
+
+constexpr unsigned kForever = UINT_MAX;
+
+} // namespace
+
 int RunModal(CDialog& object) {
   const ScreenUse use;
   const std::unique_ptr<Dialog> dialog = MakeDialog(DialogAccess::TemplateId(object));
@@ -110,17 +118,27 @@ void WakeModal(CDialog&) {
 bool ServeMessage(Serve what) {
   if (DeliverMessage())
     return true;
+  if (what == Serve::Timers)
+    return ServeWithin(kForever);
+  return CurrentScreen() != nullptr && CurrentScreen()->Serve(0);
+}
+
+namespace headless {
+
+bool ServeWithin(unsigned patience) {
+  if (DeliverMessage())
+    return true;
   Screen* const screen = CurrentScreen();
   if (screen == nullptr)
-    return what == Serve::Timers && FireTimer();
-  if (screen->Serve(false))
+    return FireTimer();
+  if (screen->Serve(0) || FireTimer(Now()))
     return true;
-  if (what == Serve::Messages)
-    return false;
-  if (!FireTimer(Now()))
-    screen->Serve(true);
-  return true;
+  const uint64_t due = NextDue();
+  const bool came = screen->Serve(patience);
+  return came || patience == kForever || due <= Now();
 }
+
+} // namespace headless
 
 } // namespace tq
 

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "terminal/StandIn.h"
+#include "tests/support/Windows.h"
 
 namespace {
 
@@ -40,5 +41,6 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (RunsInNoLanguage())
     testing::UnitTest::GetInstance()->listeners().Append(new LanguageGuard);
+  PrepareWindows();
   return RUN_ALL_TESTS();
 }

@@ -28,7 +28,7 @@ struct DialogAccess {
   static intptr_t Message(CDialog& dialog, unsigned code, intptr_t first, intptr_t second) {
     return dialog.OnMessage(code, first, second);
   }
-  static CString CellText(CDialog& dialog, int id, int row, int column);
+  static TQFRAMEWORK_API CString CellText(CDialog& dialog, int id, int row, int column);
   static TQFRAMEWORK_API WindowItemLook Look(CDialog& dialog, int id, int row);
 
   // Tells the modal handler, if there is one and the dialog has not ended.

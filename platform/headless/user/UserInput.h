@@ -47,4 +47,8 @@ TQFRAMEWORK_API bool PressKey(WindowHandle dialog, WindowKey key, Modifier modif
 TQFRAMEWORK_API bool PressLetter(WindowHandle dialog, char letter, Modifier modifier);
 TQFRAMEWORK_API bool CloseByTitleBar(WindowHandle dialog);
 
+// Delivers the next message or timer. False when none will come: without a screen at once, with one
+// when nothing has come for so many milliseconds.
+TQFRAMEWORK_API bool ServeWithin(unsigned patience);
+
 } // namespace tq::headless

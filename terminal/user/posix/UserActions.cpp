@@ -68,7 +68,8 @@ void Settle() {
 }
 
 bool ServeNext() {
-  return tq::ServeMessage(tq::Serve::Timers);
+  constexpr unsigned kPatience = 10000; // milliseconds
+  return tq::headless::ServeWithin(kPatience);
 }
 
 } // namespace standin::actions

@@ -1,0 +1,48 @@
+// The screen on Qt's widgets. Internal.
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+#include "platform/headless/Screen.h"
+#include "platform/headless/user/Hands.h"
+#include "platform/qt/Application.h"
+#include "platform/qt/DialogWindow.h"
+#include "platform/qt/Pump.h"
+
+namespace tq::qt {
+
+class QtScreen : public headless::Screen {
+public:
+  QtScreen();
+  ~QtScreen() override;
+  const char* Begin() override;
+  void End() override;
+  bool Open(headless::Dialog& dialog, WindowHandle parent) override;
+  void Close(const headless::Dialog& dialog) override;
+  bool Serve(unsigned patience) override;
+  void Wake() override;
+  bool FitsInRow(const headless::Control& list, const CString& text) override;
+  void SetCursor(WindowCursor shape) override;
+  bool IsHostWindow(WindowHandle handle) override;
+  headless::Hands& UserHands() override { return *hands_; }
+
+  // Shows what memory holds now.
+  void Refresh();
+  // The window and the widget of a handle of memory's; null when there is none.
+  DialogWindow* WindowOf(const headless::Dialog* dialog) const;
+  ControlWidget* WidgetOf(WindowHandle control) const;
+
+private:
+  QWidget* ParentOf(WindowHandle parent) const;
+
+  Application application_;
+  std::vector<std::unique_ptr<DialogWindow>> windows_; // the innermost last
+  std::unique_ptr<Pump> pump_;
+  std::unique_ptr<headless::Hands> hands_;
+  bool waits_ = false; // the wait cursor is up
+};
+
+} // namespace tq::qt

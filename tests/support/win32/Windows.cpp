@@ -1,0 +1,3 @@
+#include "tests/support/Windows.h"
+
+void PrepareWindows() {}
