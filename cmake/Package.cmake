@@ -36,6 +36,7 @@ set(TQ_FRAMEWORK_HEADERS
   platform/framework/SeededHash.h
   platform/framework/Storage.h
   platform/framework/StringData.h
+  platform/framework/window/WindowKind.h
   platform/framework/window/WindowTypes.h
   tqSymbolApi.h
   platform/framework/tqFramework.h)

@@ -1,5 +1,7 @@
 // The operations that open dialogs. Each one activates the library's resources while it runs, and
 // wraps the terminal's window handle.
+#include <string>
+
 #include "dialogs/EditCommits.h"
 #include "dialogs/IndicatorSearches.h"
 #include "dialogs/editors/GroupSymbolAdd.h"
@@ -10,7 +12,9 @@
 #include "dialogs/search/SymbolSearchDlg.h"
 #include "idlist/ListKind.h"
 #include "manager/TQSymbolListMgr.h"
+#include "platform/Log.h"
 #include "platform/diagnostics/Operation.h"
+#include "platform/framework/window/WindowKind.h"
 #include "platform/services/tqCommon.h"
 #include "symbolid/ListID.h"
 #include "symboltable/LiveTables.h"
@@ -21,7 +25,18 @@ int CTQSymbolListMgr::m_bDoModal = 0;
 
 namespace {
 
+// Where nobody can see the dialogs the log says why, once for each reason.
+void NoteScreen() {
+  static std::string told;
+  if (told == tq::WindowsMissing())
+    return;
+  told = tq::WindowsMissing();
+  if (!told.empty())
+    tq::LogLine(tq::kLogChange, "Dialogs have no screen: %s", told.c_str());
+}
+
 int WithReason(int result) {
+  NoteScreen();
   if (result == CDialog::Failed)
     tq::NoteProblem(TQProblemDialog,
                     "the dialog could not be made, or another one of its family is open");

@@ -36,6 +36,10 @@ void ChooseWindows(WindowKind kind) {
   chosen = kind;
 }
 
+bool WindowsOnScreen() {
+  return headless::CurrentScreen() != nullptr;
+}
+
 const char* WindowsMissing() {
   return Missing().c_str();
 }
@@ -87,10 +91,8 @@ Screen* Load(std::string& why) {
 }
 
 Screen* Find(std::string& why) {
-  if (Chosen() == WindowKind::Memory) {
-    why = "windows in memory are chosen";
+  if (Chosen() == WindowKind::Memory)
     return nullptr;
-  }
   Screen* const screen = Load(why);
   const char* const refused = screen == nullptr ? nullptr : screen->Begin();
   if (refused != nullptr)

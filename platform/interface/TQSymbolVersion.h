@@ -9,7 +9,7 @@
 #include "tqSymbolApi.h"
 
 #define TQSYMBOL_VERSION_MAJOR 2
-#define TQSYMBOL_VERSION_MINOR 1
+#define TQSYMBOL_VERSION_MINOR 2
 #define TQSYMBOL_VERSION_PATCH 0
 
 // All of it as one number, for comparisons: 10203 is 1.2.3. The version of the headers, where the

@@ -11,10 +11,13 @@
 //  3. EndDialog notes the end; the handler goes on to its own end. When it has returned and the
 //     innermost run is this dialog's, the window is destroyed and DoModal returns.
 //
-// Without windows (everywhere but on Windows) controls are kept in memory. Timers then go by a
-// clock that jumps to the next timer when nothing else is waiting. When no timer is set either,
-// nobody could ever end the run: OnCancel is called, and if that does not end the dialog it ends
-// with Cancelled.
+// Where there is no screen (WindowKind.h) controls are kept in memory. Timers then go by a clock
+// that jumps to the next timer when nothing else is waiting. When no timer is set either, nobody
+// could ever end the run: OnCancel is called, and if that does not end the dialog it ends with
+// Cancelled.
+//
+// On Linux the parent is a window of this layer, or the number of a window of the host's own (the
+// WId of one of its Qt widgets); a host on another toolkit gives none.
 #pragma once
 
 #include "platform/framework/window/CWnd.h"
