@@ -6,39 +6,10 @@
 #include <vector>
 
 #include "fuzz/SequenceReader.h"
+#include "terminal/ServiceNames.h"
 #include "terminal/StandIn.h"
 
 namespace fuzz {
-
-inline constexpr std::array kServices = {"VLGetExch",
-                                         "VLGetBaseAttrs2",
-                                         "VLGetBaseAttrs",
-                                         "VLGetSymbolInfos",
-                                         "VLGetSymbolInfos2",
-                                         "VLGetSymbolInfo",
-                                         "VLFindSymbol",
-                                         "VLFindSymbol2",
-                                         "VLEX2ZUID2",
-                                         "VLGetZUID",
-                                         "VLGetExtendAttr",
-                                         "VLGetSubGroup",
-                                         "VLGetGroupSymbol",
-                                         "TQSGetUserInfo",
-                                         "TQSGetTSCount",
-                                         "TQSGetTSInfo",
-                                         "TQSGetTSStatus",
-                                         "TQSGetTSAccount",
-                                         "TQSGetTSAccountCount",
-                                         "TQSGetTSAccountHolding",
-                                         "TQSCall",
-                                         "TQSGetUserExtraValue",
-                                         "CStaticKey::Setup",
-                                         "CStockAttr::GetID",
-                                         "CStaticKey::GetFieldInt",
-                                         "CStaticKey::GetFieldString",
-                                         "TQLog::write",
-                                         "tqShowDllMessage",
-                                         "tqStockGetFieldString"};
 
 // Records of arbitrary bytes, whose texts may lack a NUL.
 template <typename Record> std::vector<Record> OddRecords(SequenceReader& input) {
@@ -86,7 +57,7 @@ inline void AnswerOddSymbols(SequenceReader& input) {
 
 // Withdraws all orders to fail.
 inline void StopFailing() {
-  for (const char* service : kServices)
+  for (const std::string_view service : standin::kServiceNames)
     standin::FailCall(service, 0);
 }
 
@@ -95,9 +66,10 @@ inline void StopFailing() {
 inline void ChangeServices(SequenceReader& input, bool& refuse) {
   switch (input.Byte() % 16) {
   case 1:
-    return standin::FailCall(input.One(kServices), static_cast<int>(1 + input.Byte() % 8));
+    return standin::FailCall(input.One(standin::kServiceNames),
+                             static_cast<int>(1 + input.Byte() % 8));
   case 2:
-    return standin::FailAlways(input.One(kServices));
+    return standin::FailAlways(input.One(standin::kServiceNames));
   case 3:
     return StopFailing();
   case 4:

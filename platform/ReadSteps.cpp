@@ -17,6 +17,10 @@ bool MakeRoom(std::string& bytes, std::size_t size) {
 } // namespace
 
 ReadResult RunRead(ReadSteps& steps, std::size_t limit, std::string& bytes) {
+  bytes.clear();
+  const ReadResult opened = steps.Open();
+  if (opened != ReadResult::Ok)
+    return opened;
   FileStamp before;
   for (int i = 0; i < kReadTries; ++i) {
     bytes.clear();

@@ -81,13 +81,15 @@ void ListMaker::Cut(std::string_view bytes, std::size_t limit, std::string& text
   text.resize(length);
 }
 
-void ListMaker::MakeId(const RawValue& raw, std::string& id) {
+// What holds another attribute's beginning is two values that were written over each other.
+void ListMaker::MakeId(const RawList& raw, std::string& id) {
   id.clear();
-  const Charset charset = CharsetOfValue(raw.bytes);
-  const bool torn = raw.tornFront || raw.tornBack;
-  if (torn || !Clean(raw.bytes, charset) || !CarryText(raw.bytes, charset, id))
+  const std::string_view bytes = raw.id.bytes;
+  const Charset charset = CharsetOfValue(bytes);
+  const bool torn = raw.id.tornFront || raw.id.tornBack || (raw.damaged && HoldsMarkup(bytes));
+  if (torn || !Clean(bytes, charset) || !CarryText(bytes, charset, id))
     id.clear();
-  Cut(raw.bytes, kMostOfId, id);
+  Cut(bytes, kMostOfId, id);
 }
 
 void ListMaker::MakeName(const RawList& raw, std::string& name) {
@@ -153,7 +155,7 @@ void ListMaker::MakeSymbols(const RawList& raw, std::string& symbols) {
 void ListMaker::Make(const RawList& raw, RecoveredList& list, std::vector<RawFault>& faults) {
   faults = raw.faults;
   faults_ = &faults;
-  MakeId(raw.id, list.id);
+  MakeId(raw, list.id);
   MakeName(raw, list.name);
   MakeSymbols(raw, list.symbols);
   if (list.id.empty())

@@ -32,7 +32,7 @@ private:
   Charset CharsetOfValue(std::string_view value);
   bool Clean(std::string_view value, Charset charset);
   bool CarryText(std::string_view value, Charset charset, std::string& out);
-  void MakeId(const RawValue& raw, std::string& id);
+  void MakeId(const RawList& raw, std::string& id);
   void MakeName(const RawList& raw, std::string& name);
   void MakeSymbols(const RawList& raw, std::string& symbols);
   void AddTokens(const RawList& raw, Charset charset, std::string& symbols);

@@ -1,46 +1,13 @@
 #include "soak/Services.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <utility>
 
+#include "terminal/ServiceNames.h"
 #include "terminal/StandIn.h"
 
 namespace soak {
-namespace {
-
-constexpr std::array<std::string_view, 29> kServices = {"VLGetExch",
-                                                        "VLGetBaseAttrs2",
-                                                        "VLGetBaseAttrs",
-                                                        "VLGetSymbolInfos",
-                                                        "VLGetSymbolInfos2",
-                                                        "VLGetSymbolInfo",
-                                                        "VLFindSymbol",
-                                                        "VLFindSymbol2",
-                                                        "VLEX2ZUID2",
-                                                        "VLGetZUID",
-                                                        "VLGetExtendAttr",
-                                                        "VLGetSubGroup",
-                                                        "VLGetGroupSymbol",
-                                                        "TQSGetUserInfo",
-                                                        "TQSGetTSCount",
-                                                        "TQSGetTSInfo",
-                                                        "TQSGetTSStatus",
-                                                        "TQSGetTSAccount",
-                                                        "TQSGetTSAccountCount",
-                                                        "TQSGetTSAccountHolding",
-                                                        "TQSCall",
-                                                        "TQSGetUserExtraValue",
-                                                        "CStaticKey::Setup",
-                                                        "CStockAttr::GetID",
-                                                        "CStaticKey::GetFieldInt",
-                                                        "CStaticKey::GetFieldString",
-                                                        "TQLog::write",
-                                                        "tqShowDllMessage",
-                                                        "tqStockGetFieldString"};
-
-} // namespace
 
 Services::Services(Ledger& ledger, Random& random, Meanwhile meanwhile)
     : ledger_(ledger), random_(random), meanwhile_(std::move(meanwhile)) {
@@ -54,7 +21,7 @@ Services::~Services() {
 
 void Services::FailOne() {
   constexpr int kSoon = 12;
-  const std::string_view service = random_.One(kServices);
+  const std::string_view service = random_.One(standin::kServiceNames);
   if (std::any_of(orders_.begin(), orders_.end(),
                   [&](const Order& order) { return order.service == service; }))
     return;

@@ -113,7 +113,8 @@ int UserLists::SaveEmpty() {
   return Report(Store(path, ListFileText({}, defaultIndex_)));
 }
 
-// What the history has to say is logged last, as in KeptFiles::Save.
+// What the history has to say is logged last, as in KeptFiles::Save. That asks for the file's state
+// anew: keeping it for the history takes time, in which another program may write it.
 SaveResult UserLists::Store(const CString& path, std::string bytes) {
   KeptLine line;
   if (history_.IsDue(path) && path == PathOf(kListFileName))
@@ -158,22 +159,28 @@ int UserLists::LoadFrom(const CString& path) {
     NoteNoFile();
     return 1;
   }
+  FileContents contents;
+  const ReadResult read = ReadContents(path, kXmlSizeLimit, contents);
+  return LoadRead(path, read, std::move(contents));
+}
+
+int UserLists::LoadRead(const CString& path, ReadResult read, FileContents contents) {
   keptFiles_.BeginLoad();
   ListVector lists;
   int defaultIndex = defaultIndex_;
   CXMLDOMParser parser;
   const auto finish = [this](CSymbolList& list) { RenameMovedIn(list, rename_); };
-  parser.ReadLists(path, finish, lists, defaultIndex);
+  parser.ReadLists(read, std::move(contents), finish, lists, defaultIndex);
   // Only now: while the ids are resolved the service may let the terminal save, or load again, and
   // it must find the whole of the lists of before, not a part of these. A file that could not be
   // read leaves none.
   lists_.Replace(std::move(lists));
   defaultIndex_ = defaultIndex;
   const LoadOutcome outcome = parser.Outcome();
-  FileContents contents = parser.TakeContents();
-  const LoadReport report = tq::ReportOf(outcome, contents.bytes);
+  FileContents loaded = parser.TakeContents();
+  const LoadReport report = tq::ReportOf(outcome, loaded.bytes);
   NoteLoad(path, report);
-  const bool saved = keptFiles_.EndLoad(path, outcome, std::move(contents));
+  const bool saved = keptFiles_.EndLoad(path, outcome, std::move(loaded));
   NoteOutcome(outcome, path, report);
   if (outcome == LoadOutcome::Empty)
     Save(); // anew at once, to the working file whichever file it was

@@ -120,6 +120,8 @@ private:
   SaveResult SaveText(const CString& path);
   // Writes a file, which is kept for the history first when it is the working file's turn.
   SaveResult Store(const CString& path, std::string bytes);
+  // Loads what was read of a file, as ReadContents gives it.
+  int LoadRead(const CString& path, ReadResult read, FileContents contents);
   void NoteLoad(const CString& path, const LoadReport& report);
   // Takes over what a repair recovers from a file. False when that is no list: nothing changes.
   bool TakeRecovered(const CString& path, TQRepairCounts& counts);

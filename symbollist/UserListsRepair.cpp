@@ -115,8 +115,8 @@ bool UserLists::TakeRecovered(const CString& path, TQRepairCounts& counts) {
     return false;
   counts = recovered.counts;
   const CString working = PathOf(kListFileName);
-  if (recovered.sound && path == working)
-    return LoadFrom(path) != 0;
+  if (recovered.sound && path == working) // and so within the limits of a load
+    return LoadRead(path, ReadResult::Ok, std::move(contents)) != 0;
   keptFiles_.BeginLoad();
   ListVector lists;
   for (const RecoveredList& from : recovered.lists) {

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <memory>
 #include <new>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,10 +29,28 @@ FileStamp StampOf(const struct stat& info) {
   return stamp;
 }
 
+// Whether errno, after a failed call that takes a path, means that there is no such file.
+bool IsMissing() {
+  return errno == ENOENT || errno == ENOTDIR;
+}
+
 class PosixReadSteps : public ReadSteps {
 public:
-  // The caller keeps the file and closes it.
-  explicit PosixReadSteps(int file) : file_(file) {}
+  explicit PosixReadSteps(const char* path) : path_(SystemPath(path)) {}
+  ~PosixReadSteps() override {
+    if (file_ >= 0)
+      ::close(file_);
+  }
+  PosixReadSteps(const PosixReadSteps&) = delete;
+  PosixReadSteps& operator=(const PosixReadSteps&) = delete;
+
+  ReadResult Open() override {
+    // Non-blocking, so that a pipe of this name cannot hang the terminal.
+    file_ = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (file_ >= 0)
+      return ReadResult::Ok;
+    return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
+  }
 
   bool Stamp(FileStamp& stamp) override {
     struct stat info;
@@ -58,26 +77,14 @@ public:
   void Pause() override { ::usleep(kReadPause); }
 
 private:
-  const int file_;
+  const std::string path_;
+  int file_ = -1;
 };
-
-// Whether errno, after a failed call that takes a path, means that there is no such file.
-bool IsMissing() {
-  return errno == ENOENT || errno == ENOTDIR;
-}
 
 class PosixFiles : public FileAccess {
 public:
   ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
-    bytes.clear();
-    // Non-blocking, so that a pipe of this name cannot hang the terminal.
-    const int file = ::open(SystemPath(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0)
-      return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
-    PosixReadSteps steps(file);
-    const ReadResult result = RunRead(steps, limit, bytes);
-    ::close(file);
-    return result;
+    return RunRead(*MakeReadSteps(path), limit, bytes);
   }
 
   SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
@@ -137,6 +144,10 @@ public:
 };
 
 } // namespace
+
+std::unique_ptr<ReadSteps> MakeReadSteps(const char* path) {
+  return std::make_unique<PosixReadSteps>(path);
+}
 
 FileAccess& SystemFiles() {
   // Never destroyed, since files may be used until the process ends, and not on the heap, where it

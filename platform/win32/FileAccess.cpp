@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <new>
 
 namespace tq {
@@ -26,14 +27,26 @@ FileStamp StampOf(const BY_HANDLE_FILE_INFORMATION& info) {
   return stamp;
 }
 
+// Whether the last error, after a failed call that takes a path, means that there is no such file.
+bool IsMissing() {
+  const DWORD error = ::GetLastError();
+  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
 class WindowsReadSteps : public ReadSteps {
 public:
-  // The caller keeps the file and closes it.
-  explicit WindowsReadSteps(HANDLE file) : file_(file) {}
+  explicit WindowsReadSteps(const char* path) : path_(SystemPath(path)) {}
+
+  ReadResult Open() override {
+    if (file_.Open(path_, GENERIC_READ, kShareAll, OPEN_EXISTING))
+      return ReadResult::Ok;
+    return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
+  }
 
   bool Stamp(FileStamp& stamp) override {
     BY_HANDLE_FILE_INFORMATION info;
-    if (::GetFileType(file_) != FILE_TYPE_DISK || ::GetFileInformationByHandle(file_, &info) == 0)
+    if (::GetFileType(file_.Get()) != FILE_TYPE_DISK ||
+        ::GetFileInformationByHandle(file_.Get(), &info) == 0)
       return false;
     stamp = StampOf(info);
     return true;
@@ -42,33 +55,24 @@ public:
   bool Read(std::string& bytes) override {
     const LARGE_INTEGER start = {};
     DWORD got = 0;
-    return ::SetFilePointerEx(file_, start, nullptr, FILE_BEGIN) != 0 &&
-           ::ReadFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr) != 0 &&
+    return ::SetFilePointerEx(file_.Get(), start, nullptr, FILE_BEGIN) != 0 &&
+           ::ReadFile(file_.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &got, nullptr) !=
+               0 &&
            got == bytes.size();
   }
 
   void Pause() override { ::Sleep(kReadPause); }
 
 private:
-  const HANDLE file_;
+  const std::wstring path_;
+  FileHandle file_;
 };
-
-// Whether the last error, after a failed call that takes a path, means that there is no such file.
-bool IsMissing() {
-  const DWORD error = ::GetLastError();
-  return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
-}
 
 class WindowsFiles : public FileAccess {
 public:
   ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
-    bytes.clear();
-    FileHandle file;
-    if (!file.Open(SystemPath(path), GENERIC_READ, kShareAll, OPEN_EXISTING))
-      return IsMissing() ? ReadResult::Missing : ReadResult::Failed;
-    WindowsReadSteps steps(file.Get());
     const std::uint64_t most = std::min<std::uint64_t>(limit, kOneCall);
-    return RunRead(steps, static_cast<std::size_t>(most), bytes);
+    return RunRead(*MakeReadSteps(path), static_cast<std::size_t>(most), bytes);
   }
 
   SaveResult SaveWholeFile(const char* path, const void* bytes, std::size_t size) override {
@@ -145,6 +149,10 @@ private:
 };
 
 } // namespace
+
+std::unique_ptr<ReadSteps> MakeReadSteps(const char* path) {
+  return std::make_unique<WindowsReadSteps>(path);
+}
 
 FileAccess& SystemFiles() {
   // Never destroyed, since files may be used until the process ends, and not on the heap, where it

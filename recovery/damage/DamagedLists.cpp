@@ -92,10 +92,10 @@ bool DamagedLists::TakePart(RawList& list) {
     TakeInstruction();
     return false;
   case Opening::Comment:
-    TakeThrough("<!--", "-->", commentEnd_);
+    TakeThrough(Section::Comment);
     return false;
   case Opening::CharacterData:
-    TakeThrough("<![CDATA[", "]]>", dataEnd_);
+    TakeThrough(Section::CharacterData);
     return false;
   case Opening::Type:
     TakeType();
@@ -181,16 +181,15 @@ void DamagedLists::TakeInstruction() {
 }
 
 // A comment or a CDATA section that ends; without its end it is only what opens it.
-void DamagedLists::TakeThrough(std::string_view opening, std::string_view closing,
-                               std::size_t& end) {
+void DamagedLists::TakeThrough(Section section) {
+  const std::string_view opening = OpeningOf(section);
   const std::size_t begin = at_;
   at_ += opening.size();
-  if (end < at_)
-    end = text_.find(closing, at_);
+  const std::size_t end = ends_.Find(section, at_);
   // What holds another opening was not closed where it should have been.
   const std::size_t other = text_.substr(0, std::min(end, text_.size())).find(opening, at_);
   if (end != std::string_view::npos && other == std::string_view::npos)
-    at_ = end + closing.size();
+    at_ = end + ClosingOf(section).size();
   else
     Note(Fault::BrokenMarkup, begin, opening.size());
 }

@@ -8,6 +8,7 @@
 #include "recovery/ListSource.h"
 #include "recovery/damage/DamagedPieces.h"
 #include "recovery/damage/Openings.h"
+#include "recovery/xml/SectionEnds.h"
 #include "recovery/xml/TagReader.h"
 
 namespace tq {
@@ -16,7 +17,7 @@ class DamagedLists : public ListSource {
 public:
   // Of the whole text, declaration included.
   explicit DamagedLists(std::string_view text)
-      : text_(text), faults_(1), reader_(text, Charset::Latin1, faults_) {}
+      : text_(text), faults_(1), reader_(text, Charset::Latin1, faults_), ends_(text) {}
 
   bool Next(RawList& list) override;
 
@@ -28,7 +29,7 @@ private:
   void TakeLists();
   void TakeTag(Opening opening);
   void TakeInstruction();
-  void TakeThrough(std::string_view opening, std::string_view closing, std::size_t& end);
+  void TakeThrough(Section section);
   void TakeType();
   bool TakeRemains();
   void TakeDamagedIndex(std::size_t begin, std::size_t end);
@@ -47,9 +48,7 @@ private:
   bool secondFile_ = false;
   bool brokenEnd_ = false;
   bool typed_ = false;
-  // The next "-->" and "]]>", found once for all openings in front of them.
-  std::size_t commentEnd_ = 0;
-  std::size_t dataEnd_ = 0;
+  SectionEnds ends_;
 };
 
 } // namespace tq

@@ -19,7 +19,8 @@ bool IsReservedTarget(std::string_view target) {
 
 DocumentWalk::DocumentWalk(std::string_view text, std::size_t at, Charset charset,
                            FaultList& faults)
-    : text_(text), faults_(faults), reader_(text, charset, faults), at_(at), begin_(at) {}
+    : text_(text), faults_(faults), reader_(text, charset, faults), at_(at), begin_(at),
+      ends_(text) {}
 
 bool DocumentWalk::Note(Fault fault, std::size_t at, std::size_t length) {
   faults_.Note(fault, at, length);
@@ -78,14 +79,11 @@ DocumentPiece DocumentWalk::TakeMarkup() {
   return rest.starts_with("<?") ? TakeInstruction() : TakeStart();
 }
 
-// Up to and with `closing`; when it is missing the text goes on behind the opening.
-void DocumentWalk::TakeThrough(std::string_view closing) {
-  const bool missing = std::find(missing_.begin(), missing_.end(), closing) != missing_.end();
-  const std::size_t found = missing ? std::string_view::npos : text_.find(closing, at_);
+// Up to and with the closing; when it is missing the text goes on behind the opening.
+void DocumentWalk::TakeThrough(Section section) {
+  const std::size_t found = ends_.Find(section, at_);
   if (found == std::string_view::npos) {
     Note(Fault::BrokenMarkup, begin_);
-    if (!missing)
-      missing_.push_back(closing);
     return;
   }
   while (at_ < found && !faults_.IsFull()) {
@@ -94,23 +92,23 @@ void DocumentWalk::TakeThrough(std::string_view closing) {
     else
       reader_.TakeCharacter(at_);
   }
-  at_ = found + closing.size();
+  at_ = found + ClosingOf(section).size();
 }
 
 DocumentPiece DocumentWalk::TakeComment() {
-  at_ += 4;
+  at_ += OpeningOf(Section::Comment).size();
   const std::size_t dashes = text_.find("--", at_);
   if (dashes != std::string_view::npos && !text_.substr(dashes).starts_with("-->"))
     Note(Fault::BrokenMarkup, dashes);
-  TakeThrough("-->");
+  TakeThrough(Section::Comment);
   return DocumentPiece::Other;
 }
 
 DocumentPiece DocumentWalk::TakeCharacterData() {
   if (open_.empty())
     Note(Fault::OutsideOfLists, at_);
-  at_ += 9;
-  TakeThrough("]]>");
+  at_ += OpeningOf(Section::CharacterData).size();
+  TakeThrough(Section::CharacterData);
   return DocumentPiece::Other;
 }
 
@@ -131,7 +129,7 @@ DocumentPiece DocumentWalk::TakeInstruction() {
     Note(Fault::BrokenMarkup, begin_);
   if (target.size() > kXmlNameLengthLimit || (!target.empty() && !names_.Add(target)))
     Note(Fault::Limit, begin_);
-  TakeThrough("?>");
+  TakeThrough(Section::Instruction);
   return DocumentPiece::Other;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/xml/XmlNames.h"
+#include "recovery/xml/SectionEnds.h"
 #include "recovery/xml/TagReader.h"
 
 namespace tq {
@@ -51,7 +52,7 @@ private:
   DocumentPiece TakeCharacterData();
   DocumentPiece TakeType();
   DocumentPiece TakeInstruction();
-  void TakeThrough(std::string_view closing);
+  void TakeThrough(Section section);
   void CountNames();
   void Enter();
 
@@ -66,7 +67,7 @@ private:
   bool stopped_ = false;
   std::size_t pieces_ = 0;
   std::vector<OpenElement> open_;
-  std::vector<std::string_view> missing_; // endings that do not come any more
+  SectionEnds ends_;
   XmlNameTable names_;
 };
 

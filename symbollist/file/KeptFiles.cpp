@@ -7,6 +7,7 @@
 #include "platform/diagnostics/Operation.h"
 #include "platform/xml/XmlDocument.h"
 #include "symbollist/file/KeptCopies.h"
+#include "symbollist/file/LoadReport.h"
 
 namespace tq {
 namespace {
@@ -16,27 +17,6 @@ constexpr std::size_t kMostFiles = 8;
 
 bool IsStamped(const FileStamp& stamp) {
   return stamp != FileStamp();
-}
-
-const char* WhyUnknown(LoadOutcome outcome) {
-  switch (outcome) {
-  case LoadOutcome::TooLarge:
-    return "it was too large to be loaded";
-  case LoadOutcome::Unreadable:
-    return "it could not be read when it was loaded";
-  case LoadOutcome::Damaged:
-    return "it is damaged";
-  case LoadOutcome::NoListFile:
-    return "it is no list file";
-  case LoadOutcome::EndedEarly:
-    return "a bad list ended its load";
-  case LoadOutcome::Whole:
-  case LoadOutcome::Empty:
-  case LoadOutcome::Missing:
-  case LoadOutcome::NotTried:
-    break;
-  }
-  return "the lists in memory do not come from it";
 }
 
 void NoteSave(SaveResult result, const CString& path) {

@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "platform/Log.h"
@@ -149,11 +150,11 @@ bool HoldsSameLists(const std::string& file, const std::string& text) {
 
 } // namespace tq
 
-bool CXMLDOMParser::Load(const CString& path) {
-  const tq::ReadResult result = tq::ReadContents(path, tq::kXmlSizeLimit, contents_);
-  outcome_ = OutcomeOf(result);
-  const bool loaded = result == tq::ReadResult::Ok &&
-                      document_.Load(contents_.bytes.data(), contents_.bytes.size());
+bool CXMLDOMParser::Load(tq::ReadResult read, tq::FileContents contents) {
+  contents_ = std::move(contents);
+  outcome_ = OutcomeOf(read);
+  const bool loaded =
+      read == tq::ReadResult::Ok && document_.Load(contents_.bytes.data(), contents_.bytes.size());
   if (loaded)
     outcome_ = tq::LoadOutcome::Whole;
   else if (document_.SystemFailed())
@@ -170,9 +171,9 @@ int CXMLDOMParser::GetDefaultIndex(const tq::XmlElement& symbolList) {
   return 0;
 }
 
-void CXMLDOMParser::ReadLists(const CString& path, const Finish& finish, tq::ListVector& lists,
-                              int& defaultIndex) {
-  if (Load(path))
+void CXMLDOMParser::ReadLists(tq::ReadResult read, tq::FileContents contents, const Finish& finish,
+                              tq::ListVector& lists, int& defaultIndex) {
+  if (Load(read, std::move(contents)))
     outcome_ = ReadDocument(finish, lists, defaultIndex);
 }
 

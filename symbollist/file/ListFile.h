@@ -51,9 +51,10 @@ public:
   // Called for each list after its ids have been resolved, before the next one is read.
   using Finish = std::function<void(CSymbolList&)>;
 
-  // Reads the file through the platform's DOM. True only for a well-formed document; a missing
-  // file, one over the size limit or one that cannot be read is none. Outcome() tells which.
-  bool Load(const CString& path);
+  // Takes what ReadContents gave, up to kXmlSizeLimit, and reads it through the platform's DOM. True
+  // only for a well-formed document; a missing file, one over the size limit or one that cannot be
+  // read is none. Outcome() tells which.
+  bool Load(tq::ReadResult read, tq::FileContents contents);
   // How the latest load, or reading of its lists, ended.
   tq::LoadOutcome Outcome() const { return outcome_; }
   // The file's bytes, which are the caller's from then on.
@@ -64,11 +65,10 @@ public:
   static int GetDefaultIndex(const tq::XmlElement& symbolList);
 
   // Loads the file and puts its lists, in document order, behind those of `lists`, and its default
-  // index into `defaultIndex`. Without a document, or when it is no list
-  // file, both stay as they were; a bad list ends the reading, with the lists in front of it.
-  // Outcome() tells which.
-  void ReadLists(const CString& path, const Finish& finish, tq::ListVector& lists,
-                 int& defaultIndex);
+  // index into `defaultIndex`. Without a document, or when it is no list file, both stay as they
+  // were; a bad list ends the reading, with the lists in front of it. Outcome() tells which.
+  void ReadLists(tq::ReadResult read, tq::FileContents contents, const Finish& finish,
+                 tq::ListVector& lists, int& defaultIndex);
 
   // Status answers in their two forms: <Result Status='%d'>%s</Result> and
   // <Result Status='%d' Reason='%s'>%s</Result>. Nothing is escaped.

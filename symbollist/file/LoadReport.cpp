@@ -78,6 +78,27 @@ const char* WordsOf(LoadOutcome outcome) {
   return "";
 }
 
+const char* WhyUnknown(LoadOutcome outcome) {
+  switch (outcome) {
+  case LoadOutcome::TooLarge:
+    return "it was too large to be loaded";
+  case LoadOutcome::Unreadable:
+    return "it could not be read when it was loaded";
+  case LoadOutcome::Damaged:
+    return "it is damaged";
+  case LoadOutcome::NoListFile:
+    return "it is no list file";
+  case LoadOutcome::EndedEarly:
+    return "a bad list ended its load";
+  case LoadOutcome::Whole:
+  case LoadOutcome::Empty:
+  case LoadOutcome::Missing:
+  case LoadOutcome::NotTried:
+    break;
+  }
+  return "the lists in memory do not come from it";
+}
+
 LoadReport ReportOf(LoadOutcome outcome, const std::string& bytes) {
   LoadReport report;
   report.state = StateOf(outcome);

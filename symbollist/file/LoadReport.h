@@ -18,6 +18,9 @@ struct LoadReport {
 // Why a file did not give all of its lists: "is damaged", behind the name of a file. Empty for one
 // that did, and for one that was never loaded.
 const char* WordsOf(LoadOutcome outcome);
+// The same for a log line, of a file that is copied before it is overwritten: "it is damaged",
+// behind "is kept as <name>: ".
+const char* WhyUnknown(LoadOutcome outcome);
 
 // `bytes`, what the file holds, is looked at only when it is damaged.
 LoadReport ReportOf(LoadOutcome outcome, const std::string& bytes);

@@ -1,6 +1,7 @@
 // The content editors: what the user did to the list is taken back and done again.
 #include "platform/framework/window/CListBox.h"
 #include "tests/interface/ContentEditorText.h"
+#include "tests/interface/UndoSteps.h"
 
 namespace {
 
@@ -19,26 +20,13 @@ protected:
     return {user.Rows(kRows), user.SelectedRows(kRows),
             CListBox(user.Dialog(), kRows).GetCaretIndex()};
   }
-  static void Undo(User& user) { EXPECT_TRUE(user.Press(WindowKey::Z, Modifier::Control)); }
-  static void Redo(User& user) { EXPECT_TRUE(user.Press(WindowKey::Y, Modifier::Control)); }
-  // The action behind `prepare` is one step: back, forth, and back again.
+  // The action behind `prepare` changes rows, and is one step.
   void ExpectStep(const Action& prepare, const Action& action) {
     In([&](User& user) {
       prepare(user);
-      const View before = ViewOf(user);
-      action(user);
-      const View after = ViewOf(user);
-      EXPECT_NE(before.rows, after.rows);
-      for (int i = 0; i < 2; ++i) {
-        Undo(user);
-        EXPECT_EQ(ViewOf(user), before);
-        Undo(user); // nothing more
-        EXPECT_EQ(ViewOf(user), before);
-        Redo(user);
-        EXPECT_EQ(ViewOf(user), after);
-        Redo(user); // nothing more
-        EXPECT_EQ(ViewOf(user), after);
-      }
+      const Lines before = user.Rows(kRows);
+      ExpectOneStep(user, &ViewOf, action);
+      EXPECT_NE(user.Rows(kRows), before);
     });
     EXPECT_EQ(Shown(), "");
   }

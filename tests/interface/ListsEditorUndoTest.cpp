@@ -1,6 +1,7 @@
 // The editors of lists: what the user did is taken back and done again, with the default list and
 // what is selected.
 #include "tests/interface/EditorText.h"
+#include "tests/interface/UndoSteps.h"
 
 namespace {
 
@@ -16,25 +17,11 @@ protected:
   static View ViewOf(const User& user) {
     return {user.Rows(kLists), user.Rows(kContents), user.SelectedRows(kLists), MarkedRows(user)};
   }
-  static void Undo(User& user) { EXPECT_TRUE(user.Press(WindowKey::Z, Modifier::Control)); }
-  static void Redo(User& user) { EXPECT_TRUE(user.Press(WindowKey::Y, Modifier::Control)); }
 
   using Action = std::function<void(User&)>;
+  // The action is one step, and taken back at the end.
   static void CheckStep(User& user, const Action& action) {
-    const View before = ViewOf(user);
-    action(user);
-    const View after = ViewOf(user);
-    EXPECT_NE(before, after);
-    for (int i = 0; i < 2; ++i) {
-      Undo(user);
-      EXPECT_EQ(ViewOf(user), before);
-      Undo(user); // nothing more
-      EXPECT_EQ(ViewOf(user), before);
-      Redo(user);
-      EXPECT_EQ(ViewOf(user), after);
-      Redo(user); // nothing more
-      EXPECT_EQ(ViewOf(user), after);
-    }
+    ExpectOneStep(user, &ViewOf, action);
     Undo(user);
   }
   // In the editor of each kind, with three lists of which the row is selected. It ends as it began.

@@ -164,6 +164,20 @@ TEST(Recovery, AListWithoutAnIdentifierGetsTheSameOneEachTime) {
   EXPECT_EQ(list.name, "First");
 }
 
+// Two lists that were written over each other, within the identifier.
+TEST(Recovery, AnIdentifierThatHoldsMarkupIsNone) {
+  for (const char* torn : {"ID='A-ID='A1'", "ID='A-ame='x'"}) {
+    const tq::RecoveredList list = FirstOf("ID='A1'", torn);
+    EXPECT_EQ(list.fate, ListFate::Repaired);
+    EXPECT_TRUE(HasFault(list, Fault::NoId)) << torn;
+    EXPECT_FALSE(list.id.empty());
+    EXPECT_EQ(list.id.find('='), std::string::npos) << list.id;
+    EXPECT_EQ(list.name, "First");
+    EXPECT_EQ(list.symbols, "2330.TW,2317.TW");
+  }
+  EXPECT_EQ(FirstOf("ID='A1'", "ID='A'1'").id, "A'1");
+}
+
 TEST(Recovery, RepeatedListsAreLeftOutAndRepeatedIdentifiersMadeNew) {
   std::vector<StoredList> lists = kTwo;
   lists.push_back(kTwo[0]);

@@ -11,56 +11,19 @@
 
 namespace {
 
+using recovery::KnownIds;
+using recovery::Line;
+using recovery::LinesOf;
 using recovery::Outcome;
 using recovery::Recover;
 using recovery::Sample;
 using recovery::StoredList;
 
-// Where each list's line begins, tab included, and ends, line feed included.
-struct Line {
-  std::size_t begin, end;
-};
-
-std::vector<Line> LinesOf(const Sample& sample) {
-  std::vector<Line> lines;
-  for (std::size_t at = sample.file.find("\t<List"); at != std::string::npos;
-       at = sample.file.find("\t<List", at + 1))
-    lines.push_back({at, sample.file.find('\n', at) + 1});
-  return lines;
-}
-
-std::set<std::string> KnownIds(const std::vector<StoredList>& lists) {
-  std::set<std::string> known;
-  for (const StoredList& list : lists) {
-    known.insert(list.id);
-    for (const std::string& id : recovery::IdsOf(list.symbols))
-      known.insert(id);
-  }
-  return known;
-}
-
-// Identifiers of lists that were made anew have the findings for it.
-bool IsNewId(const tq::RecoveredList& list) {
-  return recovery::HasFault(list, tq::Fault::NoId) ||
-         recovery::HasFault(list, tq::Fault::RepeatedId);
-}
-
 // The first id that no list has, unless `allowed` is in it.
 std::string MadeUp(const Outcome& outcome, const std::set<std::string>& known, char allowed) {
-  const auto isFine = [&](const std::string& id) {
+  return recovery::FindMadeUp(outcome, [&](const std::string& id) {
     return known.count(id) != 0 || (allowed != '\0' && id.find(allowed) != std::string::npos);
-  };
-  for (const tq::RecoveredList& list : outcome.lists) {
-    if (list.fate == tq::ListFate::Lost)
-      continue;
-    if (!IsNewId(list) && !isFine(list.id))
-      return list.id;
-    for (const std::string& id : recovery::IdsOf(list.symbols)) {
-      if (!isFine(id))
-        return id;
-    }
-  }
-  return "";
+  });
 }
 
 bool ComesBack(const Outcome& outcome, const StoredList& wanted) {
@@ -81,7 +44,7 @@ bool IsWholeIn(const Outcome& outcome, const StoredList& wanted) {
 // Every list whose line lies outside of [begin, end) is whole in the outcome.
 void ExpectUntouchedWhole(const Sample& sample, const Outcome& outcome, std::size_t begin,
                           std::size_t end) {
-  const std::vector<Line> lines = LinesOf(sample);
+  const std::vector<Line> lines = LinesOf(sample.file);
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const bool touched = lines[i].begin < end && begin < lines[i].end;
     if (!touched) {
@@ -99,7 +62,7 @@ TEST(RecoveryDamage, FilesAreCutAtEveryByte) {
       const Outcome outcome = Recover(sample.file.substr(0, length), sample.encoding);
       EXPECT_FALSE(outcome.sound);
       EXPECT_EQ(MadeUp(outcome, known, '\0'), "");
-      const std::vector<Line> lines = LinesOf(sample);
+      const std::vector<Line> lines = LinesOf(sample.file);
       for (std::size_t i = 0; i < lines.size() && lines[i].end <= length; ++i)
         EXPECT_TRUE(IsWholeIn(outcome, sample.lists[i]));
       ASSERT_FALSE(HasFailure());
@@ -156,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Any, RecoveryByte, testing::Values('\'', '&', '<', '\0'
 // hits the comma between them.
 TEST_P(RecoveryByte, CostsNoMoreThanWhatItHits) {
   for (const Sample& sample : recovery::Samples()) {
-    const std::vector<Line> lines = LinesOf(sample);
+    const std::vector<Line> lines = LinesOf(sample.file);
     for (std::size_t i = 0; i < lines.size(); ++i) {
       for (std::size_t at = lines[i].begin; at < lines[i].end; ++at) {
         SCOPED_TRACE(at);
@@ -233,15 +196,14 @@ TEST(RecoveryDamage, AWriteThatStoppedInTheMiddleLeavesTheListsOfBoth) {
                                    {"OLD4", "Four", "1401.TW"},
                                    {"OLD5", "Five", "1501.TW"}};
   const std::string rest = recovery::FileOf(older, "big5");
-  const Sample old{rest, older, tq::TextEncoding::Big5};
   for (std::size_t at = 0; at < std::min(rest.size(), newer.file.size()); ++at) {
     SCOPED_TRACE(at);
     const std::string file = newer.file.substr(0, at) + rest.substr(at);
     const Outcome outcome = Recover(file, tq::TextEncoding::Big5);
-    const std::vector<Line> lines = LinesOf(newer);
+    const std::vector<Line> lines = LinesOf(newer.file);
     for (std::size_t i = 0; i < lines.size() && lines[i].end <= at; ++i)
       EXPECT_TRUE(IsWholeIn(outcome, newer.lists[i]));
-    const std::vector<Line> oldLines = LinesOf(old);
+    const std::vector<Line> oldLines = LinesOf(rest);
     for (std::size_t i = 0; i < oldLines.size(); ++i)
       EXPECT_TRUE(oldLines[i].begin < at || IsWholeIn(outcome, older[i])) << i;
     ASSERT_FALSE(HasFailure()) << file;

@@ -8,6 +8,7 @@
 
 namespace {
 
+using recovery::Encoded;
 using recovery::FileOf;
 using recovery::Outcome;
 using recovery::Recover;
@@ -22,20 +23,6 @@ constexpr char kTraditional3[] = "\u53F0\u7A4D\u96FB\u8207\u91D1\u878D";
 constexpr char kSimplified[] = "\u81EA\u9009\u80A1\u4E00";
 constexpr char kSimplified2[] = "\u6211\u7684\u80A1\u7968\u6C60";
 constexpr char kSimplified3[] = "\u94F6\u884C\u4E0E\u8BC1\u5238";
-
-std::string Encoded(std::string_view utf8, TextEncoding encoding) {
-  if (encoding == TextEncoding::Utf8)
-    return std::string(utf8);
-  tq::CharacterEncoder encoder(encoding == TextEncoding::Big5 ? tq::kCodePageBig5
-                                                              : tq::kCodePageGbk);
-  std::string text;
-  for (const char* at = utf8.data(); at != utf8.data() + utf8.size();) {
-    char bytes[2];
-    const std::size_t length = encoder.Encode(tq::TakeUtf8Char(at), bytes);
-    text.append(bytes, length);
-  }
-  return text;
-}
 
 std::vector<StoredList> Names(TextEncoding encoding, bool traditional) {
   const char* const tw[] = {kTraditional, kTraditional2, kTraditional3};

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -95,6 +96,67 @@ inline std::vector<std::string> IdsOf(const std::string& symbols) {
     at = comma + 1;
   }
   return ids;
+}
+
+// Where each list's line begins, tab included, and ends, line feed included.
+struct Line {
+  std::size_t begin, end;
+};
+
+inline std::vector<Line> LinesOf(const std::string& file) {
+  std::vector<Line> lines;
+  for (std::size_t at = file.find("\t<List"); at != std::string::npos;
+       at = file.find("\t<List", at + 1))
+    lines.push_back({at, file.find('\n', at) + 1});
+  return lines;
+}
+
+inline std::set<std::string> KnownIds(const std::vector<StoredList>& lists) {
+  std::set<std::string> known;
+  for (const StoredList& list : lists) {
+    known.insert(list.id);
+    for (const std::string& id : IdsOf(list.symbols))
+      known.insert(id);
+  }
+  return known;
+}
+
+// Identifiers of lists that were made anew have the findings for it.
+inline bool IsNewId(const tq::RecoveredList& list) {
+  return HasFault(list, tq::Fault::NoId) || HasFault(list, tq::Fault::RepeatedId);
+}
+
+// The first id of lists and symbols for which `isKnown` is false; empty when there is none.
+template <typename IsKnown> std::string FindMadeUp(const Outcome& outcome, IsKnown isKnown) {
+  for (const tq::RecoveredList& list : outcome.lists) {
+    if (list.fate == tq::ListFate::Lost)
+      continue;
+    if (!IsNewId(list) && !isKnown(list.id))
+      return list.id;
+    for (const std::string& id : IdsOf(list.symbols)) {
+      if (!isKnown(id))
+        return id;
+    }
+  }
+  return "";
+}
+
+inline std::string Encoded(std::string_view utf8, tq::TextEncoding encoding) {
+  if (encoding == tq::TextEncoding::Utf8)
+    return std::string(utf8);
+  tq::CharacterEncoder encoder(encoding == tq::TextEncoding::Big5 ? tq::kCodePageBig5
+                                                                  : tq::kCodePageGbk);
+  std::string text;
+  for (const char* at = utf8.data(); at != utf8.data() + utf8.size();) {
+    if (static_cast<unsigned char>(*at) < 0x80) {
+      text += *at++;
+      continue;
+    }
+    char bytes[2];
+    const std::size_t length = encoder.Encode(tq::TakeUtf8Char(at), bytes);
+    text.append(bytes, length);
+  }
+  return text;
 }
 
 // A file of each code page with everything that a list file has.

@@ -1,14 +1,36 @@
 // The user's lists with their file, made without a manager.
 #include "symbollist/UserLists.h"
 
+#include <map>
 #include <string>
+#include <vector>
 
+#include "platform/FileAccess.h"
 #include "platform/Log.h"
 #include "terminal/StandIn.h"
 #include "tests/support/StandInTest.h"
 #include "tests/support/TempDir.h"
 
 namespace {
+
+// The system's files, with the reads of each path counted.
+class CountedReads : public tq::FileAccessWrapper {
+public:
+  CountedReads() : FileAccessWrapper(tq::Files()), before_(tq::SetFiles(this)) {}
+  ~CountedReads() override { tq::SetFiles(before_); }
+  CountedReads(const CountedReads&) = delete;
+  CountedReads& operator=(const CountedReads&) = delete;
+
+  tq::ReadResult ReadWholeFile(const char* path, std::size_t limit, std::string& bytes) override {
+    ++reads[path];
+    return FileAccessWrapper::ReadWholeFile(path, limit, bytes);
+  }
+
+  std::map<std::string, int> reads;
+
+private:
+  tq::FileAccess* before_;
+};
 
 class UserListsTest : public StandInTest {
 protected:
@@ -69,6 +91,39 @@ TEST_F(UserListsTest, OthersReadWhatWasSaved) {
   EXPECT_TRUE(others.Lists().HasIdAndName("a", "One"));
   EXPECT_TRUE(others.Lists().HasIdAndName("b", "Two"));
   EXPECT_EQ(others.Lists().GetSize(), 2);
+}
+
+TEST_F(UserListsTest, AFileIsReadOnceWhetherItIsLoadedOrRepaired) {
+  lists.Add("a", "One", "2330.TW", true, false);
+  lists.Save();
+  const std::map<std::string, int> once = {{directory.Joined("SymbolList.xml"), 1}};
+  TQRepairCounts counts{-1, -1, -1};
+  CountedReads files;
+  lists.Load();
+  EXPECT_EQ(files.reads, once);
+  files.reads.clear();
+  lists.Clear();
+  EXPECT_EQ(lists.Repair(counts), 1);
+  EXPECT_EQ(files.reads, once);
+  EXPECT_EQ(counts.whole, 1);
+  EXPECT_EQ(Shape(), "a/One/2330.TW");
+  directory.Write("SymbolList.xml", File() + "<List ID='b' Name='it's' Value='2317.TW'/>");
+  files.reads.clear();
+  EXPECT_EQ(lists.Repair(counts), 1);
+  EXPECT_EQ(files.reads, once);
+  EXPECT_EQ(lists.Lists().GetSize(), 2);
+}
+
+// What was read for the repair is what the next save compares with.
+TEST_F(UserListsTest, ASoundFileThatWasRepairedIsKnown) {
+  lists.Add("a", "One", "2330.TW", true, false);
+  lists.Reset();
+  TQRepairCounts counts{-1, -1, -1};
+  EXPECT_EQ(lists.Repair(counts), 1);
+  const CountedReads files;
+  EXPECT_EQ(lists.Save(), 1);
+  EXPECT_TRUE(files.reads.empty());
+  EXPECT_EQ(directory.Names(), std::vector<std::string>{"SymbolList.xml"});
 }
 
 TEST_F(UserListsTest, MovedSymbolsOfAFileAreRenamed) {

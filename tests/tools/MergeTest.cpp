@@ -138,6 +138,34 @@ TEST_F(ListsImport, JsonOfOtherProgramsIsTakenWithWhatItHasBesides) {
   EXPECT_NE(streams.out.find(" Name='a' Value='A,H:,B,C' "), std::string::npos) << streams.out;
 }
 
+// A symbol string has commas between its entries only.
+TEST_F(ListsImport, ACommaInAHeadingBecomesABlankAndIsAFinding) {
+  const struct {
+    const char* format;
+    const char* text;
+    const char* place;
+  } files[] = {
+      {"csv", "symbol,heading\nA,\n,\"Funds, bonds\"\nB,\n", ":3:1: "},
+      {"json", "{\"lists\": [{\"symbols\": [\"A\",\n{\"heading\": \"Funds, bonds\"}, \"B\"]}]}",
+       ":2:27: "},
+      {"text", "A\n### Funds, bonds\nB\n", ":2:1: "},
+  };
+  for (const auto& file : files) {
+    EXPECT_EQ(Run({"import", "--from", file.format, "-", "-o", "-"}, file.text), 1);
+    EXPECT_EQ(streams.err, std::string("standard input") + file.place +
+                               "a comma in a heading; a blank stands for it\n");
+    EXPECT_NE(streams.out.find("Value='A,Funds  bonds:,B'"), std::string::npos) << streams.out;
+  }
+}
+
+TEST_F(ListsImport, AHeadingWithoutACommaIsNoFinding) {
+  EXPECT_EQ(
+      Run({"import", "--from", "csv", "-", "-o", "-"}, "symbol,heading\n\"A,B\",\n,Funds; bonds\n"),
+      0)
+      << streams.err;
+  EXPECT_NE(streams.out.find("Value='A,B,Funds; bonds:'"), std::string::npos) << streams.out;
+}
+
 TEST_F(ListsImport, BytesThatAreNoTextAreFindings) {
   EXPECT_EQ(Run({"import", "-", "-o", "-"}, "A\n\xFF\n"), 1);
   EXPECT_NE(streams.err.find("standard input:2:1: no character of utf-8"), std::string::npos)

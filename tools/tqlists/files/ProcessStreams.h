@@ -1,4 +1,5 @@
-// The streams of this process, as bytes. A body for each system.
+// The streams of this process, as bytes. What a system does in its own way lies in posix/ and
+// win32/: setting the process up, who reads, and the words of its command line.
 #pragma once
 
 #include <string>
@@ -19,6 +20,11 @@ public:
   Written Flush() override;
   void Say(std::string_view bytes) override;
   bool IsWatched() override;
+
+private:
+  static Written ResultOf(bool good);
+  // Whether the latest failure, which errno tells of, is that of a pipe that nobody reads any more.
+  static bool ReaderWentAway();
 };
 
 // The words behind the program's name; on Windows in UTF-8.

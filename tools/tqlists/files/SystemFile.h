@@ -45,7 +45,7 @@ Placing PutInPlace(const std::string& temporary, const std::string& target, bool
 
 void RemoveFile(const std::string& path);
 
-// `path`, or the file that it is a link to.
+// `path`, or the file that it is a symbolic link to.
 std::string BehindLinks(const std::string& path);
 
 // Whether there is a directory of that name now, made or found.

@@ -92,8 +92,10 @@ bool CsvReader::ReadRecord(Reading& reading, Record& record) {
 void CsvReader::TakeRecord(const Record& record, Reading& reading) {
   for (const std::string* text : {&record.id, &record.name, &record.symbol, &record.heading}) {
     if (!IsOneLine(*text))
-      Note(reading, "a line break or control character; a blank stands for it");
+      Note(reading, kBlankForControl);
   }
+  if (LosesComma(record.heading))
+    Note(reading, kBlankForComma);
   List& list = ListOf(record, reading);
   if (record.isDefault == kYes)
     default_ = static_cast<int>(&list - reading.lists.data());

@@ -63,6 +63,10 @@ std::string HeadingEntry(std::string_view text) {
   return entry + ':';
 }
 
+bool LosesComma(std::string_view heading) {
+  return heading.find(',') != std::string_view::npos;
+}
+
 void AppendEntry(std::string& symbols, std::string_view entry) {
   ForEachEntry(entry, [&](std::string_view one) {
     if (!symbols.empty())

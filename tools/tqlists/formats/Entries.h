@@ -33,8 +33,11 @@ bool IsHeading(std::string_view entry);
 // that is no heading, or was stored in another way.
 std::string_view HeadingText(std::string_view entry);
 
-// The other way round. Empty when nothing is left of the text: a heading can hold no comma.
+// The other way round, with a blank for each comma, which no entry can hold. Empty when nothing is
+// left of the text.
 std::string HeadingEntry(std::string_view text);
+// Whether it has such commas.
+bool LosesComma(std::string_view heading);
 
 // Puts an entry, or several with commas between, behind a symbol string.
 void AppendEntry(std::string& symbols, std::string_view entry);

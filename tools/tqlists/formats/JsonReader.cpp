@@ -76,6 +76,7 @@ private:
   bool Unexpected();
   void Note(std::size_t offset, const std::string& reason);
   std::string Clean(const string_t& value);
+  void TakeHeading(const string_t& value);
 
   PlaceFinder places_;
   const std::string& stem_;
@@ -123,15 +124,21 @@ bool Parts::number_unsigned(number_unsigned_t value) {
 
 std::string Parts::Clean(const string_t& value) {
   if (!IsOneLine(value))
-    Note(done, "a line break or control character; a blank stands for it");
+    Note(done, kBlankForControl);
   return OneLine(value);
+}
+
+void Parts::TakeHeading(const string_t& value) {
+  if (LosesComma(value))
+    Note(done, kBlankForComma);
+  AppendEntry(list_.symbols, HeadingEntry(Clean(value)));
 }
 
 bool Parts::string(string_t& value) {
   if (Here() == Within::Symbols || (Here() == Within::List && key_ == kKeySymbols))
     AppendEntry(list_.symbols, Clean(value));
   else if (Here() == Within::Entry && key_ == kKeyHeading)
-    AppendEntry(list_.symbols, HeadingEntry(Clean(value)));
+    TakeHeading(value);
   else if (Here() == Within::List && key_ == kKeyId)
     list_.id = Clean(value);
   else if (Here() == Within::List && key_ == kKeyName)

@@ -22,6 +22,11 @@ public:
   void Add(std::size_t, std::size_t, std::string_view) override {}
 };
 
+// What becomes of text that no list file can hold as it is.
+inline constexpr char kBlankForControl[] =
+    "a line break or control character; a blank stands for it";
+inline constexpr char kBlankForComma[] = "a comma in a heading; a blank stands for it";
+
 // A finding of recovery/ with the damaged piece.
 void AddFinding(Notes& notes, const tq::Finding& finding);
 

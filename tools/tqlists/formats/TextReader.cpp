@@ -35,6 +35,7 @@ private:
 
   void TakeLine(std::string_view line, Reading& reading);
   void TakeMark(std::string_view line, Reading& reading);
+  void TakeHeading(std::string_view text, Reading& reading);
   void TakeIds(std::string_view line, Reading& reading);
   void TakeEntry(std::string_view entry, Reading& reading);
   void BeginList(std::string_view name, Reading& reading);
@@ -65,13 +66,19 @@ void TextReader::TakeLine(std::string_view line, Reading& reading) {
     reading.notes.Add(reading.line, 1, "a control character; a blank stands for it");
   const std::string clean = OneLine(line);
   if (clean.starts_with(kHeadingLine))
-    TakeEntry(HeadingEntry(Behind(clean, kHeadingLine)), reading);
+    TakeHeading(Behind(clean, kHeadingLine), reading);
   else if (clean.starts_with(kComment))
     TakeMark(clean, reading);
   else if (clean.starts_with(kVerbatim))
     TakeEntry(std::string_view(clean).substr(1), reading);
   else if (!Trimmed(clean).empty())
     TakeIds(clean, reading);
+}
+
+void TextReader::TakeHeading(std::string_view text, Reading& reading) {
+  if (LosesComma(text))
+    reading.notes.Add(reading.line, 1, kBlankForComma);
+  TakeEntry(HeadingEntry(text), reading);
 }
 
 // One id, or several with commas between. A heading cannot be meant: that is written in another

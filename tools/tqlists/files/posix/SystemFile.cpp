@@ -1,10 +1,10 @@
 #include "tools/tqlists/files/SystemFile.h"
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tqlists {
@@ -13,6 +13,7 @@ namespace {
 constexpr mode_t kNewFileMode = 0666; // less the process's umask
 constexpr mode_t kNewDirectoryMode = 0777;
 constexpr mode_t kRights = 07777;
+constexpr int kLongestLinkChain = 40; // as many as the kernel follows
 
 // The replaced file's rights stay: a private file does not become a public one.
 void KeepRights(const std::string& from, const std::string& to) {
@@ -91,9 +92,17 @@ void RemoveFile(const std::string& path) {
   ::unlink(path.c_str());
 }
 
+// The last link may point to nothing yet. Of links in a circle it is one.
 std::string BehindLinks(const std::string& path) {
-  char real[PATH_MAX];
-  return ::realpath(path.c_str(), real) != nullptr ? real : path;
+  std::filesystem::path real = path;
+  std::error_code error;
+  for (int i = 0; i < kLongestLinkChain; ++i) {
+    const std::filesystem::path next = std::filesystem::read_symlink(real, error);
+    if (error)
+      break;
+    real = real.parent_path() / next; // next alone when that is absolute
+  }
+  return real.string();
 }
 
 bool MakeDirectory(const std::string& path) {

@@ -15,13 +15,6 @@ namespace {
 // The console's own code page, which is put back at the end.
 UINT consoleCodePage = 0;
 
-// A pipe whose reader went away: the runtime tells it as one or the other.
-Written ResultOf(bool good) {
-  if (good)
-    return Written::Yes;
-  return errno == EPIPE || errno == EINVAL ? Written::Closed : Written::Failed;
-}
-
 } // namespace
 
 ProcessStreams::ProcessStreams() {
@@ -38,20 +31,9 @@ ProcessStreams::~ProcessStreams() {
     ::SetConsoleOutputCP(consoleCodePage);
 }
 
-std::size_t ProcessStreams::Read(char* bytes, std::size_t size) {
-  return std::fread(bytes, 1, size, stdin);
-}
-
-Written ProcessStreams::Write(std::string_view bytes) {
-  return ResultOf(std::fwrite(bytes.data(), 1, bytes.size(), stdout) == bytes.size());
-}
-
-Written ProcessStreams::Flush() {
-  return ResultOf(std::fflush(stdout) == 0);
-}
-
-void ProcessStreams::Say(std::string_view bytes) {
-  std::fwrite(bytes.data(), 1, bytes.size(), stderr);
+// The runtime tells it as one or the other.
+bool ProcessStreams::ReaderWentAway() {
+  return errno == EPIPE || errno == EINVAL;
 }
 
 bool ProcessStreams::IsWatched() {
