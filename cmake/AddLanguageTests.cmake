@@ -8,23 +8,40 @@
 #                      once other tests have used much memory
 # Under Wine all text goes through the code page, and they run in both languages as the others.
 #
+# SHARDS parts a long program into that many tests, so that none of them is alone at the end or runs into the
+# time limit on a slow machine.
+#
 # Everywhere, ALONE patterns are tests that take a process of their own in each language: thousands of dialogs
 # in one process leave Wine without room for those of other tests.
 function(tq_add_language_tests program)
-  cmake_parse_arguments(PARSE_ARGV 1 tests "" "" "NEUTRAL;APART;ALONE")
+  cmake_parse_arguments(PARSE_ARGV 1 tests "" "SHARDS" "NEUTRAL;APART;ALONE")
+  if(NOT tests_SHARDS)
+    set(tests_SHARDS 1)
+  endif()
   list(JOIN tests_NEUTRAL ":" neutral)
   list(JOIN tests_APART ":" apart)
   list(JOIN tests_ALONE ":" alone)
   foreach(language tw cn)
-    if(WIN32)
-      tq_add_language_test(${program} ${language} ${language}
-        ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=*-${alone}")
-      # Two programs on one desktop would take the focus from each other.
-      set_tests_properties(${program}-${language} PROPERTIES RESOURCE_LOCK desktop-${language})
-    else()
-      tq_add_language_test(${program} ${language} ${language}
-        $<TARGET_FILE:${program}> "--gtest_filter=*-${neutral}:${apart}:${alone}")
-    endif()
+    foreach(shard RANGE 1 ${tests_SHARDS})
+      set(name ${language})
+      if(tests_SHARDS GREATER 1)
+        set(name ${language}-${shard})
+      endif()
+      if(WIN32)
+        tq_add_language_test(${program} ${name} ${language}
+          ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=*-${alone}")
+        # Two programs on one desktop would take the focus from each other.
+        set_tests_properties(${program}-${name} PROPERTIES RESOURCE_LOCK desktop-${language})
+      else()
+        tq_add_language_test(${program} ${name} ${language}
+          $<TARGET_FILE:${program}> "--gtest_filter=*-${neutral}:${apart}:${alone}")
+      endif()
+      math(EXPR index "${shard} - 1")
+      set_property(TEST ${program}-${name} APPEND PROPERTY ENVIRONMENT
+        GTEST_TOTAL_SHARDS=${tests_SHARDS} GTEST_SHARD_INDEX=${index})
+      # What takes longest comes first.
+      set_tests_properties(${program}-${name} PROPERTIES COST ${tests_SHARDS})
+    endforeach()
     if(alone AND WIN32)
       tq_add_language_test(${program} alone-${language} ${language}
         ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=${alone}")

@@ -90,4 +90,13 @@ void LimitedLine::contextMenuEvent(QContextMenuEvent* event) {
   menu->exec(event->globalPos());
 }
 
+// What is selected stays so while another control has the focus.
+void LimitedLine::focusOutEvent(QFocusEvent* event) {
+  const int start = selectionStart();
+  const auto length = static_cast<int>(selectedText().size());
+  QLineEdit::focusOutEvent(event);
+  if (start >= 0)
+    setSelection(start, length);
+}
+
 } // namespace tq::qt
