@@ -28,8 +28,8 @@ inline bool SurvivesSaving(const std::string& text) {
   return text.find_first_of("'&<\t\n\r") == std::string::npos;
 }
 
-// The lists by position. GetSymbolList finds only the first list of an identifier, so later ones
-// are known by name alone.
+// The lists by position. GetSymbolList finds only the first list of an identifier, so the rows of
+// later ones are not looked at.
 inline std::string ReadLists(CTQSymbolListMgr& manager, std::vector<ListState>& states) {
   const int count = manager.GetSymbolListCount(kUserLists);
   for (int i = 0; i < count; ++i) {
@@ -41,7 +41,12 @@ inline std::string ReadLists(CTQSymbolListMgr& manager, std::vector<ListState>& 
     if (std::memchr(info.ID, '\0', sizeof(info.ID)) == nullptr ||
         std::memchr(info.Name, '\0', sizeof(info.Name)) == nullptr)
       return "an identifier or a name is not terminated";
-    ListState state{info.ID, info.Name, list->GetIDs().GetString(), list->GetCount()};
+    CString id;
+    CString name;
+    CString ids;
+    if (!manager.GetSymbolListInfo(i, id, name, ids, kUserLists))
+      return "a list is not known by its position";
+    ListState state{info.ID, info.Name, ids.GetString(), list->GetCount()};
     if (state.rows < 0 || state.rows > list->GetTokens().GetSize())
       return "a list has more rows than tokens";
     SymbolInfo record;
