@@ -2,6 +2,8 @@
 // virtual one of a million, and each dialog of the library. docs/benchmarks.md explains every row.
 #include <QApplication>
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -121,6 +123,34 @@ const bench::Template& FindWith(const std::vector<bench::Template>& templates, b
   return templates.front();
 }
 
+// Memory that is the process's own, in bytes.
+double Resident() {
+  long all = 0;
+  long resident = 0;
+  std::FILE* const file = std::fopen("/proc/self/statm", "r");
+  if (file == nullptr || std::fscanf(file, "%ld %ld", &all, &resident) != 2)
+    resident = 0;
+  if (file != nullptr)
+    std::fclose(file);
+  return static_cast<double>(resident) * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+// What ten thousand dialogs leave behind.
+void MeasureGrowth(bench::Report& report, const bench::Template& from) {
+  constexpr int kWarm = 1000;
+  constexpr int kRuns = 10'000;
+  constexpr double kMegabyte = 1 << 20;
+  const bench::Content content = RowsOf(30, 30);
+  double before = 0;
+  for (int run = 0; run < kWarm + kRuns; ++run) {
+    if (run == kWarm)
+      before = Resident();
+    MeasuredDialog dialog(from, content);
+    dialog.DoModal();
+  }
+  report.Number("memory after 10,000 more dialogs", (Resident() - before) / kMegabyte, "MB", 1);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -137,5 +167,6 @@ int main(int argc, char** argv) {
   const bench::Content few = RowsOf(30, 30);
   for (const bench::Template& each : templates)
     Measure(report, "dialog " + std::to_string(each.dialog->id) + " with 30 rows", each, few);
+  MeasureGrowth(report, templates.front());
   return report.Finish();
 }
