@@ -58,6 +58,8 @@ void Run(Dialog& dialog, CDialog& object) {
   dialog.visible = true;
   if (focusFirst)
     FocusFirst(dialog);
+  if (Screen* const screen = CurrentScreen())
+    screen->Refresh();
   Enqueue({dialog.handle, kModalMessage, 0, 0});
   while (!tq::DialogAccess::HasEnded(object)) {
     if (!tq::ServeMessage(tq::Serve::Timers))

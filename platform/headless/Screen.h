@@ -28,9 +28,10 @@ public:
   virtual bool Open(Dialog& dialog, WindowHandle parent) = 0;
   virtual void Close(const Dialog& dialog) = 0;
 
-  // Delivers what the system has for the process, after showing what memory holds now. While there
-  // is nothing it waits, so many milliseconds at most and until the next timer is due. False:
-  // nothing came.
+  // Shows what memory holds now.
+  virtual void Refresh() = 0;
+  // Delivers what the system has for the process, after a refresh. While there is nothing it waits,
+  // so many milliseconds at most and until the next timer is due. False: nothing came.
   virtual bool Serve(unsigned patience) = 0;
   // Has a Serve that waits return: a message was posted, or a dialog ends.
   virtual void Wake() = 0;

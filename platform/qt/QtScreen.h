@@ -22,6 +22,7 @@ public:
   void End() override;
   bool Open(headless::Dialog& dialog, WindowHandle parent) override;
   void Close(const headless::Dialog& dialog) override;
+  void Refresh() override;
   bool Serve(unsigned patience) override;
   void Wake() override;
   bool FitsInRow(const headless::Control& list, const CString& text) override;
@@ -29,8 +30,6 @@ public:
   bool IsHostWindow(WindowHandle handle) override;
   headless::Hands& UserHands() override { return *hands_; }
 
-  // Shows what memory holds now.
-  void Refresh();
   // The window and the widget of a handle of memory's; null when there is none.
   DialogWindow* WindowOf(const headless::Dialog* dialog) const;
   ControlWidget* WidgetOf(WindowHandle control) const;
