@@ -61,6 +61,8 @@ void DropMessages(WindowHandle dialog) {
 void StartTimer(Dialog& dialog, unsigned id, unsigned milliseconds) {
   const unsigned period = std::max(1U, milliseconds);
   dialog.timers[id] = {period, Now() + period, ++timersSet};
+  if (Screen* const screen = CurrentScreen())
+    screen->Wake();
 }
 
 uint64_t Now() {

@@ -33,7 +33,7 @@ public:
   // Delivers what the system has for the process, after a refresh. While there is nothing it waits,
   // so many milliseconds at most and until the next timer is due. False: nothing came.
   virtual bool Serve(unsigned patience) = 0;
-  // Has a Serve that waits return: a message was posted, or a dialog ends.
+  // Has a Serve that waits return: a message was posted, a timer set, or a dialog ends.
   virtual void Wake() = 0;
 
   // Whether a text fits into a row of the list.

@@ -10,6 +10,7 @@
 #include "platform/headless/user/Actions.h"
 #include "platform/headless/user/Focus.h"
 #include "platform/qt/Keys.h"
+#include "platform/qt/Pump.h"
 #include "platform/qt/Text.h"
 
 namespace tq::qt {
@@ -42,7 +43,8 @@ std::unique_ptr<ControlWidget> MakeControl(headless::Control& control, const Dia
 } // namespace
 
 DialogWindow::DialogWindow(headless::Dialog& dialog, QWidget* parent)
-    : QWidget(nullptr, kDialogFlags), dialog_(dialog), units_(font()), host_(parent) {
+    : QWidget(nullptr, kDialogFlags), dialog_(dialog), units_(font()), host_(parent),
+      level_(Pump::Level()) {
   setFixedSize(units_.Across(dialog.place.width), units_.Down(dialog.place.height));
   installEventFilter(this);
   MakeControls();

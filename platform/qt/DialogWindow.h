@@ -22,6 +22,8 @@ public:
   ~DialogWindow() override;
 
   const headless::Dialog& Model() const { return dialog_; }
+  // Pump::Level when it opened.
+  int Level() const { return level_; }
   // Shows what memory holds now.
   void Refresh();
   // Null when it is no control of this dialog.
@@ -48,6 +50,7 @@ private:
   DialogUnits units_;
   QPointer<QWidget> host_;
   std::vector<std::unique_ptr<ControlWidget>> controls_; // as memory has them
+  int level_;
   CString title_;
   bool isTitled_ = false;
 };

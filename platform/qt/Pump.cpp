@@ -10,12 +10,8 @@
 
 namespace tq::qt {
 
-Pump::OwnLoop::OwnLoop(Pump& pump) : pump_(pump), before_(pump.level_) {
-  pump_.level_ = QThread::currentThread()->loopLevel();
-}
-
-bool Pump::IsForeignLoop() const {
-  return level_ >= 0 && QThread::currentThread()->loopLevel() > level_;
+int Pump::Level() {
+  return QThread::currentThread()->loopLevel();
 }
 
 void Pump::Wake() {
@@ -43,8 +39,12 @@ bool Pump::event(QEvent* event) {
   if (event->type() != QEvent::User)
     return QObject::event(event);
   isAwake_ = false;
+  if (!IsForeignLoop())
+    return true;
   while (IsForeignLoop() && headless::DeliverMessage()) {
   }
+  SetDue(headless::NextDue());
+  refresh_();
   return true;
 }
 
@@ -56,6 +56,7 @@ void Pump::timerEvent(QTimerEvent*) {
     return;
   headless::FireTimer(headless::Now());
   SetDue(headless::NextDue());
+  refresh_();
 }
 
 } // namespace tq::qt

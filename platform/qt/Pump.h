@@ -5,37 +5,35 @@
 #include <QObject>
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 namespace tq::qt {
 
 class Pump : public QObject {
 public:
-  // A message waits.
+  // `refresh` shows what memory holds now.
+  explicit Pump(std::function<void()> refresh) : refresh_(std::move(refresh)) {}
+
+  // A message waits, or a timer was set.
   void Wake();
   // The timer that is due next, in headless::Now's time; UINT64_MAX for none.
   void SetDue(uint64_t due);
 
-  // The scope of a loop of this layer's, which sees to messages and timers itself.
-  class OwnLoop {
-  public:
-    explicit OwnLoop(Pump& pump);
-    ~OwnLoop() { pump_.level_ = before_; }
-    OwnLoop(const OwnLoop&) = delete;
-    OwnLoop& operator=(const OwnLoop&) = delete;
-
-  private:
-    Pump& pump_;
-    int before_;
-  };
+  // How many loops of Qt's run below the innermost dialog's own, which sees to messages and timers
+  // itself.
+  static int Level();
+  void SetLevel(int level) { level_ = level; }
 
 protected:
   bool event(QEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
 
 private:
-  bool IsForeignLoop() const;
+  bool IsForeignLoop() const { return Level() > level_; }
 
-  int level_ = -1; // of the loops that ran when this layer's began
+  std::function<void()> refresh_;
+  int level_ = 0;
   bool isAwake_ = false;
   uint64_t due_ = UINT64_MAX;
   int timer_ = 0;

@@ -21,7 +21,7 @@ QtScreen::~QtScreen() = default;
 const char* QtScreen::Begin() {
   if (const char* const why = application_.Begin())
     return why;
-  pump_ = std::make_unique<Pump>();
+  pump_ = std::make_unique<Pump>([this] { Refresh(); });
   SetCursor(GetWindowCursor());
   return nullptr;
 }
@@ -47,13 +47,17 @@ QWidget* QtScreen::ParentOf(WindowHandle parent) const {
 
 bool QtScreen::Open(Dialog& dialog, WindowHandle parent) {
   windows_.push_back(std::make_unique<DialogWindow>(dialog, ParentOf(parent)));
+  pump_->SetLevel(windows_.back()->Level());
   windows_.back()->Refresh();
   return true;
 }
 
 void QtScreen::Close(const Dialog& dialog) {
   std::erase_if(windows_, [&](const auto& window) { return &window->Model() == &dialog; });
-  if (!windows_.empty() && windows_.back()->isVisible())
+  if (windows_.empty())
+    return;
+  pump_->SetLevel(windows_.back()->Level());
+  if (windows_.back()->isVisible())
     windows_.back()->activateWindow();
 }
 
@@ -78,7 +82,6 @@ void QtScreen::Refresh() {
 
 bool QtScreen::Serve(unsigned patience) {
   Refresh();
-  const Pump::OwnLoop loop(*pump_);
   QAbstractEventDispatcher* const dispatcher = QThread::currentThread()->eventDispatcher();
   if (application_.IsOwn()) // where no loop of Qt's runs it would wait for one
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
