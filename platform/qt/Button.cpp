@@ -52,7 +52,9 @@ private:
     if (icon_ == control_.icon)
       return;
     icon_ = control_.icon;
-    widget_.setIcon(IconOf(icon_, widget_.palette().color(QPalette::ButtonText)));
+    // A button that cannot be pressed now draws the same picture paler.
+    const QPalette& palette = widget_.palette();
+    widget_.setIcon(IconOf(icon_, palette.color(QPalette::Active, QPalette::ButtonText)));
   }
 
   void RefreshText() {

@@ -1,5 +1,5 @@
-// Dialog units in pixels, by the font as on Windows: a quarter of a letter's average width, an eighth
-// of its height. Internal.
+// The font of a dialog, and dialog units in pixels by it as on Windows: a quarter of a letter's average
+// width, an eighth of a line's height. Internal.
 #pragma once
 
 #include <QFont>
@@ -8,6 +8,11 @@
 #include "platform/headless/Windows.h"
 
 namespace tq::qt {
+
+// The desktop's font. Where that has no Chinese, one that has it in the shapes of the dialog's
+// language, for all of the text: what Qt puts in for single characters goes by the language of the
+// desktop, and is higher than the line that the desktop's font asks for.
+QFont FontFor(headless::TextCode code, const QFont& desktop);
 
 class DialogUnits {
 public:

@@ -43,8 +43,9 @@ std::unique_ptr<ControlWidget> MakeControl(headless::Control& control, const Dia
 } // namespace
 
 DialogWindow::DialogWindow(headless::Dialog& dialog, QWidget* parent)
-    : QWidget(nullptr, kDialogFlags), dialog_(dialog), units_(font()), host_(parent),
-      level_(Pump::Level()) {
+    : QWidget(nullptr, kDialogFlags), dialog_(dialog), units_(FontFor(dialog.code, font())),
+      host_(parent), level_(Pump::Level()) {
+  setFont(FontFor(dialog.code, font()));
   setFixedSize(units_.Across(dialog.place.width), units_.Down(dialog.place.height));
   installEventFilter(this);
   MakeControls();
