@@ -232,8 +232,8 @@ TQSTANDIN_API void AnswerMessagesInTurn(std::vector<int> buttons);
 TQSTANDIN_API size_t WaitingAnswers();
 // Whether message boxes are shown on the screen too, over the active window, and return the button
 // that is pressed there. Off at the start and after Reset, so that no test waits for somebody. Only
-// those that have a text, and elsewhere than on Windows only while a dialog is on the screen; others
-// return the answers above.
+// those that have a text, and elsewhere than on Windows only while a dialog is on the screen;
+// others return the answers above.
 TQSTANDIN_API void ShowMessages(bool on);
 
 struct Notification {

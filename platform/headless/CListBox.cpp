@@ -135,7 +135,8 @@ CString CListBox::GetRowTip(int row) const {
   if (at == nullptr || !box->rowTips)
     return CString();
   Screen* const screen = CurrentScreen();
-  const bool fits = screen == nullptr ? FitsInRow(*box, at->text) : screen->FitsInRow(*box, at->text);
+  const bool fits =
+      screen == nullptr ? FitsInRow(*box, at->text) : screen->FitsInRow(*box, at->text);
   return fits ? CString() : at->text;
 }
 

@@ -2,9 +2,9 @@
 
 #include "platform/framework/window/CDialog.h"
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/headless/user/Focus.h"
 #include "platform/headless/Queue.h"
 #include "platform/headless/Screen.h"
+#include "platform/headless/user/Focus.h"
 
 using namespace tq::headless;
 using tq::ControlKind;

@@ -1,6 +1,6 @@
-// The screen on which windows in memory are shown, where there is one. Memory stays what counts: the
-// screen shows what it holds, and says what the user does (user/Actions.h). So every rule of the
-// window layer is the same with and without a screen. Internal.
+// The screen on which windows in memory are shown, where there is one. Memory stays what counts:
+// the screen shows what it holds, and says what the user does (user/Actions.h). So every rule of
+// the window layer is the same with and without a screen. Internal.
 //
 // A screen is a library of its own, which is loaded when it is wanted: tqFramework needs no window
 // system to be there.

@@ -46,9 +46,9 @@ struct Control : Node {
   std::vector<Column> columns; // list view
   unsigned listStyles = 0;
   unsigned hoverTime = 0;
-  int limit = 0;          // edit: bytes, 0 none
-  int selectionStart = 0; // edit: bytes, whole characters
-  int selectionEnd = 0;   // the caret
+  int limit = 0;                 // edit: bytes, 0 none
+  int selectionStart = 0;        // edit: bytes, whole characters
+  int selectionEnd = 0;          // the caret
   const Control* over = nullptr; // edit: the list box over whose row it was placed last
   int overRow = -1;
   unsigned placings = 0; // how often

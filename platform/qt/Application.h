@@ -1,4 +1,5 @@
-// The application object: the host's, or one of this library's for as long as dialogs run. Internal.
+// The application object: the host's, or one of this library's for as long as dialogs run.
+// Internal.
 #pragma once
 
 #include <QApplication>

@@ -11,7 +11,8 @@ namespace tq::qt {
 
 namespace {
 
-// In dialog units: that of the edits and buttons beside it. The template says that of the open list.
+// In dialog units: that of the edits and buttons beside it. The template says that of the open
+// list.
 constexpr int kClosedHeight = 14;
 
 class ComboBox : public ControlWidget {

@@ -1,5 +1,5 @@
-// The font of a dialog, and dialog units in pixels by it as on Windows: a quarter of a letter's average
-// width, an eighth of a line's height. Internal.
+// The font of a dialog, and dialog units in pixels by it as on Windows: a quarter of a letter's
+// average width, an eighth of a line's height. Internal.
 #pragma once
 
 #include <QFont>

@@ -1,5 +1,5 @@
-// Has the messages and timers of memory arrive where a loop runs that is not this layer's: a menu, a
-// message box of the host's. Internal.
+// Has the messages and timers of memory arrive where a loop runs that is not this layer's: a menu,
+// a message box of the host's. Internal.
 #pragma once
 
 #include <QObject>

@@ -11,8 +11,8 @@ QString ToQt(headless::TextCode code, const CString& text);
 // A character that the code page lacks becomes "?", never one that looks similar.
 CString FromQt(headless::TextCode code, const QString& text);
 
-// How many of the first characters of `text`, in QChars and never half a surrogate pair, take at most
-// so many bytes.
+// How many of the first characters of `text`, in QChars and never half a surrogate pair, take at
+// most so many bytes.
 qsizetype CutToBytes(headless::TextCode code, const QString& text, int bytes);
 
 } // namespace tq::qt

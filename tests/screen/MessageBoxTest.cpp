@@ -171,7 +171,7 @@ TEST_F(BoxTest, HandlersOfTheDialogBehindHaveTheirResources) {
   EXPECT_EQ(rows, kRows);
 }
 
-// The script that waits for a dialog of the library's is still there when the box has been answered.
+// The script that waits for a dialog of the library's is still there when the box was answered.
 TEST_F(BoxTest, ABoxTakesNoScriptOfADialog) {
   const tq::ResourceContext context(OpenerResources());
   int pressed = -1;

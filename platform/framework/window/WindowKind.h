@@ -16,8 +16,8 @@ enum class WindowKind {
   Screen,    // on the screen; a dialog that finds none fails (CDialog::Failed)
 };
 
-// Chooses for all dialogs from the next outermost one on. What the environment says counts for more:
-// TQSYMBOL_WINDOWS is "memory" or "screen". On the thread of the terminal's windows.
+// Chooses for all dialogs from the next outermost one on. What the environment says counts for
+// more: TQSYMBOL_WINDOWS is "memory" or "screen". On the thread of the terminal's windows.
 TQFRAMEWORK_API void ChooseWindows(WindowKind kind);
 
 // Whether the dialogs that are up are on the screen; false while none is.

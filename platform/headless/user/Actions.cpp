@@ -154,8 +154,7 @@ bool TakeKey(Dialog& dialog, WindowKey key, WindowHeldKeys held) {
 
 bool TakeLetter(Dialog& dialog, char letter, bool alt) {
   const char mnemonic = AsMnemonic(letter);
-  const bool isMeant =
-      alt || dialog.focus == nullptr || HasFocusOn(dialog, ControlKind::Button);
+  const bool isMeant = alt || dialog.focus == nullptr || HasFocusOn(dialog, ControlKind::Button);
   return isMeant && PressMnemonic(dialog, mnemonic);
 }
 

@@ -1,5 +1,5 @@
-// What a user's hands do: to windows in memory, or to the screen that shows them. The operations are
-// those of UserInput.h. Internal.
+// What a user's hands do: to windows in memory, or to the screen that shows them. The operations
+// are those of UserInput.h. Internal.
 #pragma once
 
 #include "platform/headless/user/UserInput.h"

@@ -117,8 +117,7 @@ public:
 
   bool PickEntry(WindowHandle handle, int index) override {
     Control* const control = Reach(handle);
-    if (control == nullptr || control->kind != ControlKind::ComboBox ||
-        !control->rows.Holds(index))
+    if (control == nullptr || control->kind != ControlKind::ComboBox || !control->rows.Holds(index))
       return false;
     if (MoveFocus(*control))
       PickOf(*control, index);
