@@ -1,5 +1,6 @@
-// Windows on the screen against bare Qt widgets with the same content: opening a list of 10,000 rows, a
-// virtual one of a million, and each dialog of the library. docs/benchmarks.md explains every row.
+// Windows on the screen against bare Qt widgets with the same content: opening a list of 10,000
+// rows, a virtual one of a million, and each dialog of the library. docs/benchmarks.md explains
+// every row.
 #include <QApplication>
 
 #include <unistd.h>

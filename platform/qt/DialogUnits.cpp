@@ -1,6 +1,7 @@
 #include "platform/qt/DialogUnits.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QTextLayout>
 

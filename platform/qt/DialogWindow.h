@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "platform/headless/Windows.h"
-#include "platform/qt/ControlWidget.h"
 #include "platform/qt/DialogUnits.h"
+#include "platform/qt/controls/ControlWidget.h"
 
 class QKeyEvent;
 

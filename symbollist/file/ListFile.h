@@ -51,9 +51,9 @@ public:
   // Called for each list after its ids have been resolved, before the next one is read.
   using Finish = std::function<void(CSymbolList&)>;
 
-  // Takes what ReadContents gave, up to kXmlSizeLimit, and reads it through the platform's DOM. True
-  // only for a well-formed document; a missing file, one over the size limit or one that cannot be
-  // read is none. Outcome() tells which.
+  // Takes what ReadContents gave, up to kXmlSizeLimit, and reads it through the platform's DOM.
+  // True only for a well-formed document; a missing file, one over the size limit or one that
+  // cannot be read is none. Outcome() tells which.
   bool Load(tq::ReadResult read, tq::FileContents contents);
   // How the latest load, or reading of its lists, ended.
   tq::LoadOutcome Outcome() const { return outcome_; }

@@ -176,8 +176,8 @@ private:
 };
 
 // The system's steps. Knows of each try whether a piece was begun behind its first stamp and
-// written before its second one. The first try sees to it that the writer runs, and waits for such a
-// piece in the middle of its read.
+// written before its second one. The first try sees to it that the writer runs, and waits for such
+// a piece in the middle of its read.
 class WatchedRead : public tq::ReadSteps {
 public:
   explicit WatchedRead(PieceWriter& writer)

@@ -103,8 +103,9 @@ bool IsThere(const Outcome& outcome, const StoredList& wanted) {
   });
 }
 
-// Where the bytes of the two files meet, two halves may make an id that looks like any other, and so
-// may the half of one that begins or ends there: an apostrophe stays in an id, markup never does.
+// Where the bytes of the two files meet, two halves may make an id that looks like any other, and
+// so may the half of one that begins or ends there: an apostrophe stays in an id, markup never
+// does.
 bool IsSpliced(const std::string& bytes, std::size_t cut, const std::string& id) {
   if (id.find("='") != std::string::npos || id.find_first_of("\t\r\n<>") != std::string::npos)
     return false;

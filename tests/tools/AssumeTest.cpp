@@ -1,5 +1,5 @@
-// Text of list files that may be Big5 as well as GBK: it is read as the user says, where nothing in the
-// file tells.
+// Text of list files that may be Big5 as well as GBK: it is read as the user says, where nothing in
+// the file tells.
 #include "tests/tools/ToolTest.h"
 
 namespace {

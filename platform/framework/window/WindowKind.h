@@ -23,9 +23,9 @@ TQFRAMEWORK_API void ChooseWindows(WindowKind kind);
 // Whether the dialogs that are up are on the screen; false while none is.
 TQFRAMEWORK_API bool WindowsOnScreen();
 
-// Why the latest outermost dialog had no screen, in one line of English; empty when it had one, when
-// memory was chosen, and before the first. Valid until the next dialog opens. tqSymbol writes it to
-// the log, at level 64, when it changes.
+// Why the latest outermost dialog had no screen, in one line of English; empty when it had one,
+// when memory was chosen, and before the first. Valid until the next dialog opens. tqSymbol writes
+// it to the log, at level 64, when it changes.
 TQFRAMEWORK_API const char* WindowsMissing();
 
 } // namespace tq

@@ -1,5 +1,5 @@
-// What is written under the name of a symbolic link goes where the link points, as the library's own
-// saves do.
+// What is written under the name of a symbolic link goes where the link points, as the library's
+// own saves do.
 #include "tests/tools/ToolTest.h"
 
 namespace {

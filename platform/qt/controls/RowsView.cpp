@@ -1,4 +1,4 @@
-#include "platform/qt/RowsView.h"
+#include "platform/qt/controls/RowsView.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>

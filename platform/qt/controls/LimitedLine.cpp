@@ -1,4 +1,4 @@
-#include "platform/qt/LimitedLine.h"
+#include "platform/qt/controls/LimitedLine.h"
 
 #include <QAction>
 #include <QApplication>

@@ -2,8 +2,8 @@
 #include <QPainter>
 #include <QStyle>
 
-#include "platform/qt/ControlWidget.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/controls/ControlWidget.h"
 
 namespace tq::qt {
 

@@ -2,9 +2,9 @@
 #include <QLineEdit>
 
 #include "platform/headless/user/Actions.h"
-#include "platform/qt/ControlWidget.h"
-#include "platform/qt/LimitedLine.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/controls/ControlWidget.h"
+#include "platform/qt/controls/LimitedLine.h"
 
 namespace tq::qt {
 

@@ -4,8 +4,8 @@
 
 #include "platform/headless/user/Actions.h"
 #include "platform/headless/user/Focus.h"
-#include "platform/qt/ControlWidget.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/controls/ControlWidget.h"
 
 namespace tq::qt {
 

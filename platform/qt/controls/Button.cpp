@@ -6,8 +6,8 @@
 
 #include "platform/framework/window/ButtonPictures.h"
 #include "platform/headless/user/Actions.h"
-#include "platform/qt/ControlWidget.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/controls/ControlWidget.h"
 
 namespace tq::qt {
 

@@ -2,8 +2,8 @@
 #include <QPainter>
 
 #include "platform/framework/window/DialogAccess.h"
-#include "platform/qt/ControlWidget.h"
-#include "platform/qt/RowsView.h"
+#include "platform/qt/controls/ControlWidget.h"
+#include "platform/qt/controls/RowsView.h"
 
 namespace tq::qt {
 
