@@ -17,6 +17,7 @@
 #include "bench/StartUp.h"
 #include "bench/Trading.h"
 #include "bench/Universe.h"
+#include "platform/framework/window/WindowKind.h"
 #include "terminal/StandIn.h"
 
 namespace {
@@ -66,6 +67,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "tqBench: %s\n", error.c_str());
     return 1;
   }
+  tq::ChooseWindows(tq::WindowKind::Memory);
   standin::RecordCalls(false);
   standin::SetTraditional(true);
   std::filesystem::path directory = options.directory;
