@@ -145,10 +145,7 @@ void DialogWindow::RefreshControl(ControlWidget& control) {
   if (widget.isVisibleTo(this) != model.visible)
     widget.setVisible(model.visible);
   widget.setUpdatesEnabled(model.drawn);
-  const auto tip = dialog_.tips.find(model.id);
-  const QString text = tip == dialog_.tips.end() ? QString() : ToQt(dialog_.code, tip->second);
-  if (widget.toolTip() != text)
-    widget.setToolTip(text);
+  control.RefreshTip();
   control.Refresh();
 }
 
@@ -177,6 +174,13 @@ bool DialogWindow::IsPressRefused(const QObject& object) {
       control->Model().kind == ControlKind::ListView)
     return false;
   return !headless::TakesMouse(control->Model()) || !headless::MoveFocus(control->Model());
+}
+
+// A combo box turns its entries where it has the focus, not where the mouse happens to be.
+bool DialogWindow::IsWheelRefused(const QObject& object) const {
+  const ControlWidget* const control = WidgetOf(&object);
+  return control != nullptr && control->Model().kind == ControlKind::ComboBox &&
+         dialog_.focus != &control->Model();
 }
 
 // Whether a key is not for the widget that has the focus.
@@ -208,6 +212,8 @@ bool DialogWindow::eventFilter(QObject* object, QEvent* event) {
   case QEvent::MouseButtonDblClick:
     return static_cast<const QMouseEvent&>(*event).button() == Qt::LeftButton &&
            IsPressRefused(*object);
+  case QEvent::Wheel:
+    return IsWheelRefused(*object);
   default:
     return QWidget::eventFilter(object, event);
   }

@@ -44,6 +44,7 @@ private:
   void RefreshPlace(ControlWidget& control);
   ControlWidget* WidgetOf(const QObject* object) const;
   bool IsPressRefused(const QObject& object);
+  bool IsWheelRefused(const QObject& object) const;
   bool IsKeyDone(const QObject& object, const QKeyEvent& event);
 
   headless::Dialog& dialog_;

@@ -9,15 +9,18 @@
 #include <QShortcut>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <clocale>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
 
+#include "platform/framework/window/CComboBox.h"
 #include "platform/framework/window/CEdit.h"
 #include "platform/framework/window/WindowKind.h"
 #include "tests/window/WindowTest.h"
@@ -54,6 +57,15 @@ private:
   QApplication application_;
   QMainWindow window_;
 };
+
+// The only one of the dialog that is enabled.
+QComboBox& ComboOf(const QWidget& dialog) {
+  for (QComboBox* const combo : dialog.findChildren<QComboBox*>()) {
+    if (combo->isEnabled())
+      return *combo;
+  }
+  throw std::logic_error("there is no combo box");
+}
 
 class ScreenTest : public WindowTest {};
 
@@ -221,6 +233,38 @@ TEST_F(ScreenTest, ACharacterThatTheCodePageLacksIsAQuestionMark) {
     commit.setCommitString(QString::fromStdU32String(U"\U0001F600a"));
     QApplication::sendEvent(&line, &commit);
     EXPECT_EQ(user.Text(kEdit), "?a");
+  });
+}
+
+TEST_F(ScreenTest, TheWheelTurnsAComboBoxThatHasTheFocusOnly) {
+  InDialog([](User& user, TestDialog& dialog) {
+    CComboBox combo(dialog, 761);
+    for (const char* const entry : {"one", "two", "three"})
+      combo.AddString(entry);
+    user.Click(kEdit);
+    QComboBox& box = ComboOf(*DialogWindow());
+    const auto turn = [&box] {
+      QWheelEvent down(box.rect().center(), box.mapToGlobal(box.rect().center()), QPoint(),
+                       QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(&box, &down);
+    };
+    turn();
+    EXPECT_EQ(combo.GetCurSel(), -1);
+    EXPECT_TRUE(user.Select(761, 0));
+    turn();
+    EXPECT_EQ(combo.GetCurSel(), 1);
+  });
+}
+
+TEST_F(ScreenTest, TheTipOfAControlIsShownAndTakenBack) {
+  InDialog([](User&, TestDialog& dialog) {
+    const auto tip = [] { return ComboOf(*DialogWindow()).toolTip().toStdString(); };
+    dialog.SetToolTip(761, Ansi("一"));
+    actions::Settle();
+    EXPECT_EQ(tip(), "一");
+    dialog.SetToolTip(761, "");
+    actions::Settle();
+    EXPECT_EQ(tip(), "");
   });
 }
 

@@ -30,6 +30,9 @@ public:
     return anew;
   }
 
+  // The tip of the dialog's own, when it is another one than was shown last.
+  void RefreshTip();
+
   // Of lists: where a row that is in sight lies in the widget, and whether a text fits into it.
   virtual QRect PlaceOfRow(int) { return {}; }
   virtual bool FitsInRow(const CString&) { return true; }
@@ -42,6 +45,7 @@ protected:
 
 private:
   unsigned placings_ = 0;
+  CString tip_;
 };
 
 std::unique_ptr<ControlWidget> MakeLabel(headless::Control& control, const DialogUnits& units,

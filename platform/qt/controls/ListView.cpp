@@ -109,6 +109,8 @@ private:
   }
 
   QString CellText(int row, int column) const {
+    if (!TheRows().Holds(row)) // what was asked before may have taken it away
+      return {};
     if (control_.IsVirtual())
       return ToQtText(DialogAccess::CellText(*control_.owner->object, control_.id, row, column));
     const headless::Row* const at = TheRows().At(row);
