@@ -1,5 +1,6 @@
 // A dialog of the library, with a script for its user. On Windows it is a real window, elsewhere
-// one in memory, where scripts are the only users; either way a terminal opens it as is done here.
+// one in memory, which is on the screen where there is one and has scripts for its only users where
+// there is none; in each case a terminal opens it as is done here.
 #include <DialogControls.h>
 #include <UserScripts.h>
 
