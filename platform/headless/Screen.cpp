@@ -90,9 +90,24 @@ Screen* Load(std::string& why) {
   return screen;
 }
 
+// Whether the environment names one: a server without does not load a window system for nothing.
+bool NamesDisplay() {
+  for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    const char* const value = std::getenv(name);
+    if (value != nullptr && *value != '\0')
+      return true;
+  }
+  return false;
+}
+
 Screen* Find(std::string& why) {
-  if (Chosen() == WindowKind::Memory)
+  const WindowKind kind = Chosen();
+  if (kind == WindowKind::Memory)
     return nullptr;
+  if (kind == WindowKind::Automatic && !NamesDisplay()) {
+    why = "there is no display";
+    return nullptr;
+  }
   Screen* const screen = Load(why);
   const char* const refused = screen == nullptr ? nullptr : screen->Begin();
   if (refused != nullptr)
