@@ -79,12 +79,13 @@ bool IsIn(const std::set<std::string>& ids, const List& list) {
   return ids.contains(Lower(list.id));
 }
 
-// The lists that stay as they are.
+// The lists that stay as they are. One that may change is known by its identifier, of which a dialog
+// may store another spelling: upper and lower case are the same.
 std::vector<List> Untouched(const Promise& promise, const std::vector<List>& lists) {
   std::vector<List> untouched;
   for (const List& list : lists)
     if (!IsIn(promise.changed, list) && !IsIn(promise.removed, list))
-      untouched.push_back(promise.changes ? List{list.id, "", ""} : list);
+      untouched.push_back(promise.changes ? List{Lower(list.id), "", ""} : list);
   return untouched;
 }
 
