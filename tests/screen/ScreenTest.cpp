@@ -23,6 +23,7 @@
 #include "platform/framework/window/CComboBox.h"
 #include "platform/framework/window/CEdit.h"
 #include "platform/framework/window/WindowKind.h"
+#include "platform/services/tqCommon.h"
 #include "tests/window/WindowTest.h"
 
 namespace {
@@ -223,6 +224,48 @@ TEST_F(ScreenTest, WhatIsPastedIsBoundedAndOneLine) {
     line.selectAll();
     QApplication::sendEvent(&line, &paste);
     EXPECT_EQ(user.Text(kEdit), "a");
+  });
+}
+
+// A character that users define, and a half one: a name that holds them does not lose them to an
+// edit.
+TEST_F(ScreenTest, WhatTheTablesDoNotKnowStaysWhereTheUserTypesBesideIt) {
+  InDialog([](User& user, TestDialog& dialog) {
+    const CString own(IsTraditionChinese() != 0 ? "a\xFA\x40"
+                                                  "b\xFF"
+                                                : "a\xAA\xA1"
+                                                  "b\xFF");
+    CEdit edit(dialog, kEdit);
+    edit.SetLimitText(8);
+    edit.SetText(own);
+    user.Click(kEdit);
+    user.Press(WindowKey::End);
+    EXPECT_TRUE(user.Type("cdef"));
+    EXPECT_EQ(edit.GetText(), own + "cde");
+    EXPECT_TRUE(user.Type("\b\b\b\b\b\b"));
+    EXPECT_EQ(edit.GetText(), "a");
+  });
+}
+
+TEST_F(ScreenTest, ALongTextStaysWhole) {
+  InDialog([](User& user, TestDialog& dialog) {
+    const CString text(std::string(40000, 'x').c_str());
+    CEdit edit(dialog, kEdit);
+    edit.SetText(text);
+    user.Click(kEdit);
+    user.Press(WindowKey::End);
+    EXPECT_TRUE(user.Type("y"));
+    EXPECT_EQ(edit.GetText(), text + "y");
+  });
+}
+
+TEST_F(ScreenTest, WhatIsPastedMakesNoBytesOfItsOwn) {
+  InDialog([](User& user, TestDialog&) {
+    QLineEdit& line = LineOf(user);
+    QApplication::clipboard()->setText(QString::fromStdU32String(U"a\U000FFA40"));
+    QKeyEvent paste(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
+    QApplication::sendEvent(&line, &paste);
+    EXPECT_EQ(user.Text(kEdit), "a?");
   });
 }
 

@@ -29,7 +29,7 @@ public:
     if (isOther) {
       isShown_ = true;
       text_ = control_.text;
-      widget_.setText(ToQt(Code(), text_));
+      widget_.setText(ToEditable(Code(), text_));
     }
     if (isOther || start_ != control_.selectionStart || end_ != control_.selectionEnd)
       ShowSelection();
@@ -40,8 +40,8 @@ private:
   void ShowSelection() {
     start_ = control_.selectionStart;
     end_ = control_.selectionEnd;
-    const auto first = static_cast<int>(ToQt(Code(), text_.Left(start_)).size());
-    const auto last = static_cast<int>(ToQt(Code(), text_.Left(end_)).size());
+    const auto first = static_cast<int>(ToEditable(Code(), text_.Left(start_)).size());
+    const auto last = static_cast<int>(ToEditable(Code(), text_.Left(end_)).size());
     if (first == last)
       widget_.setCursorPosition(first);
     widget_.setSelection(first, last - first);
@@ -51,7 +51,7 @@ private:
   void TakeText() {
     if (isShowing_)
       return;
-    text_ = FromQt(Code(), widget_.text());
+    text_ = FromEditable(Code(), widget_.text());
     control_.text = text_;
     TakeSelection();
     headless::TellTextChanged(control_);
@@ -68,7 +68,7 @@ private:
   }
 
   int BytesTo(int character) const {
-    return FromQt(Code(), widget_.text().left(character)).GetLength();
+    return FromEditable(Code(), widget_.text().left(character)).GetLength();
   }
 
   LimitedLine widget_;

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include <climits>
 #include <memory>
 
 #include "platform/qt/Text.h"
@@ -33,17 +34,19 @@ bool IsTyped(const QKeyEvent& event) {
 LimitedLine::LimitedLine(const headless::Control& control, QWidget& parent)
     : QLineEdit(&parent), control_(control) {
   setAcceptDrops(false);
+  setMaxLength(INT_MAX); // a long text stays whole when the user changes a letter of it
 }
 
 QString LimitedLine::Fitting(const QString& text) const {
+  const QString own = WithoutStandIns(text);
   if (control_.limit == 0)
-    return text;
+    return own;
   const headless::TextCode code = control_.owner->code;
   QString others = this->text();
   if (hasSelectedText())
     others.remove(selectionStart(), selectedText().size());
-  const int room = control_.limit - FromQt(code, others).GetLength();
-  return text.left(CutToBytes(code, text, room < 0 ? 0 : room));
+  const int room = control_.limit - FromEditable(code, others).GetLength();
+  return own.left(CutToBytes(code, own, room < 0 ? 0 : room));
 }
 
 void LimitedLine::InsertFitting(const QString& text) {
@@ -71,7 +74,7 @@ void LimitedLine::keyPressEvent(QKeyEvent* event) {
 
 void LimitedLine::inputMethodEvent(QInputMethodEvent* event) {
   const QString fitting = Fitting(event->commitString());
-  if (fitting.size() == event->commitString().size())
+  if (fitting == event->commitString())
     return QLineEdit::inputMethodEvent(event);
   QInputMethodEvent cut(event->preeditString(), event->attributes());
   cut.setCommitString(fitting, event->replacementStart(), event->replacementLength());
