@@ -79,8 +79,8 @@ bool IsIn(const std::set<std::string>& ids, const List& list) {
   return ids.contains(Lower(list.id));
 }
 
-// The lists that stay as they are. One that may change is known by its identifier, of which a dialog
-// may store another spelling: upper and lower case are the same.
+// The lists that stay as they are. One that may change is known by its identifier, of which a
+// dialog may store another spelling: upper and lower case are the same.
 std::vector<List> Untouched(const Promise& promise, const std::vector<List>& lists) {
   std::vector<List> untouched;
   for (const List& list : lists)

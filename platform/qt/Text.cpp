@@ -95,7 +95,7 @@ CString FromQt(TextCode code, const QString& text) {
 }
 
 QString ToEditable(TextCode code, const CString& text) {
-  const QString plain = ToQt(code, text);
+  QString plain = ToQt(code, text);
   if (code == TextCode::Utf8 || FromQt(code, plain) == text)
     return plain;
   QString editable;

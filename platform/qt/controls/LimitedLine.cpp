@@ -38,7 +38,7 @@ LimitedLine::LimitedLine(const headless::Control& control, QWidget& parent)
 }
 
 QString LimitedLine::Fitting(const QString& text) const {
-  const QString own = WithoutStandIns(text);
+  QString own = WithoutStandIns(text);
   if (control_.limit == 0)
     return own;
   const headless::TextCode code = control_.owner->code;
