@@ -9,7 +9,7 @@
 # Under Wine all text goes through the code page, and they run in both languages as the others.
 #
 # SHARDS parts a long program into that many tests, so that none of them is alone at the end or runs into the
-# time limit on a slow machine.
+# time limit on a slow machine. Not for a program whose tests start it again: it would do a part of them there.
 #
 # Everywhere, ALONE patterns are tests that take a process of their own in each language: thousands of dialogs
 # in one process leave Wine without room for those of other tests.
