@@ -16,7 +16,7 @@ void Deliver(MSG& message) {
   Run* const run = FindRunOf(message.hwnd);
   if (run != nullptr) {
     const HWND window = run->window;
-    NoteMouseOnRow(*run, message);
+    TellTips(*run, message);
     if (IsMouseWithoutEffect(*run, message) || IsKeyDone(*run, message) ||
         ::IsDialogMessageW(window, &message))
       return;

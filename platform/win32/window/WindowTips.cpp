@@ -14,7 +14,7 @@ constexpr int kNoRow = -1;
 TTTOOLINFOW ToolOf(HWND dialog, HWND control) {
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V2_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND;
   tool.hwnd = dialog;
   tool.uId = reinterpret_cast<UINT_PTR>(control);
   return tool;
@@ -40,6 +40,18 @@ int RowAt(HWND box, POINT point) {
       HIWORD(found) == 0 && ::SendMessageW(box, LB_GETITEMRECT, static_cast<WPARAM>(row),
                                            reinterpret_cast<LPARAM>(&place)) != LB_ERR;
   return is && ::PtInRect(&place, point) ? row : kNoRow;
+}
+
+// A visible tip is that of another row when the mouse moves to the next one.
+void NoteMouseOnRow(Run& run, const MSG& message) {
+  if (message.message != WM_MOUSEMOVE || !HasRowTips(message.hwnd))
+    return;
+  const int row = RowAt(message.hwnd, {static_cast<short>(LOWORD(message.lParam)),
+                                       static_cast<short>(HIWORD(message.lParam))});
+  if (row == run.tipRow)
+    return;
+  run.tipRow = row;
+  ::SendMessageW(run.tipWindow, TTM_POP, 0, 0);
 }
 
 } // namespace
@@ -74,15 +86,12 @@ void GiveRowTip(Run& run, const NMHDR& header) {
   reinterpret_cast<NMTTDISPINFOW&>(const_cast<NMHDR&>(header)).lpszText = run.rowTip.data();
 }
 
-void NoteMouseOnRow(Run& run, const MSG& message) {
-  if (message.message != WM_MOUSEMOVE || !HasRowTips(message.hwnd))
+void TellTips(Run& run, const MSG& message) {
+  if (run.tipWindow == nullptr || message.message < WM_MOUSEFIRST || message.message > WM_MOUSELAST)
     return;
-  const int row = RowAt(message.hwnd, {static_cast<short>(LOWORD(message.lParam)),
-                                       static_cast<short>(HIWORD(message.lParam))});
-  if (row == run.tipRow)
-    return;
-  run.tipRow = row;
-  ::SendMessageW(TipWindowOf(run), TTM_POP, 0, 0);
+  NoteMouseOnRow(run, message);
+  MSG mouse = message;
+  ::SendMessageW(run.tipWindow, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&mouse));
 }
 
 } // namespace tq

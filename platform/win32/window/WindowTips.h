@@ -14,7 +14,9 @@ bool HasRowTips(HWND box);
 
 // The tip window asks what to show: the text of the row under the mouse.
 void GiveRowTip(Run& run, const NMHDR& header);
-// Called when the mouse moves to another row of a list box: a visible tip no longer applies.
-void NoteMouseOnRow(Run& run, const MSG& message);
+// Tells the tip window what the mouse does, before anybody else hears of it. It could listen itself
+// (TTF_SUBCLASS), but then every message of such a control, each row that a list box is given too,
+// would make its way through the system's chain of listeners.
+void TellTips(Run& run, const MSG& message);
 
 } // namespace tq

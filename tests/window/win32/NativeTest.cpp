@@ -174,26 +174,23 @@ TEST_F(NativeTest, PastingKeepsToTheLimitByWholeCharacters) {
   });
 }
 
-TEST_F(NativeTest, ToolTipsReachTheirWindow) {
-  InDialog([](User&, TestDialog& dialog) {
-    dialog.SetToolTip(801, "one");
-    dialog.SetToolTip(804, "two");
-    dialog.SetToolTip(804, "three");
-    HWND tips = nullptr;
-    while ((tips = ::FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr &&
-           ::GetWindow(tips, GW_OWNER) != dialog.GetSafeHwnd()) {
-    }
-    ASSERT_NE(tips, nullptr);
-    EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 2);
-  });
-}
-
 HWND TipsOf(const CDialog& dialog) {
   HWND tips = nullptr;
   while ((tips = ::FindWindowExW(nullptr, tips, TOOLTIPS_CLASSW, nullptr)) != nullptr &&
          ::GetWindow(tips, GW_OWNER) != dialog.GetSafeHwnd()) {
   }
   return tips;
+}
+
+TEST_F(NativeTest, ToolTipsReachTheirWindow) {
+  InDialog([](User&, TestDialog& dialog) {
+    dialog.SetToolTip(801, "one");
+    dialog.SetToolTip(804, "two");
+    dialog.SetToolTip(804, "three");
+    const HWND tips = TipsOf(dialog);
+    ASSERT_NE(tips, nullptr);
+    EXPECT_EQ(::SendMessageW(tips, TTM_GETTOOLCOUNT, 0, 0), 2);
+  });
 }
 
 // As the tip window asks when the mouse rests.
@@ -228,6 +225,43 @@ TEST_F(NativeTest, TheTipOfARowIsThatUnderTheMouse) {
     EXPECT_EQ(TipUnderTheMouse(dialog, box.GetSafeHwnd(), 2), std::string(70, 'y'));
     box.SetRowTips(false);
     EXPECT_EQ(::SendMessageW(TipsOf(dialog), TTM_GETTOOLCOUNT, 0, 0), 0);
+  });
+}
+
+// The mouse comes to rest on a control for as long as a timer of the dialog takes.
+bool ShowsItsTip(TestDialog& dialog, HWND control) {
+  constexpr int kInside = 3;
+  const HWND tips = TipsOf(dialog);
+  ::SendMessageW(tips, TTM_SETDELAYTIME, TTDT_INITIAL, 1);
+  POINT point{kInside, kInside};
+  ::ClientToScreen(control, &point);
+  ::SetCursorPos(point.x, point.y);
+  ::PostMessageW(control, WM_MOUSEMOVE, 0, MAKELPARAM(kInside, kInside));
+  bool rested = false;
+  dialog.onTimer = [&rested](unsigned) { rested = true; };
+  dialog.SetTimer(1, 150);
+  while (!rested && ::IsWindowVisible(tips) == FALSE && actions::ServeNext()) {
+  }
+  dialog.KillTimer(1);
+  dialog.onTimer = nullptr;
+  const bool shown = ::IsWindowVisible(tips) != FALSE;
+  ::SendMessageW(tips, TTM_POP, 0, 0);
+  ::SetCursorPos(0, 0);
+  return shown;
+}
+
+TEST_F(NativeTest, TipsAppearWhereTheMouseRests) {
+  InDialog([](User&, TestDialog& dialog) {
+    const HWND button = CWnd(dialog, 801).GetSafeHwnd();
+    dialog.SetToolTip(801, "one");
+    EXPECT_TRUE(ShowsItsTip(dialog, button));
+    EXPECT_FALSE(ShowsItsTip(dialog, CWnd(dialog, 804).GetSafeHwnd()));
+    dialog.SetToolTip(801, "");
+    EXPECT_FALSE(ShowsItsTip(dialog, button));
+    CListBox box(dialog, 781);
+    box.AddString(CString('x', 60));
+    box.SetRowTips(true);
+    EXPECT_TRUE(ShowsItsTip(dialog, box.GetSafeHwnd()));
   });
 }
 
