@@ -31,8 +31,9 @@ bool RunsInNoLanguage() {
 
 #ifdef TQ_SANITIZE
 // A report tells where memory was allocated with so many calls. To note all of them at each
-// allocation takes a tenth of a run. What was freed is kept from being given out again until so much has
-// been freed, several times what any test holds; more than the processor's cache takes a quarter of a run.
+// allocation takes a tenth of a run. What was freed is kept from being given out again until so
+// much has been freed, several times what a test holds. More than the processor's cache has room
+// for takes a quarter of a run.
 extern "C" const char* __asan_default_options() {
   return "malloc_context_size=6:quarantine_size_mb=32";
 }
