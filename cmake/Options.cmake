@@ -28,6 +28,10 @@ target_compile_options(tqOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wc
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_include_directories(tqOptions INTERFACE ${PROJECT_SOURCE_DIR})
 
+# What a test that fails says names its source from the tree's root. So objects are the same in every checkout,
+# and the compiler cache has them for all.
+add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=>)
+
 # Lets the compiler cache see past a precompiled header.
 if(TQ_PRECOMPILED AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   add_compile_options($<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
