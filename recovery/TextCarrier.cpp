@@ -7,7 +7,10 @@
 namespace tq {
 namespace {
 
-constexpr std::string_view kChanged = "&\t\n\r"; // what does not come back as it stands
+// Whether a byte does not come back as it stands.
+bool IsChanged(char byte) {
+  return byte == '&' || byte == '\t' || byte == '\n' || byte == '\r';
+}
 
 unsigned CodePageOf(bool big5) {
   return big5 ? kCodePageBig5 : kCodePageGbk;
@@ -76,7 +79,7 @@ bool TextCarrier::Walk(std::string_view text, Charset from, std::string& out) {
       at += std::max<std::size_t>(reference.length, 1);
     } else if (byte < 0x80) {
       const bool lineEnd = *at == '\r' && at + 1 != end && at[1] == '\n';
-      out += kChanged.find(*at) != kChanged.npos ? ' ' : *at;
+      out += IsChanged(*at) ? ' ' : *at;
       at += lineEnd ? 2 : 1;
     } else if (from == CharsetOf(to_)) {
       const std::size_t length = CharLength(from, at, end);
@@ -92,7 +95,8 @@ bool TextCarrier::Walk(std::string_view text, Charset from, std::string& out) {
 
 bool TextCarrier::Carry(std::string_view text, Charset from, std::string& out) {
   out.clear();
-  if (text.find_first_of(kChanged) == text.npos && (from == CharsetOf(to_) || IsPlain(text))) {
+  if (std::none_of(text.begin(), text.end(), IsChanged) &&
+      (from == CharsetOf(to_) || IsPlain(text))) {
     out = text;
     return true;
   }

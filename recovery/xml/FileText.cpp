@@ -140,13 +140,29 @@ void PlaceFinder::MoveTo(std::size_t at) {
     at_ = offset_ = lineOffset_ = 0;
     line_ = 1;
   }
+  if (file_.wide_)
+    StepTo(at);
+  else
+    JumpTo(at);
+}
+
+// Where a character takes as many bytes in the text as in the file.
+void PlaceFinder::JumpTo(std::size_t at) {
+  const std::string_view gone = file_.text_.substr(0, at);
+  for (std::size_t end = gone.find('\n', at_); end != gone.npos; end = gone.find('\n', end + 1)) {
+    ++line_;
+    lineOffset_ = end + 1;
+  }
+  at_ = offset_ = at;
+}
+
+void PlaceFinder::StepTo(std::size_t at) {
   const std::string_view text = file_.text_;
   while (at_ < at) {
     const bool lineEnd = text[at_] == '\n';
-    const std::size_t length =
-        file_.wide_ ? PieceLength(text.data() + at_, text.data() + text.size()) : 1;
+    const std::size_t length = PieceLength(text.data() + at_, text.data() + text.size());
     at_ += length;
-    offset_ += file_.wide_ ? WideLength(length) : length;
+    offset_ += WideLength(length);
     if (!lineEnd)
       continue;
     ++line_;

@@ -67,6 +67,8 @@ public:
 
 private:
   void MoveTo(std::size_t at);
+  void JumpTo(std::size_t at);
+  void StepTo(std::size_t at);
 
   const FileText& file_;
   std::size_t at_ = 0;     // in the text

@@ -12,6 +12,9 @@
 namespace tq {
 namespace {
 
+// What does not go by unlooked at in a value.
+constexpr unsigned kLookedAt = NotAscii | Forbidden | Less | Ampersand | Apostrophe | Quotation;
+
 // The character at `at`, which is a whole one beyond ASCII; 0 when the system has no table for it.
 char32_t CharacterAt(Charset charset, const char* at, std::size_t length) {
   std::string decoded;
@@ -103,7 +106,11 @@ bool TagReader::GoesOn(std::size_t at, char quote) const {
 bool TagReader::TakeValue(std::size_t& at, std::string_view& value) {
   const char quote = text_[at - 1];
   const std::size_t start = at;
-  while (!AtEnd(at) && !faults_.IsFull()) {
+  while (!faults_.IsFull()) {
+    while (!AtEnd(at) && (ClassOf(text_[at]) & kLookedAt) == 0)
+      ++at;
+    if (AtEnd(at))
+      break;
     const char byte = text_[at];
     if (byte == quote) {
       const bool ends = AtEnd(at + 1) || IsBlank(text_[at + 1]) || text_[at + 1] == '/' ||
