@@ -30,8 +30,7 @@ function(tq_add_language_tests program)
       if(WIN32)
         tq_add_language_test(${program} ${name} ${language}
           ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=*-${alone}")
-        # Two programs on one desktop would take the focus from each other.
-        set_tests_properties(${program}-${name} PROPERTIES RESOURCE_LOCK desktop-${language})
+        tq_takes_desktop(${language} ${program}-${name})
       else()
         tq_add_language_test(${program} ${name} ${language}
           $<TARGET_FILE:${program}> "--gtest_filter=*-${neutral}:${apart}:${alone}")
@@ -45,7 +44,7 @@ function(tq_add_language_tests program)
     if(alone AND WIN32)
       tq_add_language_test(${program} alone-${language} ${language}
         ${PROJECT_SOURCE_DIR}/run wine ${language} $<TARGET_FILE:${program}> "--gtest_filter=${alone}")
-      set_tests_properties(${program}-alone-${language} PROPERTIES RESOURCE_LOCK desktop-${language})
+      tq_takes_desktop(${language} ${program}-alone-${language})
     elseif(alone)
       tq_add_language_test(${program} alone-${language} ${language}
         $<TARGET_FILE:${program}> "--gtest_filter=${alone}")
@@ -57,6 +56,14 @@ function(tq_add_language_tests program)
         $<TARGET_FILE:${program}> "--gtest_filter=${${kind}}")
     endif()
   endforeach()
+endfunction()
+
+# Tests that run Windows programs in a language. Two such programs at once would take the focus from each other,
+# and turns on the language's core while the other core has nothing to do.
+function(tq_takes_desktop language)
+  if(WIN32)
+    set_tests_properties(${ARGN} PROPERTIES RESOURCE_LOCK desktop-${language})
+  endif()
 endfunction()
 
 function(tq_add_language_test program name language)
