@@ -282,7 +282,7 @@ TEST_F(ContentEditorWalk, DoesWhatAPlainModelDoes) {
   WhenDialogOpens([&](User& user) {
     dialog = &user.Dialog();
     const Texts opened = model.entries;
-    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions(0)));
     ASSERT_NO_FATAL_FAILURE(GoAllTheWay(user, true));
     EXPECT_EQ(model.entries, opened);
     ASSERT_NO_FATAL_FAILURE(GoAllTheWay(user, false));

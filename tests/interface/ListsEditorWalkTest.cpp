@@ -261,7 +261,7 @@ TEST_F(ListsEditorWalk, TheEditorOfTheUsersListsDoesWhatAPlainModelDoes) {
   const std::string before = Stored(kUserLists);
   WhenDialogOpens([&](User& user) {
     const ListsModel opened = model;
-    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions(1)));
     ASSERT_NO_FATAL_FAILURE(GoAllTheWayAndBack(user, opened));
     EXPECT_EQ(Stored(kUserLists), before); // nothing is stored while it is open
     EXPECT_TRUE(user.Click(806));
@@ -285,7 +285,7 @@ TEST_F(CloudEditorWalk, TheEditorOfTheCloudListsDoesWhatAPlainModelDoes) {
   const std::string before = Stored(kCloudLists);
   WhenDialogOpens([&](User& user) {
     const ListsModel opened = model;
-    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions() / 2));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions(2) / 2));
     ASSERT_NO_FATAL_FAILURE(GoAllTheWayAndBack(user, opened));
     EXPECT_EQ(Stored(kCloudLists), before);
     EXPECT_TRUE(user.Click(806));

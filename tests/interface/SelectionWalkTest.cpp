@@ -162,7 +162,7 @@ TEST_F(SelectionWalk, DoesWhatAPlainModelDoes) {
   cloud = {{"four", "2330.TW"}};
   const std::string before = Stored(kUserLists);
   WhenDialogOpens([&](User& user) {
-    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions(2)));
     EXPECT_EQ(Stored(kUserLists), before); // those of the user with OK
     EXPECT_TRUE(user.Select(761, 0));
     EXPECT_TRUE(user.Click(1));
@@ -263,7 +263,7 @@ TEST_F(OneSymbolWalk, DoesWhatAPlainModelDoes) {
   lists = {{"one", "2330.TW,1101.TW"}, {"Two", "2317.TW"}};
   const std::string before = Stored(kUserLists);
   WhenDialogOpens([&](User& user) {
-    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions()));
+    ASSERT_NO_FATAL_FAILURE(Walk(user, RandomActions(1)));
     EXPECT_EQ(Stored(kUserLists), before);
     EXPECT_TRUE(user.Click(1));
   });

@@ -13,6 +13,7 @@
 #include "terminal/StandIn.h"
 #include "tests/operations/Operations.h"
 #include "tests/operations/Subject.h"
+#include "tests/support/LanguageTurn.h"
 
 namespace operations {
 namespace {
@@ -187,6 +188,8 @@ protected:
 TEST_P(LostBytes, NoOperationDestroysThemWhateverStepOfTheDiskFails) {
   int runs = 0;
   for (std::size_t operation = 0; operation < All().size(); ++operation) {
+    if (!IsThisLanguagesTurn(operation))
+      continue;
     const int steps = Try(GetParam(), operation, -1, false);
     for (int step = static_cast<int>(operation) % kStride; step < steps; step += kStride) {
       Try(GetParam(), operation, step, false);
@@ -194,7 +197,7 @@ TEST_P(LostBytes, NoOperationDestroysThemWhateverStepOfTheDiskFails) {
       ++runs;
     }
   }
-  EXPECT_GT(runs, 100 / kStride) << "the operations do not reach the disk";
+  EXPECT_GT(runs, 40 / kStride) << "the operations do not reach the disk";
 }
 
 INSTANTIATE_TEST_SUITE_P(After, LostBytes, testing::ValuesIn(kWays),

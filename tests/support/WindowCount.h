@@ -15,7 +15,8 @@ int ManyRuns();
 // number: it takes all of them, or every second one where windows are real, and the other language
 // the others.
 bool TakesCase(size_t number);
-// Random actions of a user: all of them in one language, and a part in the other.
-int RandomActions();
+// Random actions of a user: all of them in the language whose turn the walk with that number is,
+// and a part in the other.
+int RandomActions(size_t walk);
 // Of the calls of a session how many are made to fail.
 int ManyFailures();

@@ -40,7 +40,7 @@ TEST_F(ManyTest, NothingIsLeftBehind) {
     OpenAndClose();
   const size_t before = WindowResources();
   // All of it in one language: it takes its time.
-  const int rounds = IsTraditionChinese() != 0 ? ManyRuns() : ManyRuns() / 20;
+  const int rounds = IsTraditionChinese() != 0 ? ManyRuns() / 20 : ManyRuns();
   for (int i = 0; i < rounds; ++i)
     OpenAndClose();
   EXPECT_LE(WindowResources(), before + ResourceSlack());

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/headless/user/UserInput.h"
-#include "platform/services/tqCommon.h"
+#include "tests/support/LanguageTurn.h"
 
 namespace {
 
@@ -14,26 +14,23 @@ bool IsOnScreen() {
   return said != nullptr && std::string_view(said) == "screen";
 }
 
-int InEitherLanguage(int all, int part) {
-  return IsTraditionChinese() != 0 ? all : part;
-}
-
 } // namespace
 
 int ManyRuns() {
-  return IsOnScreen() ? 500 : 10000;
+  return IsOnScreen() ? 150 : 10000; // what one run leaves is seen after it: no slack
 }
 
 bool TakesCase(size_t number) {
-  return !IsOnScreen() || (number % 2 == 0) == (IsTraditionChinese() != 0);
+  return !IsOnScreen() || IsThisLanguagesTurn(number);
 }
 
-int RandomActions() {
-  return IsOnScreen() ? InEitherLanguage(2000, 200) : InEitherLanguage(100000, 10000);
+int RandomActions(size_t walk) {
+  const int all = IsOnScreen() ? 2000 : 100000;
+  return IsThisLanguagesTurn(walk) ? all : all / 10;
 }
 
 int ManyFailures() {
-  return IsOnScreen() ? 30 : InEitherLanguage(1000, 30);
+  return !IsOnScreen() && IsTraditionChinese() != 0 ? 1000 : 30;
 }
 
 size_t ResourceSlack() {

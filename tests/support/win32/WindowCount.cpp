@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/services/tqCommon.h"
+#include "tests/support/LanguageTurn.h"
 
 namespace {
 
@@ -46,15 +46,15 @@ size_t HighestPen() {
 } // namespace
 
 int ManyRuns() {
-  return 500;
+  return 250; // when each leaves one object, that is more than the slack
 }
 
 bool TakesCase(size_t number) {
-  return (number % 2 == 0) == (IsTraditionChinese() != 0);
+  return IsThisLanguagesTurn(number);
 }
 
-int RandomActions() {
-  return IsTraditionChinese() != 0 ? 2000 : 200;
+int RandomActions(size_t walk) {
+  return IsThisLanguagesTurn(walk) ? 2000 : 200;
 }
 
 int ManyFailures() {
