@@ -8,6 +8,9 @@
 namespace tq {
 namespace {
 
+// What does not go by unlooked at between tags.
+constexpr unsigned kNotPlain = NotAscii | Forbidden | Ampersand | Closer;
+
 bool IsReservedTarget(std::string_view target) {
   constexpr std::string_view reserved = "xml";
   return target.size() == reserved.size() &&
@@ -52,6 +55,10 @@ DocumentPiece DocumentWalk::BreakOff() {
 DocumentPiece DocumentWalk::TakeText() {
   bool outside = false;
   while (at_ < text_.size() && text_[at_] != '<' && !faults_.IsFull()) {
+    if ((outside || !open_.empty()) && (ClassOf(text_[at_]) & kNotPlain) == 0) {
+      ++at_;
+      continue;
+    }
     if (open_.empty() && !outside && !IsBlank(text_[at_]) && !IsControl(text_[at_])) {
       Note(Fault::OutsideOfLists, at_);
       outside = true;
