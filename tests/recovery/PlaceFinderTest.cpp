@@ -1,4 +1,4 @@
-// Where a place in a file's text is in the file: byte, line and column, from any place to any other.
+// Where a place in a file's text is in the file: byte, line and column, from each place to each.
 #include <gtest/gtest.h>
 
 #include <cstddef>
