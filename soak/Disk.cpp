@@ -1,7 +1,9 @@
 #include "soak/Disk.h"
 
 #include <array>
+#include <chrono>
 #include <string_view>
+#include <thread>
 
 #include "soak/RawFiles.h"
 #include "tests/platform/HookedSteps.h"
@@ -38,8 +40,11 @@ bool IsFlush(Step step) {
   return step == Step::FlushTemporary || step == Step::FlushDirectory;
 }
 
-// As no save may be: a kill on the way leaves a part of the bytes, and none of the old ones.
+// As no save may be: a kill on the way leaves a part of the bytes, and none of the old ones. It takes
+// its time, so that the kills of a short run come into it.
 tq::SaveResult SaveCarelessly(const char* path, const std::string& bytes) {
+  WriteRaw(path, bytes.substr(0, bytes.size() / 2));
+  std::this_thread::sleep_for(std::chrono::milliseconds(2));
   WriteRaw(path, bytes);
   return tq::SaveResult::Saved;
 }
