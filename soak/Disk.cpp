@@ -40,8 +40,8 @@ bool IsFlush(Step step) {
   return step == Step::FlushTemporary || step == Step::FlushDirectory;
 }
 
-// As no save may be: a kill on the way leaves a part of the bytes, and none of the old ones. It takes
-// its time, so that the kills of a short run come into it.
+// As no save may be: a kill on the way leaves a part of the bytes, and none of the old ones. It
+// takes its time, so that the kills of a short run come into it.
 tq::SaveResult SaveCarelessly(const char* path, const std::string& bytes) {
   WriteRaw(path, bytes.substr(0, bytes.size() / 2));
   std::this_thread::sleep_for(std::chrono::milliseconds(2));
